@@ -1,0 +1,82 @@
+// The display list: what a dial is once it is drawn. World coordinates are metres, y grows downward; the list knows
+// nothing of scale, shift or device.
+#pragma once
+
+#include <cstdint>
+#include <deque>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+#include "core/colori.h"
+
+namespace ombrelia {
+
+// Layer names stand once; a record keeps a number. 0 is the empty name.
+using IdNome = std::uint32_t;
+
+class Nomi {
+public:
+    Nomi() { (void)id(""); }
+    IdNome id(std::string_view nome);
+    [[nodiscard]] const std::string &testo(IdNome id) const { return nomi_[id]; }
+
+private:
+    std::deque<std::string> nomi_;  // a deque: the keys of the index point into it
+    std::unordered_map<std::string_view, IdNome> indice_;
+};
+
+struct RecLinea {
+    double X1, Y1, X2, Y2;
+    Colore colore;
+    std::int32_t Spessore;
+    IdNome Id;
+};
+static_assert(sizeof(RecLinea) <= 48);
+
+struct RecPunto {
+    double X, Y;
+    Colore colore;
+    IdNome Id;
+};
+
+enum class Voce : std::uint8_t { START, VERTEX, END };  // entries of a polyline
+
+// Boxes, circles and polyline entries share one record and one array.
+struct RecFigura {
+    char Tipo;           // 'B', 'C' or 'V'
+    Voce voce;           // of a polyline
+    bool pieno;          // of a box: the filled flag
+    double X1, Y1;       // a corner; the centre; a vertex
+    double X2, Y2;       // the other corner; radius and aspect; 0
+    double A, B;         // start and end of an arc, radians; an end of 0 means a whole circle
+    Colore colore;
+    Colore Riempimento;  // fill of a circle, negative for none
+    IdNome Id;
+};
+
+struct RecTesto {
+    double X, Y;
+    std::string Testo;  // as shown: at most 100 characters, without padding
+};
+
+// A selected tile: its number and its top left corner in metres from the sheet's corner.
+struct RecArea {
+    int Pagina;
+    double X, Y;
+};
+
+struct Lista {
+    std::vector<RecLinea> Linee;
+    std::vector<RecPunto> Punti;
+    std::vector<RecFigura> Figure;
+    std::vector<RecTesto> Testi;
+    std::vector<RecArea> Aree;
+    std::string Ordine;  // the kind of each primitive in the order it was added: P, L, V, B or C
+    Nomi nomi;
+
+    void svuota();
+};
+
+}  // namespace ombrelia

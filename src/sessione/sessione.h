@@ -1,0 +1,80 @@
+// One running program without its window: the fields, the shared variables, the sheet, the dictionary and the user.
+// Every routine of the program is a free function on it.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/angoli.h"
+#include "core/controlli.h"
+#include "core/inputs.h"
+#include "core/testo.h"
+#include "core/variabili.h"
+#include "lang/dizionario.h"
+#include "plot/tavolo.h"
+#include "sessione/utente.h"
+
+namespace ombrelia {
+
+// What a control shows beyond the fields: enabled, visible, caption, and the text or value of controls that no
+// record keeps.
+struct StatoControllo {
+    std::string caption, toolTip, testo;
+    int valore = 0;
+    bool visibile = true, abilitato = true;
+};
+
+struct Sessione {
+    explicit Sessione(Utente &chi);
+    Sessione(const Sessione &) = delete;
+    Sessione &operator=(const Sessione &) = delete;
+
+    DialInputs in;
+    Variabili v;
+    Tavolo tavolo;
+    Dizionario dizionario;
+    Utente &utente;
+    std::vector<StatoControllo> stati;  // one a row of the table of controls
+
+    // Change handlers of fields that an engine rewrites; set by the application above.
+    std::function<void(Sessione &, std::string DialInputs::*)> suCambio;
+
+    [[nodiscard]] std::string Traduci(std::string_view testo) const { return dizionario.Traduci(testo); }
+    void Messaggio(std::string_view testo) { tavolo.Messaggio(testo); }
+    // A caption line at the running text cursor; left out when a number in it has no value.
+    void Dati(const Frase &frase) {
+        if (frase.esiste()) tavolo.Dati(frase.testo());
+    }
+    void Dati(const Frase &frase, Valore x, Valore y) {
+        if (frase.esiste()) tavolo.Dati(frase.testo(), x, y);
+    }
+    // Gives a field a text, as a routine does; its change handler runs.
+    void Scrivi(std::string DialInputs::*campo, std::string testo);
+
+    // --- controls, wherever their text or value is kept -----------------------------------------------------------
+    [[nodiscard]] std::string &testo(IdControllo id);
+    [[nodiscard]] int &valore(IdControllo id);
+    [[nodiscard]] StatoControllo &stato(IdControllo id) { return stati[static_cast<std::size_t>(id)]; }
+    [[nodiscard]] StatoControllo &stato(std::string_view nome);
+};
+
+// The common reading of the fields into the shared variables; every engine starts with it. The first call since start
+// also fixes the original dial. A field whose number overflows keeps its variable as it was.
+void LeggiParametri(Sessione &s);
+
+// Unit factor and frame, as every drawing routine reads them at its start: scaled limits, y upward.
+struct Cornice {
+    Reale xMin, xMax, yMin, yMax;
+    // Strictly inside.
+    [[nodiscard]] bool contiene(Valore x, Valore y) const { return xMin < x && x < xMax && yMin < y && y < yMax; }
+};
+Cornice LeggiCornice(Sessione &s);
+// The frame of a drawing, drawn; leaves its corner in x1 and y1.
+void TracciaCornice(Sessione &s);
+
+// Text of the unit of length in force: " m" or " mm".
+[[nodiscard]] std::string_view TestoUnita(const Sessione &s);
+
+}  // namespace ombrelia

@@ -42,6 +42,7 @@ public:
     Frase() = default;
     Frase(std::string_view t) : testo_(t) {}  // NOLINT: a label is a phrase
     Frase(const char *t) : testo_(t) {}       // NOLINT
+    Frase(std::string t) : testo_(std::move(t)) {}  // NOLINT
     Frase &operator<<(std::string_view t) {
         testo_ += t;
         return *this;

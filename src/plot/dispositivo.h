@@ -21,6 +21,9 @@ public:
     virtual void Cerchio(double x, double y, double raggio, Colore colore, Colore riempimento, double inizio, double fine, double aspetto) = 0;
     // A text with its top left corner at the position.
     virtual void Testo(double x, double y, std::string_view testo, Colore colore) = 0;
+    // Lines that follow are dotted, or plain again.
+    virtual void Tratteggio(bool) {}
+    // Comes after each page, the last one too: a page on which nothing was painted is not to be put out.
     virtual void NuovaPagina() {}
     virtual void FineDocumento() {}
 };

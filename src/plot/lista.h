@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <deque>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -19,10 +20,18 @@ using IdNome = std::uint32_t;
 class Nomi {
 public:
     Nomi() { (void)id(""); }
-    IdNome id(std::string_view nome);
+    Nomi(Nomi &&) = default;
+    Nomi &operator=(Nomi &&) = default;
+    Nomi(const Nomi &) = delete;  // the index points into its own names
+    Nomi &operator=(const Nomi &) = delete;
+    // The number of a name, new or known; it holds for the life of the list, across svuota too.
+    IdNome id(std::string_view nome) { return !nomi_.empty() && nomi_[ultimo_] == nome ? ultimo_ : cerca(nome); }
     [[nodiscard]] const std::string &testo(IdNome id) const { return nomi_[id]; }
+    [[nodiscard]] std::size_t quanti() const { return nomi_.size(); }
 
 private:
+    IdNome cerca(std::string_view nome);
+    IdNome ultimo_ = 0;  // asked for last: engines draw a layer at a time
     std::deque<std::string> nomi_;  // a deque: the keys of the index point into it
     std::unordered_map<std::string_view, IdNome> indice_;
 };
@@ -77,6 +86,10 @@ struct Lista {
     Nomi nomi;
 
     void svuota();
+
+    // Index in Figure of the last START of a polyline's name; none when there is none. Two polylines of one name are
+    // not told apart: the later stands for both.
+    [[nodiscard]] std::optional<std::size_t> TrovaStart(IdNome id) const;
 };
 
 }  // namespace ombrelia

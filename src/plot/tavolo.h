@@ -2,6 +2,8 @@
 // device. Engines draw only through it and it records whether or not a device is there.
 #pragma once
 
+#include <concepts>
+#include <cstdint>
 #include <functional>
 #include <optional>
 #include <string>
@@ -30,9 +32,25 @@ public:
     // --- drawing -------------------------------------------------------------------------------------------------
     // Width 1 is the pen's own; Store false paints only.
     void xLine(Valore X1, Valore Y1, Valore X2, Valore Y2, Colore colore, std::string_view Id = {}, bool Store = true);
-    void xLine(Valore X1, Valore Y1, Valore X2, Valore Y2, Colore colore, IdNome Id) ;
+    void xLine(Valore X1, Valore Y1, Valore X2, Valore Y2, Colore colore, IdNome Id) {
+        if (!(X1.esiste() && Y1.esiste() && X2.esiste() && Y2.esiste())) return;
+        lista_.Linee.push_back({X1.v, Y1.v, X2.v, Y2.v, colore, Penna(), Id});
+        lista_.Ordine.push_back('L');
+        if (dispositivo) dipingiLinea(X1.v, Y1.v, X2.v, Y2.v, colore, Penna(), specchia(Id));
+    }
     // Only a point of the sheet is kept: its low edges belong to it, its high edges do not.
     void xPset(Valore X, Valore Y, Colore colore, std::string_view Id = {}, bool Store = true);
+    void xPset(Valore X, Valore Y, Colore colore, IdNome Id) {
+        if (!sulFoglio(X, Y)) return;
+        lista_.Punti.push_back({X.v, Y.v, colore, Id});
+        lista_.Ordine.push_back('P');
+        if (dispositivo) dipingiPunto(X.v, Y.v, colore);
+    }
+    // Store stands behind the name: a bool in its place is a slip.
+    template <std::same_as<bool> B>
+    void xLine(Valore, Valore, Valore, Valore, Colore, B) = delete;
+    template <std::same_as<bool> B>
+    void xPset(Valore, Valore, Colore, B) = delete;
     void xBox(Valore X1, Valore Y1, Valore X2, Valore Y2, Colore colore, bool Filled, std::string_view Id = {}, bool Store = true);
     void xCircle(Valore X, Valore Y, Valore Raggio, Colore colore, Colore FillColor = -1, Valore Aspect = 1, Valore Start = 0,
                  Valore End = 0, std::string_view Id = {}, bool Store = true);
@@ -41,14 +59,20 @@ public:
     // Paints the polyline: it appears only when ended.
     void xPlineEnd(std::string_view Id);
     // Text at (X, Y), or at the present device position where a coordinate is missing. Afterwards the position is the
-    // left edge of the sheet, one line lower. Texts do not mirror.
+    // left edge of the sheet, one line lower. Texts do not mirror. Store false paints only and leaves the position.
     void Dati(std::string_view Text, std::optional<Valore> X = {}, std::optional<Valore> Y = {}, bool Store = true);
     // Status line; records nothing.
     void Messaggio(std::string_view Text);
     // Empties list and picture, mirrors off; sheet, shift and scale stay.
     void Clear();
-    // Repaints the attached device from the list: texts first, then the primitives in their order.
+    // Repaints the attached device from the list: texts first, then the primitives in their order. A printer is not
+    // wiped before.
     void Refresh();
+    // Pen width of the target: of the screen 1, of the printer 2.
+    [[nodiscard]] std::int32_t Penna() const { return OutputToPRN ? 2 : 1; }
+    // The part of a segment (world metres, as painted) that lies on the sheet. Gives how many ends were kept or found;
+    // at 0 nothing of it is to be painted.
+    int RitagliaSegmento(double &X1, double &Y1, double &X2, double &Y2) const;
 
     // --- sheet ---------------------------------------------------------------------------------------------------
     [[nodiscard]] double QuadranteH() const { return quadranteH_; }
@@ -70,6 +94,10 @@ public:
     [[nodiscard]] const std::vector<int> &cmbScala() const { return vociScala_; }
     void CaricaComboScala(int Minimo, int Corrente);
 
+    // Size of the picture in device units.
+    [[nodiscard]] double LarghezzaImmagine() const { return quadranteL_ * ScalaBase / scala_; }
+    [[nodiscard]] double AltezzaImmagine() const { return quadranteH_ * ScalaBase / scala_; }
+
     // Present device position as world metres.
     [[nodiscard]] double xCurrentX() const { return currentX_ / ScalaBase * scala_ - shiftX_; }
     [[nodiscard]] double xCurrentY() const { return currentY_ / ScalaBase * scala_ - shiftY_; }
@@ -87,8 +115,16 @@ public:
     void Assi();
     // The grid of pages, recorded.
     void xPlotA4();
-    // Selects the tile under a point given in metres from the sheet's corner.
+    // Selects the tile under a point given in metres from the sheet's corner: draws its outline and number and adds it
+    // to Aree. A point left of or above the sheet, or beyond a grid of 10,000 tiles, selects nothing.
     void xTrovaA4(double X, double Y);
+    // The sheet as it lies, on one page.
+    void PrintAll(Dispositivo &stampante);
+    // The selected tiles, each on a page of its own at 1:1; sheet, shift and scale are put back. False, and nothing
+    // done, when none is selected: the caller then shows NESSUNA_AREA. avanza hears each tile before it is printed (from
+    // 0, of how many) and stops the run by false.
+    bool PrintArea(Dispositivo &stampante, const std::function<bool(std::size_t, std::size_t)> &avanza = {});
+    static constexpr std::string_view NESSUNA_AREA = "Nessuna area selezionata";
     // A press of the mouse at a device position: read-out in whole millimetres, then xTrovaA4.
     void MouseDown(double px, double py);
 
@@ -99,6 +135,46 @@ public:
     std::function<void(std::string_view)> suMessaggio;         // hears the status line
     std::function<void()> suDimensioni;                        // hears a new plot size
     std::function<void(bool)> suAttesa;                        // wait cursor on and off
+    std::function<void()> suClear;                             // hears Clear: print panel away, plain invert buttons
+
+private:
+    static constexpr std::string_view ID_ASSI = "AssiXY", ID_PAGINA = "sys:page";
+
+    [[nodiscard]] bool sulFoglio(Valore X, Valore Y) const {
+        return -shiftX_ <= X && X < quadranteL_ - shiftX_ && -shiftY_ <= Y && Y < quadranteH_ - shiftY_;
+    }
+    // Axes and page marks do not mirror.
+    [[nodiscard]] bool specchia(IdNome Id) const { return Id != idAssi_ && Id != idPagina_; }
+    [[nodiscard]] static bool specchia(std::string_view Id) { return Id != ID_ASSI && Id != ID_PAGINA; }
+    // In black unless the target is the screen or prints in colours.
+    [[nodiscard]] bool inNero() const { return OutputToPRN && !PrintMultiColor; }
+    [[nodiscard]] Colore tinta(Colore colore) const { return inNero() ? 0 : colore; }
+
+    // Painting of one primitive, world metres; a device must be there.
+    void dipingiLinea(double X1, double Y1, double X2, double Y2, Colore colore, std::int32_t Spessore, bool specchiata);
+    void dipingiPunto(double X, double Y, Colore colore);
+    void dipingiRiquadro(double X1, double Y1, double X2, double Y2, Colore colore, bool pieno, bool specchiato);
+    void dipingiCerchio(double X, double Y, double Raggio, Colore colore, Colore riempimento, double Aspect, double Start,
+                        double End, bool specchiato);
+    void dipingiPolilinea(IdNome Id);
+    // Device units.
+    void dipingiTesto(double xd, double yd, std::string_view testo);
+    void rigioca();
+
+    void figura(const RecFigura &r, char ordine);
+    void impostaScala(int n);
+    void dopoFoglio();
+    void ridimensiona();
+
+    Lista lista_;
+    IdNome idAssi_, idPagina_;
+    double larghezzaPagina_, altezzaPagina_;         // usable, metres
+    double quadranteH_ = 0, quadranteL_ = 0;         // metres
+    double shiftX_ = 0, shiftY_ = 0;                 // metres
+    int scala_ = 1;
+    double scalaCorrente_ = ScalaBase;
+    std::vector<int> vociScala_;
+    double currentX_ = 0, currentY_ = 0;             // device units
 };
 
 // Meeting point of the line through points 1 and 2 with the line through points 3 and 4; none when they are parallel.

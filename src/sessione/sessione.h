@@ -14,6 +14,7 @@
 #include "core/variabili.h"
 #include "lang/dizionario.h"
 #include "plot/tavolo.h"
+#include "sessione/mondo.h"
 #include "sessione/utente.h"
 
 namespace ombrelia {
@@ -35,6 +36,7 @@ struct Sessione {
     Variabili v;
     Tavolo tavolo;
     Dizionario dizionario;
+    Mondo mondo;  // as cmdStati loaded it
     Utente &utente;
     std::vector<StatoControllo> stati;  // one a row of the table of controls
 

@@ -1,0 +1,180 @@
+// Dispatch of a user's actions to the handlers, and the start-up.
+#include "app/comandi.h"
+
+#include <cstdlib>
+#include <unordered_map>
+
+#include "app/azioni.h"
+
+namespace ombrelia::app {
+
+namespace {
+
+const Controllo &riga(IdControllo id) { return TavolaControlli()[static_cast<std::size_t>(id)]; }
+
+// Handlers by control and event, gathered once from all forms.
+class Registro {
+public:
+    Registro() {
+        for (const auto gestori : {GestoriPrincipale(), GestoriTavolo()})
+            for (const Gestore &g : gestori)
+                for (const Controllo &c : ControlliDi(g.modulo))
+                    if (c.nome == g.nome) azioni_[chiave(IdDi(c), g.evento)] = g.azione;
+    }
+    void avvisa(Sessione &s, IdControllo id, Evento evento) const {
+        const auto i = azioni_.find(chiave(id, evento));
+        if (i != azioni_.end()) i->second(s, riga(id).indice);
+    }
+
+private:
+    static int chiave(IdControllo id, Evento e) { return id * 4 + static_cast<int>(e); }
+    std::unordered_map<int, void (*)(Sessione &, int)> azioni_;
+};
+
+void avvisa(Sessione &s, IdControllo id, Evento evento) {
+    static const Registro registro;
+    registro.avvisa(s, id, evento);
+}
+
+void cambiaTesto(Sessione &s, IdControllo id, const std::string &testo) {
+    std::string &dove = s.testo(id);
+    if (dove == testo) return;
+    dove = testo;
+    avvisa(s, id, Evento::Cambio);
+}
+
+IdControllo rigaDi(std::string DialInputs::*campo) {
+    const auto tavola = TavolaControlli();
+    for (std::size_t i = 0; i < tavola.size(); ++i)
+        if (tavola[i].testo == campo) return static_cast<IdControllo>(i);
+    return NESSUN_CONTROLLO;
+}
+
+// Only one option of a form is set at a time.
+void scegliOpzione(Sessione &s, IdControllo id) {
+    for (const Controllo &c : ControlliDi(riga(id).modulo))
+        if (c.classe == Classe::Opzione) s.valore(IdDi(c)) = 0;
+    s.valore(id) = 1;
+}
+
+}  // namespace
+
+void Avvia(Sessione &s) {
+    s.suCambio = [](Sessione &qui, std::string DialInputs::*campo) {
+        const IdControllo id = rigaDi(campo);
+        if (id != NESSUN_CONTROLLO) avvisa(qui, id, Evento::Cambio);
+    };
+    Variabili &v = s.v;
+    Tavolo &t = s.tavolo;
+    v.origineX = 0;
+    v.origineY = 0;
+    // The window's load takes base sizes of its own, which the sheet's replace at once.
+    v.altezzaBase = t.QuadranteH() * 10.0;
+    v.larghezzaBase = t.QuadranteL() * 10.0;
+    v.altezzaBase = t.QuadranteH();
+    v.larghezzaBase = t.QuadranteL();
+    if (Val(s.in.txtLAT) >= 0) v.altezzaBase = t.QuadranteH() * 1.5;
+    t.QuadranteH(v.altezzaBase.numero());
+    t.QuadranteL(v.larghezzaBase.numero());
+    t.ShiftX(t.QuadranteL() / 2.0);
+    t.ShiftY(t.QuadranteH() / 3.333333);
+    AbilitaPerInclinazione(s);
+}
+
+Esito Imposta(Sessione &s, IdControllo id, const std::string &testo) {
+    const Classe classe = riga(id).classe;
+    if (classe == Classe::Elenco) return s.stato(id).abilitato ? ScegliVoce(s, id, testo) : Esito::Disabilitato;
+    if (classe != Classe::Testo) return Esito::Impossibile;
+    if (!s.stato(id).abilitato) return Esito::Disabilitato;
+    avvisa(s, id, Evento::Entrata);
+    cambiaTesto(s, id, testo);
+    avvisa(s, id, Evento::Uscita);
+    return Esito::Fatto;
+}
+
+Esito Digita(Sessione &s, IdControllo id, std::string_view tasti) {
+    if (riga(id).classe != Classe::Testo) return Esito::Impossibile;
+    if (!s.stato(id).abilitato) return Esito::Disabilitato;
+    for (const char c : tasti) {
+        const char tasto = FiltraTasto(s, id, c);
+        if (tasto != 0) cambiaTesto(s, id, s.testo(id) + tasto);
+    }
+    return Esito::Fatto;
+}
+
+Esito Spunta(Sessione &s, IdControllo id, int valore) {
+    if (riga(id).classe != Classe::Casella) return Esito::Impossibile;
+    if (!s.stato(id).abilitato) return Esito::Disabilitato;
+    if (s.valore(id) != valore) {
+        s.valore(id) = valore;
+        avvisa(s, id, Evento::Clic);
+    }
+    return Esito::Fatto;
+}
+
+Esito Premi(Sessione &s, IdControllo id) {
+    switch (riga(id).classe) {
+        case Classe::Casella: return Spunta(s, id, s.valore(id) == 1 ? 0 : 1);
+        case Classe::Pulsante:
+        case Classe::Menu: break;
+        case Classe::Opzione:
+            if (s.stato(id).abilitato) scegliOpzione(s, id);
+            break;
+        default: return Esito::Impossibile;
+    }
+    if (!s.stato(id).abilitato) return Esito::Disabilitato;
+    avvisa(s, id, Evento::Clic);
+    return Esito::Fatto;
+}
+
+void SpuntaDaProgramma(Sessione &s, int DialInputs::*casella, int valore) {
+    const auto tavola = TavolaControlli();
+    for (std::size_t i = 0; i < tavola.size(); ++i) {
+        if (tavola[i].casella != casella || s.in.*casella == valore) continue;
+        s.in.*casella = valore;
+        avvisa(s, static_cast<IdControllo>(i), Evento::Clic);
+        return;
+    }
+}
+
+char FiltraTasto(Sessione &s, IdControllo id, char tasto) {
+    const auto codice = static_cast<std::uint16_t>(static_cast<unsigned char>(tasto));
+    bool beep = false;
+    std::uint16_t esito = codice;
+    switch (riga(id).filtro) {
+        case Filtro::Nessuno: break;
+        case Filtro::Tasti:
+        case Filtro::Numeri: esito = FiltroTasti(codice, beep); break;
+        case Filtro::SoloCifre: esito = SoloNumeri(codice, false); break;
+        case Filtro::SoloCifreSegno: esito = SoloNumeri(codice, true); break;
+    }
+    if (beep) s.utente.Beep();
+    return static_cast<char>(esito);
+}
+
+bool Adatta(Sessione &s) {
+    constexpr double MARGINE = 0.02;
+    const Cornice c = LeggiCornice(s);
+    const double l = c.xMax.numero() - c.xMin.numero() + 2 * MARGINE;
+    const double h = c.yMax.numero() - c.yMin.numero() + 2 * MARGINE;
+    Tavolo &t = s.tavolo;
+    if (!(l > 2 * MARGINE && h > 2 * MARGINE && l <= Tavolo::LATO_MASSIMO && h <= Tavolo::LATO_MASSIMO)) return false;
+    t.QuadranteH(h);
+    t.QuadranteL(l);
+    t.ShiftX(MARGINE - c.xMin.numero());
+    t.ShiftY(MARGINE + c.yMax.numero());
+    return true;
+}
+
+std::string Didascalia(Sessione &s, IdControllo id) { return riga(id).pannello ? s.testo(id) : s.stato(id).caption; }
+
+std::string CartellaDisegni() {
+#ifdef _WIN32
+    return "c:\\OMDXF";
+#else
+    const char *casa = std::getenv("HOME");
+    return casa && *casa ? std::string(casa) + "/OMDXF" : "OMDXF";
+#endif
+}
+
+}  // namespace ombrelia::app

@@ -1,0 +1,58 @@
+// The main window's logic without a toolkit: what happens when a user enters, types, checks or presses a control.
+// Window and action script both come through here, so that one handler serves an action.
+#pragma once
+
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "sessione/sessione.h"
+
+namespace ombrelia::app {
+
+enum class Evento : std::uint8_t { Clic, Cambio, Entrata, Uscita };
+
+// A handler: which control, which event, what runs. indice is that of a control array, else -1.
+struct Gestore {
+    std::string_view modulo, nome;
+    Evento evento;
+    void (*azione)(Sessione &s, int indice);
+};
+
+// What became of an action.
+enum class Esito : std::uint8_t { Fatto, Disabilitato, Impossibile };
+
+// The start-up: sheet and shift, enabled controls. Makes no folder.
+void Avvia(Sessione &s);
+
+// Enters a text box, gives it the text, leaves it; in a list selects the entry. Impossibile for a control that holds
+// no text, or a list without that entry.
+Esito Imposta(Sessione &s, IdControllo id, const std::string &testo);
+// Sends keys through the control's filter, appended to what stands in the box.
+Esito Digita(Sessione &s, IdControllo id, std::string_view tasti);
+// Gives a check box its value; the click handler runs when the value changes.
+Esito Spunta(Sessione &s, IdControllo id, int valore);
+// Presses a button, option, check box or menu entry.
+Esito Premi(Sessione &s, IdControllo id);
+
+// For handlers: clear or set a box as a routine does, its click running when the value changes.
+void SpuntaDaProgramma(Sessione &s, int DialInputs::*casella, int valore);
+
+// Fits sheet and shift to the four limit lines with a margin of 2 cm. False when the frame is empty, turned round or
+// larger than a sheet can be: then nothing changes.
+bool Adatta(Sessione &s);
+
+// Folder for drawings: "c:\OMDXF" on Windows, OMDXF in the home folder elsewhere.
+[[nodiscard]] std::string CartellaDisegni();
+
+// What a label or other control without a text of its own shows: the sheet's read-outs, else the caption.
+[[nodiscard]] std::string Didascalia(Sessione &s, IdControllo id);
+
+// The dispatch of the run button.
+void cmdRun(Sessione &s);
+
+// The handlers of each form, for the dispatch.
+std::span<const Gestore> GestoriPrincipale();
+std::span<const Gestore> GestoriTavolo();
+
+}  // namespace ombrelia::app

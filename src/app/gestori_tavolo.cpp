@@ -1,0 +1,99 @@
+// Handlers of the plot surface: its head panel and the small panels that open from it.
+#include <ctime>
+
+#include "app/azioni.h"
+#include "core/file.h"
+#include "plot/dxf.h"
+
+namespace ombrelia::app {
+
+namespace {
+
+
+
+void mostraPannello(Sessione &s, std::string_view pannello, bool visibile) { s.stato(pannello).visibile = visibile; }
+
+double numero(const std::string &testo, double altrimenti) {
+    const Valore n = Val(testo);
+    return n.esiste() ? n.v : altrimenti;
+}
+
+// Name offered for a DXF: the moment, each part a plain number.
+std::string nomeDxf() {
+    const std::time_t adesso = std::time(nullptr);
+    const std::tm *m = std::localtime(&adesso);
+    std::string nome = CartellaDisegni() + "/DXF";
+    if (m)
+        for (const int parte : {m->tm_year + 1900, m->tm_mon + 1, m->tm_mday, m->tm_hour, m->tm_min, m->tm_sec}) nome += std::to_string(parte);
+    return nome;
+}
+
+void cmdDxf_Click(Sessione &s, int) {
+    // Whatever comes back gets the ending; there is no cancel branch.
+    const std::string nome = s.utente.Input("Nome del file DXF", "Export to DXF", nomeDxf()) + ".dxf";
+    s.utente.Puntatore(true);
+    const auto errore = ScriviFile(nome, DXF_Generate(s.tavolo));
+    s.utente.Puntatore(false);
+    if (errore) s.utente.Box(*errore);
+}
+
+void cmdAssi_Click(Sessione &s, int) {
+    s.tavolo.Assi();
+    mostraPannello(s, "Tavolo1.PicAssi", true);
+}
+void cmdAssiAgg_Click(Sessione &s, int) {
+    Tavolo &t = s.tavolo;
+    const double x = numero(t.pannello.txtX, t.ShiftX()), y = numero(t.pannello.txtY, t.ShiftY());
+    t.ShiftX(x);
+    t.ShiftY(y);
+    mostraPannello(s, "Tavolo1.PicAssi", false);
+    t.Refresh();
+    t.Assi();
+}
+void cmdQAggiorna_Click(Sessione &s, int) {
+    Tavolo &t = s.tavolo;
+    const double h = numero(t.pannello.txtQH, t.QuadranteH()), l = numero(t.pannello.txtQL, t.QuadranteL());
+    t.QuadranteH(h);
+    t.QuadranteL(l);
+    mostraPannello(s, "Tavolo1.picDimensioni", false);
+}
+
+constexpr Gestore GESTORI[] = {
+    {"Tavolo1", "cmdAssi", Evento::Clic, cmdAssi_Click},
+    {"Tavolo1", "cmdAssiAgg", Evento::Clic, cmdAssiAgg_Click},
+    {"Tavolo1", "cmdAssiChiudi", Evento::Clic, [](Sessione &s, int) { mostraPannello(s, "Tavolo1.PicAssi", false); }},
+    {"Tavolo1", "CmdGriglia", Evento::Clic, [](Sessione &s, int) { s.tavolo.xPlotA4(); }},
+    {"Tavolo1", "cmdPulisci", Evento::Clic,
+     [](Sessione &s, int) {
+         s.tavolo.Clear();
+         mostraPannello(s, "Tavolo1.picPrint", false);
+     }},
+    {"Tavolo1", "cmdDim", Evento::Clic, [](Sessione &s, int) { mostraPannello(s, "Tavolo1.picDimensioni", true); }},
+    {"Tavolo1", "cmdQAggiorna", Evento::Clic, cmdQAggiorna_Click},
+    {"Tavolo1", "cmdQAnnulla", Evento::Clic, [](Sessione &s, int) { mostraPannello(s, "Tavolo1.picDimensioni", false); }},
+    {"Tavolo1", "cmdPCancel", Evento::Clic, [](Sessione &s, int) { mostraPannello(s, "Tavolo1.picPrint", false); }},
+    {"Tavolo1", "cmdDxf", Evento::Clic, cmdDxf_Click},
+    {"Tavolo1", "cmdInvX", Evento::Clic, [](Sessione &s, int) { s.tavolo.cmdInvX(); }},
+    {"Tavolo1", "cmdInvY", Evento::Clic, [](Sessione &s, int) { s.tavolo.cmdInvY(); }},
+};
+
+}  // namespace
+
+std::span<const Gestore> GestoriTavolo() { return GESTORI; }
+
+Esito ScegliVoce(Sessione &s, IdControllo id, const std::string &voce) {
+    Tavolo &t = s.tavolo;
+    if (id == TrovaControllo("Tavolo1.cmbScala")) {
+        for (const int n : t.cmbScala()) {
+            if (voce != "1:" + std::to_string(n)) continue;
+            t.Scala(n);
+            t.Refresh();
+            return Esito::Fatto;
+        }
+        return Esito::Impossibile;
+    }
+    s.testo(id) = voce;
+    return Esito::Fatto;
+}
+
+}  // namespace ombrelia::app

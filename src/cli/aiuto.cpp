@@ -1,0 +1,74 @@
+// Help texts.
+#include "cli/aiuto.h"
+
+#include "cli/formati.h"
+
+namespace ombrelia::cli {
+
+namespace {
+
+constexpr std::string_view GENERALE = R"(Ombrelia designs sundials and draws them true to scale.
+
+usage: ombrelia COMMAND ...
+
+  draw      a dial from fields to files
+  batch     performs an action script: a user's actions, one a line
+
+ombrelia COMMAND --help tells more; ombrelia --version tells the version.
+
+A declining wall in one line:
+  ombrelia draw --set txtLAT=45.07 --set txtDec=18 --set txtInc=0 --check chkOreAstronomiche --check Ck_DayLightCurves muro.dxf
+)";
+
+constexpr std::string_view DRAW = R"(usage: ombrelia draw [--set FIELD=TEXT]... [--check BOX]... [--engine ENGINE] [--sheet L H X Y] FILE...
+
+Draws a dial and writes it, once for each FILE, in the form of its ending.
+
+  --set FIELD=TEXT   a field of the main window: txtLAT, txtDec (West +), txtLonG (West +), txtInc (0 wall, 90 horizontal),
+                     TxtStilo, txtX0 txtX1 txtY0 txtY1 (the frame), TxtFraz ...
+  --check BOX        a feature: chkOreAstronomiche, Ck_DayLightCurves, ck_Equinoziale, ck_Italiche, ck_babiloniche, ckTemp,
+                     ck_Lemniscate, ck_Triangolo, ck_Sustilare, ckAlt, ckAz, ckAsr, CkQibla, ck_Orizzonte, ckAssi ...
+                     ChCentimetro: lengths are millimetres; ck_Etna: true time of the zone; ckFunzione: intermediate lines
+  --engine ENGINE    auto (as the run button decides), direct, vertical or analytic (walls only)
+  --sheet L H X Y    width, height and origin of the sheet in metres; without it the sheet is fitted to the frame
+
+examples:
+  ombrelia draw --set txtLAT=45.07 --set txtDec=18 --set txtInc=0 --check chkOreAstronomiche muro.svg muro.dxf
+  ombrelia draw --set txtLAT=54.8 --set txtInc=90 --check chkOreAstronomiche --check ck_Lemniscate orizzontale.svg
+  ombrelia draw --check ChCentimetro --set TxtStilo=200 --set txtX0=-500 --set txtX1=500 --set txtY0=100 --set txtY1=-700 \
+                --check ck_Italiche --sheet 1.1 0.9 0.55 0.15 italiche.dxf
+
+endings:
+)";
+
+constexpr std::string_view BATCH = R"(usage: ombrelia batch FILE      (- for standard input)
+
+Performs the actions of a user at the main window, one a line. Blank lines and lines that begin with # are passed over.
+
+  set CONTROL TEXT      enters a text box, gives it TEXT, leaves it; or selects the entry of a list
+  type CONTROL TEXT     sends TEXT key by key through the control's key filter
+  check BOX, uncheck BOX
+  click CONTROL         presses a button, option, check box or menu entry
+  mouse X Y             presses the mouse on the sheet, device position
+  answer TEXT           queues the answer to the next message, input or file box
+  sheet L H X Y         sheet width, height and shift in metres
+  list FILE             writes the display list; also dxf, svg, pdf, bmp, png FILE
+  show CONTROL, value NAME
+
+A FILE of - is standard output. The exit status is 2, with FILE:LINE: reason, at an action that can't be done.
+
+example:
+  printf '%s\n' 'set txtInc 0' 'check chkOreAstronomiche' 'click cmdRun' 'svg muro.svg' | ombrelia batch -
+)";
+
+}  // namespace
+
+std::string Aiuto(std::string_view comando) {
+    if (comando == "batch") return std::string(BATCH);
+    if (comando != "draw") return std::string(GENERALE);
+    std::string t(DRAW);
+    for (const Formato &f : Formati()) t += "  ." + std::string(f.estensione) + "   " + std::string(f.descrizione) + "\n";
+    return t;
+}
+
+}  // namespace ombrelia::cli

@@ -1,0 +1,135 @@
+// Numerals: from the tables of strokes to the sheet.
+#include "glyphs/numeri.h"
+
+#include <algorithm>
+#include <string>
+
+#include "glyphs/punto_parete.h"
+#include "glyphs/tratti.h"
+
+namespace ombrelia {
+
+namespace {
+
+constexpr int COLORE_NUMERI = 7;
+constexpr int PESO_ARABI = 2, PESO_ROMANI = 1;
+// The most a chord of a round part may fall short of the round, in units of the cell.
+constexpr double FRECCIA = 0.1;
+
+// The frame of a glyph laid on the plane: units of the cell along the baseline and upward from it.
+class Telaio {
+public:
+    Telaio(Tavolo &tavolo, Valore X, Valore Y, Valore angolo, Valore altezza)
+        : tavolo_(tavolo), x_(X), y_(Y), sen_(sin(angolo)), cos_(cos(angolo)), scala_(altezza / ALTEZZA_CELLA) {}
+
+    void linea(double a1, double b1, double a2, double b2, int peso) const {
+        tavolo_.xLine(x(a1, b1), -y(a1, b1), x(a2, b2), -y(a2, b2), QB(COLORE_NUMERI), {}, true, peso);
+    }
+
+private:
+    [[nodiscard]] Valore x(double a, double b) const { return x_ + scala_ * (a * sen_ + b * cos_); }
+    [[nodiscard]] Valore y(double a, double b) const { return y_ + scala_ * (b * sen_ - a * cos_); }
+
+    Tavolo &tavolo_;
+    Valore x_, y_, sen_, cos_, scala_;
+};
+
+int cordeDi(const Tratto &t) {
+    if (t.forma == Forma::Linea) return 1;
+    const Valore passo = 2 * ArcCos(1 - FRECCIA / std::max(t.c, t.d));
+    return static_cast<int>(std::ceil(std::fabs(Radianti(t.fine - t.inizio).v) / passo.v));
+}
+
+std::string inLettere(int ora) {
+    struct Voce {
+        int valore;
+        const char *lettere;
+    };
+    static constexpr Voce VOCI[] = {{10, "X"}, {9, "IX"}, {5, "V"}, {4, "IV"}, {1, "I"}};
+    std::string testo;
+    if (ora > 39) return testo;
+    for (const Voce &voce : VOCI)
+        for (; ora >= voce.valore; ora -= voce.valore) testo += voce.lettere;
+    return testo;
+}
+
+void posiziona(Sessione &s, bool romani) {
+    Variabili &v = s.v;
+    if (Val(s.in.txtInc) != 0 || v.unita == 0) return;
+    v.oraFuso = s.in.ck_Etna == 1 ? 1 : 0;
+    v.decGradi = Val(s.in.txtDec);
+    v.angOraLong = 15 - Abs(Val(s.in.txtLonG));  // degrees, where the vertical engine keeps radians: meant
+    PuntoParete p;
+    Reale D, H;
+    for (const double V : Conteggio(-90, 90, 15)) {
+        v.deltaOpz = Val(s.in.txtDelta);
+        D = PI * v.deltaOpz / 180;
+        H = PI * (V - v.angOraLong * v.oraFuso) / 180;
+        p.azimut(v, H, D);
+        if (p.quadranteErrato(H)) p.A = p.A + PI;  // always plus, unlike the signs of the zodiac
+        if (v.segnoLatPiana == -1 && p.A == 0 && H == 0) p.A = PI;
+        p.proietta(v, H, D);
+        const int ora = 12 + static_cast<int>(V) / 15;
+        const int numero = ora > 12 ? ora - 12 : ora;
+        if (romani) DisegnaNumeroRomano(s, p.x, p.y, PI / 2, numero);
+        else DisegnaNumero(s, p.x, p.y, 90, numero);
+    }
+}
+
+}  // namespace
+
+void DisegnaNumero(Sessione &s, Valore X, Valore Y, Valore Angolo, int Numero) {
+    Variabili &v = s.v;
+    Reale altezza, passoX, passoY;
+    altezza = Val(s.in.txtArabi) * v.unita;
+    const Valore angolo = Angolo * (PI / 180);
+    passoX = altezza * LARGHEZZA_CELLA / ALTEZZA_CELLA * sin(angolo);
+    passoY = altezza * LARGHEZZA_CELLA / ALTEZZA_CELLA * cos(angolo);
+    const std::string cifre = std::to_string(Numero);
+
+    v.x1 = X - passoX;
+    v.y1 = Y + passoY;
+    DisegnaCifra(s, v.x1, v.y1, Angolo, cifre.front() - '0', PESO_ARABI);
+    if (Numero <= 9) return;
+    v.x1 = v.x1 + passoX;
+    v.y1 = v.y1 - passoY;
+    DisegnaCifra(s, v.x1, v.y1, Angolo, cifre.back() - '0', PESO_ARABI);
+}
+
+void DisegnaCifra(Sessione &s, Valore X, Valore Y, Valore Angolo, int Cifra, int Peso) {
+    Reale altezza;
+    altezza = Val(s.in.txtArabi) * s.v.unita;
+    const Telaio telaio(s.tavolo, X, Y, Angolo * (PI / 180), altezza);
+    constexpr double mezza = ALTEZZA_CELLA / 2;
+    for (const Tratto &t : TrattiCifra(Cifra))
+        t.percorri(cordeDi(t), [&](double a1, double b1, double a2, double b2) {
+            telaio.linea(a1, b1 - mezza, a2, b2 - mezza, Peso);
+        });
+}
+
+void DisegnaNumeroRomano(Sessione &s, Valore x, Valore y, Valore rotazione, int ora) {
+    const std::string lettere = inLettere(ora);
+    double larghezza = 0;
+    for (const char c : lettere) larghezza += LetteraRomana(c).larghezza;
+
+    Reale altezza;
+    altezza = Val(s.in.txtNumbersize) * s.v.unita;
+    const Telaio telaio(s.tavolo, x, y, rotazione, altezza);
+    double a = -larghezza / 2;
+    const double b = -ALTEZZA_CELLA / 2;
+    for (const char c : lettere) {
+        const Lettera lettera = LetteraRomana(c);
+        const Vertice *prima = &lettera.contorno.back();
+        for (const Vertice &punto : lettera.contorno) {
+            telaio.linea(a + prima->a, b + prima->b, a + punto.a, b + punto.b, PESO_ROMANI);
+            prima = &punto;
+        }
+        a += lettera.larghezza;
+    }
+}
+
+void PosizionaRomani(Sessione &s) { posiziona(s, s.in.ckRomani == 1); }
+
+void PosizionaArabi(Sessione &s) { posiziona(s, false); }
+
+}  // namespace ombrelia

@@ -1,0 +1,62 @@
+// Single points on the dial: the cities, the optional Sun or Moon and its star.
+#include "core/conteggio.h"
+#include "map/citta.h"
+#include "map/mappa.h"
+#include "map/zenit.h"
+#include "sessione/limiti.h"
+
+namespace ombrelia {
+
+void DisegnaCitta(Sessione &s) {
+    const DialInputs &in = s.in;
+    s.Messaggio(s.Traduci("Map"));
+    (void)LeggiCornice(s);  // for unita: no test against the frame is made
+    const Valore da = Val(in.txtEAST), a = Val(in.txtWest);
+    const Conteggio righe(da, a, 1);
+    const bool ovest = Abs(a) >= Abs(da);
+    if (TroppoFitto(s, {{ovest ? "txtWest" : "txtEAST", ovest ? in.txtWest : in.txtEAST, righe}})) return;
+
+    const Reale sito = Val(in.txtLonG);
+    const auto citta = TavolaCitta();
+    Zenit zenit(s);
+    Reale x, y;
+    for (const double i : righe) {
+        const double riga = std::nearbyint(i);
+        if (!(riga >= 1 && riga <= static_cast<double>(citta.size()))) continue;
+        const Citta &c = citta[static_cast<std::size_t>(riga) - 1];
+        if (!zenit(c.X - sito, c.Y, x, y)) continue;
+        s.tavolo.xCircle(x, -y, 0.0009, QB(14), QB(12), 1, -2 * PI, 0);
+        s.tavolo.Dati(c.nome, x, -(y - 0.02));
+    }
+}
+
+void PuntoOpzionale(Sessione &s) {
+    const DialInputs &in = s.in;
+    Variabili &v = s.v;
+    s.Messaggio(s.Traduci("Optional position"));
+    (void)LeggiCornice(s);  // for unita
+    v.deltaOpz = Val(in.txtDelta);
+    const Reale H = PI * (Val(in.txtAO) - Val(in.txtLonG)) / 180;
+    const Reale D = PI * v.deltaOpz / 180;
+    const double zr = LeggiPiano(s);
+    v.gn = Val(in.TxtStilo);
+
+    Reale x, y;
+    Proiezione(v.latR, v.decR, zr, v.gn, v.unita)(H, D, x, y);
+    // The circle's radius is not scaled by unita, the star's is: meant.
+    s.tavolo.xCircle(x, -y, (v.gn / 20) * std::sin(18 * PI / 180) / std::sin(126 * PI / 180), QB(14), QB(9), 1, -CERCHIO, 0);
+    DisegnaStella(s, x, -y, v.unita * v.gn / 20, 15);
+    s.in.punto = 0;
+}
+
+void DisegnaStella(Sessione &s, Valore X, Valore Y, Valore raggio, int colore) {
+    // Tips at even multiples of 36 degrees, notches at odd ones; ordinates grow downward on the sheet.
+    const auto ascissa = [&](int gradi) { return X + (gradi % 72 == 0 ? 1 : 0.381966) * raggio * std::cos(gradi * PI / 180); };
+    const auto ordinata = [&](int gradi) { return Y - (gradi % 72 == 0 ? 1 : 0.381966) * raggio * std::sin(gradi * PI / 180); };
+    for (int k = 0; k < 10; ++k) {
+        const int da = (72 + 36 * k) % 360, a = (da + 36) % 360;
+        s.tavolo.xLine(ascissa(da), ordinata(da), ascissa(a), ordinata(a), QB(colore));
+    }
+}
+
+}  // namespace ombrelia

@@ -1,0 +1,56 @@
+// A place of the Earth as the Sun of a plane.
+#include "map/zenit.h"
+
+namespace ombrelia {
+
+namespace {
+
+int segno(double x) { return (x > 0) - (x < 0); }
+
+}  // namespace
+
+double LeggiPiano(Sessione &s) {
+    Variabili &v = s.v;
+    v.latR = PI * Val(s.in.txtLAT) / 180;
+    v.dec = Val(s.in.txtDec);
+    v.decR = PI * v.dec / 180;
+    if (Val(s.in.txtInc) == 90) v.decR = 0;
+    const Reale zr = PI * (90 - Val(s.in.txtInc)) / 180;
+    return zr.numero();
+}
+
+Zenit::Zenit(Sessione &s) : Zenit(s, LeggiPiano(s), Val(s.in.TxtStilo) * s.v.unita) {}
+
+Zenit::Zenit(Sessione &s, double zr, Valore gn)
+    : senPhi_(std::sin(s.v.latR.numero())),
+      cosPhi_(std::cos(s.v.latR.numero())),
+      proiezione_(s.v.latR, s.v.decR, zr, s.v.gn = gn, 1),
+      fattore_(s.in.ck_inv == 1 ? -1 : 1),
+      orizzontale_(Val(s.in.txtInc) == 90),
+      tanDec_(std::tan(s.v.decR.numero())),
+      divisore_(std::tan(zr) * std::cos(s.v.decR.numero())),
+      negativo_(Abs(s.v.dec) < 90) {}
+
+bool Zenit::operator()(Valore X, Valore Y, Reale &x, Reale &y) {
+    H_ = PI * X / 180;
+    D_ = PI * fattore_ * Y / 180;
+    const SenCos h(H_), d(D_);
+    const double tanD = std::tan(D_.numero());
+
+    // Azimuth from south, West positive, on the Sun's side of the meridian.
+    A_ = Atn(h.sen / Valore(senPhi_ * h.cos - cosPhi_ * tanD));
+    if (segno(std::sin(A_.numero())) != segno(h.sen)) A_ = A_ > 0 ? A_ - PI : A_ + PI;
+    z_ = ArcCos(senPhi_ * d.sen + cosPhi_ * d.cos * h.cos);
+
+    const SenCos azimut(A_), zenitale(z_);
+    const double a = zenitale.sen * azimut.cos;
+    const double b = zenitale.sen * azimut.sen;
+    const double c = zenitale.cos;
+    lato_ = orizzontale_ ? Valore(-c) : -a - b * tanDec_ - c / Valore(divisore_);
+    if (!(negativo_ ? lato_ < 0 : lato_ > 0)) return false;
+
+    proiezione_(h, tanD, x, y);
+    return true;
+}
+
+}  // namespace ombrelia

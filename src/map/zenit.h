@@ -1,0 +1,35 @@
+// A place of the Earth as the Sun of a plane: the one computation that the outlines and the cities share.
+#pragma once
+
+#include "sessione/proiezione.h"
+#include "sessione/sessione.h"
+
+namespace ombrelia {
+
+// Site and plane from the fields into the shared variables latR (signed), dec and decR; gives the complement of the
+// inclination, radians. A horizontal plane has no declination.
+double LeggiPiano(Sessione &s);
+
+// Given a place (X degrees West of the site, Y minus the latitude) gives the point of the plane that shows it, metres,
+// y upward. Azimuth, zenith distance and side of the plane keep their old values from place to place where they fault,
+// as do x and y.
+class Zenit {
+public:
+    // Reads site, plane and gnomon (gn is scaled) into the shared variables; unita is read before.
+    explicit Zenit(Sessione &s);
+    // Whether the place lies in front of the plane; only then x and y are given.
+    bool operator()(Valore X, Valore Y, Reale &x, Reale &y);
+
+private:
+    Zenit(Sessione &s, double zr, Valore gn);
+
+    double senPhi_, cosPhi_;
+    Proiezione proiezione_;
+    double fattore_;  // -1 mirrors the map north to south
+    bool orizzontale_;
+    double tanDec_, divisore_;  // of the side of the plane
+    bool negativo_;             // which side is the front: the negative one where Abs(dec) < 90
+    Reale H_, D_, A_, z_, lato_;
+};
+
+}  // namespace ombrelia

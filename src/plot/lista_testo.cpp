@@ -1,0 +1,103 @@
+// The display list as plain text.
+#include "plot/lista_testo.h"
+
+#include <initializer_list>
+
+#include "core/testo.h"
+
+namespace ombrelia {
+
+namespace {
+
+class Scrittore {
+public:
+    explicit Scrittore(const Lista &l) : lista(l) {
+        t.reserve(l.Linee.size() * 112 + l.Punti.size() * 72 + l.Figure.size() * 128 + l.Testi.size() * 96);
+    }
+
+    void punto(const RecPunto &r) {
+        t += 'P';
+        numeri({r.X, r.Y});
+        fine({r.colore}, r.Id);
+    }
+    void linea(const RecLinea &r) {
+        t += 'L';
+        numeri({r.X1, r.Y1, r.X2, r.Y2});
+        fine({r.colore, r.Spessore}, r.Id);
+    }
+    void figura(const RecFigura &r) {
+        t += r.Tipo;
+        if (r.Tipo == 'B') {
+            numeri({r.X1, r.Y1, r.X2, r.Y2});
+            fine({r.colore, r.pieno ? 1 : 0}, r.Id);
+        } else if (r.Tipo == 'C') {
+            numeri({r.X1, r.Y1, r.X2, r.Y2});
+            interi({r.colore, r.Riempimento});
+            numeri({r.A, r.B});
+            fine({}, r.Id);
+        } else {
+            t += r.voce == Voce::START ? "\tSTART" : r.voce == Voce::VERTEX ? "\tVERTEX" : "\tEND";
+            numeri({r.X1, r.Y1});
+            fine({r.colore}, r.Id);
+        }
+    }
+    // Texts have no layer: the field stays empty.
+    void testo(const RecTesto &r) {
+        t += 'T';
+        numeri({r.X, r.Y});
+        t += "\t\t";
+        t += r.Testo;
+        t += '\n';
+    }
+
+    std::string t;
+
+private:
+    void numeri(std::initializer_list<double> valori) {
+        for (const double v : valori) {
+            t += '\t';
+            AggiungiNumero17(t, v);
+        }
+    }
+    void interi(std::initializer_list<std::int32_t> valori) {
+        for (const std::int32_t v : valori) {
+            t += '\t';
+            t += std::to_string(v);
+        }
+    }
+    void fine(std::initializer_list<std::int32_t> valori, IdNome id) {
+        interi(valori);
+        t += '\t';
+        t += lista.nomi.testo(id);
+        t += '\n';
+    }
+
+    const Lista &lista;
+};
+
+}  // namespace
+
+std::string ListaTesto(const Lista &lista) {
+    Scrittore s(lista);
+    std::size_t punto = 0, linea = 0, figura = 0;
+    const auto &f = lista.Figure;
+    // Vertices and ends have no letter in the order: they follow the entry they stand behind.
+    const auto seguito = [&] {
+        while (figura < f.size() && f[figura].Tipo == 'V' && f[figura].voce != Voce::START) s.figura(f[figura++]);
+    };
+    seguito();
+    for (const char tipo : lista.Ordine) {
+        if (tipo == 'P') {
+            s.punto(lista.Punti[punto++]);
+        } else if (tipo == 'L') {
+            s.linea(lista.Linee[linea++]);
+        } else if (figura < f.size()) {
+            s.figura(f[figura++]);
+            seguito();
+        }
+    }
+    for (const RecTesto &r : lista.Testi) s.testo(r);
+    return std::move(s.t);
+}
+
+}  // namespace ombrelia

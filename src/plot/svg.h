@@ -1,0 +1,16 @@
+// The display list as an SVG text. Saving is another's work.
+#pragma once
+
+#include <string>
+
+#include "plot/tavolo.h"
+
+namespace ombrelia {
+
+// The sheet at true size, in millimetres from its top left corner, y downward: one group a layer under the layer's name,
+// chords that follow each other as one path, texts as texts. Mirrors as on the screen; white is drawn black on paper.
+// What lies beyond the sheet is kept and falls outside the view. Boxes are outlines only, even filled ones: a filled
+// frame would cover the dial, and a cutter wants the outline.
+[[nodiscard]] std::string SVG_Generate(const Tavolo &tavolo);
+
+}  // namespace ombrelia

@@ -1,0 +1,75 @@
+// The one projection of a Sun position onto a plane of any declination and inclination, and the Sun of the mean-time
+// curves. Engines sweep them; nothing here draws.
+#pragma once
+
+#include "core/angoli.h"
+#include "core/variabili.h"
+
+namespace ombrelia {
+
+// Sine and cosine of an hour angle, taken once where many points share it.
+struct SenCos {
+    double sen, cos;
+    explicit SenCos(Valore t) : sen(std::sin(t.v)), cos(std::cos(t.v)) {}
+};
+
+// Central projection of the Sun's direction through the tip of the ortostilo onto the plane (Rohr, Sundials).
+// Given hour angle t (radians, negative before noon) and the tangent of the declination D, gives (x, y): metres from
+// the foot of the ortostilo, x to the right, y upward, scaled by unita. West declination of the plane is positive.
+// The denominator's sign, the side of the plane, is not tested. Where it is 0 or the result overflows, x and y keep
+// their old values.
+class Proiezione {
+public:
+    // The plane: latitude phi and declination g, inclination i from the vertical, radians; lengths as typed and their unit.
+    static Proiezione delPiano(Valore phi, Valore g, Valore i, Valore gn, Valore unita) {
+        return {phi, g, PI / 2.0 - i, gn, unita};
+    }
+    // The plane of the shared variables, as they stand.
+    explicit Proiezione(const Variabili &v) : Proiezione(v.latR, v.decR, PI / 2.0 - v.incR, v.gn, v.unita) {}
+    // The same with the complement z of the inclination.
+    Proiezione(Valore phi, Valore g, Valore z, Valore gn, Valore unita)
+        : sphi_(std::sin(phi.v)), cphi_(std::cos(phi.v)), sg_(std::sin(g.v)), cg_(std::cos(g.v)), gn_(gn.v), unita_(unita.v) {
+        const double sz = std::sin(z.v);
+        const double cz = std::cos(z.v);
+        c1_ = sphi_ * cz - cphi_ * sz * cg_;
+        sgsz_ = sg_ * sz;
+        b_ = cphi_ * cz + sphi_ * sz * cg_;
+        czsg_ = cz * sg_;
+        d_ = cphi_ * sz - sphi_ * cz * cg_;
+        e_ = sphi_ * sz + cphi_ * cz * cg_;
+    }
+
+    void operator()(const SenCos &t, double tanD, Reale &x, Reale &y) const {
+        const double den = sgsz_ * t.sen + b_ * t.cos + c1_ * tanD;
+        const double nx = cg_ * t.sen - (sphi_ * t.cos - cphi_ * tanD) * sg_;
+        const double ny = czsg_ * t.sen - d_ * t.cos - e_ * tanD;
+        x = Valore(gn_ * nx) / den * unita_;
+        y = Valore(gn_ * ny) / den * unita_;
+    }
+    void operator()(Valore t, Valore D, Reale &x, Reale &y) const { (*this)(SenCos(t), std::tan(D.v), x, y); }
+
+    // On the equinoctial, where the terms of the declination are not written.
+    void equinozio(const SenCos &t, Reale &x, Reale &y) const {
+        const double den = sgsz_ * t.sen + b_ * t.cos;
+        const double nx = cg_ * t.sen - sphi_ * t.cos * sg_;
+        const double ny = czsg_ * t.sen - d_ * t.cos;
+        x = Valore(gn_ * nx) / den * unita_;
+        y = Valore(gn_ * ny) / den * unita_;
+    }
+
+private:
+    double sphi_, cphi_, sg_, cg_, gn_, unita_;
+    double c1_, sgsz_, b_, czsg_, d_, e_;
+};
+
+// The Sun at a mean longitude: what mean noon needs.
+struct SoleMedio {
+    double D;   // declination, radians
+    double Et;  // equation of time, radians of hour angle: reduction to the equator less equation of the centre
+};
+
+// A short trigonometric series in the Sun's mean longitude M (radians from the spring equinox): equation of the centre
+// and reduction to the equator, after the series of the nautical almanacs; good to a few seconds of time.
+SoleMedio SoleAllaLongitudine(double M);
+
+}  // namespace ombrelia

@@ -57,7 +57,8 @@ void Dxf(benchmark::State &stato) {
 BENCHMARK(Dxf)->Unit(benchmark::kMillisecond);
 
 void DxfSparse(benchmark::State &stato) {
-    scrivi(stato, [](const Tavolo &t) { return DXF_Generate(t); }, false);
+    scrivi(
+        stato, [](const Tavolo &t) { return DXF_Generate(t); }, false);
 }
 BENCHMARK(DxfSparse)->Unit(benchmark::kMillisecond);
 

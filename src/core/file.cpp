@@ -85,6 +85,7 @@ std::optional<std::string> ScriviFile(const std::string &nome, std::string_view 
     if (nome.empty() || nome.find('\0') != std::string::npos) return rapporto(nome, ENOENT);
     const fs::path p = bersaglio(nome);
     std::error_code ec;
+    if (fs::is_symlink(p, ec)) return rapporto(nome, ELOOP);
     const fs::file_status stato = fs::status(p, ec);
     if (fs::is_directory(stato)) return rapporto(nome, EISDIR);
     if (fs::exists(stato) && !fs::is_regular_file(stato)) {

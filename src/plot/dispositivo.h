@@ -18,7 +18,8 @@ public:
     virtual void Punto(double x, double y, Colore colore) = 0;
     // Angles in radians, counter-clockwise from the right as seen; fine 0: a whole ellipse of the aspect (height over
     // width). riempimento negative: none.
-    virtual void Cerchio(double x, double y, double raggio, Colore colore, Colore riempimento, double inizio, double fine, double aspetto) = 0;
+    virtual void Cerchio(double x, double y, double raggio, Colore colore, Colore riempimento, double inizio, double fine,
+                         double aspetto) = 0;
     // A text with its top left corner at the position.
     virtual void Testo(double x, double y, std::string_view testo, Colore colore) = 0;
     // Lines that follow are dotted, or plain again.

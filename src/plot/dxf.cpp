@@ -75,7 +75,8 @@ private:
         std::string &s = strati[id];
         if (s.empty()) {
             AggiungiCp1252(s, lista.nomi.testo(id));
-            std::replace_if(s.begin(), s.end(), [](char c) { return static_cast<unsigned char>(c) < ' '; }, ' ');
+            std::replace_if(
+                s.begin(), s.end(), [](char c) { return static_cast<unsigned char>(c) < ' '; }, ' ');
             s += "\r\n"sv;
         }
         return s;
@@ -193,16 +194,32 @@ private:
 
 int DXF_QbColorConverter(Colore colore) {
     switch (colore) {
-        case 0x000080: case 0x0000FF: return 1;
-        case 0x008080: case 0x00FFFF: return 2;
-        case 0x008000: return 3;
-        case 0x808000: case 0xFFFF00: return 4;
-        case 0x800000: case 0xFF0000: return 5;
-        case 0x800080: case 0xFF00FF: return 6;
+        case 0x000080:
+        case 0x0000FF:
+            return 1;
+        case 0x008080:
+        case 0x00FFFF:
+            return 2;
+        case 0x008000:
+            return 3;
+        case 0x808000:
+        case 0xFFFF00:
+            return 4;
+        case 0x800000:
+        case 0xFF0000:
+            return 5;
+        case 0x800080:
+        case 0xFF00FF:
+            return 6;
         // Bright green is 7, not 3; the third is no RGB colour. Both are meant.
-        case 0x00FF00: case 0xC0C0C0: case 0x0A0013BF: return 7;
-        case 0x808080: return 8;
-        default: return colore;
+        case 0x00FF00:
+        case 0xC0C0C0:
+        case 0x0A0013BF:
+            return 7;
+        case 0x808080:
+            return 8;
+        default:
+            return colore;
     }
 }
 

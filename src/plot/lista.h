@@ -31,7 +31,7 @@ public:
 
 private:
     IdNome cerca(std::string_view nome);
-    IdNome ultimo_ = 0;  // asked for last: engines draw a layer at a time
+    IdNome ultimo_ = 0;             // asked for last: engines draw a layer at a time
     std::deque<std::string> nomi_;  // a deque: the keys of the index point into it
     std::unordered_map<std::string_view, IdNome> indice_;
 };
@@ -54,12 +54,12 @@ enum class Voce : std::uint8_t { START, VERTEX, END };  // entries of a polyline
 
 // Boxes, circles and polyline entries share one record and one array.
 struct RecFigura {
-    char Tipo;           // 'B', 'C' or 'V'
-    Voce voce;           // of a polyline
-    bool pieno;          // of a box: the filled flag
-    double X1, Y1;       // a corner; the centre; a vertex
-    double X2, Y2;       // the other corner; radius and aspect; 0
-    double A, B;         // start and end of an arc, radians; an end of 0 means a whole circle
+    char Tipo;      // 'B', 'C' or 'V'
+    Voce voce;      // of a polyline
+    bool pieno;     // of a box: the filled flag
+    double X1, Y1;  // a corner; the centre; a vertex
+    double X2, Y2;  // the other corner; radius and aspect; 0
+    double A, B;    // start and end of an arc, radians; an end of 0 means a whole circle
     Colore colore;
     Colore Riempimento;  // fill of a circle, negative for none
     IdNome Id;

@@ -51,9 +51,9 @@ void Tavolo::xPlotA4() {
     const IdNome id = nome("Page");
     if (dispositivo) dispositivo->Tratteggio(true);
     for (const double x : Conteggio(larghezzaPagina_, w + 3 * larghezzaPagina_, larghezzaPagina_))
-        xLine(x - shiftX_, -shiftY_, x - shiftX_, h - shiftY_, GRIGIO, id);
+        xLine(x - shiftX_, -shiftY_, x - shiftX_, h - shiftY_, GRIGIO, id, 1);
     for (const double y : Conteggio(altezzaPagina_, h + 3 * altezzaPagina_, altezzaPagina_))
-        xLine(-shiftX_, y - shiftY_, w - shiftX_, y - shiftY_, GRIGIO, id);
+        xLine(-shiftX_, y - shiftY_, w - shiftX_, y - shiftY_, GRIGIO, id, 1);
     if (dispositivo) dispositivo->Tratteggio(false);
 }
 

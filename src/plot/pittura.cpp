@@ -25,7 +25,7 @@ std::optional<PuntoPiano> IntersezioneDueRette(double x1, double y1, double x2, 
     const double denY = dx1 * dy2 - dx2 * dy1;
     if (denX == 0 || denY == 0) return {};
     const double c1 = x1 * dy1 - y1 * dx1, c2 = x3 * dy2 - y3 * dx2;
-    const PuntoPiano p{(c1 * dx2 - c2 * dx1) / denX, (c1 * dy2 - c2 * dy1) / denY};
+    const PuntoPiano p{(c1 * dx2 - c2 * dx1) / denX, (c2 * dy1 - c1 * dy2) / denY};
     if (!std::isfinite(p.x) || !std::isfinite(p.y)) return {};
     return p;
 }

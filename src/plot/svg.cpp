@@ -16,11 +16,11 @@ using namespace std::string_view_literals;
 
 constexpr double MILLIMETRI = 1000;
 constexpr double PASSI_AL_MM = 1e4;
-constexpr double LIMITE_MM = 1e9;   // viewers count in single precision
-constexpr double PENNA_MM = 0.2;    // of width 1
-constexpr double PUNTO_MM = 0.35;   // diameter of a point
-constexpr double CORPO_MM = 2.8222; // 8 point, as the screen's text
-constexpr double BASE_MM = 2.6;     // from the top of a text line to its base line
+constexpr double LIMITE_MM = 1e9;    // viewers count in single precision
+constexpr double PENNA_MM = 0.2;     // of width 1
+constexpr double PUNTO_MM = 0.35;    // diameter of a point
+constexpr double CORPO_MM = 2.8222;  // 8 point, as the screen's text
+constexpr double BASE_MM = 2.6;      // from the top of a text line to its base line
 
 using Passi = std::int64_t;
 struct Punto {

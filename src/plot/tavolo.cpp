@@ -89,8 +89,7 @@ void Tavolo::xCircle(Valore X, Valore Y, Valore Raggio, Colore colore, Colore Fi
                      std::string_view Id, bool Store) {
     for (const Valore v : {X, Y, Raggio, Aspect, Start, End})
         if (!v.esiste()) return;
-    if (Store)
-        figura({'C', Voce::START, false, X.v, Y.v, Raggio.v, Aspect.v, Start.v, End.v, colore, FillColor, nome(Id)}, 'C');
+    if (Store) figura({'C', Voce::START, false, X.v, Y.v, Raggio.v, Aspect.v, Start.v, End.v, colore, FillColor, nome(Id)}, 'C');
     if (dispositivo) dipingiCerchio(X.v, Y.v, Raggio.v, colore, FillColor, Aspect.v, Start.v, End.v, specchia(Id));
 }
 

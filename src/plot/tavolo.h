@@ -33,10 +33,14 @@ public:
     // Width 1 is the pen's own; Store false paints only.
     void xLine(Valore X1, Valore Y1, Valore X2, Valore Y2, Colore colore, std::string_view Id = {}, bool Store = true);
     void xLine(Valore X1, Valore Y1, Valore X2, Valore Y2, Colore colore, IdNome Id) {
+        xLine(X1, Y1, X2, Y2, colore, Id, Penna());
+    }
+    // With a pen width of its own.
+    void xLine(Valore X1, Valore Y1, Valore X2, Valore Y2, Colore colore, IdNome Id, std::int32_t Spessore) {
         if (!(X1.esiste() && Y1.esiste() && X2.esiste() && Y2.esiste())) return;
-        lista_.Linee.push_back({X1.v, Y1.v, X2.v, Y2.v, colore, Penna(), Id});
+        lista_.Linee.push_back({X1.v, Y1.v, X2.v, Y2.v, colore, Spessore, Id});
         lista_.Ordine.push_back('L');
-        if (dispositivo) dipingiLinea(X1.v, Y1.v, X2.v, Y2.v, colore, Penna(), specchia(Id));
+        if (dispositivo) dipingiLinea(X1.v, Y1.v, X2.v, Y2.v, colore, Spessore, specchia(Id));
     }
     // Only a point of the sheet is kept: its low edges belong to it, its high edges do not.
     void xPset(Valore X, Valore Y, Colore colore, std::string_view Id = {}, bool Store = true);
@@ -51,7 +55,8 @@ public:
     void xLine(Valore, Valore, Valore, Valore, Colore, B) = delete;
     template <std::same_as<bool> B>
     void xPset(Valore, Valore, Colore, B) = delete;
-    void xBox(Valore X1, Valore Y1, Valore X2, Valore Y2, Colore colore, bool Filled, std::string_view Id = {}, bool Store = true);
+    void xBox(Valore X1, Valore Y1, Valore X2, Valore Y2, Colore colore, bool Filled, std::string_view Id = {},
+              bool Store = true);
     void xCircle(Valore X, Valore Y, Valore Raggio, Colore colore, Colore FillColor = -1, Valore Aspect = 1, Valore Start = 0,
                  Valore End = 0, std::string_view Id = {}, bool Store = true);
     void xPlineStart(std::string_view Id);
@@ -131,11 +136,11 @@ public:
     [[nodiscard]] const Lista &lista() const { return lista_; }
     [[nodiscard]] IdNome nome(std::string_view Id) { return lista_.nomi.id(Id); }
 
-    Dispositivo *dispositivo = nullptr;                        // not owned; may be absent
-    std::function<void(std::string_view)> suMessaggio;         // hears the status line
-    std::function<void()> suDimensioni;                        // hears a new plot size
-    std::function<void(bool)> suAttesa;                        // wait cursor on and off
-    std::function<void()> suClear;                             // hears Clear: print panel away, plain invert buttons
+    Dispositivo *dispositivo = nullptr;                 // not owned; may be absent
+    std::function<void(std::string_view)> suMessaggio;  // hears the status line
+    std::function<void()> suDimensioni;                 // hears a new plot size
+    std::function<void(bool)> suAttesa;                 // wait cursor on and off
+    std::function<void()> suClear;                      // hears Clear: print panel away, plain invert buttons
 
 private:
     static constexpr std::string_view ID_ASSI = "AssiXY", ID_PAGINA = "sys:page";
@@ -168,19 +173,20 @@ private:
 
     Lista lista_;
     IdNome idAssi_, idPagina_;
-    double larghezzaPagina_, altezzaPagina_;         // usable, metres
-    double quadranteH_ = 0, quadranteL_ = 0;         // metres
-    double shiftX_ = 0, shiftY_ = 0;                 // metres
+    double larghezzaPagina_, altezzaPagina_;  // usable, metres
+    double quadranteH_ = 0, quadranteL_ = 0;  // metres
+    double shiftX_ = 0, shiftY_ = 0;          // metres
     int scala_ = 1;
     double scalaCorrente_ = ScalaBase;
     std::vector<int> vociScala_;
-    double currentX_ = 0, currentY_ = 0;             // device units
+    double currentX_ = 0, currentY_ = 0;  // device units
 };
 
 // Meeting point of the line through points 1 and 2 with the line through points 3 and 4; none when they are parallel.
 struct PuntoPiano {
     double x, y;
 };
-[[nodiscard]] std::optional<PuntoPiano> IntersezioneDueRette(double x1, double y1, double x2, double y2, double x3, double y3, double x4, double y4);
+[[nodiscard]] std::optional<PuntoPiano> IntersezioneDueRette(double x1, double y1, double x2, double y2, double x3, double y3,
+                                                             double x4, double y4);
 
 }  // namespace ombrelia

@@ -1,0 +1,90 @@
+// What the tests share: a user who answers from a queue and remembers what was said, a session with fields of one's
+// choice, and tables of published values.
+#pragma once
+
+#include <deque>
+#include <initializer_list>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "app/comandi.h"
+#include "plot/lista_testo.h"
+
+namespace ombrelia::prova {
+
+class UtenteDiProva : public Utente {
+public:
+    std::vector<std::string> messaggi, box;
+    int beep = 0;
+    std::deque<std::string> risposte;
+
+    void Messaggio(std::string_view testo) override { messaggi.emplace_back(testo); }
+    bool Box(std::string_view testo, Domanda) override {
+        box.emplace_back(testo);
+        return prossima("Yes") != "No";
+    }
+    std::string Input(std::string_view, std::string_view, std::string_view proposta) override { return prossima(std::string(proposta)); }
+    std::optional<std::string> File(const RichiestaFile &) override {
+        std::string r = prossima("");
+        return r.empty() ? std::nullopt : std::optional(r);
+    }
+    void Beep() override { ++beep; }
+
+private:
+    std::string prossima(std::string altrimenti) {
+        if (risposte.empty()) return altrimenti;
+        std::string r = risposte.front();
+        risposte.pop_front();
+        return r;
+    }
+};
+
+using Campi = std::initializer_list<std::pair<std::string_view, std::string_view>>;
+
+// A started program driven by control names. The sheet is wide, so that points of any dial of a few metres are kept.
+class Banco {
+public:
+    UtenteDiProva utente;
+    Sessione s{utente};
+
+    explicit Banco(Campi campi = {}, std::initializer_list<std::string_view> caselle = {}) {
+        app::Avvia(s);
+        foglio(14, 14, 7, 7);
+        imposta(campi);
+        for (const std::string_view c : caselle) spunta(c);
+    }
+    void foglio(double l, double h, double x, double y) {
+        s.tavolo.QuadranteL(l);
+        s.tavolo.QuadranteH(h);
+        s.tavolo.ShiftX(x);
+        s.tavolo.ShiftY(y);
+    }
+    void imposta(Campi campi) {
+        for (const auto &[nome, testo] : campi) app::Imposta(s, TrovaControllo(nome), std::string(testo));
+    }
+    app::Esito spunta(std::string_view casella, int valore = 1) { return app::Spunta(s, TrovaControllo(casella), valore); }
+    app::Esito premi(std::string_view controllo) { return app::Premi(s, TrovaControllo(controllo)); }
+    void esegui() { premi("cmdRun"); }
+
+    [[nodiscard]] const Lista &lista() const { return s.tavolo.lista(); }
+    [[nodiscard]] const std::string &strato(const RecLinea &l) const { return lista().nomi.testo(l.Id); }
+    // Lines of one layer.
+    [[nodiscard]] std::vector<RecLinea> linee(std::string_view strato_) const {
+        std::vector<RecLinea> r;
+        for (const RecLinea &l : lista().Linee)
+            if (strato(l) == strato_) r.push_back(l);
+        return r;
+    }
+    [[nodiscard]] bool testo(std::string_view t) const {
+        for (const RecTesto &r : lista().Testi)
+            if (r.Testo == t) return true;
+        return false;
+    }
+};
+
+// Rows of tests/data/NAME: fields divided by "|", blank lines and lines that begin with # passed over.
+std::vector<std::vector<std::string>> Tabella(std::string_view nome);
+
+}  // namespace ombrelia::prova

@@ -1,0 +1,257 @@
+// Whole runs of the direct engine: identities that any dial keeps, what each line is drawn with, and what a fault leaves.
+#include <gtest/gtest.h>
+
+#include <map>
+#include <set>
+
+#include "comuni/prova.h"
+#include "sessione/proiezione.h"
+
+namespace ombrelia {
+namespace {
+
+using prova::Banco;
+
+// A wide frame, so that nothing but the horizon cuts.
+constexpr std::pair<std::string_view, std::string_view> LARGA[] = {{"txtX0", "-6"}, {"txtX1", "6"}, {"txtY0", "6"}, {"txtY1", "-6"}};
+
+void allarga(Banco &b) {
+    for (const auto &c : LARGA) b.imposta({c});
+}
+
+double scarto(const RecLinea &a, const RecLinea &b) {  // distance of a's first end from the line through b
+    const double dx = b.X2 - b.X1, dy = b.Y2 - b.Y1;
+    return std::fabs((a.X1 - b.X1) * dy - (a.Y1 - b.Y1) * dx) / std::hypot(dx, dy);
+}
+
+struct Piano {
+    const char *lat, *dec, *inc;
+};
+constexpr Piano PIANI[] = {{"0", "0", "0"},   {"0", "30", "10"}, {"20", "-80", "0"},  {"45.7", "-20", "25.2"}, {"45", "110", "-30"},
+                           {"60", "170", "5"}, {"80", "15", "60"}, {"51.5", "0", "90"}, {"35", "-135", "80"}};
+
+TEST(Diretta, LeRetteOrarieSonoRette) {
+    for (const Piano &p : PIANI) {
+        Banco b({{"txtLAT", p.lat}, {"txtDec", p.dec}, {"txtInc", p.inc}, {"TxtFraz", "4"}}, {"chkOreAstronomiche"});
+        allarga(b);
+        b.esegui();
+        ASSERT_FALSE(b.lista().Linee.empty());
+        for (const std::string_view strato : {"hour", "half", "quarter"}) {
+            const auto linee = b.linee(strato);
+            const RecLinea *prima = nullptr;
+            for (const RecLinea &l : linee) {
+                const bool segue = prima && l.X2 == prima->X1 && l.Y2 == prima->Y1;
+                // Over a chord long enough to give a direction.
+                if (segue && std::hypot(l.X1 - l.X2, l.Y1 - l.Y2) > 1e-4) {
+                    EXPECT_LT(scarto(l, *prima), 1e-9) << p.lat << " " << p.dec << " " << p.inc << " " << strato;
+                }
+                prima = &l;
+            }
+        }
+    }
+}
+
+// On a plane that looks along the meridian the afternoon mirrors the morning.
+TEST(Diretta, MattinaSpecchioDelPomeriggio) {
+    for (const Piano &p : {Piano{"45", "0", "0"}, Piano{"45", "0", "40"}, Piano{"30", "0", "90"}, Piano{"60", "0", "-20"}}) {
+        Banco b({{"txtLAT", p.lat}, {"txtDec", p.dec}, {"txtInc", p.inc}, {"TxtFraz", "2"}},
+                {"chkOreAstronomiche", "Ck_DayLightCurves", "ckFunzione", "ck_Equinoziale"});
+        allarga(b);
+        b.esegui();
+        std::map<std::string, std::pair<double, double>> estremi;  // smallest and largest abscissa of a layer
+        for (const RecLinea &l : b.lista().Linee) {
+            auto &[basso, alto] = estremi.try_emplace(b.strato(l), 1e9, -1e9).first->second;
+            basso = std::min(basso, l.X1);
+            alto = std::max(alto, l.X1);
+        }
+        for (const auto &[strato, e] : estremi)
+            if (!strato.empty()) {
+                EXPECT_NEAR(e.first, -e.second, 0.2) << strato << " at " << p.lat;
+            }
+        double somma = 0;
+        for (const RecLinea &l : b.linee("hour")) somma += l.X1;
+        EXPECT_NEAR(somma, 0, 1e-4) << p.lat << " " << p.inc;
+    }
+}
+
+TEST(Diretta, ColoriEStratiDiOgniLinea) {
+    Banco b({{"txtLAT", "42"}, {"txtDec", "15"}, {"txtInc", "10"}, {"txtDelta", "-17"}, {"TxtFraz", "4"}, {"txtLonG", "-12"}},
+            {"chkOreAstronomiche", "Ck_DayLightCurves", "ckFunzione", "ck_Equinoziale", "ck_Lemniscate", "ck_Triangolo", "ck_Sustilare",
+             "ckTemp", "ck_Italiche", "ck_Orizzonte", "ckAssi", "CkQibla", "ckAsr", "ckAlt", "ckAz"});
+    b.spunta("ckTemp");
+    b.imposta({{"TxtInizio", "13"}, {"TxtFine", "24"}});
+    allarga(b);
+    b.esegui();
+    std::map<std::string, std::set<Colore>> colori;
+    for (const RecLinea &l : b.lista().Linee) colori[b.strato(l)].insert(l.colore);
+    const std::map<std::string, std::set<Colore>> attesi{
+        {"", {QB(15), QB(8), QB(14), QB(12), QB(4)}},
+        {"hour", {QB(14), QB(12), QB(9)}},
+        {"half", {QB(13)}},
+        {"quarter", {QB(3)}},
+        {"delta -23.445°", {QB(14)}},
+        {"delta -20°", {QB(13)}},
+        {"delta 20°", {QB(13)}},
+        {"delta -11.5°", {QB(11)}},
+        {"delta 11.5°", {QB(11)}},
+        {"Delta opt", {QB(9)}},
+        {"equinox", {QB(9)}},
+        {"Ita", {QB(12)}},
+        {"Temp", {QB(3)}},
+        {"substyle hour", {QB(9)}},
+        {"polar style", {QB(9)}},
+        {"pillar", {QB(13)}},
+        {"substyle", {QB(14)}},
+        {"Analemma", {QB(10)}},
+    };
+    for (const auto &[strato, c] : attesi) EXPECT_EQ(colori[strato], c) << strato;
+    EXPECT_EQ(colori.size(), attesi.size());
+    std::set<Colore> punti;
+    for (const RecPunto &p : b.lista().Punti) punti.insert(p.colore);
+    EXPECT_EQ(punti, (std::set<Colore>{QB(12), QB(4), QB(7), QB(10), QB(6)}));
+    EXPECT_EQ(b.s.in.ckAz, 0) << "the azimuth lines appear once a request";
+    EXPECT_EQ(b.spunta("ckAz"), app::Esito::Fatto);
+}
+
+// Direction, zero and sign of the frame, each where a maker would notice.
+TEST(Diretta, VersiESegni) {
+    struct Caso {
+        const char *che, *lat, *dec, *inc;
+        double ora, delta;
+        int segnoX, segnoY;  // of the shadow's tip, y upward
+    };
+    const Caso casi[] = {
+        {"south wall, morning: shadow to the West, on the left", "45", "0", "0", -45, 0, -1, -1},
+        {"south wall, afternoon: to the right", "45", "0", "0", 45, 0, 1, -1},
+        {"horizontal, noon: shadow northward, up the sheet", "45", "0", "90", 0, 0, 0, 1},
+        {"west wall, afternoon: shadow to the North, on the left", "45", "90", "0", 60, 0, -1, -1},
+        {"east wall, morning: shadow to the North, on the right", "45", "-90", "0", -60, 0, 1, -1},
+    };
+    for (const Caso &c : casi) {
+        Variabili v;
+        v.latR = Radianti(Val(c.lat));
+        v.decR = Radianti(Val(c.dec));
+        v.incR = Radianti(Val(c.inc));
+        v.gn = 1;
+        v.unita = 1;
+        Reale x, y;
+        Proiezione{v}(Radianti(c.ora), Radianti(c.delta), x, y);
+        EXPECT_EQ(Sgn(Round(x, 6)).v, c.segnoX) << c.che << ": " << x.numero();
+        EXPECT_EQ(Sgn(Round(y, 6)).v, c.segnoY) << c.che << ": " << y.numero();
+    }
+}
+
+// In polar night the half day arc faults: the line keeps the arc of the declination before and goes on.
+TEST(Diretta, GiornoPolareTieneLArcoDiPrima) {
+    Banco b({{"txtLAT", "75"}, {"txtDec", "0"}, {"txtInc", "90"}, {"TxtStilo", ".01"}}, {"ckTemp"});
+    allarga(b);
+    b.esegui();
+    const auto temp = b.linee("Temp");
+    ASSERT_FALSE(temp.empty());
+    for (const RecLinea &l : temp) EXPECT_TRUE(std::isfinite(l.X1) && std::isfinite(l.Y1));
+    // Hour 6 is noon whatever the arc: its line lies on the meridian.
+    int sulMeridiano = 0;
+    for (const RecLinea &l : temp) sulMeridiano += std::fabs(l.X1) < 1e-12;
+    EXPECT_GT(sulMeridiano, 100);
+}
+
+TEST(Diretta, LaPrimaLetturaFissaIlQuadrante) {
+    Banco b({{"txtLAT", "45"}, {"txtInc", "90"}, {"txtDec", "33"}});
+    b.esegui();
+    EXPECT_EQ(b.s.in.txtDec, "0") << "a horizontal dial has no declination";
+    EXPECT_EQ(b.s.v.rapportoBase, 2.0);
+    EXPECT_EQ(b.s.v.yOriz, -1);
+    b.imposta({{"txtInc", "0"}, {"txtLAT", "30"}, {"txtDec", "10"}});
+    b.esegui();
+    EXPECT_EQ(b.s.v.inc_o, 90) << "the first read since start stands";
+    EXPECT_EQ(b.s.in.txtDec, "0");
+    EXPECT_EQ(b.s.v.lat_o, Radianti(45));
+    EXPECT_EQ(b.s.v.latR, Radianti(30));
+    EXPECT_EQ(b.s.v.letture, 2);
+}
+
+TEST(Diretta, OrigineOrizzonteEDidascalia) {
+    Banco b({{"txtLAT", "45.74805"}, {"txtLonG", "-12.3456789"}, {"ck_Orizzonte", "1"}});
+    b.foglio(2, 1.5, 0, 0);
+    b.esegui();
+    EXPECT_DOUBLE_EQ(b.s.tavolo.ShiftX(), 1.0);
+    EXPECT_DOUBLE_EQ(b.s.tavolo.ShiftY(), 1.5 / 3.33333);
+    b.s.tavolo.ShiftX(0.7);
+    b.esegui();
+    EXPECT_DOUBLE_EQ(b.s.tavolo.ShiftX(), 0.7) << "a user's shift is kept";
+    EXPECT_EQ(b.s.in.txtOriz, TestoNumero(0.195 * std::tan(25.2 * PI / 180.0)));
+    for (const char *riga : {"DATI QUADRANTE ", "latitudine  = 45.74805 °", "declinazione  = -20 °", "inclinazione = 25.2 °",
+                             "longitudine = -12.34568 °", "ortostilo = 0.195 m", "Costante locale = 10.6172844 p", "-0.5", "0.6", "0.4", "-0.8"})
+        EXPECT_TRUE(b.testo(riga) || b.testo(SenzaBlanks(riga))) << riga;
+    // Twice the same dial adds the same records again.
+    const std::size_t righe = b.lista().Ordine.size();
+    b.premi("Tavolo1.cmdPulisci");
+    EXPECT_TRUE(b.lista().Ordine.empty());
+    b.esegui();
+    EXPECT_EQ(b.lista().Ordine.size() * 2, righe);
+}
+
+TEST(Diretta, MillimetriDannoLoStessoQuadrante) {
+    const auto punti = [](Banco &b) {
+        b.esegui();
+        return b.linee("hour");
+    };
+    Banco metri({{"txtInc", "0"}, {"TxtStilo", "0.2"}}, {"chkOreAstronomiche"});
+    Banco mm({{"txtInc", "0"}, {"TxtStilo", "200"}, {"txtX0", "-500"}, {"txtX1", "600"}, {"txtY0", "400"}, {"txtY1", "-800"}},
+             {"chkOreAstronomiche", "ChCentimetro"});
+    const auto a = punti(metri), b = punti(mm);
+    ASSERT_EQ(a.size(), b.size());
+    ASSERT_GT(a.size(), 1000U);
+    for (std::size_t i = 0; i < a.size(); ++i) {
+        EXPECT_NEAR(a[i].X1, b[i].X1, 1e-12);
+        EXPECT_NEAR(a[i].Y2, b[i].Y2, 1e-12);
+    }
+    EXPECT_TRUE(mm.testo("ortostilo = 200 mm"));
+}
+
+TEST(Diretta, SitoAustrale) {
+    Banco b({{"txtLAT", "-33"}, {"txtInc", "0"}, {"txtDec", "0"}}, {"ck_Lemniscate"});
+    b.esegui();
+    EXPECT_EQ(b.s.in.txtLAT, "33");
+    EXPECT_EQ(b.utente.box, std::vector<std::string>{"A grafico ottenuto usare il tasto InvertX"});
+    EXPECT_FALSE(b.linee("Analemma Sud").empty());
+    EXPECT_TRUE(b.testo("Per ottenere le ore italiche cliccare babiloniche e viceversa"));
+    EXPECT_TRUE(b.testo("latitudine  = -33 °"));
+    b.premi("Tavolo1.cmdPulisci");
+    b.esegui();
+    EXPECT_EQ(b.utente.box.size(), 1U) << "the next press is a northern run";
+    EXPECT_TRUE(b.linee("Analemma Sud").empty());
+    EXPECT_FALSE(b.testo("Per ottenere le ore italiche cliccare babiloniche e viceversa"));
+}
+
+TEST(Diretta, CampiAssurdiSonoRifiutatiOInnocui) {
+    struct Caso {
+        std::pair<std::string_view, std::string_view> campo;
+        std::string_view box;  // empty: the run goes through
+    };
+    const Caso casi[] = {
+        {{"TxtFraz", "1e9"}, "TxtFraz = 1e9: troppo fitto"},
+        {{"TxtFine", "1e12"}, "TxtFine = 1e12: troppo fitto"},
+        {{"TxtInizio", "-3e8"}, "TxtInizio = -3e8: troppo fitto"},
+        {{"txtDensity", "1e-9"}, "txtDensity = 1e-9: troppo fitto"},
+        {{"txtDensity", "0"}, ""},     {{"txtDensity", "-1"}, ""},  {{"txtDensity", "1e-300"}, ""},
+        {{"TxtFraz", "-2"}, ""},       {{"TxtFraz", "1e400"}, ""},  {{"TxtFraz", "abc"}, ""},
+        {{"TxtFine", "1e400"}, ""},    {{"txtLAT", "1e308"}, ""},   {{"txtLAT", "9e999"}, ""},
+        {{"txtInc", "1e308"}, ""},     {{"TxtStilo", "1e308"}, ""}, {{"TxtStilo", ""}, ""},
+        {{"txtX0", "nan"}, ""},        {{"txtDec", "inf"}, ""},     {{"txtQlat", "90"}, ""},
+        {{"txtLAT", "90"}, ""},        {{"txtLAT", "66.555"}, ""},
+    };
+    for (const Caso &c : casi) {
+        Banco b({}, {"chkOreAstronomiche", "Ck_DayLightCurves", "ck_Equinoziale", "ckTemp", "ck_Italiche", "ckAlt", "ck_Lemniscate", "CkQibla",
+                     "ckAsr", "ckAz", "ck_Triangolo", "ck_Sustilare"});
+        b.spunta("ckTemp");
+        b.imposta({c.campo});
+        b.esegui();
+        EXPECT_EQ(b.utente.box.empty() ? "" : b.utente.box.front(), c.box) << c.campo.first << " " << c.campo.second;
+        EXPECT_EQ(b.lista().Ordine.empty(), !c.box.empty()) << c.campo.first << " " << c.campo.second;
+        for (const RecLinea &l : b.lista().Linee) ASSERT_TRUE(std::isfinite(l.X1 + l.Y1 + l.X2 + l.Y2)) << c.campo.second;
+    }
+}
+
+}  // namespace
+}  // namespace ombrelia

@@ -5,6 +5,8 @@
 #include <unordered_map>
 
 #include "app/azioni.h"
+#include "app/lingua.h"
+#include "app/parametri_default.h"
 
 namespace ombrelia::app {
 
@@ -16,7 +18,7 @@ const Controllo &riga(IdControllo id) { return TavolaControlli()[static_cast<std
 class Registro {
 public:
     Registro() {
-        for (const auto gestori : {GestoriPrincipale(), GestoriTavolo()})
+        for (const auto gestori : {GestoriPrincipale(), GestoriTavolo(), GestoriFile(), GestoriSole()})
             for (const Gestore &g : gestori)
                 for (const Controllo &c : ControlliDi(g.modulo))
                     if (c.nome == g.nome) azioni_[chiave(IdDi(c), g.evento)] = g.azione;
@@ -71,6 +73,11 @@ void Avvia(Sessione &s) {
     // The window's load takes base sizes of its own, which the sheet's replace at once.
     v.altezzaBase = t.QuadranteH() * 10.0;
     v.larghezzaBase = t.QuadranteL() * 10.0;
+    LeggiDefault(s);
+    CaricaForm(s, "MDIForm1");
+    LeggiDefault(s);
+    CaricaForm(s, "frmTavolo");
+    CaricaForm(s, "Tavolo1");
     v.altezzaBase = t.QuadranteH();
     v.larghezzaBase = t.QuadranteL();
     if (Val(s.in.txtLAT) >= 0) v.altezzaBase = t.QuadranteH() * 1.5;

@@ -22,7 +22,7 @@ struct Gestore {
 // What became of an action.
 enum class Esito : std::uint8_t { Fatto, Disabilitato, Impossibile };
 
-// The start-up: sheet and shift, enabled controls. Makes no folder.
+// The start-up: defaults file, dictionary, sheet and shift, enabled controls. Makes no folder.
 void Avvia(Sessione &s);
 
 // Enters a text box, gives it the text, leaves it; in a list selects the entry. Impossibile for a control that holds
@@ -54,5 +54,7 @@ void cmdRun(Sessione &s);
 // The handlers of each form, for the dispatch.
 std::span<const Gestore> GestoriPrincipale();
 std::span<const Gestore> GestoriTavolo();
+std::span<const Gestore> GestoriSole();
+std::span<const Gestore> GestoriFile();
 
 }  // namespace ombrelia::app

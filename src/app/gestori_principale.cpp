@@ -1,6 +1,10 @@
 // Handlers of the main window.
+#include "analytic/analitica.h"
+#include "analytic/equivalente.h"
 #include "app/azioni.h"
 #include "direct/diretta.h"
+#include "glyphs/numeri.h"
+#include "vertical/piana.h"
 
 namespace ombrelia::app {
 
@@ -26,12 +30,42 @@ void ckTemp_Click(Sessione &s, int) { ore(s, "0", "12"); }
 void CkUNI_Click(Sessione &s, int) { s.Scrivi(&DialInputs::txtInc, "0"); }
 void txtInc_Change(Sessione &s, int) { AbilitaPerInclinazione(s); }
 
+// The latitude as typed, for captions, and its sign, 1 at the equator.
+void leggiLatitudine(Sessione &s) {
+    Variabili &v = s.v;
+    v.latGradi = Val(s.in.txtLAT);
+    v.segnoLat = v.latGradi == 0 ? Valore(1) : Sgn(v.latGradi);
+}
+
+void cmdEqui_Click(Sessione &s, int) {
+    Tavolo &t = s.tavolo;
+    leggiLatitudine(s);
+    if (t.ShiftX() == 0 && t.ShiftY() == 0) {
+        t.ShiftX(t.QuadranteL() / 2.0);
+        t.ShiftY(t.QuadranteH() / 3.33333);
+    }
+    if (Val(s.in.txtInc) == 0) analytic::EseguiGraficaAnalitica(s);
+}
+
+void cmdTrasforma_Click(Sessione &s, int) {
+    analytic::TrasformaInVerticaleEquivalente(s);
+    s.v.lon = s.v.lonEq;
+    s.v.flagVerticale = 1;
+    // What does not apply to an equivalent dial.
+    for (const std::string_view nome : {"CkQibla", "ckAlt", "ckAsr"}) s.stato(nome).abilitato = false;
+    for (int DialInputs::*casella : {&DialInputs::CkQibla, &DialInputs::ckAlt, &DialInputs::ckAsr}) SpuntaDaProgramma(s, casella, 0);
+}
+
 constexpr Gestore GESTORI[] = {
     {"MDIForm1", "cmdRun", Evento::Clic, [](Sessione &s, int) { cmdRun(s); }},
+    {"MDIForm1", "cmdEqui", Evento::Clic, cmdEqui_Click},
+    {"MDIForm1", "cmdTrasforma", Evento::Clic, cmdTrasforma_Click},
     {"MDIForm1", "ck_Italiche", Evento::Clic, ck_Italiche_Click},
     {"MDIForm1", "ck_babiloniche", Evento::Clic, ck_babiloniche_Click},
     {"MDIForm1", "ckTemp", Evento::Clic, ckTemp_Click},
     {"MDIForm1", "CkUNI", Evento::Clic, CkUNI_Click},
+    {"MDIForm1", "ckRomani", Evento::Clic, [](Sessione &s, int) { PosizionaRomani(s); }},
+    {"MDIForm1", "ckArabi", Evento::Clic, [](Sessione &s, int) { PosizionaArabi(s); }},
     {"MDIForm1", "txtInc", Evento::Cambio, txtInc_Change},
 };
 
@@ -45,16 +79,18 @@ void AbilitaPerInclinazione(Sessione &s) {
 }
 
 void cmdRun(Sessione &s) {
-    Variabili &v = s.v;
-    v.latGradi = Val(s.in.txtLAT);
-    v.segnoLat = v.latGradi == 0 ? Valore(1) : Sgn(v.latGradi);
+    leggiLatitudine(s);
     const Reale lat = Val(s.in.txtLAT);
     if (lat < 0) {
         // A southern dial is the northern one of the mirrored latitude; the user mirrors the drawing.
         s.utente.Box(s.Traduci("A grafico ottenuto usare il tasto InvertX"));
         s.Scrivi(&DialInputs::txtLAT, TestoNumero((-lat).v));
+        direct::I_Graf_diretta(s);
+    } else if (Val(s.in.txtInc) == 0 && s.in.CkUNI == 1) {
+        vertical::Piana_Esegui(s);
+    } else {
+        direct::I_Graf_diretta(s);
     }
-    direct::I_Graf_diretta(s);
 }
 
 }  // namespace ombrelia::app

@@ -12,6 +12,7 @@ constexpr std::string_view GENERALE = R"(Ombrelia designs sundials and draws the
 usage: ombrelia COMMAND ...
 
   draw      a dial from fields to files
+  sun       the Sun over a place, and the declination of a wall from one reading or several
   batch     performs an action script: a user's actions, one a line
 
 ombrelia COMMAND --help tells more; ombrelia --version tells the version.
@@ -61,10 +62,33 @@ example:
   printf '%s\n' 'set txtInc 0' 'check chkOreAstronomiche' 'click cmdRun' 'svg muro.svg' | ombrelia batch -
 )";
 
+constexpr std::string_view SUN = R"(usage: ombrelia sun --date DATE --time TIME --lat LAT --lon LON --zone ZONE [--angle ANGLE] [--dst]
+       ombrelia sun --readings FILE --lat LAT --lon LON
+
+The Sun over a place at a moment: azimuth, altitude, declination, equation of time, noon, sunrise and sunset; and the gnomonic
+declination of a wall out of one angle measured on it. The report is in the language of the dictionary in the current folder.
+
+  --date DATE      year-month-day; Julian calendar before 1582-10-15
+  --time TIME      hours:minutes or hours:minutes:seconds, UT
+  --lat LAT        latitude in decimal degrees, North positive
+  --lon LON        longitude in decimal degrees, West positive: East is negative
+  --zone ZONE      hours of the zone, West positive: Italy is -1; for noon, sunrise and sunset
+  --angle ANGLE    angle measured on the wall, degrees; left out it is 0, and the wall's declination is the Sun's azimuth
+  --dst            noon, sunrise and sunset in summer time
+  --readings FILE  several readings of one wall, one a line: date, time (UT) and angle; # begins a comment. Gives the
+                   declination of each, mean, standard deviation and the reading that stands out
+
+examples:
+  ombrelia sun --date 2026-06-21 --time 9:40 --lat 45.07 --lon -7.68 --zone -1 --angle 12.5 --dst
+  printf '%s\n' '2026-06-21 9:40 12.5' '2026-06-21 10:10 25.3' '2026-06-21 10:40 40' > muro.txt
+  ombrelia sun --readings muro.txt --lat 45.07 --lon -7.68
+)";
+
 }  // namespace
 
 std::string Aiuto(std::string_view comando) {
     if (comando == "batch") return std::string(BATCH);
+    if (comando == "sun") return std::string(SUN);
     if (comando != "draw") return std::string(GENERALE);
     std::string t(DRAW);
     for (const Formato &f : Formati()) t += "  ." + std::string(f.estensione) + "   " + std::string(f.descrizione) + "\n";

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "app/comandi.h"
+#include "app/progetto.h"
 #include "cli/console.h"
 #include "cli/formati.h"
 #include "core/file.h"
@@ -95,6 +96,9 @@ private:
     }
     void show(std::string_view resto);
     void value(std::string_view resto);
+    // A file that is missing or broken gives the program's own message box.
+    void open(std::string_view resto) { app::ApriProgetto(s_, file(resto)); }
+    void save(std::string_view resto) { consegna(file(resto), app::ScriviProgetto(s_)); }
 
     Console console_;
     Sessione s_;
@@ -107,6 +111,7 @@ const std::vector<Esecuzione::Voce> &Esecuzione::azioni() {
         {"click", &E::click},     {"mouse", &E::mouse},     {"answer", &E::answer},   {"sheet", &E::sheet},
         {"list", &E::list},       {"dxf", &E::forma<0>},    {"svg", &E::forma<1>},    {"pdf", &E::forma<2>},
         {"bmp", &E::forma<3>},    {"png", &E::forma<4>},    {"show", &E::show},       {"value", &E::value},
+        {"open", &E::open},       {"save", &E::save},
     };
     return tutte;
 }

@@ -9,23 +9,33 @@
 #include "plot/dxf.h"
 #include "plot/lista_testo.h"
 #include "plot/svg.h"
+#ifdef OMBRELIA_CON_QT
+#include "paint/file_disegno.h"
+#endif
 
 namespace ombrelia::cli {
 
 namespace {
 
-[[maybe_unused]] std::string assente(Sessione &, std::string &errore) {
+#ifdef OMBRELIA_CON_QT
+std::string pdf(Sessione &s, std::string &errore) { return paint::Pdf(s.tavolo, errore); }
+std::string png(Sessione &s, std::string &errore) { return paint::Png(s.tavolo, errore); }
+std::string bmp(Sessione &s, std::string &errore) { return paint::Bmp(s.tavolo, errore); }
+#else
+std::string pdf(Sessione &, std::string &errore) {
     errore = "this build has no Qt: pdf, png and bmp are absent; dxf and svg are there";
     return {};
 }
+constexpr auto png = pdf, bmp = pdf;
+#endif
 
 constexpr Formato FORMATI[] = {
     {"dxf", "drawing for CAD and cutters, millimetres", [](Sessione &s, std::string &) { return DXF_Generate(s.tavolo); }},
     {"svg", "drawing at true scale, one group a layer", [](Sessione &s, std::string &) { return SVG_Generate(s.tavolo); }},
     {"txt", "the display list as text", [](Sessione &s, std::string &) { return ListaTesto(s.tavolo.lista()); }},
-    {"pdf", "one page at true scale", assente},
-    {"png", "picture", assente},
-    {"bmp", "picture", assente},
+    {"pdf", "one page at true scale", pdf},
+    {"png", "picture at the sheet's scale, 200 dots an inch", png},
+    {"bmp", "the same picture without compression", bmp},
 };
 
 }  // namespace

@@ -7,6 +7,7 @@
 #include "cli/aiuto.h"
 #include "cli/batch.h"
 #include "cli/draw.h"
+#include "cli/sun.h"
 
 namespace {
 
@@ -14,7 +15,7 @@ struct Comando {
     std::string_view nome;
     int (*esegui)(int argc, char **argv);
 };
-constexpr Comando COMANDI[] = {{"batch", ombrelia::cli::Batch}, {"draw", ombrelia::cli::Draw}};
+constexpr Comando COMANDI[] = {{"batch", ombrelia::cli::Batch}, {"draw", ombrelia::cli::Draw}, {"sun", ombrelia::cli::Sun}};
 
 bool chiedeAiuto(std::string_view a) { return a == "--help" || a == "-h" || a == "help"; }
 

@@ -35,6 +35,10 @@ void AggiungiNumero17(std::string &testo, double numero);
 // UTF-8 to Windows-1252, one byte a character; what has no place there becomes "?".
 void AggiungiCp1252(std::string &uscita, std::string_view utf8);
 
+// Marks a text that goes through the dictionary elsewhere than where it stands, as the labels of a table do:
+// "Latitudine "_it. The test of the dictionaries finds it by this; what stands inside Traduci("...") needs no mark.
+[[nodiscard]] constexpr std::string_view operator""_it(const char *testo, std::size_t n) { return {testo, n}; }
+
 // A text joined from labels and numbers (in the form for people). A number without a value faults the whole text: then
 // it does not exist and what was to show it is left out.
 class Frase {

@@ -2,6 +2,7 @@
 #include "direct/diretta.h"
 
 #include "direct/sbarramento.h"
+#include "glyphs/zodiaco.h"
 #include "sessione/limiti.h"
 
 namespace ombrelia::direct {
@@ -36,19 +37,19 @@ void didascalia(Sessione &s, Valore seno, Valore q) {
         Valore valore;
         std::string_view coda;
     } righe[] = {
-        {"latitudine  = ", Tronca5(v.latGradi), " °"},
-        {"declinazione  = ", Tronca5(v.dec), " °"},
-        {"inclinazione = ", Tronca5(v.inc), " °"},
-        {"longitudine = ", Round(v.lonCopia, 5), " °"},
-        {"ortostilo = ", v.gn, misura},
-        {"assostilo = ", Abs(Tronca5(v.gn / seno)), misura},
-        {"ascissa centro = ", Tronca5(v.xCentro), misura},
-        {"ordinata centro = ", Tronca5(v.yCentro), misura},
-        {"ordinata orizzonte = ", Tronca5(v.gn * tan(v.iz_o)), misura},
-        {"Quibla = ", Tronca5(q), " °"},
-        {"Altezza del sole alle 12 d'estate = ", Tronca5(estate), " °"},
-        {"Altezza del sole alle 12 d'inverno = ", Tronca5(inverno), " °"},
-        {"Costante locale = ", 4 * (v.lonCopia + 15), " p"},
+        {"latitudine  = "_it, Tronca5(v.latGradi), " °"},
+        {"declinazione  = "_it, Tronca5(v.dec), " °"},
+        {"inclinazione = "_it, Tronca5(v.inc), " °"},
+        {"longitudine = "_it, Round(v.lonCopia, 5), " °"},
+        {"ortostilo = "_it, v.gn, misura},
+        {"assostilo = "_it, Abs(Tronca5(v.gn / seno)), misura},
+        {"ascissa centro = "_it, Tronca5(v.xCentro), misura},
+        {"ordinata centro = "_it, Tronca5(v.yCentro), misura},
+        {"ordinata orizzonte = "_it, Tronca5(v.gn * tan(v.iz_o)), misura},
+        {"Quibla = "_it, Tronca5(q), " °"},
+        {"Altezza del sole alle 12 d'estate = "_it, Tronca5(estate), " °"},
+        {"Altezza del sole alle 12 d'inverno = "_it, Tronca5(inverno), " °"},
+        {"Costante locale = "_it, 4 * (v.lonCopia + 15), " p"},
     };
     s.tavolo.ForeColor = QB(15);
     s.Dati(s.Traduci("DATI QUADRANTE "));
@@ -133,7 +134,7 @@ void I_Graf_diretta(Sessione &s) {
     if (in.ckTemp == 1) TracciaOreTemporarie(s);
     if (in.ck_Sustilare == 1) TracciaSustilare(s);
     if (in.ck_Triangolo == 1) TracciaStiloPolare(s);
-    // The zodiac's place.
+    if (in.ckZodiac == 1) DisegnaZodiaco(s);
     if (in.ckAlt == 1) TracciaAlmucantarat(s);
     if (in.ck_Lemniscate == 1) {
         if (v.segnoLat == -1) TracciaLemniscataSud(s);

@@ -54,14 +54,14 @@ void testi(Sessione &s, Valore q) {
     const auto riga = [&s](std::string_view etichetta, Valore gradi, std::string_view coda) {
         s.Dati(Frase(s.Traduci(etichetta)) << Tronca5(gradi) << coda);
     };
-    riga("latitude  = ", Val(s.in.txtQlat), " °");
-    riga("longitude  = ", Val(s.in.txtQlon), " °");
+    riga("latitude  = "_it, Val(s.in.txtQlat), " °");
+    riga("longitude  = "_it, Val(s.in.txtQlon), " °");
     if (s.v.latR > 0) {
-        riga("Qibla from South = ", q, "° azimuth");
-        riga("Qibla from North = ", q < 0 ? 180 + q : -180 + q, "° azimuth");
+        riga("Qibla from South = "_it, q, "° azimuth");
+        riga("Qibla from North = "_it, q < 0 ? 180 + q : -180 + q, "° azimuth");
     } else {
-        riga("Qibla from North = ", -q, "° azimuth");
-        riga("Qibla from South = ", q < 0 ? -180 - q : 180 - q, "° azimuth");
+        riga("Qibla from North = "_it, -q, "° azimuth");
+        riga("Qibla from South = "_it, q < 0 ? -180 - q : 180 - q, "° azimuth");
     }
     s.tavolo.ForeColor = QB(15);
 }

@@ -36,6 +36,9 @@ public:
         iniziata_ = true;
     }
     void fine() { iniziata_ = false; }
+    // The point before, 0 before the first.
+    [[nodiscard]] Reale xPrima() const { return x_; }
+    [[nodiscard]] Reale yPrima() const { return y_; }
 
 private:
     Tavolo &tavolo_;

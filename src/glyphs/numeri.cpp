@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <string>
 
+#include "core/conteggio.h"
 #include "glyphs/punto_parete.h"
 #include "glyphs/tratti.h"
 
@@ -12,7 +13,7 @@ namespace ombrelia {
 namespace {
 
 constexpr int COLORE_NUMERI = 7;
-constexpr int PESO_ARABI = 2, PESO_ROMANI = 1;
+constexpr int PESO_ARABI = 2;
 // The most a chord of a round part may fall short of the round, in units of the cell.
 constexpr double FRECCIA = 0.1;
 
@@ -23,7 +24,7 @@ public:
         : tavolo_(tavolo), x_(X), y_(Y), sen_(sin(angolo)), cos_(cos(angolo)), scala_(altezza / ALTEZZA_CELLA) {}
 
     void linea(double a1, double b1, double a2, double b2, int peso) const {
-        tavolo_.xLine(x(a1, b1), -y(a1, b1), x(a2, b2), -y(a2, b2), QB(COLORE_NUMERI), {}, true, peso);
+        tavolo_.xLine(x(a1, b1), -y(a1, b1), x(a2, b2), -y(a2, b2), QB(COLORE_NUMERI), IdNome{}, peso);
     }
 
 private:
@@ -55,7 +56,7 @@ std::string inLettere(int ora) {
 
 void posiziona(Sessione &s, bool romani) {
     Variabili &v = s.v;
-    if (Val(s.in.txtInc) != 0 || v.unita == 0) return;
+    if (!(Val(s.in.txtInc) == 0) || v.unita == 0) return;
     v.oraFuso = s.in.ck_Etna == 1 ? 1 : 0;
     v.decGradi = Val(s.in.txtDec);
     v.angOraLong = 15 - Abs(Val(s.in.txtLonG));  // degrees, where the vertical engine keeps radians: meant
@@ -102,9 +103,8 @@ void DisegnaCifra(Sessione &s, Valore X, Valore Y, Valore Angolo, int Cifra, int
     const Telaio telaio(s.tavolo, X, Y, Angolo * (PI / 180), altezza);
     constexpr double mezza = ALTEZZA_CELLA / 2;
     for (const Tratto &t : TrattiCifra(Cifra))
-        t.percorri(cordeDi(t), [&](double a1, double b1, double a2, double b2) {
-            telaio.linea(a1, b1 - mezza, a2, b2 - mezza, Peso);
-        });
+        t.percorri(cordeDi(t),
+                   [&](double a1, double b1, double a2, double b2) { telaio.linea(a1, b1 - mezza, a2, b2 - mezza, Peso); });
 }
 
 void DisegnaNumeroRomano(Sessione &s, Valore x, Valore y, Valore rotazione, int ora) {
@@ -121,7 +121,7 @@ void DisegnaNumeroRomano(Sessione &s, Valore x, Valore y, Valore rotazione, int 
         const Lettera lettera = LetteraRomana(c);
         const Vertice *prima = &lettera.contorno.back();
         for (const Vertice &punto : lettera.contorno) {
-            telaio.linea(a + prima->a, b + prima->b, a + punto.a, b + punto.b, PESO_ROMANI);
+            telaio.linea(a + prima->a, b + prima->b, a + punto.a, b + punto.b, s.tavolo.Penna());
             prima = &punto;
         }
         a += lettera.larghezza;

@@ -13,9 +13,7 @@ struct PuntoParete {
     Reale x, y;  // metres from the foot of the ortostilo, x to the right, y upward: negative for a Sun above the horizon
 
     // Hour angle H and declination D, radians. Gives A between -PI/2 and PI/2.
-    void azimut(const Variabili &v, Valore H, Valore D) {
-        A = Atn(sin(H) / (sin(v.latR) * cos(H) - cos(v.latR) * tan(D)));
-    }
+    void azimut(const Variabili &v, Valore H, Valore D) { A = Atn(sin(H) / (sin(v.latR) * cos(H) - cos(v.latR) * tan(D))); }
     [[nodiscard]] bool quadranteErrato(Valore H) const { return Sgn(sin(H)) != Sgn(sin(A)); }
     void proietta(const Variabili &v, Valore H, Valore D) {
         h = ArcSin(sin(v.latR) * sin(D) + cos(v.latR) * cos(D) * cos(H));

@@ -7,6 +7,7 @@
 #include <span>
 
 #include "core/angoli.h"
+#include "glyphs/zodiaco.h"
 
 namespace ombrelia {
 
@@ -68,5 +69,8 @@ inline constexpr double ALTEZZA_CELLA = 150, LARGHEZZA_CELLA = 110;
 [[nodiscard]] std::span<const Tratto> TrattiCifra(int cifra);
 // One of the letters I, V, X, its lower left corner at the origin; an empty one for anything else.
 [[nodiscard]] Lettera LetteraRomana(char lettera);
+
+// Strokes of a sign, on a grid from -28 to 28 both ways about the sign's middle.
+[[nodiscard]] std::span<const Tratto> TrattiSegno(Segno segno);
 
 }  // namespace ombrelia

@@ -18,20 +18,22 @@ constexpr std::size_t CORDE_MASSIME = 100001;    // points of a run that have a 
 bool cifra(char c) { return c >= '0' && c <= '9'; }
 
 // The number of a field; no value where Val would make do with 0 for want of one.
-Valore numero(std::string_view campo) {
-    std::size_t i = campo.find_first_not_of(" \t");
-    if (i < campo.size() && (campo[i] == '+' || campo[i] == '-')) ++i;
-    if (i < campo.size() && campo[i] == '.') ++i;
-    return i < campo.size() && cifra(campo[i]) ? Val(campo) : Valore::nessuno();
+Valore numero(std::string_view testo) {
+    std::size_t i = testo.find_first_not_of(" \t");
+    if (i < testo.size() && (testo[i] == '+' || testo[i] == '-')) ++i;
+    if (i < testo.size() && testo[i] == '.') ++i;
+    return i < testo.size() && cifra(testo[i]) ? Val(testo) : Valore::nessuno();
 }
 
-// Cuts off the text up to the separator, which is dropped; all of it when there is none.
-std::string_view taglia(std::string_view &resto, std::string_view separatori) {
-    const std::size_t fine = std::min(resto.find_first_of(separatori), resto.size());
+// Cuts off the text up to the first separator, which is dropped; all of it when there is none.
+std::string_view taglia(std::string_view &resto, char separatore, char altro) {
+    std::size_t fine = 0;
+    while (fine < resto.size() && resto[fine] != separatore && resto[fine] != altro) ++fine;
     const std::string_view pezzo = resto.substr(0, fine);
     resto.remove_prefix(std::min(fine + 1, resto.size()));
     return pezzo;
 }
+std::string_view campo(std::string_view &riga) { return taglia(riga, ';', ';'); }
 
 // The text of a data file; empty when it is missing, unreadable or beyond the bound.
 std::string testoDi(std::string_view nome) {
@@ -87,9 +89,9 @@ Mondo LeggiMondo(std::string_view testo, Valore sito) {
     std::string_view nomePrima;
     std::string paese;
     while (!testo.empty()) {
-        std::string_view riga = taglia(testo, "\r\n");
-        const std::string_view nome = taglia(riga, ";");
-        const Valore lat = numero(taglia(riga, ";"));
+        std::string_view riga = taglia(testo, '\n', '\r');
+        const std::string_view nome = campo(riga);
+        const Valore lat = numero(campo(riga));
         const Valore X = -numero(riga) - longitudine;
         if (!lat.esiste() || !X.esiste()) continue;
 

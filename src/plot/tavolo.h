@@ -12,6 +12,7 @@
 
 #include "core/controlli.h"
 #include "core/reale.h"
+#include "core/testo.h"
 #include "plot/dispositivo.h"
 #include "plot/lista.h"
 
@@ -129,7 +130,7 @@ public:
     // done, when none is selected: the caller then shows NESSUNA_AREA. avanza hears each tile before it is printed (from
     // 0, of how many) and stops the run by false.
     bool PrintArea(Dispositivo &stampante, const std::function<bool(std::size_t, std::size_t)> &avanza = {});
-    static constexpr std::string_view NESSUNA_AREA = "Nessuna area selezionata";
+    static constexpr std::string_view NESSUNA_AREA = "Nessuna area selezionata"_it;
     // A press of the mouse at a device position: read-out in whole millimetres, then xTrovaA4.
     void MouseDown(double px, double py);
 

@@ -48,6 +48,15 @@ public:
     }
     void operator()(Valore t, Valore D, Reale &x, Reale &y) const { (*this)(SenCos(t), std::tan(D.v), x, y); }
 
+    // The same point as the wall's prayer and azimuth lines write it: terms and factors in an order of their own.
+    void perParete(const SenCos &t, double tanD, Reale &x, Reale &y) const {
+        const double den = tanD * c1_ + sgsz_ * t.sen + b_ * t.cos;
+        const double nx = cg_ * t.sen - (sphi_ * t.cos - cphi_ * tanD) * sg_;
+        const double ny = czsg_ * t.sen - d_ * t.cos - e_ * tanD;
+        x = Valore(unita_ * nx * gn_) / den;
+        y = Valore(unita_ * ny * gn_) / den;
+    }
+
     // On the equinoctial, where the terms of the declination are not written.
     void equinozio(const SenCos &t, Reale &x, Reale &y) const {
         const double den = sgsz_ * t.sen + b_ * t.cos;

@@ -1,6 +1,8 @@
 // The session: controls' states, the common reading of the fields, the frame.
 #include "sessione/sessione.h"
 
+#include <algorithm>
+
 namespace ombrelia {
 
 Sessione::Sessione(Utente &chi) : in(InputsIniziali()), utente(chi) {
@@ -12,6 +14,7 @@ Sessione::Sessione(Utente &chi) : in(InputsIniziali()), utente(chi) {
         stati[i].testo = tavola[i].inizio;
         stati[i].visibile = tavola[i].visibile;
     }
+    for (const Modulo &m : TavolaModuli()) titoli.emplace_back(m.caption);
     tavolo.suMessaggio = [this](std::string_view testo) { utente.Messaggio(testo); };
     tavolo.suAttesa = [this](bool attesa) { utente.Puntatore(attesa); };
 }
@@ -35,6 +38,12 @@ int &Sessione::valore(IdControllo id) {
 }
 
 StatoControllo &Sessione::stato(std::string_view nome) { return stato(TrovaControllo(nome)); }
+
+std::string &Sessione::titolo(std::string_view modulo) {
+    const auto moduli = TavolaModuli();
+    const auto i = std::find_if(moduli.begin(), moduli.end(), [&](const Modulo &m) { return m.nome == modulo; });
+    return titoli.at(static_cast<std::size_t>(i - moduli.begin()));
+}
 
 void LeggiParametri(Sessione &s) {
     Variabili &v = s.v;

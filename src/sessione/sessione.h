@@ -15,6 +15,7 @@
 #include "lang/dizionario.h"
 #include "plot/tavolo.h"
 #include "sessione/mondo.h"
+#include "sessione/rapporto.h"
 #include "sessione/utente.h"
 
 namespace ombrelia {
@@ -37,8 +38,10 @@ struct Sessione {
     Tavolo tavolo;
     Dizionario dizionario;
     Mondo mondo;  // as cmdStati loaded it
+    Rapporti rapporti;
     Utente &utente;
     std::vector<StatoControllo> stati;  // one a row of the table of controls
+    std::vector<std::string> titoli;    // captions of the forms, one a row of the table of forms
 
     // Change handlers of fields that an engine rewrites; set by the application above.
     std::function<void(Sessione &, std::string DialInputs::*)> suCambio;
@@ -60,6 +63,8 @@ struct Sessione {
     [[nodiscard]] int &valore(IdControllo id);
     [[nodiscard]] StatoControllo &stato(IdControllo id) { return stati[static_cast<std::size_t>(id)]; }
     [[nodiscard]] StatoControllo &stato(std::string_view nome);
+    // Caption of a form of the table.
+    [[nodiscard]] std::string &titolo(std::string_view modulo);
 };
 
 // The common reading of the fields into the shared variables; every engine starts with it. The first call since start

@@ -28,6 +28,8 @@ public:
     // Nothing when the user cancels.
     virtual std::optional<std::string> File(const RichiestaFile &richiesta) = 0;
     virtual void Beep() = 0;
+    // A form opens, its load having run, or closes.
+    virtual void Modulo(std::string_view, bool) {}
     // Hourglass while a run lasts.
     virtual void Puntatore(bool) {}
 };

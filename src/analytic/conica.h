@@ -1,0 +1,90 @@
+// The conic of a day line on a wall: the section of the cone of the Sun's rays through the gnomon's tip by the dial's
+// plane. Its constants, its points and the two frames they live in; nothing here draws.
+#pragma once
+
+#include "core/angoli.h"
+
+namespace ombrelia::analytic {
+
+// 1 / tan² of a declination in degrees. Faults at 0.
+inline Valore QuadratoCotangente(Valore gradi) {
+    const Valore t = tan(Radianti(gradi));
+    return 1 / (t * t);
+}
+
+// The two roots of a z² + b z + c = 0, by the sign of the square root. reali is false, and the roots are nothing, when
+// the discriminant is negative; at a = 0 the roots have no value.
+struct Radici {
+    bool reali;
+    Valore meno, piu;
+};
+inline Radici RisolviQuadratica(Valore a, Valore b, Valore c) {
+    const Valore disc = b * b - 4 * a * c;
+    if (!(disc >= 0)) return {false, Valore::nessuno(), Valore::nessuno()};
+    const Valore radice = Sqr(disc);
+    return {true, (-b - radice) / (2 * a), (-b + radice) / (2 * a)};
+}
+
+// Frame (u, v): origin P where substyle and equinoctial meet, u along the equinoctial, v along the substyle towards the
+// centre. Frame (x, y) of the dial: origin at the foot of the ortostilo, x to the right, y upward. sigma is the substyle's angle
+// from the vertical, y0 the distance from foot to P; lengths in the unit of y0.
+class RiferimentoSustilare {
+public:
+    RiferimentoSustilare(Valore sigma, Valore y0) : cs_(cos(sigma)), ss_(sin(sigma)), y0_(y0) {}
+    [[nodiscard]] Valore x(Valore u, Valore v) const { return u * cs_ - (v - y0_) * ss_; }
+    [[nodiscard]] Valore y(Valore u, Valore v) const { return u * ss_ + (v - y0_) * cs_; }
+
+private:
+    Valore cs_, ss_, y0_;
+};
+
+// v² + Q v + R u² + P = 0 in the frame (u, v). A negative is a hyperbola, positive an ellipse. Both the declination and
+// its opposite satisfy it. A constant that faults keeps its value, 0 at birth.
+struct Conica {
+    Reale A, R, Q, P;
+
+    // m is 1 / tan² of the declination, epsilon the elevation of the style over the plane, radians; gn in any unit.
+    void calcola(Valore m, Valore epsilon, Valore gn) {
+        const Valore se = sin(epsilon), ce = cos(epsilon), obliqua = gn / ce;
+        A = se * se - m * (ce * ce);
+        R = 1 / A;
+        Q = -2 * gn * tan(epsilon) / A;
+        P = obliqua * obliqua / A;
+    }
+};
+
+// Ordinates of a conic at an abscissa, in the dial's frame. Made once a sweep.
+class OrdinateConica {
+public:
+    OrdinateConica(const Conica &k, Valore sigma, Valore y0) : R_(k.R), Q_(k.Q), P_(k.P), cr_(cos(-sigma)), sr_(sin(-sigma)) {
+        a_ = cr_ * cr_ + R_ * (sr_ * sr_);
+        b0_ = 2 * y0 * cr_;
+        b2_ = 2 * R_ * sr_;
+        b3_ = Q_ * cr_;
+        c0_ = y0 * y0;
+        c1_ = sr_ * sr_;
+        c2_ = 2 * y0;
+        c3_ = Q_ * y0;
+    }
+    [[nodiscard]] Radici operator()(Valore x) const {
+        const Valore xc = x * cr_;
+        const Valore b = b0_ + 2 * x * cr_ * sr_ - b2_ * xc + b3_;
+        const Valore c = c0_ + x * x * c1_ + c2_ * x * sr_ + R_ * (xc * xc) + c3_ + Q_ * x * sr_ + P_;
+        return RisolviQuadratica(a_, b, c);
+    }
+
+private:
+    Valore R_, Q_, P_, cr_, sr_;
+    Valore a_ = 0, b0_ = 0, b2_ = 0, b3_ = 0, c0_ = 0, c1_ = 0, c2_ = 0, c3_ = 0;
+};
+
+// Abscissas of a conic at the ordinate L, in the dial's frame.
+inline Radici AscisseConica(const Conica &k, Valore sigma, Valore y0, Valore L) {
+    const Valore ss = sin(sigma), cs = cos(sigma), R = k.R, Q = k.Q, P = k.P;
+    const Valore a = ss * ss + R * (cs * cs);
+    const Valore b = -2 * y0 * ss - 2 * L * ss * cs + 2 * R * L * cs * ss - Q * ss;
+    const Valore c = y0 * y0 + L * L * (cs * cs) + 2 * y0 * L * cs + R * (L * L) * (ss * ss) + Q * y0 + Q * L * cs + P;
+    return RisolviQuadratica(a, b, c);
+}
+
+}  // namespace ombrelia::analytic

@@ -1,0 +1,161 @@
+// Day lines of the analytic engine, point by point from their conics, and the solstices on the horizon.
+#include <array>
+
+#include "analytic/analitica.h"
+#include "analytic/conica.h"
+#include "core/conteggio.h"
+
+namespace ombrelia::analytic {
+
+namespace {
+
+// A day line in a sweep of abscissas; its ordinates keep their values where they fault.
+struct Diurna {
+    OrdinateConica ordinate;
+    Colore colore;
+    Reale meno, piu;
+
+    Diurna(const Variabili &v, Valore m, int colore_) : ordinate(conica(v, m), v.angSustilare, v.y0), colore(QB(colore_)) {}
+    void punto(Tavolo &t, double x) {
+        const Radici y = ordinate(x);
+        if (!y.reali) return;
+        meno = y.meno;
+        piu = y.piu;
+        t.xPset(x, -meno, colore, SENZA_STRATO);
+        t.xPset(x, -piu, colore, SENZA_STRATO);
+    }
+
+private:
+    static Conica conica(const Variabili &v, Valore m) {
+        Conica k;
+        k.calcola(m, v.altStilo, v.gn);
+        return k;
+    }
+};
+
+// The same at the equator, where another equation is used: symmetric about the horizontal through the foot, abscissa
+// turned round.
+struct DiurnaEquatore {
+    Valore m;
+    Colore colore;
+    Reale y;
+
+    DiurnaEquatore(Valore m_, int colore_) : m(m_), colore(QB(colore_)) {}
+    void punti(Tavolo &t, double x) const {
+        t.xPset(-x, -y, colore, SENZA_STRATO);
+        t.xPset(-x, y, colore, SENZA_STRATO);
+    }
+};
+
+class Equatore {
+public:
+    explicit Equatore(const Variabili &v)
+        : sd_(sin(v.decR)), cd_(cos(v.decR)), gc_(v.gn * cd_), gs_(v.gn * sd_), gst_(gs_ * tan(v.decR)), gsec_(v.gn / cd_) {}
+    // Whether the line has a point at x. The test and the ordinate are written in two ways, which agree but for rounding.
+    [[nodiscard]] bool esiste(DiurnaEquatore &l, double x) const {
+        const Valore xs = x * sd_, b = x * cd_ - gs_;
+        const Valore a = xs + gc_, a2 = xs - gst_ + gsec_;
+        if (!(l.m * (a * a) - b * b >= 0)) return false;
+        l.y = Sqr(l.m * (a2 * a2) - b * b);
+        return true;
+    }
+    static Conteggio ascisse() { return {-1, 1, 0.0005}; }
+
+private:
+    Valore sd_, cd_, gc_, gs_, gst_, gsec_;
+};
+
+bool paralleloAlPolo(const Variabili &v) { return v.dec == 0 || Abs(v.dec) == 180; }
+
+}  // namespace
+
+void TracciaLineaDiurnaScelta(Sessione &s) {
+    Variabili &v = s.v;
+    v.y0 = v.gn * tan(v.altStilo);
+    Reale m;  // stays 0 on the equinox, whose cotangent faults
+    m = QuadratoCotangente(v.deltaOpz);
+    if (v.lat != 0) {
+        Diurna linea(v, m, 9);
+        for (const double x : Conteggio(-1, 1, v.passo)) linea.punto(s.tavolo, x);
+    } else if (!paralleloAlPolo(v)) {
+        const Equatore equatore(v);
+        DiurnaEquatore linea(m, 9);
+        for (const double x : Equatore::ascisse())
+            if (equatore.esiste(linea, x)) linea.punti(s.tavolo, x);
+    }
+}
+
+void TracciaLineeDiurneAnalitiche(Sessione &s) {
+    Variabili &v = s.v;
+    v.y0 = v.gn * tan(v.altStilo);
+    // Not the 23.445 of the horizon: meant.
+    const Valore m2345 = QuadratoCotangente(23.45), m20 = QuadratoCotangente(20), m115 = QuadratoCotangente(11.5);
+    if (v.lat != 0) {
+        std::array linee{Diurna(v, m2345, 15), Diurna(v, m20, 14), Diurna(v, m115, 13)};
+        for (const double x : Conteggio(-1, 1, v.passo))
+            for (Diurna &linea : linee) linea.punto(s.tavolo, x);
+    } else if (!paralleloAlPolo(v)) {
+        const Equatore equatore(v);
+        DiurnaEquatore d2345(m2345, 2), d20(m20, 3), d115(m115, 4);
+        for (const double x : Equatore::ascisse()) {
+            // Each line only where those nearer the equinox exist; the innermost is drawn first.
+            if (!equatore.esiste(d115, x)) continue;
+            if (equatore.esiste(d20, x)) {
+                if (equatore.esiste(d2345, x)) d2345.punti(s.tavolo, x);
+                d20.punti(s.tavolo, x);
+            }
+            d115.punti(s.tavolo, x);
+        }
+    }
+}
+
+void CalcolaSolstiziOrizzonte(Sessione &s) {
+    Variabili &v = s.v;
+    const Reale L = Val(s.in.txtOriz);  // as typed, unscaled: meant
+    v.segnoDec = v.dec == 0 ? Valore(1) : Sgn(v.decR);
+    Reale xa, xb;
+    if (v.lat == 0) {
+        v.angSustilare = (PI / 2) * v.segnoDec;
+        v.altStilo = PI / 2 - Abs(v.decR);
+        v.angoloOra = (PI / 2) * v.segnoDec;
+    } else {
+        const Valore cl = cos(v.latR), cd = cos(v.decR);
+        v.angSustilare = Atn(sin(v.decR) / tan(v.latR));
+        v.altStilo = Atn(cl * cd / Sqr(1 - cd * cd * (cl * cl)));
+    }
+    if (v.lat == 0 && v.dec == 0) {
+        xa = v.gn / tan(Radianti(23.445));
+        xb = -v.gn / tan(Radianti(23.445));
+    } else {
+        v.y0 = v.gn * tan(v.altStilo);
+        Conica k;
+        k.calcola(QuadratoCotangente(23.445), v.altStilo, v.gn);
+        const Radici x = AscisseConica(k, v.angSustilare, v.y0, L);
+        if (x.reali) {
+            xa = x.piu;
+            xb = x.meno;
+        }
+    }
+
+    s.tavolo.ForeColor = QB(11);
+    s.Dati(s.Traduci("Ascisse delle intersezioni dei solstizi con l'orizzonte "), 0.1, -0.5);
+    s.Dati(Formato(xa / v.unita, "0.000000"), 0.1, -0.45);
+    s.Dati(Formato(xb / v.unita, "0.000000"), 0.1, -0.4);
+    s.tavolo.ForeColor = QB(15);
+    const struct {
+        std::string_view etichetta;
+        Valore valore;
+        double y;
+    } righe[] = {{"lat = ", Gradi(v.lat_o), -0.7}, {"d = ", Gradi(v.dec_o), -0.65}, {"i = ", Gradi(v.iz_o), -0.6}, {"gn = ", v.gn / v.unita, -0.55}};
+    for (const auto &riga : righe) {
+        s.Dati(s.Traduci(riga.etichetta), 0.1, riga.y);
+        s.Dati(Frase() << riga.valore, 0.15, riga.y);
+    }
+    if (v.inc_o == 90) return;
+    Reale ore12;
+    if (v.lat_o != 0) ore12 = Round(v.gn * tan(v.iz_o), 4) / v.unita;
+    s.Dati(s.Traduci(" ordinata ore 12 itabab"), 0.31, -0.35);
+    s.Dati(Frase() << ore12, 0.1, -0.35);
+}
+
+}  // namespace ombrelia::analytic

@@ -1,0 +1,66 @@
+// The analemma of the analytic engine: each day's conic met with the hour line of its mean noon.
+#include "analytic/analitica.h"
+#include "analytic/conica.h"
+#include "core/conteggio.h"
+#include "sessione/proiezione.h"
+
+namespace ombrelia::analytic {
+
+namespace {
+
+// Every second day from 80 degrees before the equinox to a year after it.
+Conteggio giorni() { return {-80, 360, 2 * (360 / 365.2422)}; }
+
+}  // namespace
+
+void TracciaLemniscataAnalitica(Sessione &s) {
+    Variabili &v = s.v;
+    if (v.flagVerticale == 1) v.lon = v.lonEq;
+    v.y0 = v.gn * tan(v.altStilo);
+    v.lonPiu15 = 15 + v.lon;
+    v.corrLong = v.lonPiu15 * PI / 180;
+
+    if (v.latR != 0 && v.dec == 0) {
+        // Due south the latitude is left out of the formula: meant.
+        Reale x, y;
+        for (const double l : giorni()) {
+            const SoleMedio sole = SoleAllaLongitudine(PI * l / 180);
+            const Valore tanQ = tan(-v.corrLong + sole.Et);
+            y = -v.gn / (tan(sole.D) * Sqr(tanQ * tanQ + 1));
+            x = -tanQ * y;
+            s.tavolo.xPset(-x, -y, QB(6), SENZA_STRATO);
+        }
+        return;
+    }
+
+    const Valore se = sin(v.altStilo), ce = cos(v.altStilo), ss = sin(v.angSustilare), cs = cos(v.angSustilare);
+    // angoloOra misses half a turn where the plane looks away from the equator's Sun, and at the equator.
+    const double verso = v.lat == 0 || v.altStilo < 0 ? -1 : 1;
+    const Valore t0 = v.angoloOra - v.corrLong, obliqua = v.gn / ce;
+    Conica k;
+    Reale m, r, h, p2, p1, p0, x, y, z;
+    r = v.gn / (se * ce);  // from P to the centre
+    for (const double l : giorni()) {
+        const SoleMedio sole = SoleAllaLongitudine(PI * l / 180);
+        const Valore tanD = tan(sole.D), hh = t0 + sole.Et;
+        m = 1 / (tanD * tanD);
+        h = obliqua * tan(hh);
+        k.calcola(m, v.altStilo, v.gn);
+        const Valore Rhh = k.R * (h * h);
+        p2 = r * r + Rhh;
+        p1 = (k.Q * r - 2 * Rhh) * r;
+        p0 = r * r * (Rhh + k.P);
+        const Radici v12 = RisolviQuadratica(p2, p1, p0);
+        if (!v12.reali) continue;
+        // One root is the Sun's own shadow, the other that of the opposite declination; the shadow's v tells which.
+        const Valore ombra = -v.gn * tanD / (ce * (ce * (verso * cos(hh)) - tanD * se));
+        const bool primo = Abs(v12.meno - ombra) < Abs(v12.piu - ombra);
+        z = primo ? v12.meno : v12.piu;
+        const Valore u = h * (1 - z / r);
+        x = u * cs - z * ss + v.y0 * ss;
+        y = u * ss + z * cs - v.y0 * cs;
+        s.tavolo.xPset(x, -y, QB(12), SENZA_STRATO);
+    }
+}
+
+}  // namespace ombrelia::analytic

@@ -1,0 +1,52 @@
+// Italic and Babylonian hour lines: tangents to the conic of the declination at which the Sun neither rises nor sets, and
+// that conic.
+#include "analytic/analitica.h"
+#include "analytic/conica.h"
+#include "core/conteggio.h"
+
+namespace ombrelia::analytic {
+
+namespace {
+
+// verso is the sign before the root of the tangent's slope: -1 from sunset, 1 from sunrise.
+void traccia(Sessione &s, double verso) {
+    Variabili &v = s.v;
+    Tavolo &tavolo = s.tavolo;
+    if (v.lat_o == 0) return;
+    v.latR = v.lat_o;  // stays so: meant
+    v.y0 = v.gn * tan(v.altStilo);
+    const Valore seno = sin(v.latR), T = tan(Atn(seno / Sqr(1 - seno * seno)));
+    Conica k;
+    k.calcola(T * T, v.altStilo, v.gn);
+    const Valore R = k.R, Q = k.Q, P = k.P;
+    const RiferimentoSustilare dial(v.angSustilare, v.y0);
+    const auto punto = [&](Valore u, Valore w, Colore colore) { tavolo.xPset(dial.x(u, w), -dial.y(u, w), colore, SENZA_STRATO); };
+
+    const Valore q4 = Q * Q / 4 - P, mezzo = -Q / 2;
+    for (const double u : Conteggio(-0.5, 0.5, v.passo / 100)) {
+        const Valore quadrato = q4 - R * (u * u);
+        if (!(quadrato >= 0)) continue;
+        const Valore radice = Sqr(quadrato);
+        punto(u, mezzo + radice, QB(5));
+        punto(u, mezzo - radice, QB(10));
+    }
+
+    const Valore obliqua = v.gn / cos(v.altStilo), t0 = v.angoloOra + v.diffLong;
+    Reale h, g, w;
+    for (const double a : Conteggio(-90, 90, 15)) {
+        h = obliqua * tan(t0 + a * PI / 180);
+        const Valore hh = h * h, RR = R * R, QQ = Q * Q;
+        g = (-2 * R * Q * h + verso * (2 * Sqr(RR * QQ * hh + R * P * QQ - 4 * R * (P * P) - 4 * RR * P * hh))) / (QQ - 4 * P - 4 * R * hh);
+        for (const double u : Conteggio(-1, 1, v.passo / 10)) {
+            w = g * (u - h);
+            punto(u, w, QB(15));
+        }
+    }
+}
+
+}  // namespace
+
+void TracciaItalicheAnalitiche(Sessione &s) { traccia(s, -1); }
+void TracciaBabilonicheAnalitiche(Sessione &s) { traccia(s, 1); }
+
+}  // namespace ombrelia::analytic

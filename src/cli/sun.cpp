@@ -1,0 +1,148 @@
+// The Sun and the wall's declination from options.
+#include "cli/sun.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <cstdio>
+
+#include "app/lingua.h"
+#include "core/file.h"
+#include "core/testo.h"
+#include "sun/letture.h"
+
+namespace ombrelia::cli {
+
+namespace {
+
+constexpr std::size_t LETTURE_MASSIME = 1U << 20;  // bytes of a file of readings
+
+using sun::DatiDeclinazione;
+
+struct Richiesta {
+    DatiDeclinazione dati;
+    std::string letture;
+    std::vector<std::string_view> date;  // options that were given
+    [[nodiscard]] bool data(std::string_view opzione) const { return std::find(date.begin(), date.end(), opzione) != date.end(); }
+};
+
+struct Opzione {
+    std::string_view nome, cosa;
+    bool perLetture;  // needed by a file of readings too
+    std::string (*leggi)(std::string_view testo, DatiDeclinazione &d);
+};
+constexpr std::array<Opzione, 5> NECESSARIE{{
+    {"--date", "a date, as in 2026-06-21", false, sun::LeggiData},
+    {"--time", "a time, UT, as in 9:40 or 9:40:30", false, sun::LeggiOra},
+    {"--lat", "degrees, North positive, as in 45.07", true,
+     [](std::string_view t, DatiDeclinazione &d) { return sun::LeggiNumero(t, -90, 90, d.lat); }},
+    {"--lon", "degrees, West positive, as in -7.68 for Turin", true,
+     [](std::string_view t, DatiDeclinazione &d) { return sun::LeggiNumero(t, -180, 180, d.lon); }},
+    {"--zone", "hours, West positive, as in -1 for Italy", false,
+     [](std::string_view t, DatiDeclinazione &d) { return sun::LeggiNumero(t, -15, 15, d.fuso); }},
+}};
+constexpr Opzione ANGOLO{"--angle", "degrees, as in -12.5", false,
+                         [](std::string_view t, DatiDeclinazione &d) { return sun::LeggiNumero(t, -180, 180, d.angolo); }};
+constexpr std::string_view LETTURE = "--readings", ESTATE = "--dst";
+
+int rifiuta(const std::string &motivo) {
+    std::fprintf(stderr, "ombrelia sun: %s\n", motivo.c_str());
+    return 2;
+}
+
+const Opzione *opzione(std::string_view nome) {
+    for (const Opzione &o : NECESSARIE)
+        if (o.nome == nome) return &o;
+    return nome == ANGOLO.nome ? &ANGOLO : nullptr;
+}
+
+std::string leggi(int argc, char **argv, Richiesta &r) {
+    for (int i = 0; i < argc; ++i) {
+        const std::string_view a = argv[i];
+        const Opzione *o = opzione(a);
+        if (a == ESTATE) r.dati.dst = true;
+        else if (!o && a != LETTURE) return "unknown option " + std::string(a) + "; see ombrelia sun --help";
+        if (r.data(a)) return std::string(a) + " stands twice";
+        r.date.push_back(a);
+        if (a == ESTATE) continue;
+        if (i + 1 >= argc) return std::string(a) + " needs " + std::string(o ? o->cosa : "a file");
+        const std::string valore = argv[++i];
+        if (!o) r.letture = valore;
+        else if (const std::string e = o->leggi(valore, r.dati); !e.empty()) return std::string(a) + ": " + e;
+    }
+    const bool molte = r.data(LETTURE);
+    for (const Opzione &o : NECESSARIE)
+        if ((!molte || o.perLetture) && !r.data(o.nome)) return std::string(o.nome) + " is missing: " + std::string(o.cosa);
+    if (molte)
+        for (const std::string_view n : {NECESSARIE[0].nome, NECESSARIE[1].nome, ANGOLO.nome})
+            if (r.data(n)) return std::string(n) + ": the file of --readings says that for each reading";
+    return {};
+}
+
+int singola(const DatiDeclinazione &dati) {
+    Dizionario dizionario;
+    dizionario.CaricaDizionario(app::LINGUA);
+    const sun::EsitoDeclinazione e = sun::Declinazione(dati, dizionario);
+    if (!e.errore.empty()) return rifiuta(e.errore);
+    std::string testo = e.rapporto + "\n";
+    std::erase(testo, '\r');
+    std::fwrite(testo.data(), 1, testo.size(), stdout);
+    if (Abs(dati.lat) == 90) std::fputs("ombrelia sun: at the poles the lines of sunrise and sunset mean nothing\n", stderr);
+    return 0;
+}
+
+std::string colonna(const std::string &testo, std::size_t larghezza) {
+    return std::string(larghezza - std::min(larghezza, testo.size()), ' ') + testo;
+}
+std::string gradi(double g) { return colonna(Formato(g, "0.000"), 11); }
+
+int molte(const Richiesta &r) {
+    std::string errore;
+    auto contenuto = LeggiFile(r.letture, LETTURE_MASSIME, &errore);
+    if (!contenuto) return rifiuta("--readings: " + errore);
+    const auto letture = sun::LeggiLetture(DaFile(std::move(*contenuto)), r.dati, errore);
+    if (!errore.empty()) return rifiuta(r.letture + ":" + errore);
+    if (letture.empty()) return rifiuta(r.letture + ": no reading; write lines of date, time and angle, as in 2026-06-21 9:40 -12.5");
+
+    std::vector<sun::EsitoDeclinazione> esiti;
+    std::vector<double> declinazioni;
+    for (const sun::Lettura &l : letture) {
+        esiti.push_back(sun::Declinazione(l.dati, {}));
+        if (!esiti.back().errore.empty()) return rifiuta(r.letture + ":" + std::to_string(l.riga) + ": " + esiti.back().errore);
+        declinazioni.push_back(esiti.back().declinazione.v);
+    }
+    const sun::Riassunto m = sun::Riassumi(declinazioni);
+
+    std::size_t larghezza = 0;
+    for (const sun::Lettura &l : letture) larghezza = std::max(larghezza, l.testo.size());
+    std::string t = colonna("", larghezza) + "  Sun azimuth   altitude  declination  from others\n";
+    for (std::size_t i = 0; i < letture.size(); ++i) {
+        t += letture[i].testo + std::string(larghezza - letture[i].testo.size(), ' ');
+        t += "  " + gradi(esiti[i].azimut.v) + gradi(esiti[i].altezza.v) + "  " + gradi(declinazioni[i]);
+        t += letture.size() > 1 ? "  " + gradi(m.distanze[i]) : "";
+        if (esiti[i].altezza < 0) t += "  the Sun is below the horizon";
+        t += '\n';
+    }
+    const std::string quante = std::to_string(letture.size());
+    t += "\nmean declination    " + gradi(m.media) + (m.media < 0 ? " East" : " West") + ", of " + quante + " readings\n";
+    if (letture.size() > 1) {
+        t += "standard deviation  " + gradi(m.scarto) + ", of their mean " +
+             Formato(m.scarto / std::sqrt(static_cast<double>(letture.size())), "0.000") + "\n";
+        t += "stands out          " + r.letture + ":" + std::to_string(letture[m.lontana].riga) + ": " + letture[m.lontana].testo + ", " +
+             Formato(m.distanze[m.lontana], "0.000") + " from the mean of the others: ";
+        if (m.stona) t += "measure it again\n";
+        else t += letture.size() < 3 ? "two readings can't tell which\n" : "no more than chance\n";
+    }
+    std::fwrite(t.data(), 1, t.size(), stdout);
+    return 0;
+}
+
+}  // namespace
+
+int Sun(int argc, char **argv) {
+    Richiesta r;
+    if (const std::string e = leggi(argc, argv, r); !e.empty()) return rifiuta(e);
+    return r.data(LETTURE) ? molte(r) : singola(r.dati);
+}
+
+}  // namespace ombrelia::cli

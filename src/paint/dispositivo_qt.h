@@ -1,0 +1,86 @@
+// The one device on a QPainter: screen, printer, PDF and pictures are all this class.
+#pragma once
+
+#include <QPainter>
+#include <QPolygonF>
+#include <QVector>
+#include <functional>
+#include <vector>
+
+#include "paint/tinte.h"
+#include "plot/dispositivo.h"
+#include "plot/tavolo.h"
+
+namespace ombrelia::paint {
+
+// How device units lie on a painter, in the painter's own units.
+struct Posa {
+    double fattore = 1;         // painter units of a device unit
+    double x0 = 0, y0 = 0;      // where the sheet's top left corner lies
+    double penna = 1;           // stroke of width 1
+    double punto = 1.5;         // diameter of a point
+    double corpo = 12;          // height of the letters
+    double tolleranza = 0.3;    // how far a line may be simplified
+    QRectF vista{};             // what lies outside is not painted; empty: everything is
+};
+
+class DispositivoQt final : public Dispositivo {
+public:
+    // The painter is open and outlives the device; its transform is not touched.
+    DispositivoQt(QPainter &pittore, Supporto supporto, const Posa &posa);
+    ~DispositivoQt() override { vuota(); }
+    DispositivoQt(const DispositivoQt &) = delete;
+    DispositivoQt &operator=(const DispositivoQt &) = delete;
+
+    // Begins a page of a document; called before the first stroke after NuovaPagina.
+    std::function<void()> voltaPagina;
+
+    // The window wipes its own sheet.
+    void Cls() override { vuota(); }
+    void Linea(double x1, double y1, double x2, double y2, Colore colore, int spessore) override;
+    // An outline whether filled or not: boxes are stroked with the surface's fill style, which is transparent; a filled
+    // frame would cover the dial.
+    void Riquadro(double x1, double y1, double x2, double y2, Colore colore, bool pieno) override;
+    void Punto(double x, double y, Colore colore) override;
+    void Cerchio(double x, double y, double raggio, Colore colore, Colore riempimento, double inizio, double fine,
+                 double aspetto) override;
+    void Testo(double x, double y, std::string_view testo, Colore colore) override;
+    void Tratteggio(bool si) override;
+    void NuovaPagina() override;
+    void FineDocumento() override { vuota(); }
+
+    // Puts out what is still held back.
+    void vuota();
+
+private:
+    [[nodiscard]] QPointF porta(double x, double y) const { return {x * posa_.fattore + posa_.x0, y * posa_.fattore + posa_.y0}; }
+    [[nodiscard]] bool fuori(const QPointF &a, const QPointF &b) const;
+    void prima(Colore colore, int spessore);
+    void aggiungi(const QPointF &p);
+    void vuotaLinea();
+    void vuotaPunti();
+    void pagina();
+    [[nodiscard]] QColor ink(Colore colore);
+    [[nodiscard]] QPen matita(Colore colore, double larghezza);
+
+    QPainter &pittore_;
+    Supporto supporto_;
+    Posa posa_;
+    bool tratteggio_ = false, paginaNuova_ = false;
+
+    // The line in hand: kept corners, the end that was held back, and what it is drawn with.
+    QPolygonF linea_;
+    QPointF fine_;
+    bool sospesa_ = false;
+    double dirX_ = 0, dirY_ = 0, apertura_ = 0;  // of the run since the last kept corner
+    Colore colore_ = 0;
+    int spessore_ = 1;
+    QPolygonF punti_;
+    Colore colorePunti_ = 0;
+    std::vector<std::pair<Colore, QColor>> inchiostri_;
+};
+
+// Paints a drawing from its list, without a wait cursor. The device the sheet had stays its own.
+void Dipingi(Tavolo &t, Dispositivo &d);
+
+}  // namespace ombrelia::paint

@@ -1,0 +1,19 @@
+// The notice, as the lines of its text box.
+#include "reports/rapporti.h"
+
+namespace ombrelia::reports {
+
+void MostraAvviso(Sessione &s) {
+    Foglio f(s, "Form5", Uscita::Schermo, nullptr);
+    std::string_view testo = s.testo(TrovaControllo("Form5.Text1"));
+    while (!testo.empty()) {
+        const std::size_t fine = std::min(testo.find('\n'), testo.size());
+        std::string_view riga = testo.substr(0, fine);
+        if (riga.ends_with('\r')) riga.remove_suffix(1);
+        f.riga({riga});
+        testo.remove_prefix(std::min(fine + 1, testo.size()));
+    }
+    f.consegna();
+}
+
+}  // namespace ombrelia::reports

@@ -1,0 +1,209 @@
+// A report given out: text in print zones, CSV, HTML.
+#include <cstdio>
+
+#include "reports/rapporti.h"
+
+namespace ombrelia::reports {
+
+namespace {
+
+constexpr std::size_t ZONA = 14;
+
+std::size_t caratteri(std::string_view utf8) {
+    return static_cast<std::size_t>(std::count_if(utf8.begin(), utf8.end(), [](char c) { return (c & 0xC0) != 0x80; }));
+}
+
+void aggiungiRiga(std::string &uscita, const RigaRapporto &riga) {
+    std::size_t colonna = 0;
+    std::size_t mancano = 0;  // blanks owed by the separator before the next item
+    for (const Elemento &e : riga.voci) {
+        if (!e.testo.empty()) {
+            uscita.append(mancano, ' ');
+            uscita += e.testo;
+            colonna += mancano + caratteri(e.testo);
+            mancano = 0;
+        }
+        const std::size_t qui = colonna + mancano;
+        if (e.dopo == Separatore::Zona) mancano += ZONA - qui % ZONA;
+        if (e.dopo == Separatore::Blank) mancano += static_cast<std::size_t>(std::max(e.blank, 0));
+    }
+}
+
+// All digits that a double holds for people: 15 would lose what the cell is there for.
+std::string pieno(double x) {
+    std::string t;
+    AggiungiNumero17(t, x);
+    return std::strtod(TestoNumero(x).c_str(), nullptr) == x ? TestoNumero(x) : t;
+}
+
+// A cell of CSV: quoted where it must be.
+void aggiungiCella(std::string &uscita, std::string_view testo) {
+    if (testo.find_first_of(",\"\r\n") == std::string_view::npos) {
+        uscita += testo;
+        return;
+    }
+    uscita += '"';
+    for (const char c : testo) {
+        if (c == '"') uscita += '"';
+        uscita += c;
+    }
+    uscita += '"';
+}
+
+void aggiungiCelle(std::string &uscita, const std::vector<std::string> &celle) {
+    for (std::size_t i = 0; i < celle.size(); ++i) {
+        if (i > 0) uscita += ',';
+        aggiungiCella(uscita, celle[i]);
+    }
+    uscita += "\r\n";
+}
+
+// A line of labelled values as cells: texts without their blanks, numbers whole.
+std::vector<std::string> celle(const RigaRapporto &riga) {
+    std::vector<std::string> c;
+    bool aperta = false;  // a text that the next text goes on
+    for (const Elemento &e : riga.voci) {
+        if (e.ornamento) continue;
+        if (e.numero) {
+            c.push_back(pieno(*e.numero));
+            aperta = false;
+        } else if (riga.genere == Genere::Dati) {
+            c.push_back(SenzaBlanks(e.testo));
+        } else if (aperta) {
+            c.back() += e.testo;
+        } else if (!SenzaBlanks(e.testo).empty()) {
+            c.push_back(e.testo);
+            aperta = true;
+        }
+    }
+    for (std::string &t : c) t = SenzaBlanks(t);
+    return c;
+}
+
+bool haNumeri(const RigaRapporto &riga) {
+    return std::any_of(riga.voci.begin(), riga.voci.end(), [](const Elemento &e) { return e.numero.has_value(); });
+}
+
+void aggiungiHtml(std::string &uscita, std::string_view testo) {
+    for (const char c : testo) {
+        switch (c) {
+            case '&': uscita += "&amp;"; break;
+            case '<': uscita += "&lt;"; break;
+            case '>': uscita += "&gt;"; break;
+            case '"': uscita += "&quot;"; break;
+            default: uscita += c; break;
+        }
+    }
+}
+
+std::string colore(Colore c) {
+    char t[16];
+    std::snprintf(t, sizeof t, "#%02x%02x%02x", c & 0xFF, (c >> 8) & 0xFF, (c >> 16) & 0xFF);
+    return t;
+}
+
+constexpr std::string_view STILE = R"(
+body { font: 15px/1.45 sans-serif; color: #000; background: #fff; margin: 2em auto; max-width: 72em; padding: 0 1em; }
+h1 { font-size: 1.3em; }
+h2 { font-size: 1.05em; margin: 1.6em 0 .4em; }
+pre { font: 13px/1.45 monospace; margin: 0; white-space: pre-wrap; }
+.t { overflow-x: auto; }
+table { border-collapse: collapse; font-variant-numeric: tabular-nums; }
+th, td { padding: .15em .7em; text-align: right; white-space: nowrap; }
+th { border-bottom: 2px solid #000; vertical-align: bottom; white-space: normal; }
+td { border-bottom: 1px solid #ccc; }
+tbody tr:nth-child(even) { background: #f4f4f4; }
+@media print { body { margin: 0; max-width: none; } table { font-size: 11px; } tr { break-inside: avoid; } }
+)";
+
+void apriTabella(std::string &h, const TabellaRapporto &t, Colore c) {
+    if (!t.titolo.empty()) {
+        h += "<h2>";
+        aggiungiHtml(h, SenzaBlanks(t.titolo));
+        h += "</h2>\n";
+    }
+    h += "<div class=\"t\"><table style=\"color:" + colore(c) + "\">\n<thead><tr>";
+    for (const std::string &n : t.colonne) {
+        h += "<th>";
+        aggiungiHtml(h, n);
+        h += "</th>";
+    }
+    h += "</tr></thead>\n<tbody>\n";
+}
+
+}  // namespace
+
+std::string RapportoTesto(const Rapporto &r) {
+    std::string t;
+    for (const RigaRapporto &riga : r.righe) {
+        aggiungiRiga(t, riga);
+        t += '\n';
+    }
+    return t;
+}
+
+std::string RapportoCsv(const Rapporto &r) {
+    std::string t;
+    aggiungiCelle(t, {SenzaBlanks(r.caption)});
+    int aperta = -2;  // the table that the last line belongs to; -1 is that of labelled values
+    for (const RigaRapporto &riga : r.righe) {
+        if (riga.tabella < 0 && !haNumeri(riga)) continue;
+        if (riga.tabella != aperta) {
+            t += "\r\n";
+            aperta = riga.tabella;
+            if (aperta >= 0) {
+                const TabellaRapporto &tabella = r.tabelle[static_cast<std::size_t>(aperta)];
+                if (!tabella.titolo.empty()) aggiungiCelle(t, {SenzaBlanks(tabella.titolo)});
+                aggiungiCelle(t, tabella.colonne);
+            }
+        }
+        if (riga.tabella < 0 || riga.genere == Genere::Dati) aggiungiCelle(t, celle(riga));
+    }
+    return t;
+}
+
+std::string RapportoHtml(const Rapporto &r) {
+    std::string h = "<!DOCTYPE html>\n<html>\n<head>\n<meta charset=\"utf-8\">\n<meta name=\"viewport\" content=\"width=device-width\">\n<title>";
+    aggiungiHtml(h, SenzaBlanks(r.caption));
+    h += "</title>\n<style>";
+    h += STILE;
+    h += "</style>\n</head>\n<body>\n<h1>";
+    aggiungiHtml(h, SenzaBlanks(r.caption));
+    h += "</h1>\n";
+    int aperta = -1;
+    const auto chiudi = [&] {
+        if (aperta >= 0) h += "</tbody>\n</table></div>\n";
+        aperta = -1;
+    };
+    for (const RigaRapporto &riga : r.righe) {
+        if (riga.tabella >= 0) {
+            if (riga.tabella != aperta) {
+                chiudi();
+                aperta = riga.tabella;
+                apriTabella(h, r.tabelle[static_cast<std::size_t>(aperta)], riga.colore);
+            }
+            if (riga.genere != Genere::Dati) continue;
+            h += "<tr>";
+            for (const Elemento &e : riga.voci) {
+                if (e.ornamento) continue;
+                h += "<td>";
+                aggiungiHtml(h, SenzaBlanks(e.testo));
+                h += "</td>";
+            }
+            h += "</tr>\n";
+            continue;
+        }
+        if (riga.voci.empty() && aperta >= 0) continue;  // blank lines within a table's head
+        chiudi();
+        h += "<pre style=\"color:" + colore(riga.colore) + "\">";
+        std::string testo;
+        aggiungiRiga(testo, riga);
+        aggiungiHtml(h, testo.empty() ? " " : testo);
+        h += "</pre>\n";
+    }
+    chiudi();
+    h += "</body>\n</html>\n";
+    return h;
+}
+
+}  // namespace ombrelia::reports

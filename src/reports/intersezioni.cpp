@@ -1,0 +1,136 @@
+// Where the hour lines meet the day lines, by spherical trigonometry and by analytic geometry.
+#include "analytic/analitica.h"
+#include "analytic/conica.h"
+#include "reports/rapporti.h"
+#include "sessione/proiezione.h"
+
+namespace ombrelia::reports {
+
+namespace {
+
+using analytic::Conica;
+
+constexpr double OBLIQUITA = 23.445;
+
+const Trilingue LINEE{"                                                            linea diurna invernale                        linea diurna estiva",
+                      "                                                            arc diurne d'hiver                               arc diurne d'été",
+                      "                                                            winter daylight arc                              summer daylight arc "};
+const Trilingue TESTE{" ora                            A.0.                     ascissa                ordinata                   ascissa                ordinata  ",
+                      " heure                       A.H.                     abscisse               ordonnée                   ascissa                ordinata  ",
+                      " hour                          H.A.                     abscissa               ordinate                   abscissa               ordinate  "};
+
+// Names for exports: the columns under each of the two day lines are told apart by its name.
+std::vector<std::string> colonne(const Sessione &s) {
+    std::vector<std::string> nomi = Colonne(s, TESTE);
+    const std::vector<std::string> linee = Colonne(s, LINEE);
+    for (std::size_t i = 2; i < 6; ++i) nomi[i] += ", " + linee[(i - 2) / 2];
+    nomi.emplace_back("delta");
+    return nomi;
+}
+
+Elemento quattro(Valore x) { return Fmt(x, "0.0000"); }
+
+void sferica(Sessione &s, Uscita uscita) {
+    Variabili &v = s.v;
+    const Valore inizio = Val(s.in.TxtInizio), fine = Val(s.in.TxtFine);
+    if (TroppeRighe(s, inizio, fine, Val(s.in.TxtFraz), 5)) return;
+    v.oraFuso = s.in.ck_Etna == 1 ? 1 : 0;
+    LeggiParametri(s);
+    Foglio f(s, "Form6", uscita, StampaInterSferica);
+    v.unita = s.in.ChCentimetro == 1 ? 0.001 : 1.0;
+    const Valore cL = v.lonPiu15 * v.oraFuso * (v.latR == 0 ? Valore(1) : Sgn(v.latR));  // degrees
+
+    f.etichetta(" Trigonometria sferica - Trigonometrie spherique - Spherical trigonometry");
+    f.vuota();
+    const auto tabella = [&](Valore delta) { f.tabella("delta = +/- " + TestoNumero(delta.v), colonne(s)); };
+    // The last one is worked for the declinations of the third and only labelled otherwise: meant.
+    const Reale scelta = Val(s.in.txtDelta);
+    const struct {
+        double delta;
+        Valore scritta;
+    } tabelle[] = {{OBLIQUITA, OBLIQUITA}, {20, 20}, {11.5, 11.5}, {0, 0}, {11.5, scelta}};
+    tabella(OBLIQUITA);
+    f.titoli(LINEE);
+    f.vuota();
+    f.intestazioni(TESTE);
+    f.vuota();
+    const Proiezione proietta = Proiezione::delPiano(v.latR, v.decR, v.incR, v.gn, 1);
+    Reale xa, ya, xb, yb;
+    bool prima = true;
+    for (const auto &t : tabelle) {
+        if (!prima) {
+            f.vuota();
+            tabella(t.scritta);
+        }
+        prima = false;
+        for (const double V : Conteggio(180 - 15 * fine, 180 - 15 * inizio, 15 / v.fraz)) {
+            const Valore a = (V - cL) * PI / 180;
+            proietta(a, Radianti(-t.delta), xa, ya);
+            proietta(a, Radianti(t.delta), xb, yb);
+            f.dati({Fmt(12 + Valore(V) / 15, "00.00"), Zona(), Fmt(V - cL, "00.00"), Zona(), quattro(xa), Zona(), quattro(ya),
+                    Zona(), quattro(xb), Zona(), quattro(yb), Zona(), Ornamento("delta = "), Numero(t.scritta)});
+        }
+    }
+    f.chiudi();
+}
+
+void analitica(Sessione &s, Uscita uscita) {
+    Variabili &v = s.v;
+    const Valore inizio = Val(s.in.TxtInizio), fine = Val(s.in.TxtFine);
+    if (TroppeRighe(s, inizio, fine, Val(s.in.TxtFraz), 4)) return;
+    analytic::CalcolaAngoliAnalitici(s);
+    Foglio f(s, "Form7", uscita, StampaInterAnalitica);
+    const Reale seno = sin(v.decR) * cos(v.incR) / cos(v.altStilo);
+    v.angoloOra = ArcSin(seno) + ((15 + v.lonCopia) * PI / 180) * v.oraFuso;
+    v.y0 = v.gn * tan(v.altStilo);
+
+    f.etichetta(" Geometria Analitica ");
+    const auto tabella = [&](Valore delta) { f.tabella("delta = +/- " + TestoNumero(delta.v), colonne(s)); };
+    const Valore tabelle[] = {v.deltaOpz, 20, 11.5, 0};
+    const analytic::RiferimentoSustilare quadro(v.angSustilare, v.y0);
+    Conica k;
+    Reale m, h, q, x1, y1, x2, y2;
+    bool prima = true;
+    for (const Valore &delta : tabelle) {
+        if (!prima) f.vuota();
+        tabella(delta);
+        if (prima) {
+            f.titoli(LINEE);
+            f.intestazioni(TESTE);
+        }
+        const bool equinozio = &delta == &tabelle[3];
+        prima = false;
+        m = analytic::QuadratoCotangente(delta);
+        k.calcola(m, v.altStilo, v.gn);
+        for (const double V : Conteggio(180 - 15 * fine, 180 - 15 * inizio, 15 / v.fraz)) {
+            const Valore t = V * PI / 180;
+            h = (v.gn / cos(v.altStilo)) * tan(v.angoloOra + t);
+            q = sin(v.altStilo) * tan(v.angoloOra + t);
+            const Valore a = equinozio ? Valore(1) : 1 + k.R * (q * q);
+            const Valore b = equinozio ? Valore(0) : k.Q - 2 * k.R * h * q;
+            const Valore c = equinozio ? Valore(0) : k.P + k.R * (h * h);
+            const analytic::Radici r = analytic::RisolviQuadratica(a, b, c);
+            if (r.reali) {
+                const Valore u1 = -(h - r.piu * q), u2 = -(h - r.meno * q);
+                x1 = quadro.x(u1, r.piu);
+                y1 = quadro.y(u1, r.piu);
+                x2 = quadro.x(u2, r.meno);
+                y2 = quadro.y(u2, r.meno);
+            }
+            f.dati({Fmt(12 - Valore(V) / 15, "00.00"), Zona(), Fmt(-Valore(V) - v.lonPiu15 * v.oraFuso, "00.0000"), Zona(),
+                    Taglio4(x1), Zona(), Taglio4(y1), Zona(), Taglio4(x2), Zona(), Taglio4(y2), Zona(), Ornamento("delta = "),
+                    Numero(delta)});
+        }
+    }
+    s.in.OptInter = 0;
+    f.chiudi();
+}
+
+}  // namespace
+
+void MostraInterSferica(Sessione &s) { sferica(s, Uscita::Schermo); }
+void StampaInterSferica(Sessione &s) { sferica(s, Uscita::Stampa); }
+void MostraInterAnalitica(Sessione &s) { analitica(s, Uscita::Schermo); }
+void StampaInterAnalitica(Sessione &s) { analitica(s, Uscita::Stampa); }
+
+}  // namespace ombrelia::reports

@@ -1,0 +1,230 @@
+// Hours from sunset, from sunrise and twelfths of the day: an hour line is taken straight through its two solstice points.
+#include <functional>
+
+#include "reports/rapporti.h"
+#include "sessione/proiezione.h"
+
+namespace ombrelia::reports {
+
+namespace {
+
+constexpr double OBLIQUITA = 23.445;
+
+enum class Ora : std::uint8_t { Italica, Babilonica, Temporaria };
+
+struct Testi {
+    std::string_view modulo;
+    void (*stampa)(Sessione &);
+    // Titles and heads of the table of solstices, then of those of chosen lines; Italian, French, English.
+    std::array<std::string_view, 3> titoloSolstizi, testaSolstizi, titoloRette, testaRette;
+};
+
+const Testi &testi(Ora ora) {
+    static const Testi tutti[] = {
+        {"Form9",
+         StampaItaliche,
+         {"COORDINATE CARTESIANE DEGLI INTERCETTI DELLE RETTE ORARIE Italiche con le linee diurne dei SOLSTIZI.",
+          "Coordonnées rectangulaires des points d'intersection des droites horaires italiques avec les lignes des solstices.",
+          "Rectangular coordinates of the intercepts of the Italic hour lines with the curves of the solstices"},
+         {"ora italica           ascissa i              ordinata i              ascissa e            ordinata e",
+          "heure italique    abscisse h         ordonnée h              abscisse é           ordonnée é",
+          "Italic hour           abscissa w             ordinate w              abscissa s           ordinate s"},
+         {"COORDINATE CARTESIANE DEGLI INTERCETTI DELLE RETTE ORARIE italiche con rette a piacere.",
+          "Coordonnées rectangulaires des points d'intersection des lignes horaires italiques avec droites au choix.",
+          "Rectangular coordinates of the intercepts of Italic hour lines with optional straight lines."},
+         {"ora italica           ascissa               ordinata               ordinata            ascissa",
+          "heure italique    abscisse h         ordonnée h               ordonnée               abscisse ",
+          "Italic hour           abscissa               ordinate               ordinate            abscissa"}},
+        {"Form4",
+         StampaBabiloniche,
+         {"COORDINATE CARTESIANE DEGLI INTERCETTI DELLE RETTE ORARIE Babiloniche con le linee diurne dei SOLSTIZI.",
+          "Coordonnées rectangulaires des points d'intersection des droites horaires babyloniques avec les lignes des solstices.",
+          "Rectangular coordinates of the intercepts of the Babylonic hour lines with the curves of the solstices"},
+         {"ora babilonica        ascissa i         ordinata i            ascissa e            ordinata e",
+          "heure babylonique     abscisse h        ordonnée h            abscisse é           ordonnée e",
+          "Babylonic hour        abscissa w        ordinate w            abscissa s           ordinat s"},
+         {"COORDINATE CARTESIANE DEGLI INTERCETTI DELLE RETTE ORARIE babiloniche con rette a piacere.",
+          "Coordonnées rectangulaires des points d'intersection des lignes horaires babyloniques avec droites au choix.",
+          "Rectangular coordinates of the intercepts of Babylonic hour lines with optional straight lines."},
+         {"ora babilonica           ascissa               ordinata               ordinata            ascissa",
+          "heure babylonique    abscisse h         ordonnée h               ordonnée               abscisse ",
+          "Babylonic hour           abscissa               ordinate               ordinate            abscissa"}},
+        {"Form3",
+         StampaTemporarie,
+         {},
+         {},
+         {"COORDINATE DEGLI INTERCETTI DELLE RETTE ORARIE Temporarie CON RETTE A PIACERE, PER ESEMPIO I BORDI DEL QUADRO.",
+          "Coordonnées des intersections des lignes horaires temporaires avec des droites au choix, par exemple les bords du cadre.",
+          "Coordinates of the intercepts of the temporary hour lines with straight lines, for example the edges of the pattern."},
+         {"ora temp               ascissa                ordinata                ordinata               ascissa ",
+          "heure temp          abscisse                ordonnée                ordonnée               abscisse ",
+          "temp hour              abscissa               ordinate                ordinate               abscissa "}},
+    };
+    return tutti[static_cast<std::size_t>(ora)];
+}
+
+// The two solstice points of a line: a at the winter one, b at the summer one.
+struct Punti {
+    Reale xa, ya, xb, yb;
+};
+
+// Runs through the lines of a report, what one line computes carried to the next.
+class Linee {
+public:
+    Linee(Variabili &v, Ora ora) : v_(v), ora_(ora), proietta_(Proiezione::delPiano(v.latR, v.decR, v.incR, v.gn, 1)) {}
+
+    // The solstice points of the line V.
+    const Punti &operator()(double V) {
+        punto(V, -OBLIQUITA, p_.xa, p_.ya);
+        punto(V, OBLIQUITA, p_.xb, p_.yb);
+        if (ora_ != Ora::Temporaria) v_.deltaOpz = OBLIQUITA;
+        return p_;
+    }
+
+private:
+    void punto(double V, double delta, Reale &x, Reale &y) {
+        const Valore d = Radianti(delta);
+        H_ = PI / 2 - ArcSin(-tan(v_.lat_o) * tan(d));
+        switch (ora_) {
+            case Ora::Italica: a_ = Valore(V) * PI / 12 + H_ - 2 * PI + v_.diffLong; break;
+            case Ora::Babilonica: a_ = Valore(V) * PI / 12 - H_ + v_.diffLong; break;
+            case Ora::Temporaria: a_ = H_ * (Valore(V) / 6 - 1) + v_.diffLong; break;
+        }
+        proietta_(Valore(a_), d, x, y);
+    }
+
+    Variabili &v_;
+    Ora ora_;
+    Proiezione proietta_;
+    Reale H_, a_;
+    Punti p_;
+};
+
+// What a row shows in the place of an ordinate or abscissa; empty for the number itself.
+struct Speciale {
+    std::string_view ordinata, ascissa;
+};
+
+Elemento quattro(Valore x) { return Fmt(x, "0.0000"); }
+
+Trilingue trilingue(const std::array<std::string_view, 3> &t) { return {std::string(t[0]), std::string(t[1]), std::string(t[2])}; }
+
+void testata(Sessione &s, Foglio &f, const std::array<std::string_view, 3> &titoli, const std::array<std::string_view, 3> &teste,
+             const std::string &rette) {
+    f.vuota();
+    f.tabella(std::string(titoli[Lingua(s)]) + rette, Colonne(s, trilingue(teste)));
+    f.titoli(trilingue(titoli));
+    f.vuota();
+    f.intestazioni(trilingue(teste));
+}
+
+// The tables against (x0, y0) and (x1, y1).
+void tabelleRette(Sessione &s, Foglio &f, const Testi &t, Linee &linee, const Conteggio &ore,
+                  const std::function<Speciale(double)> &speciale) {
+    const Variabili &v = s.v;
+    Reale ordinata, ascissa;
+    for (const bool prima : {true, false}) {
+        const Valore xs = prima ? v.x0 : v.x1, ys = prima ? v.y0 : v.y1;
+        testata(s, f, t.titoloRette, t.testaRette, " x = " + TestoNumero(xs.v) + ", y = " + TestoNumero(ys.v));
+        for (const double V : ore) {
+            const Punti &p = linee(V);
+            ordinata = (xs - p.xa) * (p.yb - p.ya) / (p.xb - p.xa) + p.ya;
+            ascissa = (ys - p.ya) * (p.xb - p.xa) / (p.yb - p.ya) + p.xa;
+            const Speciale e = speciale(V);
+            f.dati({Fmt(V, "00.00"), Zona(), quattro(xs), Zona(), e.ordinata.empty() ? quattro(ordinata) : Elemento(e.ordinata),
+                    Zona(), quattro(ys), Zona(), e.ascissa.empty() ? quattro(ascissa) : Elemento(e.ascissa)});
+        }
+    }
+}
+
+void latitudini(Variabili &v, Foglio &f) {
+    const auto riga = [&](std::string_view nome, Valore lat, Valore dec, Valore inc) {
+        f.riga({nome, Spc(2), Numero(Round(Gradi(lat), 4)), Zona(), Numero(Round(dec, 4)), Zona(), Numero(Gradi(inc))});
+    };
+    riga("lat", v.latR, v.dec, v.incR);
+    riga("lat_o", v.lat_o, Gradi(v.dec_o), v.iz_o);
+}
+
+// A horizontal plane that was transformed comes back.
+void ripristinaOrizzontale(Variabili &v) {
+    if (Gradi(v.iz_o) != 90 || v.incR != 0) return;
+    v.latR = v.lat_o;
+    v.decR = 0;
+    v.incR = PI / 2;
+}
+
+void italicheBabiloniche(Sessione &s, Uscita uscita, Ora ora) {
+    Variabili &v = s.v;
+    if (TroppeRighe(s, Val(s.in.TxtInizio), Val(s.in.TxtFine), Val(s.in.TxtFraz), 3)) return;
+    LeggiParametri(s);
+    const Testi &t = testi(ora);
+    Foglio f(s, t.modulo, uscita, t.stampa);
+    s.in.OptIta = 0;
+    s.in.OptBab = 0;
+    ripristinaOrizzontale(v);
+    Valore da = Val(s.in.TxtInizio), a = Val(s.in.TxtFine);
+    if (Gradi(v.incR) == 90) {
+        v.decR = 0;
+        da = 12;
+        a = 22;
+    }
+    const Conteggio ore(da, a, 1 / v.fraz);
+    testata(s, f, t.titoloSolstizi, t.testaSolstizi, {});
+    Linee linee(v, ora);
+    for (const double V : ore) {
+        const Punti &p = linee(V);
+        f.dati({Fmt(V, "00.00"), Zona(), quattro(p.xa), Zona(), quattro(p.ya), Zona(), quattro(p.xb), Zona(), quattro(p.yb)});
+    }
+    tabelleRette(s, f, t, linee, ore, [](double V) { return V == 24 ? Speciale{"0", "inf"} : Speciale{}; });
+    latitudini(v, f);
+    f.chiudi();
+}
+
+void temporarie(Sessione &s, Uscita uscita) {
+    Variabili &v = s.v;
+    if (TroppeRighe(s, 0, 11, Val(s.in.TxtFraz), 2)) return;
+    LeggiParametri(s);
+    Foglio f(s, "Form3", uscita, StampaTemporarie);
+    s.in.OptTEMP = 0;
+    ripristinaOrizzontale(v);
+    if (v.lat_o == 0) {
+        f.chiudi();
+        return;
+    }
+    const bool orizzontale = Gradi(v.iz_o) == 90;
+    if (orizzontale) {
+        v.angoloOra = 0;
+        v.decR = 0;
+        f.riga({f.schermo() ? "iz0 = 90" : "iz_o = 90"});
+    }
+    // Sunrise and sunset are the horizon, which has no abscissa at an ordinate; noon is upright and has no ordinate.
+    const bool nonTrasformato = Gradi(v.latR) == Gradi(v.lat_o);
+    const auto speciale = [nonTrasformato](double V) {
+        return V == 6 ? Speciale{"inf", {}} : nonTrasformato && (V == 0 || V == 12) ? Speciale{{}, "inf"} : Speciale{};
+    };
+    Linee linee(v, Ora::Temporaria);
+    const Conteggio ore = orizzontale ? Conteggio(1, 11, 1) : Conteggio(0, 4, 1 / v.fraz);
+    tabelleRette(s, f, testi(Ora::Temporaria), linee, ore, speciale);
+    latitudini(v, f);
+    f.vuota();
+    for (const std::string_view riga :
+         {"Si ricorda che i dati numerici sono stati ottenuti considerando rette le linee orarie. ",
+          "L'errore che si commette è comunque irrilevante ai fini pratici.",
+          "On rappel que les données numériques ont été obtenues en considérant droites les lignes horaires.",
+          "L'erreur commis est en pratique de toute façon insignifiant.",
+          "Let me remind you that the numerical data have been obtained considering straight the hour lines. ",
+          "The error is, in any case, irrelevant."})
+        f.riga({riga});
+    f.chiudi(orizzontale ? "Lia Berna 220408 " : "");
+}
+
+}  // namespace
+
+void MostraItaliche(Sessione &s) { italicheBabiloniche(s, Uscita::Schermo, Ora::Italica); }
+void StampaItaliche(Sessione &s) { italicheBabiloniche(s, Uscita::Stampa, Ora::Italica); }
+void MostraBabiloniche(Sessione &s) { italicheBabiloniche(s, Uscita::Schermo, Ora::Babilonica); }
+void StampaBabiloniche(Sessione &s) { italicheBabiloniche(s, Uscita::Stampa, Ora::Babilonica); }
+void MostraTemporarie(Sessione &s) { temporarie(s, Uscita::Schermo); }
+void StampaTemporarie(Sessione &s) { temporarie(s, Uscita::Stampa); }
+
+}  // namespace ombrelia::reports

@@ -34,8 +34,9 @@ void TracciaLemniscataAnalitica(Sessione &s) {
     }
 
     const Valore se = sin(v.altStilo), ce = cos(v.altStilo), ss = sin(v.angSustilare), cs = cos(v.angSustilare);
-    // angoloOra misses half a turn where the plane looks away from the equator's Sun, and at the equator.
-    const double verso = v.lat == 0 || v.altStilo < 0 ? -1 : 1;
+    // angoloOra misses half a turn where the plane looks away from the equator's Sun, and at the equator. The sign of
+    // altStilo would not do: at the pole it is that of a rounding.
+    const double verso = v.lat == 0 || cos(v.decR) < 0 ? -1 : 1;
     const Valore t0 = v.angoloOra - v.corrLong, obliqua = v.gn / ce;
     Conica k;
     Reale m, r, h, p2, p1, p0, x, y, z;

@@ -15,7 +15,10 @@ void traccia(Sessione &s, double verso) {
     if (v.lat_o == 0) return;
     v.latR = v.lat_o;  // stays so: meant
     v.y0 = v.gn * tan(v.altStilo);
-    const Valore seno = sin(v.latR), T = tan(Atn(seno / Sqr(1 - seno * seno)));
+    const Valore seno = sin(v.latR);
+    Reale phi;  // stays 0 at the pole, whose arc sine faults
+    phi = Atn(seno / Sqr(1 - seno * seno));
+    const Valore T = tan(phi);
     Conica k;
     k.calcola(T * T, v.altStilo, v.gn);
     const Valore R = k.R, Q = k.Q, P = k.P;
@@ -32,15 +35,13 @@ void traccia(Sessione &s, double verso) {
     }
 
     const Valore obliqua = v.gn / cos(v.altStilo), t0 = v.angoloOra + v.diffLong;
-    Reale h, g, w;
+    Reale h, g;
     for (const double a : Conteggio(-90, 90, 15)) {
         h = obliqua * tan(t0 + a * PI / 180);
         const Valore hh = h * h, RR = R * R, QQ = Q * Q;
         g = (-2 * R * Q * h + verso * (2 * Sqr(RR * QQ * hh + R * P * QQ - 4 * R * (P * P) - 4 * RR * P * hh))) / (QQ - 4 * P - 4 * R * hh);
-        for (const double u : Conteggio(-1, 1, v.passo / 10)) {
-            w = g * (u - h);
-            punto(u, w, QB(15));
-        }
+        const Valore pendenza = g, piede = h;
+        for (const double u : Conteggio(-1, 1, v.passo / 10)) punto(u, pendenza * (u - piede), QB(15));
     }
 }
 

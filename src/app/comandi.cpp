@@ -18,7 +18,7 @@ const Controllo &riga(IdControllo id) { return TavolaControlli()[static_cast<std
 class Registro {
 public:
     Registro() {
-        for (const auto gestori : {GestoriPrincipale(), GestoriTavolo(), GestoriFile(), GestoriSole()})
+        for (const auto gestori : {GestoriPrincipale(), GestoriTavolo(), GestoriRapporti(), GestoriFile(), GestoriSole(), GestoriMappa()})
             for (const Gestore &g : gestori)
                 for (const Controllo &c : ControlliDi(g.modulo))
                     if (c.nome == g.nome) azioni_[chiave(IdDi(c), g.evento)] = g.azione;
@@ -91,12 +91,29 @@ void Avvia(Sessione &s) {
 Esito Imposta(Sessione &s, IdControllo id, const std::string &testo) {
     const Classe classe = riga(id).classe;
     if (classe == Classe::Elenco) return s.stato(id).abilitato ? ScegliVoce(s, id, testo) : Esito::Disabilitato;
-    if (classe != Classe::Testo) return Esito::Impossibile;
+    const Esito esito = Entra(s, id);
+    if (esito != Esito::Fatto) return esito;
+    Cambia(s, id, testo);
+    return Lascia(s, id);
+}
+
+namespace {
+
+Esito conCasella(Sessione &s, IdControllo id, void (*azione)(Sessione &, IdControllo, const std::string &), const std::string &testo) {
+    if (riga(id).classe != Classe::Testo) return Esito::Impossibile;
     if (!s.stato(id).abilitato) return Esito::Disabilitato;
-    avvisa(s, id, Evento::Entrata);
-    cambiaTesto(s, id, testo);
-    avvisa(s, id, Evento::Uscita);
+    azione(s, id, testo);
     return Esito::Fatto;
+}
+
+}  // namespace
+
+Esito Entra(Sessione &s, IdControllo id) {
+    return conCasella(s, id, [](Sessione &q, IdControllo i, const std::string &) { avvisa(q, i, Evento::Entrata); }, {});
+}
+Esito Cambia(Sessione &s, IdControllo id, const std::string &testo) { return conCasella(s, id, cambiaTesto, testo); }
+Esito Lascia(Sessione &s, IdControllo id) {
+    return conCasella(s, id, [](Sessione &q, IdControllo i, const std::string &) { avvisa(q, i, Evento::Uscita); }, {});
 }
 
 Esito Digita(Sessione &s, IdControllo id, std::string_view tasti) {

@@ -28,6 +28,10 @@ void Avvia(Sessione &s);
 // Enters a text box, gives it the text, leaves it; in a list selects the entry. Impossibile for a control that holds
 // no text, or a list without that entry.
 Esito Imposta(Sessione &s, IdControllo id, const std::string &testo);
+// The same in a window's three moments: the box is entered, its text changes, it is left.
+Esito Entra(Sessione &s, IdControllo id);
+Esito Cambia(Sessione &s, IdControllo id, const std::string &testo);
+Esito Lascia(Sessione &s, IdControllo id);
 // Sends keys through the control's filter, appended to what stands in the box.
 Esito Digita(Sessione &s, IdControllo id, std::string_view tasti);
 // Gives a check box its value; the click handler runs when the value changes.
@@ -54,7 +58,9 @@ void cmdRun(Sessione &s);
 // The handlers of each form, for the dispatch.
 std::span<const Gestore> GestoriPrincipale();
 std::span<const Gestore> GestoriTavolo();
+std::span<const Gestore> GestoriRapporti();
 std::span<const Gestore> GestoriSole();
+std::span<const Gestore> GestoriMappa();
 std::span<const Gestore> GestoriFile();
 
 }  // namespace ombrelia::app

@@ -40,7 +40,7 @@ void inSessagesimali(Sessione &s, const Angolo &a) {
     testo(s, a.gradi) = TestoNumero(Abs(parti.gradi).v);
     testo(s, a.primi) = TestoNumero(Abs(parti.primi).v);
     testo(s, a.secondi) = Formato(Abs(parti.secondi), "0.0000");
-    s.stato(a.segno).caption = v >= 0 ? "+" : "-";
+    s.stato(a.segno).caption.assign(1, v >= 0 ? '+' : '-');
 }
 
 void inDecimali(Sessione &s, const Angolo &a) {
@@ -61,7 +61,7 @@ void sessagesimale_LostFocus(Sessione &s, int) {
 void cmdSign_Click(Sessione &s, int indice) {
     const Angolo &a = ANGOLI[static_cast<std::size_t>(indice)];
     std::string &segno = s.stato(a.segno).caption;
-    segno = segno == "+" ? "-" : "+";
+    segno.assign(1, segno == "+" ? '-' : '+');
     const Valore v = Abs(valore(s, a.decimale)) * Val(segno + "1");
     if (v.esiste()) testo(s, a.decimale) = TestoNumero(v.v);
 }

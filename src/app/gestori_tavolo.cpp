@@ -1,4 +1,5 @@
 // Handlers of the plot surface: its head panel and the small panels that open from it.
+#include <algorithm>
 #include <ctime>
 
 #include "app/azioni.h"
@@ -58,7 +59,32 @@ void cmdQAggiorna_Click(Sessione &s, int) {
     mostraPannello(s, "Tavolo1.picDimensioni", false);
 }
 
+void stampa(Sessione &s, bool aree) {
+    if (s.suStampa) s.suStampa(s, aree);
+}
+void cmdStampa_Click(Sessione &s, int) {
+    if (s.tavolo.lista().Aree.empty()) stampa(s, false);
+    else mostraPannello(s, "Tavolo1.picPrint", true);
+}
+void cmdPOk_Click(Sessione &s, int) {
+    if (s.valore(TrovaControllo("Tavolo1.optAll")) == 1) stampa(s, false);
+    else if (s.tavolo.lista().Aree.empty()) s.utente.Box(s.Traduci("Nessuna area selezionata"));
+    else stampa(s, true);
+    mostraPannello(s, "Tavolo1.picPrint", false);
+}
+// A cancelled box does nothing.
+void cmdSave_Click(Sessione &s, int) {
+    const auto nome = s.utente.File({true, "bmp", "*.bmp", "Image.bmp"});
+    if (!nome || nome->empty() || !s.suImmagine) return;
+    const std::string immagine = s.suImmagine(s);
+    if (immagine.empty()) return;
+    if (const auto errore = ScriviFile(*nome, immagine)) s.utente.Box(*errore);
+}
+
 constexpr Gestore GESTORI[] = {
+    {"Tavolo1", "cmdStampa", Evento::Clic, cmdStampa_Click},
+    {"Tavolo1", "cmdPOk", Evento::Clic, cmdPOk_Click},
+    {"Tavolo1", "cmdSave", Evento::Clic, cmdSave_Click},
     {"Tavolo1", "cmdAssi", Evento::Clic, cmdAssi_Click},
     {"Tavolo1", "cmdAssiAgg", Evento::Clic, cmdAssiAgg_Click},
     {"Tavolo1", "cmdAssiChiudi", Evento::Clic, [](Sessione &s, int) { mostraPannello(s, "Tavolo1.PicAssi", false); }},
@@ -92,6 +118,9 @@ Esito ScegliVoce(Sessione &s, IdControllo id, const std::string &voce) {
         }
         return Esito::Impossibile;
     }
+    // The countries of the map.
+    const auto &voci = s.mondo.paesi;
+    if (std::find(voci.begin(), voci.end(), voce) == voci.end()) return Esito::Impossibile;
     s.testo(id) = voce;
     return Esito::Fatto;
 }

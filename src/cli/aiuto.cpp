@@ -2,6 +2,7 @@
 #include "cli/aiuto.h"
 
 #include "cli/formati.h"
+#include "cli/report.h"
 
 namespace ombrelia::cli {
 
@@ -12,6 +13,7 @@ constexpr std::string_view GENERALE = R"(Ombrelia designs sundials and draws the
 usage: ombrelia COMMAND ...
 
   draw      a dial from fields to files
+  report    the numbers of a dial as text, CSV or HTML
   sun       the Sun over a place, and the declination of a wall from one reading or several
   batch     performs an action script: a user's actions, one a line
 
@@ -21,10 +23,11 @@ A declining wall in one line:
   ombrelia draw --set txtLAT=45.07 --set txtDec=18 --set txtInc=0 --check chkOreAstronomiche --check Ck_DayLightCurves muro.dxf
 )";
 
-constexpr std::string_view DRAW = R"(usage: ombrelia draw [--set FIELD=TEXT]... [--check BOX]... [--engine ENGINE] [--sheet L H X Y] FILE...
+constexpr std::string_view DRAW = R"(usage: ombrelia draw [--project FILE] [--set FIELD=TEXT]... [--check BOX]... [--engine ENGINE] [--sheet L H X Y] FILE...
 
 Draws a dial and writes it, once for each FILE, in the form of its ending.
 
+  --project FILE     a project file; fields and boxes given beside it come after it
   --set FIELD=TEXT   a field of the main window: txtLAT, txtDec (West +), txtLonG (West +), txtInc (0 wall, 90 horizontal),
                      TxtStilo, txtX0 txtX1 txtY0 txtY1 (the frame), TxtFraz ...
   --check BOX        a feature: chkOreAstronomiche, Ck_DayLightCurves, ck_Equinoziale, ck_Italiche, ck_babiloniche, ckTemp,
@@ -54,12 +57,35 @@ Performs the actions of a user at the main window, one a line. Blank lines and l
   answer TEXT           queues the answer to the next message, input or file box
   sheet L H X Y         sheet width, height and shift in metres
   list FILE             writes the display list; also dxf, svg, pdf, bmp, png FILE
+  report FILE           writes the report opened last, as text; print FILE what its Stampa menu prints
   show CONTROL, value NAME
 
 A FILE of - is standard output. The exit status is 2, with FILE:LINE: reason, at an action that can't be done.
 
 example:
   printf '%s\n' 'set txtInc 0' 'check chkOreAstronomiche' 'click cmdRun' 'svg muro.svg' | ombrelia batch -
+)";
+
+constexpr std::string_view REPORT = R"(usage: ombrelia report NAME [--project FILE] [--set FIELD=TEXT]... [--check BOX]... [--text | --csv | --html] [--print] [-o FILE]
+
+The numbers of a dial, as the program's report forms give them.
+
+  --project FILE     a project file; fields and boxes given beside it come after it
+  --set FIELD=TEXT   a field of the main window, as in ombrelia draw; TxtInizio and TxtFine are the first and last hour of the
+                     tables, TxtFraz the lines in an hour, txtX0 txtY0 and txtX1 txtY1 the lines that the hour lines are cut with
+  --check BOX        ChCentimetro: lengths are millimetres; ck_Etna: true time of the zone
+  --text             lines in print zones of 14 columns, as on the form (without a choice)
+  --csv              labelled values, then one block a table: numbers with all their digits
+  --html             a page with tables
+  --print            what the form's Stampa menu prints
+  -o FILE            where it goes; without it, or with -, standard output
+
+examples:
+  ombrelia report data --set txtLAT=45.07 --set txtDec=18 --set txtInc=0
+  ombrelia report hours --project muro.omb --html -o ore.html
+  ombrelia report italic --set txtInc=0 --set TxtInizio=13 --set TxtFine=24 --csv -o italiche.csv
+
+reports:
 )";
 
 constexpr std::string_view SUN = R"(usage: ombrelia sun --date DATE --time TIME --lat LAT --lon LON --zone ZONE [--angle ANGLE] [--dst]
@@ -79,8 +105,8 @@ declination of a wall out of one angle measured on it. The report is in the lang
                    declination of each, mean, standard deviation and the reading that stands out
 
 examples:
-  ombrelia sun --date 2026-06-21 --time 9:40 --lat 45.07 --lon -7.68 --zone -1 --angle 12.5 --dst
-  printf '%s\n' '2026-06-21 9:40 12.5' '2026-06-21 10:10 25.3' '2026-06-21 10:40 40' > muro.txt
+  ombrelia sun --date 2026-06-21 --time 9:40 --lat 45.07 --lon -7.68 --zone -1 --angle -25.4 --dst
+  printf '%s\n' '2026-06-21 9:40 -25.4' '2026-06-21 10:10 -14.2' '2026-06-21 10:40 0.3' > muro.txt
   ombrelia sun --readings muro.txt --lat 45.07 --lon -7.68
 )";
 
@@ -88,6 +114,7 @@ examples:
 
 std::string Aiuto(std::string_view comando) {
     if (comando == "batch") return std::string(BATCH);
+    if (comando == "report") return std::string(REPORT) + NomiRapporti();
     if (comando == "sun") return std::string(SUN);
     if (comando != "draw") return std::string(GENERALE);
     std::string t(DRAW);

@@ -10,6 +10,7 @@
 #include "cli/console.h"
 #include "cli/formati.h"
 #include "core/file.h"
+#include "reports/rapporti.h"
 
 namespace ombrelia::cli {
 
@@ -96,6 +97,8 @@ private:
     }
     void show(std::string_view resto);
     void value(std::string_view resto);
+    void report(std::string_view resto);
+    void print(std::string_view resto);
     // A file that is missing or broken gives the program's own message box.
     void open(std::string_view resto) { app::ApriProgetto(s_, file(resto)); }
     void save(std::string_view resto) { consegna(file(resto), app::ScriviProgetto(s_)); }
@@ -111,7 +114,7 @@ const std::vector<Esecuzione::Voce> &Esecuzione::azioni() {
         {"click", &E::click},     {"mouse", &E::mouse},     {"answer", &E::answer},   {"sheet", &E::sheet},
         {"list", &E::list},       {"dxf", &E::forma<0>},    {"svg", &E::forma<1>},    {"pdf", &E::forma<2>},
         {"bmp", &E::forma<3>},    {"png", &E::forma<4>},    {"show", &E::show},       {"value", &E::value},
-        {"open", &E::open},       {"save", &E::save},
+        {"open", &E::open},       {"save", &E::save},       {"report", &E::report},   {"print", &E::print},
     };
     return tutte;
 }
@@ -166,6 +169,22 @@ void Esecuzione::disegno(std::string_view resto, std::string_view formato) {
     const std::string contenuto = FormatoDi(formato)->scrivi(s_, errore);
     if (!errore.empty()) throw Rifiuto{errore};
     consegna(percorso, contenuto);
+}
+
+void Esecuzione::report(std::string_view resto) {
+    const std::string percorso = file(resto);
+    if (s_.rapporti.aperto.modulo.empty()) throw Rifiuto{"no report was opened yet"};
+    consegna(percorso, reports::RapportoTesto(s_.rapporti.aperto));
+}
+
+void Esecuzione::print(std::string_view resto) {
+    const std::string percorso = file(resto);
+    const Rapporti &r = s_.rapporti;
+    if (r.aperto.modulo.empty()) throw Rifiuto{"no report was opened yet"};
+    if (!r.stampa) throw Rifiuto{r.aperto.modulo + " has no Stampa menu"};
+    s_.rapporti.stampato = {};
+    r.stampa(s_);
+    consegna(percorso, reports::RapportoTesto(r.stampato));
 }
 
 void Esecuzione::show(std::string_view resto) {

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "app/comandi.h"
+#include "cli/campi.h"
 #include "cli/console.h"
 #include "cli/formati.h"
 
@@ -15,8 +16,7 @@ namespace {
 
 // What the user asked for; an error is a text.
 struct Richiesta {
-    std::vector<std::pair<std::string, std::string>> testi;
-    std::vector<std::string> caselle;
+    Campi campi;
     std::vector<std::string> uscite;
     std::string motore = "auto";
     std::vector<double> foglio;  // L H X Y, or empty to fit the frame
@@ -38,7 +38,7 @@ bool numero(const char *testo, double &n) {
 std::string leggi(int argc, char **argv, Richiesta &r) {
     for (int i = 0; i < argc; ++i) {
         const std::string a = argv[i];
-        const bool vuole = a == "--set" || a == "--check" || a == "--engine" || a == "--sheet" || a == "-o" || a == "--out";
+        const bool vuole = Campi::Opzione(a) || a == "--engine" || a == "--sheet" || a == "-o" || a == "--out";
         if (!vuole) {
             if (a.starts_with("-")) return "unknown option " + a + "; see ombrelia draw --help";
             r.uscite.push_back(a);
@@ -47,12 +47,8 @@ std::string leggi(int argc, char **argv, Richiesta &r) {
         const int argomenti = a == "--sheet" ? 4 : 1;
         if (i + argomenti >= argc) return a + " needs " + (argomenti == 4 ? "four numbers: L H X Y" : "an argument");
         const std::string valore = argv[++i];
-        if (a == "--set") {
-            const std::size_t uguale = valore.find('=');
-            if (uguale == std::string::npos) return "--set " + valore + ": write FIELD=TEXT, as in --set txtLAT=45.7";
-            r.testi.emplace_back(valore.substr(0, uguale), valore.substr(uguale + 1));
-        } else if (a == "--check") {
-            r.caselle.push_back(valore);
+        if (Campi::Opzione(a)) {
+            if (std::string e = r.campi.Prendi(a, valore); !e.empty()) return e;
         } else if (a == "--engine") {
             if (valore != "auto" && valore != "direct" && valore != "vertical" && valore != "analytic")
                 return "unknown engine " + valore + ": it is auto, direct, vertical or analytic";
@@ -83,16 +79,7 @@ std::string applica(Sessione &s, const Richiesta &r) {
         if (e == app::Esito::Disabilitato) return nome + " is disabled: it works on walls only (txtInc must read 0)";
         return e == app::Esito::Impossibile ? nome + " can't take that" : std::string();
     };
-    for (const auto &[nome, testo] : r.testi) {
-        const IdControllo id = TrovaControllo(nome);
-        if (id == NESSUN_CONTROLLO) return "unknown field " + nome;
-        if (std::string e = rispondi(app::Imposta(s, id, testo), nome); !e.empty()) return e;
-    }
-    for (const std::string &nome : r.caselle) {
-        const IdControllo id = TrovaControllo(nome);
-        if (id == NESSUN_CONTROLLO) return "unknown box " + nome;
-        if (std::string e = rispondi(app::Spunta(s, id, 1), nome); !e.empty()) return e;
-    }
+    if (std::string e = r.campi.Applica(s); !e.empty()) return e;
     if (r.motore == "vertical") s.in.CkUNI = 1;
     if (r.motore == "direct") s.in.CkUNI = 0;
     if (r.foglio.size() == 4) {

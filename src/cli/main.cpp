@@ -7,6 +7,7 @@
 #include "cli/aiuto.h"
 #include "cli/batch.h"
 #include "cli/draw.h"
+#include "cli/report.h"
 #include "cli/sun.h"
 
 namespace {
@@ -15,7 +16,7 @@ struct Comando {
     std::string_view nome;
     int (*esegui)(int argc, char **argv);
 };
-constexpr Comando COMANDI[] = {{"batch", ombrelia::cli::Batch}, {"draw", ombrelia::cli::Draw}, {"sun", ombrelia::cli::Sun}};
+constexpr Comando COMANDI[] = {{"batch", ombrelia::cli::Batch}, {"draw", ombrelia::cli::Draw}, {"report", ombrelia::cli::Report}, {"sun", ombrelia::cli::Sun}};
 
 bool chiedeAiuto(std::string_view a) { return a == "--help" || a == "-h" || a == "help"; }
 

@@ -109,7 +109,7 @@ int molte(const Richiesta &r) {
     for (const sun::Lettura &l : letture) {
         esiti.push_back(sun::Declinazione(l.dati, {}));
         if (!esiti.back().errore.empty()) return rifiuta(r.letture + ":" + std::to_string(l.riga) + ": " + esiti.back().errore);
-        declinazioni.push_back(esiti.back().declinazione.v);
+        declinazioni.push_back(sun::Girato(esiti.back().declinazione.v));
     }
     const sun::Riassunto m = sun::Riassumi(declinazioni);
 

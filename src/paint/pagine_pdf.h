@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QList>
 #include <QSizeF>
 
 namespace ombrelia::paint {

@@ -20,7 +20,12 @@ void Parametri::carica() {
         if (std::filesystem::exists(nomeFile_, ec)) illeggibile_ = std::move(errore);
         return;
     }
-    const std::string testo = DaFile(std::move(*grezzo));
+    Interpreta(std::move(*grezzo));
+}
+
+void Parametri::Interpreta(std::string contenuto) {
+    righe_.clear();
+    const std::string testo = DaFile(std::move(contenuto));
     for (std::string_view resto = testo; !resto.empty();) {
         std::string chiave = PrendiCampo(resto);
         righe_.emplace_back(std::move(chiave), PrendiCampo(resto));
@@ -45,10 +50,15 @@ void Parametri::Poni(std::string_view Key, std::string_view Valore) {
     else righe_.emplace_back(Key, Valore);
 }
 
-std::optional<std::string> Parametri::Salva() const {
-    if (illeggibile_) return illeggibile_;
+std::string Parametri::Testo() const {
     std::string testo;
     for (const auto &[chiave, valore] : righe_) testo += TraVirgolette(chiave) + ',' + TraVirgolette(valore) + "\r\n";
+    return testo;
+}
+
+std::optional<std::string> Parametri::Salva() const {
+    if (illeggibile_) return illeggibile_;
+    const std::string testo = Testo();
     if (testo.size() > FILE_MASSIMO) return TraVirgolette(nomeFile_) + ": più di " + std::to_string(FILE_MASSIMO) + " byte";
     return ScriviFile(nomeFile_, testo);
 }

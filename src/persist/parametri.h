@@ -27,6 +27,10 @@ public:
     void Poni(std::string_view Key, std::string_view Valore);
     [[nodiscard]] std::optional<std::string> Salva() const;
 
+    // The table out of the content of a file, and the content that would be written.
+    void Interpreta(std::string contenuto);
+    [[nodiscard]] std::string Testo() const;
+
 private:
     using Riga = std::pair<std::string, std::string>;
 

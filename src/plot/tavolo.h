@@ -71,6 +71,12 @@ public:
     void Messaggio(std::string_view Text);
     // Empties list and picture, mirrors off; sheet, shift and scale stay.
     void Clear();
+    // Swaps the drawings of two sheets, text positions with them; nothing is painted.
+    void ScambiaDisegno(Tavolo &altro) {
+        std::swap(lista_, altro.lista_);
+        std::swap(currentX_, altro.currentX_);
+        std::swap(currentY_, altro.currentY_);
+    }
     // Repaints the attached device from the list: texts first, then the primitives in their order. A printer is not
     // wiped before.
     void Refresh();

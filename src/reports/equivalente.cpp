@@ -47,35 +47,34 @@ Parete parete(Variabili &v) {
 }
 
 void orizzontale(Variabili &v, Foglio &f) {
-    f.etichetta("QUADRANTE VERTICALE EQUIVALENTE al quadrante orizzontale");
-    f.riga({f.tr("latitudine f1 = "), gradi(PI / 2 - v.latR), "°  "});
-    f.riga({f.tr("declinazione d1 = "), Numero(180), "°  "});
-    f.riga({f.tr("inclinazione = 0"), "°  "});
-    f.etichetta("ordinata orizzonte = inf ");
-    f.riga({f.tr("elevazione dello stilo = "), Fmt(v.lat, "0.00000"), "°  "});
-    if (v.lat_o != 0)
-        f.riga({f.tr("ordinata ora 12 italica-babilonese = "), Fmt(-v.gn / tan(2 * v.lat_o), "0.00000"), " mm"});
+    f.etichetta("QUADRANTE VERTICALE EQUIVALENTE al quadrante orizzontale"_it);
+    f.riga({f.tr("latitudine f1 = "_it), gradi(PI / 2 - v.latR), "°  "});
+    f.riga({f.tr("declinazione d1 = "_it), Numero(180), "°  "});
+    f.riga({f.tr("inclinazione = 0"_it), "°  "});
+    f.etichetta("ordinata orizzonte = inf "_it);
+    f.riga({f.tr("elevazione dello stilo = "_it), Fmt(v.lat, "0.00000"), "°  "});
+    if (v.lat_o != 0) f.riga({f.tr("ordinata ora 12 italica-babilonese = "_it), Fmt(-v.gn / tan(2 * v.lat_o), "0.00000"), " mm"});
     v.yOriz = 100000;
 }
 
 void inclinato(Variabili &v, Foglio &f, const Parete &p) {
-    f.etichetta("QUADRANTE VERTICALE EQUIVALENTE ");
-    f.riga({f.tr("latitudine f1 = "), gradi(p.f1), "°  "});
+    f.etichetta("QUADRANTE VERTICALE EQUIVALENTE "_it);
+    f.riga({f.tr("latitudine f1 = "_it), gradi(p.f1), "°  "});
     const Valore d1 = Gradi(p.d1);
-    f.riga({f.tr("declinazione d1 = "), Numero(p.s * Val(Formato(d1, "0.00000"))).vero(p.s * d1), "°  "});
-    f.riga({f.tr("inclinazione = 0"), "°  "});
+    f.riga({f.tr("declinazione d1 = "_it), Numero(p.s * Val(Formato(d1, "0.00000"))).vero(p.s * d1), "°  "});
+    f.riga({f.tr("inclinazione = 0"_it), "°  "});
     const Valore orizzonte = v.gn * tan(v.incR2);
-    f.rigaUnita({f.tr("ordinata orizzonte = "), Unito(Tronca5(orizzonte)).vero(orizzonte), " mm"});
+    f.rigaUnita({f.tr("ordinata orizzonte = "_it), Unito(Tronca5(orizzonte)).vero(orizzonte), " mm"});
     f.vuota();
-    f.etichetta("La check box ora vera MEC deve risultare sempre attivata ");
+    f.etichetta("La check box ora vera MEC deve risultare sempre attivata "_it);
     f.vuota();
     const Valore diff = Gradi(v.diffLong);
-    f.riga({f.tr("differenza in longitudine delta lambda per ora vera locale = "), gradi(v.diffLong), "°  "});
-    f.riga({f.tr("longitudine per ora vera locale = "), Fmt(-15 - diff, "0.00000"), "°  "});
-    f.riga({f.tr("longitudine per ora vera MEC = "), Fmt(v.lonCopia - diff, "0.00000"), "°  "});
-    f.etichetta("da usarsi per avere l'ora vera MEC");
+    f.riga({f.tr("differenza in longitudine delta lambda per ora vera locale = "_it), gradi(v.diffLong), "°  "});
+    f.riga({f.tr("longitudine per ora vera locale = "_it), Fmt(-15 - diff, "0.00000"), "°  "});
+    f.riga({f.tr("longitudine per ora vera MEC = "_it), Fmt(v.lonCopia - diff, "0.00000"), "°  "});
+    f.etichetta("da usarsi per avere l'ora vera MEC"_it);
     f.vuota();
-    f.riga({f.tr("elevazione dello stilo = "), gradi(p.E), "°  "});
+    f.riga({f.tr("elevazione dello stilo = "_it), gradi(p.E), "°  "});
 
     // Hours at which the horizontal and the vertical through the foot stand, and the meridian line's slope.
     Reale L, V;
@@ -88,9 +87,9 @@ void inclinato(Variabili &v, Foglio &f, const Parete &p) {
     const auto tagliata = [&](std::string_view nome, Valore x, std::string_view coda) {
         f.rigaUnita({f.tr(nome), Unito(Tronca5(x)).vero(x), coda});
     };
-    tagliata("ora orizzontale:    ", 12 + L * 12 / PI, " h");
-    tagliata("linea meridiana:    ", Atn(sin(v.incR) * tan(v.decR)) * 180 / PI, "°  ");
-    tagliata("ora verticale:    ", 12 - V * 12 / PI, " h");
+    tagliata("ora orizzontale:    "_it, 12 + L * 12 / PI, " h");
+    tagliata("linea meridiana:    "_it, Atn(sin(v.incR) * tan(v.decR)) * 180 / PI, "°  ");
+    tagliata("ora verticale:    "_it, 12 - V * 12 / PI, " h");
 }
 
 // Where the solstices meet the horizon and the line x = 0 on the wall.
@@ -124,7 +123,7 @@ void solstizi(Sessione &s, Foglio &f, Parete &p) {
             xPiu = x.piu;
             xMeno = x.meno;
         }
-        f.etichetta("Ascisse delle intersezioni dei solstizi con l'orizzonte ");
+        f.etichetta("Ascisse delle intersezioni dei solstizi con l'orizzonte "_it);
         f.riga({Fmt(xPiu, "0.000000"), " mm"});
         f.riga({Fmt(xMeno, "0.000000"), " mm"});
     }
@@ -134,7 +133,7 @@ void solstizi(Sessione &s, Foglio &f, Parete &p) {
     if (v.deltaOpz >= 0) {
         yPiu = (-b + Sqr(v.deltaOpz)) / (2 * a);
         yMeno = (-b - Sqr(v.deltaOpz)) / (2 * a);
-        f.etichetta("Ordinate delle intersezioni dei solstizi con la retta x = 0 ");
+        f.etichetta("Ordinate delle intersezioni dei solstizi con la retta x = 0 "_it);
         f.riga({Fmt(yPiu, "0.00000"), " mm"});
         f.riga({Fmt(yMeno, "0.00000"), " mm"});
     }
@@ -178,8 +177,8 @@ void datiEquivalente(Sessione &s, Uscita uscita) {
     v.lonCopia = v.lon_o;
     Parete p = parete(v);
     f.vuota();
-    f.etichetta("PARAMETRI PRIMARI del QUADRANTE SOLARE VERTICALE EQUIVALENTE");
-    f.etichetta("con LO STESSO ANGOLO SUSTILARE del QUADRANTE ORIGINALE");
+    f.etichetta("PARAMETRI PRIMARI del QUADRANTE SOLARE VERTICALE EQUIVALENTE"_it);
+    f.etichetta("con LO STESSO ANGOLO SUSTILARE del QUADRANTE ORIGINALE"_it);
     f.vuota();
     if (v.inc == 90) orizzontale(v, f);
     else inclinato(v, f, p);
@@ -188,14 +187,14 @@ void datiEquivalente(Sessione &s, Uscita uscita) {
 
     const Valore u = sustilareOriginale(v);
     f.colore(0);
-    f.riga({f.tr("angolo sustilare = "), gradi(u), "°  "});
-    f.riga({f.tr("ora sustilare = "), Fmt(12 + v.angoloOra * 12 / PI, "0.00000")});
+    f.riga({f.tr("angolo sustilare = "_it), gradi(u), "°  "});
+    f.riga({f.tr("ora sustilare = "_it), Fmt(12 + v.angoloOra * 12 / PI, "0.00000")});
     f.vuota();
-    f.etichetta("QUADRANTE ORIGINALE ");
-    f.riga({f.tr("latitudine fO = "), gradi(v.lat_o), "°  "});
-    f.riga({f.tr("declinazione dO = "), gradi(v.dec_o), "°  "});
-    f.riga({f.tr("inclinazione = "), Numero(v.inc_o), "°  "});
-    f.riga({f.tr("longitudine = "), Numero(v.lonCopia), "°  "});
+    f.etichetta("QUADRANTE ORIGINALE "_it);
+    f.riga({f.tr("latitudine fO = "_it), gradi(v.lat_o), "°  "});
+    f.riga({f.tr("declinazione dO = "_it), gradi(v.dec_o), "°  "});
+    f.riga({f.tr("inclinazione = "_it), Numero(v.inc_o), "°  "});
+    f.riga({f.tr("longitudine = "_it), Numero(v.lonCopia), "°  "});
     f.chiudi();
 }
 

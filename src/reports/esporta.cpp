@@ -75,6 +75,7 @@ std::vector<std::string> celle(const RigaRapporto &riga) {
             c.push_back(e.testo);
             aperta = true;
         }
+        if (e.dopo != Separatore::Nessuno) aperta = false;
     }
     for (std::string &t : c) t = SenzaBlanks(t);
     return c;
@@ -87,11 +88,21 @@ bool haNumeri(const RigaRapporto &riga) {
 void aggiungiHtml(std::string &uscita, std::string_view testo) {
     for (const char c : testo) {
         switch (c) {
-            case '&': uscita += "&amp;"; break;
-            case '<': uscita += "&lt;"; break;
-            case '>': uscita += "&gt;"; break;
-            case '"': uscita += "&quot;"; break;
-            default: uscita += c; break;
+            case '&':
+                uscita += "&amp;";
+                break;
+            case '<':
+                uscita += "&lt;";
+                break;
+            case '>':
+                uscita += "&gt;";
+                break;
+            case '"':
+                uscita += "&quot;";
+                break;
+            default:
+                uscita += c;
+                break;
         }
     }
 }
@@ -163,7 +174,9 @@ std::string RapportoCsv(const Rapporto &r) {
 }
 
 std::string RapportoHtml(const Rapporto &r) {
-    std::string h = "<!DOCTYPE html>\n<html>\n<head>\n<meta charset=\"utf-8\">\n<meta name=\"viewport\" content=\"width=device-width\">\n<title>";
+    std::string h =
+        "<!DOCTYPE html>\n<html>\n<head>\n<meta charset=\"utf-8\">\n<meta name=\"viewport\" "
+        "content=\"width=device-width\">\n<title>";
     aggiungiHtml(h, SenzaBlanks(r.caption));
     h += "</title>\n<style>";
     h += STILE;

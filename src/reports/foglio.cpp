@@ -61,8 +61,7 @@ Foglio::Foglio(Sessione &s, std::string_view modulo, Uscita uscita, void (*stamp
     : s_(s), uscita_(uscita), r_(uscita == Uscita::Schermo ? s.rapporti.aperto : s.rapporti.stampato) {
     r_ = {};
     r_.modulo = modulo;
-    for (const Modulo &m : TavolaModuli())
-        if (m.nome == modulo) r_.caption = s.Traduci(m.caption);
+    r_.caption = s.titolo(modulo);
     if (schermo()) s.rapporti.stampa = stampa;
 }
 
@@ -103,11 +102,12 @@ void Foglio::intestazioni(const Trilingue &righe) {
 }
 
 void Foglio::legenda() {
-    riga({tr("Legenda : G piede e origine coordinate, "), tr("C centro, P incontro sustilare equinoziale, ")});
-    riga({tr("M incontro linea meridiana equinoziale,"), tr("S incontro sustilare con retta orizzontale da M.")});
-    riga({tr("Metodo delle lunghezze d'ombra :"), tr(" se distanza C solstizio e,"),
-          tr(" si C solstizio i, se-si distanza tra solstizi, ")});
-    riga({tr("ce distanza C equinoziale,"), tr(" se-ce solstizio e equinoziale,"), tr(" si-se solstizio i equinoziale")});
+    riga({tr("Legenda : G piede e origine coordinate, "_it), tr("C centro, P incontro sustilare equinoziale, "_it)});
+    riga({tr("M incontro linea meridiana equinoziale,"_it), tr("S incontro sustilare con retta orizzontale da M."_it)});
+    riga({tr("Metodo delle lunghezze d'ombra :"_it), tr(" se distanza C solstizio e,"_it),
+          tr(" si C solstizio i, se-si distanza tra solstizi, "_it)});
+    riga(
+        {tr("ce distanza C equinoziale,"_it), tr(" se-ce solstizio e equinoziale,"_it), tr(" si-se solstizio i equinoziale"_it)});
 }
 
 void Foglio::chiudi(std::string_view ultima) {
@@ -145,7 +145,6 @@ std::vector<std::string> Colonne(const Sessione &s, const Trilingue &intestazion
                 --i;
                 continue;
             }
-            if (k == 0) nome = s.Traduci(nome);
             if (i < nomi.size()) nomi[i] = std::move(nome);
             else nomi.push_back(std::move(nome));
         }

@@ -88,28 +88,28 @@ void primari(Sessione &s, Foglio &f, const Preparazione &p) {
     const std::string_view misura = TestoUnita(s);
     const auto gradi = [](Valore radianti) { return Fmt(Gradi(radianti), "0.00000"); };
     const auto eccentricita = [&](Valore delta) { return Fmt(Abs(cos(v.altStilo) / sin(Radianti(delta))), "0.00000"); };
-    f.etichetta("PARAMETRI PRIMARI DEL QUADRANTE SOLARE ORIGINALE");
-    f.riga({f.tr("Latitudine "), Numero(Val(s.in.txtLAT) * v.segnoLat)});
-    f.rigaUnita({f.tr("Longitudine "), Unito(Val(s.in.txtLonG))});
-    f.rigaUnita({f.tr("Declinazione "), Unito(Val(s.in.txtDec))});
-    f.rigaUnita({f.tr("Inclinazione zenitale "), Unito(Val(s.in.txtInc))});
+    f.etichetta("PARAMETRI PRIMARI DEL QUADRANTE SOLARE ORIGINALE"_it);
+    f.riga({f.tr("Latitudine "_it), Numero(Val(s.in.txtLAT) * v.segnoLat)});
+    f.rigaUnita({f.tr("Longitudine "_it), Unito(Val(s.in.txtLonG))});
+    f.rigaUnita({f.tr("Declinazione "_it), Unito(Val(s.in.txtDec))});
+    f.rigaUnita({f.tr("Inclinazione zenitale "_it), Unito(Val(s.in.txtInc))});
     const Valore orizzonte = v.gn * tan(v.incR2);
-    f.rigaUnita({f.tr("ordinata orizzonte = "), Unito(Tronca5(orizzonte)).vero(orizzonte), misura});
-    f.etichetta("T R I A N G O L O  dello S T I L O");
-    f.rigaUnita({f.tr("Ortostilo: cateto "), Unito(v.gn), misura});
-    f.rigaUnita({f.tr("Assostilo: ipotenusa "), Unito(Abs(Tronca5(v.assostiloLen))).vero(Abs(v.assostiloLen)), misura});
+    f.rigaUnita({f.tr("ordinata orizzonte = "_it), Unito(Tronca5(orizzonte)).vero(orizzonte), misura});
+    f.etichetta("T R I A N G O L O  dello S T I L O"_it);
+    f.rigaUnita({f.tr("Ortostilo: cateto "_it), Unito(v.gn), misura});
+    f.rigaUnita({f.tr("Assostilo: ipotenusa "_it), Unito(Abs(Tronca5(v.assostiloLen))).vero(Abs(v.assostiloLen)), misura});
     const Valore CG = Sqr(v.assostiloLen * v.assostiloLen - v.gn * v.gn);
-    f.rigaUnita({f.tr("Distanza Centro Piede: cateto CG  "), Unito(Tronca5(CG)).vero(CG), misura});
-    f.riga({f.tr("Elevazione dello stilo "), gradi(-v.altStilo), " °"});
-    f.riga({f.tr("Angolo sustilare "), gradi(p.sigma), " °"});
-    f.riga({f.tr("Angolo orario sustilare, angolo al polo "), gradi(v.angoloOra), " °"});
-    f.riga({f.tr("Longitudine per lemniscata sustilare "), Fmt(-(15 + Gradi(v.angoloOra)), "0.00000"), " °"});
-    f.etichetta("Eccentricità linee diurne ");
-    f.riga({f.tr("Solstizi "), eccentricita(OBLIQUITA)});
-    f.riga({f.tr("linee diurne 20° "), eccentricita(20)});
-    f.riga({f.tr("linee diurne 11.5° "), eccentricita(11.5)});
-    f.riga({f.tr("linee diurne "), Numero(v.deltaOpz), "°", eccentricita(v.deltaOpz)});
-    f.rigaUnita({f.tr("Costante locale = "), Unito(4 * (15 + v.lonCopia)), " p"});
+    f.rigaUnita({f.tr("Distanza Centro Piede: cateto CG  "_it), Unito(Tronca5(CG)).vero(CG), misura});
+    f.riga({f.tr("Elevazione dello stilo "_it), gradi(-v.altStilo), " °"});
+    f.riga({f.tr("Angolo sustilare "_it), gradi(p.sigma), " °"});
+    f.riga({f.tr("Angolo orario sustilare, angolo al polo "_it), gradi(v.angoloOra), " °"});
+    f.riga({f.tr("Longitudine per lemniscata sustilare "_it), Fmt(-(15 + Gradi(v.angoloOra)), "0.00000"), " °"});
+    f.etichetta("Eccentricità linee diurne "_it);
+    f.riga({f.tr("Solstizi "_it), eccentricita(OBLIQUITA)});
+    f.riga({f.tr("linee diurne 20° "_it), eccentricita(20)});
+    f.riga({f.tr("linee diurne 11.5° "_it), eccentricita(11.5)});
+    f.riga({f.tr("linee diurne "_it), Numero(v.deltaOpz), "°", eccentricita(v.deltaOpz)});
+    f.rigaUnita({f.tr("Costante locale = "_it), Unito(4 * (15 + v.lonCopia)), " p"});
 }
 
 void lunghezze(Sessione &s, Foglio &f, const Preparazione &p) {
@@ -120,25 +120,25 @@ void lunghezze(Sessione &s, Foglio &f, const Preparazione &p) {
     const auto coppia = [&](std::string_view a, Valore x, std::string_view b, Valore y) {
         f.riga({f.tr(a), cinque(x), misura, Spc(3), f.tr(b), cinque(y), misura});
     };
-    coppia("CM = ", v.segCentroPiede, "MS = ", v.segPiedeEq);
-    coppia("CG = ", v.segStiloSus, "CP = ", v.segAsse);
-    coppia("GP = ", Abs(v.segAsse) - Abs(v.segStiloSus), "PM = ", Abs(v.segAsse * tan(p.sigma)));
+    coppia("CM = "_it, v.segCentroPiede, "MS = "_it, v.segPiedeEq);
+    coppia("CG = "_it, v.segStiloSus, "CP = "_it, v.segAsse);
+    coppia("GP = "_it, Abs(v.segAsse) - Abs(v.segStiloSus), "PM = "_it, Abs(v.segAsse * tan(p.sigma)));
     f.colore(5);
     const auto angolo = [&](std::string_view nome, Valore x, std::string_view cosa) {
-        f.riga({f.tr(nome), cinque(x), " rad   ; ", cinque(Gradi(x)), " °", Zona(), f.tr(cosa)});
+        f.riga({f.tr(nome), cinque(x), f.tr(" rad   ; "_it), cinque(Gradi(x)), " °", Zona(), f.tr(cosa)});
     };
-    angolo("sigma = ", p.sigma, "angolo sustilare ");
-    angolo("epsilon = ", -v.altStilo, "elevazione dello stilo ");
+    angolo("sigma = "_it, p.sigma, "angolo sustilare "_it);
+    angolo("epsilon = "_it, -v.altStilo, "elevazione dello stilo "_it);
     f.colore(12);
-    f.riga({f.tr("CX = "), cinque(v.xCentro), misura, Spc(3), f.tr("CY = "), cinque(v.yCentro), misura, Zona(),
-            f.tr("Coordinate del centro")});
+    f.riga({f.tr("CX = "_it), cinque(v.xCentro), misura, Spc(3), f.tr("CY = "_it), cinque(v.yCentro), misura, Zona(),
+            f.tr("Coordinate del centro"_it)});
     f.colore(9);
     const Reale H = 12 + v.angoloOra * 12 / PI;
     const Valore minuti = 60 * (H - Int(H));
-    f.riga({f.tr("ORA VERA SUSTILARE "), cinque(H), Zona(), Numero(Int(H)), Numero(Int(minuti)),
+    f.riga({f.tr("ORA VERA SUSTILARE "_it), cinque(H), Zona(), Numero(Int(H)), Numero(Int(minuti)),
             Fmt(60 * (minuti - Int(minuti)), "00.00")});
     f.colore(12);
-    f.riga({f.tr("declinazione sole a scelta "), Zona(), Numero(v.deltaOpz), " °"});
+    f.riga({f.tr("declinazione sole a scelta "_it), Zona(), Numero(v.deltaOpz), " °"});
     f.colore(5);
     f.legenda();
     f.riga({INDIRIZZO});
@@ -157,10 +157,10 @@ void lineeDiurne(Sessione &s, Foglio &f) {
         Valore delta;
         std::string_view orizzonte, verticale;
     } linee[] = {
-        {OBLIQUITA, "Ascisse delle intersezioni dei solstizi con l'orizzonte ",
-         "Ordinate delle intersezioni dei solstizi con la retta x = 0 "},
-        {dOpz, "Ascisse delle intersezioni della linea diurna a scelta con l'orizzonte ",
-         "Ordinate delle intersezioni della linea diurna a scelta con la retta x = 0 "},
+        {OBLIQUITA, "Ascisse delle intersezioni dei solstizi con l'orizzonte "_it,
+         "Ordinate delle intersezioni dei solstizi con la retta x = 0 "_it},
+        {dOpz, "Ascisse delle intersezioni della linea diurna a scelta con l'orizzonte "_it,
+         "Ordinate delle intersezioni della linea diurna a scelta con la retta x = 0 "_it},
     };
     for (const auto &linea : linee) {
         v.angSustilare = Atn(sin(v.decR) / tan(v.latR));

@@ -12,12 +12,20 @@ using analytic::Conica;
 
 constexpr double OBLIQUITA = 23.445;
 
-const Trilingue LINEE{"                                                            linea diurna invernale                        linea diurna estiva",
-                      "                                                            arc diurne d'hiver                               arc diurne d'été",
-                      "                                                            winter daylight arc                              summer daylight arc "};
-const Trilingue TESTE{" ora                            A.0.                     ascissa                ordinata                   ascissa                ordinata  ",
-                      " heure                       A.H.                     abscisse               ordonnée                   ascissa                ordinata  ",
-                      " hour                          H.A.                     abscissa               ordinate                   abscissa               ordinate  "};
+const Trilingue LINEE{
+    "                                                            linea diurna invernale                        linea diurna "
+    "estiva",
+    "                                                            arc diurne d'hiver                               arc diurne "
+    "d'été",
+    "                                                            winter daylight arc                              summer "
+    "daylight arc "};
+const Trilingue TESTE{
+    " ora                            A.0.                     ascissa                ordinata                   ascissa          "
+    "      ordinata  ",
+    " heure                       A.H.                     abscisse               ordonnée                   ascissa             "
+    "   ordinata  ",
+    " hour                          H.A.                     abscissa               ordinate                   abscissa          "
+    "     ordinate  "};
 
 // Names for exports: the columns under each of the two day lines are told apart by its name.
 std::vector<std::string> colonne(const Sessione &s) {
@@ -40,7 +48,7 @@ void sferica(Sessione &s, Uscita uscita) {
     v.unita = s.in.ChCentimetro == 1 ? 0.001 : 1.0;
     const Valore cL = v.lonPiu15 * v.oraFuso * (v.latR == 0 ? Valore(1) : Sgn(v.latR));  // degrees
 
-    f.etichetta(" Trigonometria sferica - Trigonometrie spherique - Spherical trigonometry");
+    f.riga({" Trigonometria sferica - Trigonometrie spherique - Spherical trigonometry"});
     f.vuota();
     const auto tabella = [&](Valore delta) { f.tabella("delta = +/- " + TestoNumero(delta.v), colonne(s)); };
     // The last one is worked for the declinations of the third and only labelled otherwise: meant.
@@ -84,7 +92,7 @@ void analitica(Sessione &s, Uscita uscita) {
     v.angoloOra = ArcSin(seno) + ((15 + v.lonCopia) * PI / 180) * v.oraFuso;
     v.y0 = v.gn * tan(v.altStilo);
 
-    f.etichetta(" Geometria Analitica ");
+    f.etichetta(" Geometria Analitica "_it);
     const auto tabella = [&](Valore delta) { f.tabella("delta = +/- " + TestoNumero(delta.v), colonne(s)); };
     const Valore tabelle[] = {v.deltaOpz, 20, 11.5, 0};
     const analytic::RiferimentoSustilare quadro(v.angSustilare, v.y0);

@@ -8,16 +8,19 @@ namespace ombrelia::reports {
 namespace {
 
 // Heads: of the abscissa and the first declination, then of each further one.
-constexpr std::string_view PRIME[] = {"ascissa                ordinata e      ordinata i  ", "abscisse                ordonnée é      ordonnée h  ",
+constexpr std::string_view PRIME[] = {"ascissa                ordinata e      ordinata i  ",
+                                      "abscisse                ordonnée é      ordonnée h  ",
                                       "abscissa                ordinate s      ordinate w  "};
-constexpr std::string_view ALTRE[] = {"    ordinata e      ordinata i  ", "    ordonnée é      ordonnée h  ", "    ordinate s      ordinate w  "};
+constexpr std::string_view ALTRE[] = {"    ordinata e      ordinata i  ", "    ordonnée é      ordonnée h  ",
+                                      "    ordinate s      ordinate w  "};
 
 void lineeDiurne(Sessione &s, Uscita uscita) {
     Variabili &v = s.v;
     const Reale unita = s.in.ChCentimetro == 1 ? 0.001 : 1.0;
     const Conteggio ascisse(Val(s.in.txtMinus), Val(s.in.txtMax), 0.05 / unita);
     const bool inizio = Abs(Val(s.in.txtMinus)) > Abs(Val(s.in.txtMax));
-    if (TroppoFitto(s, {{inizio ? "txtMinus" : "txtMax", inizio ? s.in.txtMinus : s.in.txtMax, ascisse, PUNTI_MASSIMI / RIGHE_MASSIME}}))
+    if (TroppoFitto(
+            s, {{inizio ? "txtMinus" : "txtMax", inizio ? s.in.txtMinus : s.in.txtMax, ascisse, PUNTI_MASSIMI / RIGHE_MASSIME}}))
         return;
     analytic::CalcolaAngoliAnalitici(s);
     Foglio f(s, "Form8", uscita, StampaLineeDiurne);
@@ -34,22 +37,24 @@ void lineeDiurne(Sessione &s, Uscita uscita) {
         linee.emplace_back(k, v.angSustilare, v.y0);
     }
 
-    f.etichetta(" Coordinate cartesiane   Coordonnées rectangulaires  Rectangular coordinates");
+    f.riga({" Coordinate cartesiane   Coordonnées rectangulaires  Rectangular coordinates"});
     Trilingue teste;
     for (std::size_t i = 0; i < 3; ++i) {
         teste[i] = PRIME[i];
         for (int n = 0; n < 3; ++n) teste[i] += ALTRE[i];
     }
     std::vector<std::string> nomi = Colonne(s, teste);
-    for (std::size_t i = 1; i < nomi.size(); ++i) nomi[i] += " " + TestoNumero(declinazioni[(i - 1) / 2].v) + "°";
-    f.tabella(s.Traduci(" Coordinate cartesiane   Coordonnées rectangulaires  Rectangular coordinates"), std::move(nomi));
+    for (std::size_t i = 1; i < nomi.size(); ++i)
+        nomi[i].append(" ").append(TestoNumero(declinazioni[(i - 1) / 2].v)).append("°");
+    f.tabella(std::string(), std::move(nomi));
     // The fourth declination is the reader's own: without it here its two columns would have no name.
-    f.titoli({"         delta = +/- " + Numero(23.445).testo +
-                  " °                                                                  +/- 20°                                         +/- "
-                  "11.5°                                         +/- " +
-                  TestoNumero(v.deltaOpz.numero()) + "°",
-              {},
-              {}});
+    std::string delta = "         delta = +/- ";
+    delta.append(Numero(23.445).testo).append(" °");
+    delta.append(
+        "                                                                  +/- 20°                                         +/- "
+        "11.5°");
+    delta.append("                                         +/- ").append(TestoNumero(v.deltaOpz.numero())).append("°");
+    f.titoli({delta, {}, {}});
     f.intestazioni(teste);
     std::array<Reale, 4> estive, invernali;
     for (const double V : ascisse) {

@@ -148,7 +148,8 @@ void oreVere(Sessione &s, Uscita uscita, Specie specie) {
                 angoliLatZero(v, c);
                 punti(v, c);
             }
-            f.riga({c.specie == Specie::LatZero ? "  LATITUDINE ZERO" : "  LATITUDINE ZERO, declinazione gnomonica = 0"});
+            f.etichetta(c.specie == Specie::LatZero ? "  LATITUDINE ZERO"_it
+                                                    : "  LATITUDINE ZERO, declinazione gnomonica = 0"_it);
             c.oraSus = 12 + v.angoloOra * 12 / PI;
             break;
     }

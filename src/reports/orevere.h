@@ -12,11 +12,11 @@ enum class Specie : std::uint8_t { Inclinato, Parete, LatZero, LatZeroInclinato 
 // What a report computes once, and what its rows carry from one to the next.
 struct Calcolo {
     Specie specie = Specie::Inclinato;
-    Reale k;      // side of the plane, 1 or -1
-    Reale sine;   // of a wall: the quotient whose arc tangent is the style's elevation
-    Reale L;      // at latitude 0: cotangent of the declination
-    Reale yM;     // ordinate of M, where meridian and equinoctial meet
-    Reale oraSus; // hour of the substyle
+    Reale k;       // side of the plane, 1 or -1
+    Reale sine;    // of a wall: the quotient whose arc tangent is the style's elevation
+    Reale L;       // at latitude 0: cotangent of the declination
+    Reale yM;      // ordinate of M, where meridian and equinoctial meet
+    Reale oraSus;  // hour of the substyle
     // The running row.
     Reale w, A, se, si, ce, D, x, ordinata;
     std::string testoOrdinata;

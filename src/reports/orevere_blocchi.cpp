@@ -41,16 +41,16 @@ void coppie(Variabili &v, Foglio &f, Calcolo &c) {
     const auto riga = [&](std::string_view scelta, Valore quale, std::string_view relativa, Reale valore) {
         f.riga({f.tr(scelta), Arrotonda5(quale), Zona(), f.tr(relativa), Arrotonda5(valore)});
     };
-    f.etichetta("E Q U I N O Z I A L E");
-    riga("Ascissa retta equinoziale a scelta x0 =", v.x0, "Ordinata relativa y =", equinoziale(v.x0));
-    riga("Ordinata retta equin.ale a scelta y0 =", v.y0, "Ascissa relativa x =", equinozialeY(v.y0));
-    riga("Ascissa retta equinoziale a scelta x2 =", v.xEq, "Ordinata relativa y =", equinoziale(v.xEq));
-    riga("Ordinata retta equin.ale a scelta y2 =", v.yEq, "Ascissa relativa x =", equinozialeY(v.yEq));
-    f.etichetta("S U S T I L A R E");
-    riga("Ascissa retta sustilare a scelta x0 =", v.x0, "Ordinata relativa y =", sustilare(v.x0));
-    riga("Ordinata retta sust.re a scelta y0 =", v.y0, "Ascissa relativa x =", sustilareY(v.y0));
-    riga("Ascissa retta sustilare a scelta x3 =", v.xSus, "Ordinata relativa y =", sustilare(v.xSus));
-    riga("Ordinata retta sust.re a scelta y3 =", v.ySus, "Ascissa relativa x =", sustilareY(v.ySus));
+    f.etichetta("E Q U I N O Z I A L E"_it);
+    riga("Ascissa retta equinoziale a scelta x0 ="_it, v.x0, "Ordinata relativa y ="_it, equinoziale(v.x0));
+    riga("Ordinata retta equin.ale a scelta y0 ="_it, v.y0, "Ascissa relativa x ="_it, equinozialeY(v.y0));
+    riga("Ascissa retta equinoziale a scelta x2 ="_it, v.xEq, "Ordinata relativa y ="_it, equinoziale(v.xEq));
+    riga("Ordinata retta equin.ale a scelta y2 ="_it, v.yEq, "Ascissa relativa x ="_it, equinozialeY(v.yEq));
+    f.etichetta("S U S T I L A R E"_it);
+    riga("Ascissa retta sustilare a scelta x0 ="_it, v.x0, "Ordinata relativa y ="_it, sustilare(v.x0));
+    riga("Ordinata retta sust.re a scelta y0 ="_it, v.y0, "Ascissa relativa x ="_it, sustilareY(v.y0));
+    riga("Ascissa retta sustilare a scelta x3 ="_it, v.xSus, "Ordinata relativa y ="_it, sustilare(v.xSus));
+    riga("Ordinata retta sust.re a scelta y3 ="_it, v.ySus, "Ascissa relativa x ="_it, sustilareY(v.ySus));
 }
 
 }  // namespace
@@ -62,36 +62,39 @@ void Blocchi(Sessione &s, Foglio &f, Calcolo &c) {
     f.colore(9);
     if (equatore) {
         v.xSusEq = Sgn(v.xCentro) * v.gn * tan(v.altStilo);
-        f.etichetta("E Q U I N O Z I A L E");
-        f.riga({f.tr("La retta equinoziale è sempre verticale dal punto xel ="), Numero(Round(v.xSusEq * 10000, 4) / 10000).vero(v.xSusEq)});
-        f.etichetta("S U S T I L A R E");
-        f.etichetta("La retta sustilare coincide con l'orizzonte");
+        f.etichetta("E Q U I N O Z I A L E"_it);
+        f.riga({f.tr("La retta equinoziale è sempre verticale dal punto xel ="_it),
+                Numero(Round(v.xSusEq * 10000, 4) / 10000).vero(v.xSusEq)});
+        f.etichetta("S U S T I L A R E"_it);
+        f.etichetta("La retta sustilare coincide con l'orizzonte"_it);
     } else {
         coppie(v, f, c);
     }
     const Valore GP = Abs(v.segAsse) - Abs(v.segStiloSus), PM = v.segAsse * tan(v.angSustilare);
-    f.riga({f.tr("CM = "), Arrotonda5(v.segCentroPiede), Spc(3), f.tr("CG = "), Arrotonda5(v.segStiloSus), Spc(3), f.tr("CP = "),
-            Arrotonda5(v.segAsse)});
-    f.riga({f.tr("GP = "), Arrotonda5(GP), Spc(3), f.tr("PM = "), Arrotonda5(PM), Spc(3), f.tr("MS = "), Arrotonda5(v.segPiedeEq)});
+    f.riga({f.tr("CM = "_it), Arrotonda5(v.segCentroPiede), Spc(3), f.tr("CG = "_it), Arrotonda5(v.segStiloSus), Spc(3),
+            f.tr("CP = "_it), Arrotonda5(v.segAsse)});
+    f.riga({f.tr("GP = "_it), Arrotonda5(GP), Spc(3), f.tr("PM = "_it), Arrotonda5(PM), Spc(3), f.tr("MS = "_it),
+            Arrotonda5(v.segPiedeEq)});
     f.colore(0);
     const auto angolo = [&](std::string_view nome, Valore x, std::string_view cosa) {
-        f.riga({f.tr(nome), Arrotonda5(x), " rad   ", Arrotonda5(Gradi(x)), " °", Zona(), f.tr(cosa)});
+        f.riga({f.tr(nome), Arrotonda5(x), f.tr(" rad   "_it), Arrotonda5(Gradi(x)), " °", Zona(), f.tr(cosa)});
     };
-    angolo("sigma =", v.angSustilare, "angolo sustilare i");
-    angolo("epsilon =", -v.altStilo, "elevazione dello stilo j");
+    angolo("sigma ="_it, v.angSustilare, "angolo sustilare i"_it);
+    angolo("epsilon ="_it, -v.altStilo, "elevazione dello stilo j"_it);
     if (equatore) f.colore(1);
-    f.riga({f.tr("CX ="), Arrotonda5(v.xCentro), Spc(3), f.tr("CY ="), Arrotonda5(v.yCentro), Zona(), f.tr("Coordinate del centro")});
+    f.riga({f.tr("CX ="_it), Arrotonda5(v.xCentro), Spc(3), f.tr("CY ="_it), Arrotonda5(v.yCentro), Zona(),
+            f.tr("Coordinate del centro"_it)});
     if (equatore) f.colore(0);
 
     const Valore minuti = 60 * (c.oraSus - Int(c.oraSus));
     const Valore angolare = Gradi(equatore ? Valore(v.angoloOra) : v.angoloOra - v.diffLong);
     const Valore longitudine = equatore ? -Round(15 + angolare, 4) : -(15 + angolare);
-    f.riga({f.tr("ORA VERA SUSTILARE "), Arrotonda5(c.oraSus), Numero(Int(c.oraSus)), Numero(Int(minuti)),
-            Arrotonda5(60 * (minuti - Int(minuti))), f.tr(" long.sustilare = "), Fmt(longitudine, "0.0000")});
+    f.riga({f.tr("ORA VERA SUSTILARE "_it), Arrotonda5(c.oraSus), Numero(Int(c.oraSus)), Numero(Int(minuti)),
+            Arrotonda5(60 * (minuti - Int(minuti))), f.tr(" long.sustilare = "_it), Fmt(longitudine, "0.0000")});
     const std::string unita = s.Traduci(equatore ? " metri" : " unità");
-    f.riga({f.tr("latitudine "), Arrotonda5(v.lat), f.tr(", declinazione "), Arrotonda5(v.dec), f.tr(", ortostilo "), Arrotonda5(v.gn),
-            unita, f.tr(", assostilo "), Arrotonda5(v.assostiloLen), unita});
-    f.riga({f.tr("longitudine "), Arrotonda5(v.lon), f.tr(", declinazione sole "), Arrotonda5(v.deltaOpz)});
+    f.riga({f.tr("latitudine "_it), Arrotonda5(v.lat), f.tr(", declinazione "_it), Arrotonda5(v.dec), f.tr(", ortostilo "_it),
+            Arrotonda5(v.gn), unita, f.tr(", assostilo "_it), Arrotonda5(v.assostiloLen), unita});
+    f.riga({f.tr("longitudine "_it), Arrotonda5(v.lon), f.tr(", declinazione sole "_it), Arrotonda5(v.deltaOpz)});
     f.legenda();
     if (equatore) f.colore(13);
     f.chiudi();

@@ -15,20 +15,25 @@ constexpr std::string_view PARETE_IT[] = {
     "T ora      ascissa    ordinata         ascissa                   ordinata                             ",
     "T ora   ascissa    ordinata    ascissa            ordinata              "};
 constexpr std::string_view PRIMA_FR[] = {
-    "  heure       x              y0                             x0                           y                                     ",
+    "  heure       x              y0                             x0                           y                                  "
+    "   ",
     "  heure x          y0          x0                 y                     "};
 constexpr std::string_view SECONDA_FR[] = {
-    "  heure       x              y1                             x1                           y                                     ",
+    "  heure       x              y1                             x1                           y                                  "
+    "   ",
     "  heure x          y1          x1                 y                     "};
 constexpr std::string_view INGLESE = "  hour ";
 
 enum Ordine { Diretto, Inverso, Misto };
 constexpr std::string_view OMBRE[2][3] = {
-    {"se                            si                     se-si                         ce                        se-ce          "
+    {"se                            si                     se-si                         ce                        se-ce         "
+     " "
      "          si-ce                    delta",
-     "si                            se                     se-si                         ce                        si-ce          "
+     "si                            se                     se-si                         ce                        si-ce         "
+     " "
      "          se-ce                    delta",
-     "si                            se                     se-si                         ce                        se-ce          "
+     "si                            se                     se-si                         ce                        se-ce         "
+     " "
      "          si-ce                    delta"},
     {"se                si                   se-si               ce                  se-ce             si-ce                    "
      "delta",
@@ -55,9 +60,15 @@ Valore taglia(Valore x) { return Int(x * 10000) / 10000; }
 void ombre(const Variabili &v, Calcolo &c, Valore q) {
     const Valore delta = v.deltaOpz * PI / 180;
     switch (c.specie) {
-        case Specie::Inclinato: c.w = tan(v.altStilo) / cos(q); break;
-        case Specie::Parete: c.w = c.sine / cos(q); break;
-        default: c.w = c.L / cos(q); break;
+        case Specie::Inclinato:
+            c.w = tan(v.altStilo) / cos(q);
+            break;
+        case Specie::Parete:
+            c.w = c.sine / cos(q);
+            break;
+        default:
+            c.w = c.L / cos(q);
+            break;
     }
     c.A = c.specie == Specie::LatZero ? -Atn(c.w) : Atn(c.w);
     if (Abs(q) > PI / 2) c.A = (PI - Abs(c.A)) * Sgn(c.A);
@@ -137,9 +148,7 @@ void riga(const Variabili &v, Foglio &f, Calcolo &c, double V, Valore xs, Valore
 
 }  // namespace
 
-bool PrimoOrdine(Specie specie, const Variabili &v) {
-    return specie == Specie::Parete ? v.altStilo > 0 : v.altStilo < 0;
-}
+bool PrimoOrdine(Specie specie, const Variabili &v) { return specie == Specie::Parete ? v.altStilo > 0 : v.altStilo < 0; }
 
 Trilingue Intestazioni(Specie specie, bool schermo, bool primoOrdine, bool prima) {
     const std::size_t carta = schermo ? 0 : 1;

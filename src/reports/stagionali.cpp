@@ -54,7 +54,8 @@ const Testi &testi(Ora ora) {
          {},
          {},
          {"COORDINATE DEGLI INTERCETTI DELLE RETTE ORARIE Temporarie CON RETTE A PIACERE, PER ESEMPIO I BORDI DEL QUADRO.",
-          "Coordonnées des intersections des lignes horaires temporaires avec des droites au choix, par exemple les bords du cadre.",
+          "Coordonnées des intersections des lignes horaires temporaires avec des droites au choix, par exemple les bords du "
+          "cadre.",
           "Coordinates of the intercepts of the temporary hour lines with straight lines, for example the edges of the pattern."},
          {"ora temp               ascissa                ordinata                ordinata               ascissa ",
           "heure temp          abscisse                ordonnée                ordonnée               abscisse ",
@@ -86,9 +87,15 @@ private:
         const Valore d = Radianti(delta);
         H_ = PI / 2 - ArcSin(-tan(v_.lat_o) * tan(d));
         switch (ora_) {
-            case Ora::Italica: a_ = Valore(V) * PI / 12 + H_ - 2 * PI + v_.diffLong; break;
-            case Ora::Babilonica: a_ = Valore(V) * PI / 12 - H_ + v_.diffLong; break;
-            case Ora::Temporaria: a_ = H_ * (Valore(V) / 6 - 1) + v_.diffLong; break;
+            case Ora::Italica:
+                a_ = Valore(V) * PI / 12 + H_ - 2 * PI + v_.diffLong;
+                break;
+            case Ora::Babilonica:
+                a_ = Valore(V) * PI / 12 - H_ + v_.diffLong;
+                break;
+            case Ora::Temporaria:
+                a_ = H_ * (Valore(V) / 6 - 1) + v_.diffLong;
+                break;
         }
         proietta_(Valore(a_), d, x, y);
     }
@@ -107,7 +114,9 @@ struct Speciale {
 
 Elemento quattro(Valore x) { return Fmt(x, "0.0000"); }
 
-Trilingue trilingue(const std::array<std::string_view, 3> &t) { return {std::string(t[0]), std::string(t[1]), std::string(t[2])}; }
+Trilingue trilingue(const std::array<std::string_view, 3> &t) {
+    return {std::string(t[0]), std::string(t[1]), std::string(t[2])};
+}
 
 void testata(Sessione &s, Foglio &f, const std::array<std::string_view, 3> &titoli, const std::array<std::string_view, 3> &teste,
              const std::string &rette) {

@@ -29,9 +29,9 @@ struct Elemento {
     bool ornamento = false;  // a label inside a table row, no cell of its own
     bool esiste = true;      // false: the number faulted
 
-    Elemento(std::string t) : testo(std::move(t)) {}          // NOLINT: a text is an item
-    Elemento(std::string_view t) : testo(t) {}                // NOLINT
-    Elemento(const char *t) : testo(t) {}                     // NOLINT
+    Elemento(std::string t) : testo(std::move(t)) {}  // NOLINT: a text is an item
+    Elemento(std::string_view t) : testo(t) {}        // NOLINT
+    Elemento(const char *t) : testo(t) {}             // NOLINT
     // The same item standing for this number.
     [[nodiscard]] Elemento vero(Valore x) && {
         if (x.esiste()) numero = x.v;

@@ -45,6 +45,10 @@ struct Sessione {
 
     // Change handlers of fields that an engine rewrites; set by the application above.
     std::function<void(Sessione &, std::string DialInputs::*)> suCambio;
+    // What needs a toolkit; absent without one. The sheet to the printer, whole or its selected tiles; the sheet's picture
+    // as a BMP file's bytes, empty when there can be none.
+    std::function<void(Sessione &, bool aree)> suStampa;
+    std::function<std::string(Sessione &)> suImmagine;
 
     [[nodiscard]] std::string Traduci(std::string_view testo) const { return dizionario.Traduci(testo); }
     void Messaggio(std::string_view testo) { tavolo.Messaggio(testo); }

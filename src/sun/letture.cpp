@@ -36,12 +36,6 @@ int giorniDelMese(int anno, int mese) {
     return mese == 2 && bisestile ? 29 : GIORNI[static_cast<std::size_t>(mese - 1)];
 }
 
-// Degrees to -180..180, 180 included.
-double girato(double gradi) {
-    const double r = std::remainder(gradi, 360.0);
-    return r <= -180 ? r + 360 : r;
-}
-
 // Chance that a Student variable of so many degrees of freedom lies farther from 0 than t, on both sides. The finite
 // series in the angle of t (Abramowitz and Stegun, 26.7.3 and 26.7.4).
 double codeDiStudent(double t, std::size_t liberta) {
@@ -88,6 +82,11 @@ std::string leggiRiga(std::string_view riga, DatiDeclinazione &dati) {
 }
 
 }  // namespace
+
+double Girato(double gradi) {
+    const double r = std::remainder(gradi, 360.0);
+    return r <= -180 ? r + 360 : r;
+}
 
 std::string LeggiData(std::string_view testo, DatiDeclinazione &dati) {
     std::array<int, 3> n{};
@@ -150,9 +149,9 @@ Riassunto Riassumi(const std::vector<double> &gradi) {
     if (gradi.empty()) return r;
     const std::size_t n = gradi.size();
     std::vector<double> v;
-    for (const double g : gradi) v.push_back(girato(g - gradi[0]));
+    for (const double g : gradi) v.push_back(Girato(g - gradi[0]));
     const double m = media(v);
-    r.media = girato(gradi[0] + m);
+    r.media = Girato(gradi[0] + m);
     r.scarto = scarto(v);
     for (const double x : v) r.distanze.push_back(n > 1 ? (x - m) * static_cast<double>(n) / static_cast<double>(n - 1) : 0);
     for (std::size_t i = 1; i < n; ++i)

@@ -17,6 +17,9 @@ namespace ombrelia::sun {
 // A number and nothing else, between da and a.
 [[nodiscard]] std::string LeggiNumero(std::string_view testo, double da, double a, Valore &numero);
 
+// Degrees to -180..180, 180 included.
+[[nodiscard]] double Girato(double gradi);
+
 struct Lettura {
     std::size_t riga = 0;  // in the file
     std::string testo;     // as written, without its comment

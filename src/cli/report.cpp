@@ -1,0 +1,123 @@
+// A report from options.
+#include "cli/report.h"
+
+#include <cstdio>
+#include <string_view>
+#include <vector>
+
+#include "app/comandi.h"
+#include "cli/campi.h"
+#include "cli/console.h"
+#include "cli/formati.h"
+#include "reports/rapporti.h"
+
+namespace ombrelia::cli {
+
+namespace {
+
+struct Voce {
+    std::string_view nome, contenuto;
+    std::vector<std::string_view> premi;  // controls pressed in turn
+    std::string_view modulo;              // the form that must open
+    int ckFunzione = -1;                  // its value when the report depends on it
+};
+
+const std::vector<Voce> &voci() {
+    static const std::vector<Voce> tutte{
+        {"data", "fundamental data", {"cmdData"}, "Form1"},
+        {"equivalent", "the equivalent vertical dial and the original one", {"cmdTrasforma", "cmdData"}, "Form10"},
+        {"hours", "true hours against two pairs of lines, shadow lengths", {"optHorae"}, "Form2"},
+        {"italic", "hours from sunset", {"OptIta"}, "Form9"},
+        {"babylonian", "hours from sunrise", {"OptBab"}, "Form4"},
+        {"temporary", "twelfths of the day", {"OptTEMP"}, "Form3"},
+        {"spherical", "hour lines against day lines, by spherical trigonometry", {"OptInter"}, "Form6", 0},
+        {"analytic", "the same by analytic geometry, walls only", {"OptInter"}, "Form7", 1},
+        {"daylines", "day lines by abscissa, walls only", {"Option1"}, "Form8"},
+        {"notice", "what the program does and does not promise", {"mnuAvviso"}, "Form5"},
+    };
+    return tutte;
+}
+
+int rifiuta(const std::string &motivo) {
+    std::fprintf(stderr, "ombrelia report: %s\n", motivo.c_str());
+    return 2;
+}
+
+struct Richiesta {
+    const Voce *voce = nullptr;
+    Campi campi;
+    std::string uscita = "-";
+    std::string (*forma)(const Rapporto &) = reports::RapportoTesto;
+    bool stampa = false;
+};
+
+std::string leggi(int argc, char **argv, Richiesta &r) {
+    for (int i = 0; i < argc; ++i) {
+        const std::string a = argv[i];
+        if (a == "--text") {
+            r.forma = reports::RapportoTesto;
+        } else if (a == "--csv") {
+            r.forma = reports::RapportoCsv;
+        } else if (a == "--html") {
+            r.forma = reports::RapportoHtml;
+        } else if (a == "--print") {
+            r.stampa = true;
+        } else if (Campi::Opzione(a) || a == "-o" || a == "--out") {
+            if (++i >= argc) return a + " needs an argument";
+            if (!Campi::Opzione(a)) r.uscita = argv[i];
+            else if (std::string e = r.campi.Prendi(a, argv[i]); !e.empty()) return e;
+        } else if (a.starts_with("-") && a != "-") {
+            return "unknown option " + a + "; see ombrelia report --help";
+        } else if (r.voce) {
+            return "one report at a time: " + std::string(r.voce->nome) + " or " + a;
+        } else {
+            for (const Voce &v : voci())
+                if (v.nome == a) r.voce = &v;
+            if (!r.voce) return "unknown report " + a + "; they are:\n" + NomiRapporti();
+        }
+    }
+    return r.voce ? std::string() : "no report named; they are:\n" + NomiRapporti();
+}
+
+// Why a report did not open.
+std::string perche(const Sessione &s, const Voce &v) {
+    const std::string chi(v.nome);
+    if (Val(s.in.txtLAT) < 0)
+        return chi + ": txtLAT reads " + s.in.txtLAT +
+               ", tables are for northern latitudes only: give the latitude "
+               "without its sign and mirror the numbers left to right";
+    if (Val(s.in.txtInc) != 0) return chi + ": txtInc reads " + s.in.txtInc + ", this report is for walls only (txtInc 0)";
+    return chi + ": the fields give no report";
+}
+
+}  // namespace
+
+std::string NomiRapporti() {
+    std::string t;
+    for (const Voce &v : voci()) {
+        t.append("  ").append(v.nome).append(13 - v.nome.size(), ' ');
+        t.append(v.contenuto).append("\n");
+    }
+    return t;
+}
+
+int Report(int argc, char **argv) {
+    Richiesta r;
+    if (const std::string e = leggi(argc, argv, r); !e.empty()) return rifiuta(e);
+    Console console(stderr);
+    Sessione s(console);
+    app::Avvia(s);
+    if (const std::string e = r.campi.Applica(s); !e.empty()) return rifiuta(e);
+    if (r.voce->ckFunzione >= 0) s.in.ckFunzione = r.voce->ckFunzione;
+    for (const std::string_view nome : r.voce->premi)
+        if (app::Premi(s, TrovaControllo(nome)) == app::Esito::Disabilitato) return rifiuta(perche(s, *r.voce));
+    if (s.rapporti.aperto.modulo != r.voce->modulo) return rifiuta(perche(s, *r.voce));
+    if (r.stampa) {
+        if (!s.rapporti.stampa) return rifiuta(std::string(r.voce->nome) + " has no printed form");
+        s.rapporti.stampa(s);
+    }
+    const std::string errore = Consegna(r.uscita, r.forma(r.stampa ? s.rapporti.stampato : s.rapporti.aperto));
+    return errore.empty() ? 0 : rifiuta(errore);
+}
+
+}  // namespace ombrelia::cli

@@ -1,0 +1,185 @@
+// The sheet in the window.
+#include "desktop/foglio.h"
+
+#include <QApplication>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QScrollBar>
+#include <QStyleHints>
+#include <cmath>
+
+namespace ombrelia::desktop {
+
+namespace {
+
+constexpr double TWIP_AL_POLLICE = 1440, MARGINE = 16;
+constexpr double ZOOM_MINIMO = 0.02, ZOOM_MASSIMO = 60;  // against true size at the present scale
+
+}  // namespace
+
+Foglio::Foglio(Tavolo &tavolo, QWidget *genitore) : QAbstractScrollArea(genitore), tavolo_(tavolo) {
+    viewport()->setMouseTracking(true);
+    viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
+    viewport()->setCursor(Qt::CrossCursor);
+    setFocusPolicy(Qt::StrongFocus);
+    setFrameShape(QFrame::NoFrame);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    setMinimumSize(240, 200);
+}
+
+double Foglio::fattoreVero() const { return logicalDpiX() / TWIP_AL_POLLICE; }
+
+void Foglio::cambiato() {
+    stantia_ = true;
+    disponi();
+    viewport()->update();
+}
+
+void Foglio::cambiato(const QImage &pronta, const Vista &per) {
+    disponi();
+    if (per == vista_) {
+        immagine_ = pronta;
+        dipinta_ = per;
+        stantia_ = false;
+    } else {
+        stantia_ = true;
+    }
+    viewport()->update();
+}
+
+void Foglio::tutto() {
+    intero_ = true;
+    cambiato();
+}
+
+void Foglio::vero() {
+    const QPointF centro(viewport()->width() / 2.0, viewport()->height() / 2.0);
+    zoom(fattoreVero() * tavolo_.Scala() / vista_.fattore, centro);
+}
+
+void Foglio::ingrandisci(double volte) { zoom(volte, {viewport()->width() / 2.0, viewport()->height() / 2.0}); }
+
+void Foglio::zoom(double volte, const QPointF &fermo) {
+    const double nuovo = std::clamp(vista_.fattore * volte, fattoreVero() * ZOOM_MINIMO, fattoreVero() * ZOOM_MASSIMO);
+    const QPointF sotto = suDispositivo(fermo);
+    intero_ = false;
+    vista_.fattore = nuovo;
+    vista_.origine = fermo - sotto * nuovo;
+    disponi();
+    // What stands under the pointer stays there, as far as the bars reach.
+    horizontalScrollBar()->setValue(static_cast<int>(std::lround(sotto.x() * nuovo + MARGINE - fermo.x())));
+    verticalScrollBar()->setValue(static_cast<int>(std::lround(sotto.y() * nuovo + MARGINE - fermo.y())));
+    disponi();
+    viewport()->update();
+}
+
+// Bars and origin for the present window, sheet and zoom.
+void Foglio::disponi() {
+    if (disponendo_) return;
+    disponendo_ = true;
+    const QSizeF finestra = viewport()->size();
+    const double l = std::max(tavolo_.LarghezzaImmagine(), 1.0), h = std::max(tavolo_.AltezzaImmagine(), 1.0);
+    if (intero_) {
+        const double entra = std::min((finestra.width() - 2 * MARGINE) / l, (finestra.height() - 2 * MARGINE) / h);
+        vista_.fattore = std::max(entra, fattoreVero() * ZOOM_MINIMO);
+    }
+    const auto barra = [](QScrollBar *b, double lungo, double pagina) {
+        b->setPageStep(static_cast<int>(pagina));
+        b->setSingleStep(20);
+        b->setRange(0, std::max(0, static_cast<int>(std::ceil(lungo + 2 * MARGINE - pagina))));
+    };
+    barra(horizontalScrollBar(), l * vista_.fattore, finestra.width());
+    barra(verticalScrollBar(), h * vista_.fattore, finestra.height());
+    // A sheet smaller than the window stands in its middle.
+    const auto inizio = [](const QScrollBar *b, double lungo, double pagina) {
+        return b->maximum() > 0 ? MARGINE - b->value() : std::floor((pagina - lungo) / 2);
+    };
+    vista_.origine = {inizio(horizontalScrollBar(), l * vista_.fattore, finestra.width()), inizio(verticalScrollBar(), h * vista_.fattore, finestra.height())};
+    vista_.misura = viewport()->size();
+    vista_.rapporto = devicePixelRatioF();
+    disponendo_ = false;
+}
+
+void Foglio::paintEvent(QPaintEvent *) {
+    if (stantia_ || !(dipinta_ == vista_)) {
+        disponi();
+        immagine_ = DisegnaVista(tavolo_, vista_);
+        dipinta_ = vista_;
+        stantia_ = false;
+    }
+    QPainter p(viewport());
+    p.drawImage(QPointF(0, 0), immagine_);
+    p.end();
+    if (suDipinto) suDipinto(vista_);
+}
+
+void Foglio::resizeEvent(QResizeEvent *) {
+    disponi();
+    viewport()->update();
+}
+
+void Foglio::scrollContentsBy(int, int) {
+    disponi();
+    viewport()->update();
+}
+
+void Foglio::wheelEvent(QWheelEvent *e) {
+    if (e->modifiers() & Qt::ShiftModifier) return QAbstractScrollArea::wheelEvent(e);
+    constexpr double SCATTO = 240;  // two notches double
+    zoom(std::pow(2, e->angleDelta().y() / SCATTO), e->position());
+    e->accept();
+}
+
+void Foglio::mousePressEvent(QMouseEvent *e) {
+    if (e->button() != Qt::LeftButton && e->button() != Qt::MiddleButton) return;
+    premuto_ = e->position();
+    ultimo_ = e->position().toPoint();
+    trascina_ = false;
+}
+
+void Foglio::mouseMoveEvent(QMouseEvent *e) {
+    if (suPosizione) {
+        const QPointF d = suDispositivo(e->position());
+        const double k = tavolo_.Scala() / Tavolo::ScalaBase;
+        suPosizione(QPointF((d.x() * k - tavolo_.ShiftX()) * 1000, (d.y() * k - tavolo_.ShiftY()) * 1000));
+    }
+    if (!premuto_) return;
+    if (!trascina_ && (e->position() - *premuto_).manhattanLength() >= QGuiApplication::styleHints()->startDragDistance()) {
+        trascina_ = true;
+        viewport()->setCursor(Qt::ClosedHandCursor);
+    }
+    if (!trascina_) return;
+    const QPoint qui = e->position().toPoint(), passo = qui - ultimo_;
+    ultimo_ = qui;
+    horizontalScrollBar()->setValue(horizontalScrollBar()->value() - passo.x());
+    verticalScrollBar()->setValue(verticalScrollBar()->value() - passo.y());
+}
+
+void Foglio::mouseReleaseEvent(QMouseEvent *e) {
+    const bool clic = premuto_ && !trascina_ && e->button() == Qt::LeftButton;
+    premuto_.reset();
+    trascina_ = false;
+    viewport()->setCursor(Qt::CrossCursor);
+    if (!clic || !suClic) return;
+    const QPointF d = suDispositivo(e->position());
+    suClic(d.x(), d.y());
+}
+
+void Foglio::keyPressEvent(QKeyEvent *e) {
+    constexpr double PASSO = 1.25;
+    switch (e->key()) {
+        case Qt::Key_Plus:
+        case Qt::Key_Equal: return ingrandisci(PASSO);
+        case Qt::Key_Minus: return ingrandisci(1 / PASSO);
+        case Qt::Key_Home: return tutto();
+        default: QAbstractScrollArea::keyPressEvent(e);
+    }
+}
+
+bool Foglio::viewportEvent(QEvent *e) {
+    if (e->type() == QEvent::Leave && suPosizione) suPosizione({});
+    return QAbstractScrollArea::viewportEvent(e);
+}
+
+}  // namespace ombrelia::desktop

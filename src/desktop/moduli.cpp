@@ -1,0 +1,284 @@
+// The lesser forms.
+#include "desktop/moduli.h"
+
+#include <QFontDatabase>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLocale>
+#include <QMenuBar>
+#include <QPlainTextEdit>
+#include <QPrinter>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSysInfo>
+#include <QTextBlock>
+#include <QTextDocument>
+#include <QVBoxLayout>
+
+#include "core/file.h"
+#include "desktop/figure.h"
+#include "paint/tinte.h"
+#include "reports/rapporti.h"
+
+namespace ombrelia::desktop {
+
+namespace {
+
+// The report forms with their one menu entry.
+constexpr std::pair<std::string_view, std::string_view> RAPPORTI[] = {
+    {"Form1", "menuFond"},    {"Form2", "mnuPrinta"},  {"Form3", "mnustampat"}, {"Form4", "mnubabprint"}, {"Form6", "mnu_Print"},
+    {"Form7", "menustampa"},  {"Form8", "menuprinta"}, {"Form9", "mnuStammpa"}, {"Form10", "mnuDatiQ"},
+};
+
+QPlainTextEdit *lettura(QWidget *genitore) {
+    auto *t = new QPlainTextEdit(genitore);
+    t->setReadOnly(true);
+    t->setLineWrapMode(QPlainTextEdit::NoWrap);
+    t->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    return t;
+}
+
+// The lines in their colours. A report's text has a line for each of its rows.
+void riempi(QPlainTextEdit *t, const Rapporto &r) {
+    const QStringList righe = Q(reports::RapportoTesto(r)).split(QLatin1Char('\n'));
+    t->clear();
+    QTextCursor c(t->document());
+    for (qsizetype i = 0; i < righe.size(); ++i) {
+        QTextCharFormat f;
+        const auto n = static_cast<std::size_t>(i);
+        const Colore colore = n < r.righe.size() ? r.righe[n].colore : 0;
+        f.setForeground(paint::Inchiostro(colore, paint::Supporto::Carta));
+        if (i > 0) c.insertBlock();
+        c.insertText(righe.at(i), f);
+    }
+    c.movePosition(QTextCursor::Start);
+    t->setTextCursor(c);
+}
+
+}  // namespace
+
+Moduli::Moduli(Ponte &ponte, Dialoghi &dialoghi, QWidget *finestra) : ponte_(ponte), dialoghi_(dialoghi), finestra_(finestra) {
+    for (const auto &r : RAPPORTI) rapporto(r.first);
+    avviso();
+    strumenti();
+    istruzioni();
+    informazioni();
+}
+
+QWidget *Moduli::modulo(std::string_view nome) const {
+    const auto i = finestre_.find(nome);
+    return i == finestre_.end() ? nullptr : i->second;
+}
+
+void Moduli::apri(std::string_view nome, bool aperto) {
+    QWidget *w = modulo(nome);
+    if (!w) return;
+    w->setWindowTitle(Q(ponte_.sessione().titolo(nome)).simplified());
+    ponte_.sincronizza();
+    if (!aperto) return w->hide();
+    if (nome == "frmInfoDec") {
+        // Modal, without a loop of its own: it waits over the board.
+        if (QWidget *sotto = modulo("frmDeclin"); sotto && sotto->isVisible()) w->setParent(sotto, w->windowFlags());
+        w->setWindowModality(Qt::WindowModal);
+    }
+    w->show();
+    w->raise();
+    w->activateWindow();
+}
+
+void Moduli::rapporto(std::string_view nome) {
+    auto *w = new QMainWindow(finestra_, Qt::Window);
+    w->setObjectName(Q(nome));
+    auto *testo = lettura(w);
+    testo->setObjectName(QStringLiteral("testo"));
+    w->setCentralWidget(testo);
+    w->resize(900, 560);
+    for (const auto &[modulo, menu] : RAPPORTI) {
+        if (modulo != nome) continue;
+        QAction *stampa = ponte_.voce(std::string(modulo) + "." + std::string(menu), w);
+        stampa->setShortcut(QKeySequence::Print);
+        w->menuBar()->addAction(stampa);
+    }
+    auto *salva = new QAction(ponte_.Traduci("Salva come..."), w);
+    salva->setShortcut(QKeySequence::Save);
+    QObject::connect(salva, &QAction::triggered, w, [this, w, chi = std::string(nome)] { salvaTesto(w, contenuti_[chi]); });
+    auto *chiudi = new QAction(ponte_.Traduci("Chiudi"), w);
+    chiudi->setShortcuts({QKeySequence(Qt::Key_Escape), QKeySequence(QKeySequence::Close)});
+    QObject::connect(chiudi, &QAction::triggered, w, &QWidget::hide);
+    w->menuBar()->addActions({salva, chiudi});
+    finestre_.emplace(nome, w);
+}
+
+void Moduli::salvaTesto(QWidget *sopra, const Rapporto &r) {
+    const auto f = dialoghi_.file(sopra, true, QStringLiteral("txt"), QStringLiteral("*.txt;;*.csv;;*.html"), Q(r.modulo) + QStringLiteral(".txt"));
+    if (!f || f->isEmpty()) return;
+    const std::string contenuto = f->endsWith(QStringLiteral(".csv"), Qt::CaseInsensitive)    ? reports::RapportoCsv(r)
+                                  : f->endsWith(QStringLiteral(".html"), Qt::CaseInsensitive) ? reports::RapportoHtml(r)
+                                                                                              : reports::RapportoTesto(r);
+    if (const auto errore = ScriviFile(f->toStdString(), contenuto)) dialoghi_.avviso(sopra, Q(*errore));
+}
+
+void Moduli::mostra(const Rapporto &r) {
+    QWidget *w = modulo(r.modulo);
+    if (!w) return;
+    contenuti_[r.modulo] = r;
+    if (auto *testo = w->findChild<QPlainTextEdit *>(QStringLiteral("testo"))) riempi(testo, r);
+    apri(r.modulo, true);
+}
+
+void Moduli::stampa(const Rapporto &r) {
+    const QString testo = Q(reports::RapportoTesto(r));
+    dialoghi_.stampa(finestra_, Q(r.caption).simplified(), [testo](QPrinter &stampante) {
+        QTextDocument d;
+        QFont f = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+        constexpr double CORPO = 7.5;  // the widest table fits an upright page
+        f.setPointSizeF(CORPO);
+        d.setDefaultFont(f);
+        d.setPlainText(testo);
+        d.print(&stampante);
+    });
+}
+
+void Moduli::avviso() {
+    auto *w = new QDialog(finestra_);
+    w->setObjectName(QStringLiteral("Form5"));
+    auto *giu = new QVBoxLayout(w);
+    auto *testo = new QPlainTextEdit(w);
+    testo->setReadOnly(true);
+    testo->setMinimumSize(560, 320);
+    ponte_.adotta("Form5.Text1", testo);
+    giu->addWidget(testo);
+    finestre_.emplace("Form5", w);
+}
+
+void Moduli::strumenti() {
+    auto *w = new QDialog(finestra_);
+    w->setObjectName(QStringLiteral("frmDeclin"));
+    const auto metti = [this](std::string_view nome, QWidget *genitore) {
+        QWidget *q = ponte_.crea("frmDeclin." + std::string(nome), genitore);
+        if (qobject_cast<QLineEdit *>(q)) q->setFixedWidth(78);
+        if (auto *b = qobject_cast<QPushButton *>(q)) b->setAutoDefault(false);
+        return q;
+    };
+    auto *fianco = new QHBoxLayout(w);
+    auto *sinistra = new QVBoxLayout;
+    fianco->addLayout(sinistra);
+
+    QWidget *f1 = metti("Frame1", w);
+    auto *g1 = new QGridLayout(f1);
+    g1->addWidget(metti("optModoDec", f1), 0, 1);
+    g1->addWidget(metti("OptModoSess", f1), 0, 3, 1, 3);
+    int c = 3;
+    for (const std::string_view nome : {"lblGradi", "lblPrimi", "lblSecondi"}) g1->addWidget(metti(nome, f1), 1, c++);
+    const std::vector<std::vector<std::string_view>> righe{
+        {"lblLAT", "txtLAT", "cmdSign(0)", "txtLatG", "txtLatP", "txtLATS"},
+        {"lblLON", "txtLON", "cmdSign(1)", "txtLonG", "txtLonP", "txtLonS"},
+    };
+    for (int r = 0; r < 2; ++r)
+        for (int k = 0; k < 6; ++k) {
+            QWidget *q = metti(righe[static_cast<std::size_t>(r)][static_cast<std::size_t>(k)], f1);
+            if (k == 2) q->setFixedWidth(34);
+            g1->addWidget(q, 2 + r, k);
+        }
+    g1->addWidget(metti("cmdTrans", f1), 4, 0, 1, 6);
+    sinistra->addWidget(f1);
+
+    QWidget *f2 = metti("Frame2", w);
+    auto *g2 = new QGridLayout(f2);
+    const std::vector<std::vector<std::string_view>> declinazione{
+        {"lblData", "txtDay", "txtMonth", "txtYear"}, {"lblUT", "txtHH", "txtMM", "txtSS"}, {"lblAngle", "txtAngle", "cmdInfo"}, {"lblFuso", "TxtFuso", "ckDst"}};
+    int r = 0;
+    for (const auto &riga : declinazione) {
+        int k = 0;
+        for (const std::string_view nome : riga) {
+            const bool ultimo = k == 2 && riga.size() == 3;
+            g2->addWidget(metti(nome, f2), r, k, 1, ultimo ? 2 : 1);
+            ++k;
+        }
+        ++r;
+    }
+    auto *calcola = metti("cmdCalcola", f2);
+    calcola->setProperty("principale", true);
+    g2->addWidget(calcola, r, 0, 1, 2);
+    g2->addWidget(metti("cmdExit", f2), r, 2, 1, 2);
+    sinistra->addWidget(f2);
+    sinistra->addStretch(1);
+
+    // The result is a text of the session shown over several lines.
+    auto *esito = lettura(w);
+    esito->setMinimumSize(440, 400);
+    ponte_.adotta("frmDeclin.txtResult", esito);
+    fianco->addWidget(esito, 1);
+    finestre_.emplace("frmDeclin", w);
+}
+
+void Moduli::istruzioni() {
+    auto *w = new QDialog(finestra_);
+    w->setObjectName(QStringLiteral("frmInfoDec"));
+    auto *giu = new QVBoxLayout(w);
+    QWidget *figura = FiguraIstruzioni(ponte_.sessione(), w);
+    ponte_.adotta("frmInfoDec.Picture1", figura);
+    giu->addWidget(figura, 1);
+    const QString passi[] = {
+        ponte_.Traduci("Appoggia alla parete una tavoletta orizzontale e traccia la perpendicolare alla parete."),
+        ponte_.Traduci("Tieni un filo a piombo sopra la perpendicolare: la sua ombra fa con essa l'angolo az."),
+        ponte_.Traduci("Guardando la parete, az è positivo se l'ombra cade a destra, negativo se cade a sinistra."),
+        ponte_.Traduci("Annota l'angolo in gradi, la data e l'ora in tempo universale (UT), scrivili nella tavola e premi Esegui."),
+        ponte_.Traduci("Ripeti in ore diverse: la media di più misure è più sicura di una sola."),
+    };
+    int n = 0;
+    for (const QString &passo : passi) {
+        auto *l = new QLabel(QStringLiteral("%1.  ").arg(++n) + passo, w);
+        l->setWordWrap(true);
+        giu->addWidget(l);
+    }
+    finestre_.emplace("frmInfoDec", w);
+}
+
+void Moduli::informazioni() {
+    auto *w = new QDialog(finestra_);
+    w->setObjectName(QStringLiteral("frmAbout"));
+    auto *giu = new QVBoxLayout(w);
+    giu->setContentsMargins(28, 24, 28, 20);
+    const auto metti = [&](std::string_view nome) { return ponte_.crea("frmAbout." + std::string(nome), w); };
+    auto *icona = new QLabel(w);
+    icona->setPixmap(finestra_->windowIcon().pixmap(96, 96));
+    icona->setAlignment(Qt::AlignCenter);
+    giu->addWidget(icona);
+    QWidget *titolo = metti("lblTitle");
+    QFont f = titolo->font();
+    f.setPointSizeF(f.pointSizeF() * 1.8);
+    f.setBold(true);
+    titolo->setFont(f);
+    auto *fila = new QHBoxLayout;
+    fila->addStretch(1);
+    fila->addWidget(metti("lblVersion"));
+    fila->addWidget(new QLabel(QStringLiteral(OMBRELIA_VERSIONE), w));
+    fila->addStretch(1);
+    giu->addWidget(titolo, 0, Qt::AlignHCenter);
+    giu->addLayout(fila);
+    giu->addWidget(metti("lblDescription"), 0, Qt::AlignHCenter);
+    auto *sistema = new QLabel(w);
+    sistema->setVisible(false);
+    sistema->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    giu->addWidget(sistema, 0, Qt::AlignHCenter);
+    auto *bottoni = new QHBoxLayout;
+    auto *info = qobject_cast<QPushButton *>(metti("cmdSysInfo"));
+    auto *ok = qobject_cast<QPushButton *>(metti("cmdOK"));
+    bottoni->addWidget(info);
+    bottoni->addStretch(1);
+    bottoni->addWidget(ok);
+    giu->addSpacing(8);
+    giu->addLayout(bottoni);
+    ok->setDefault(true);
+    QObject::connect(ok, &QPushButton::clicked, w, &QWidget::hide);
+    QObject::connect(info, &QPushButton::clicked, w, [sistema, w] {
+        sistema->setText(QStringLiteral("%1, %2\nQt %3, %4").arg(QSysInfo::prettyProductName(), QSysInfo::currentCpuArchitecture(), QString::fromLatin1(qVersion()), QLocale::system().name()));
+        sistema->setVisible(true);
+        w->adjustSize();
+    });
+    finestre_.emplace("frmAbout", w);
+}
+
+}  // namespace ombrelia::desktop

@@ -1,0 +1,45 @@
+// The lesser forms: reports, notice, utility board with its instructions, about box. Each is made once, hidden, and shown
+// when the session opens it.
+#pragma once
+
+#include <QDialog>
+#include <QMainWindow>
+#include <map>
+#include <string>
+
+#include "desktop/dialoghi.h"
+#include "desktop/ponte.h"
+
+class QPlainTextEdit;
+
+namespace ombrelia::desktop {
+
+class Moduli {
+public:
+    Moduli(Ponte &ponte, Dialoghi &dialoghi, QWidget *finestra);
+
+    // Shows a form by its name or hides it; an unknown name does nothing.
+    void apri(std::string_view nome, bool aperto);
+    // Fills a report's form and shows it.
+    void mostra(const Rapporto &r);
+    // Prints what a "Stampa" menu sent.
+    void stampa(const Rapporto &r);
+    // A form's window; null when there is none.
+    [[nodiscard]] QWidget *modulo(std::string_view nome) const;
+
+private:
+    void rapporto(std::string_view nome);
+    void avviso();
+    void strumenti();
+    void istruzioni();
+    void informazioni();
+    void salvaTesto(QWidget *sopra, const Rapporto &r);
+
+    Ponte &ponte_;
+    Dialoghi &dialoghi_;
+    QWidget *finestra_;
+    std::map<std::string, QWidget *, std::less<>> finestre_;
+    std::map<std::string, Rapporto, std::less<>> contenuti_;
+};
+
+}  // namespace ombrelia::desktop

@@ -1,0 +1,209 @@
+// Widgets of the table's rows.
+#include "desktop/ponte.h"
+
+#include <QCheckBox>
+#include <QClipboard>
+#include <QGroupBox>
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSignalBlocker>
+#include <stdexcept>
+
+#include "app/azioni.h"
+#include "desktop/dialoghi.h"
+
+namespace ombrelia::desktop {
+
+namespace {
+
+const Controllo &riga(IdControllo id) { return TavolaControlli()[static_cast<std::size_t>(id)]; }
+
+QString nomeOggetto(const Controllo &r) {
+    QString n = Q(r.nome);
+    if (r.indice >= 0) n += QStringLiteral("(%1)").arg(r.indice);
+    return n;
+}
+
+IdControllo cerca(std::string_view nome) {
+    const IdControllo id = TrovaControllo(nome);
+    if (id == NESSUN_CONTROLLO) throw std::logic_error("no such control: " + std::string(nome));
+    return id;
+}
+
+template <class T>
+void secambia(T *w, const QString &nuovo) {
+    if (w->text() != nuovo) w->setText(nuovo);
+}
+
+void voci(Sessione &s, IdControllo id, QComboBox *c) {
+    QStringList v;
+    if (riga(id).pannello)
+        for (const int n : s.tavolo.cmbScala()) v << QStringLiteral("1:%1").arg(n);
+    else
+        for (const std::string &paese : s.mondo.paesi) v << Q(paese);
+    bool uguali = v.size() == c->count();
+    for (int i = 0; uguali && i < c->count(); ++i) uguali = c->itemText(i) == v.at(i);
+    if (!uguali) {
+        c->clear();
+        c->addItems(v);
+    }
+    c->setCurrentIndex(c->findText(Q(s.testo(id))));
+}
+
+}  // namespace
+
+QString Leggibile(const std::string &caption) { return Q(caption).simplified().replace(QLatin1Char('&'), QStringLiteral("&&")); }
+
+QString Ponte::Traduci(std::string_view testo) const { return Q(s_.Traduci(testo)); }
+
+void Ponte::fai(IdControllo id, const std::function<void()> &azione) {
+    ++dentro_;
+    azione();
+    --dentro_;
+    sincronizza();
+    if (dopo) dopo(id);
+}
+
+void Ponte::adotta(std::string_view nome, QWidget *widget) {
+    const IdControllo id = cerca(nome);
+    widget->setObjectName(nomeOggetto(riga(id)));
+    legami_.push_back({id, widget, nullptr});
+    mostra(legami_.back());
+}
+
+QAction *Ponte::voce(std::string_view nome, QObject *genitore) {
+    const IdControllo id = cerca(nome);
+    auto *a = new QAction(genitore);
+    a->setObjectName(nomeOggetto(riga(id)));
+    QObject::connect(a, &QAction::triggered, a, [this, id] { fai(id, [&] { app::Premi(s_, id); }); });
+    legami_.push_back({id, nullptr, a});
+    mostra(legami_.back());
+    return a;
+}
+
+QWidget *Ponte::crea(std::string_view nome, QWidget *genitore) {
+    const IdControllo id = cerca(nome);
+    QWidget *w = nullptr;
+    switch (riga(id).classe) {
+        case Classe::Testo: w = new CampoTesto(*this, id, genitore); break;
+        case Classe::Casella: w = new QCheckBox(genitore); break;
+        case Classe::Opzione: {
+            auto *o = new QRadioButton(genitore);
+            o->setAutoExclusive(false);  // the session clears the others
+            w = o;
+            break;
+        }
+        case Classe::Pulsante: w = new QPushButton(genitore); break;
+        case Classe::Etichetta: w = new QLabel(genitore); break;
+        case Classe::Elenco: w = new QComboBox(genitore); break;
+        case Classe::Cornice: w = riga(id).caption.empty() ? new QWidget(genitore) : new QGroupBox(genitore); break;
+        default: w = new QWidget(genitore); break;
+    }
+    w->setObjectName(nomeOggetto(riga(id)));
+    collega(id, w);
+    legami_.push_back({id, w, nullptr});
+    mostra(legami_.back());
+    return w;
+}
+
+void Ponte::collega(IdControllo id, QWidget *w) {
+    const auto premi = [this, id] { fai(id, [&] { app::Premi(s_, id); }); };
+    if (auto *b = qobject_cast<QAbstractButton *>(w)) {
+        if (riga(id).classe == Classe::Casella)
+            QObject::connect(b, &QAbstractButton::clicked, b, [this, id](bool su) { fai(id, [&] { app::Spunta(s_, id, su ? 1 : 0); }); });
+        else
+            QObject::connect(b, &QAbstractButton::clicked, b, premi);
+    } else if (auto *c = qobject_cast<QComboBox *>(w)) {
+        QObject::connect(c, &QComboBox::textActivated, c, [this, id](const QString &v) { fai(id, [&] { app::Imposta(s_, id, v.toStdString()); }); });
+    } else if (auto *e = qobject_cast<QLineEdit *>(w)) {
+        QObject::connect(e, &QLineEdit::textEdited, e, [this, id](const QString &v) { fai(id, [&] { app::Cambia(s_, id, v.toStdString()); }); });
+    }
+}
+
+void Ponte::sincronizza() {
+    if (dentro_ > 0) return;
+    for (const Legame &l : legami_) mostra(l);
+}
+
+void Ponte::mostra(const Legame &l) {
+    const StatoControllo &stato = s_.stato(l.id);
+    if (l.azione) {
+        secambia(l.azione, Leggibile(stato.caption));
+        l.azione->setEnabled(stato.abilitato);
+        return;
+    }
+    QWidget *w = l.widget;
+    const QSignalBlocker zitto(w);
+    if (auto *e = qobject_cast<QLineEdit *>(w)) {
+        const QString testo = Q(s_.testo(l.id));
+        if (e->text() != testo) {
+            const int cursore = e->cursorPosition();
+            e->setText(testo);
+            if (e->hasFocus()) e->setCursorPosition(std::min(cursore, static_cast<int>(testo.size())));
+        }
+    } else if (auto *c = qobject_cast<QComboBox *>(w)) {
+        voci(s_, l.id, c);
+    } else if (auto *b = qobject_cast<QAbstractButton *>(w)) {
+        secambia(b, Leggibile(stato.caption));
+        if (riga(l.id).classe != Classe::Pulsante) {
+            b->setCheckable(true);
+            b->setChecked(s_.valore(l.id) == 1);
+        }
+    } else if (auto *lab = qobject_cast<QLabel *>(w)) {
+        if (riga(l.id).classe == Classe::Etichetta) secambia(lab, riga(l.id).pannello ? Q(app::Didascalia(s_, l.id)) : Leggibile(stato.caption));
+    } else if (auto *g = qobject_cast<QGroupBox *>(w)) {
+        if (g->title() != Leggibile(stato.caption)) g->setTitle(Leggibile(stato.caption));
+    } else if (auto *p = qobject_cast<QPlainTextEdit *>(w)) {
+        const QString testo = Q(s_.testo(l.id)).replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+        if (p->toPlainText() != testo) p->setPlainText(testo);
+    }
+    const QString aiuto = Q(stato.toolTip).trimmed();
+    if (w->toolTip() != aiuto && !(aiuto.isEmpty() && riga(l.id).toolTip.empty())) w->setToolTip(aiuto);
+    if (w->isEnabled() != stato.abilitato && riga(l.id).classe != Classe::Cornice) w->setEnabled(stato.abilitato);
+    if (w->isHidden() == stato.visibile && (riga(l.id).classe != Classe::Altro)) w->setVisible(stato.visibile);
+}
+
+CampoTesto::CampoTesto(Ponte &ponte, IdControllo id, QWidget *genitore) : QLineEdit(genitore), ponte_(ponte), id_(id) {
+    if (riga(id).filtro != Filtro::Nessuno) setInputMethodHints(Qt::ImhFormattedNumbersOnly);
+}
+
+void CampoTesto::filtrato(const QString &testo) {
+    QString tenuto;
+    for (const QChar c : testo) {
+        const char latino = c.toLatin1();
+        if (riga(id_).filtro == Filtro::Nessuno) tenuto += c;
+        else if (latino < ' ') ponte_.sessione().utente.Beep();  // no filter lets it pass
+        else if (const char k = app::FiltraTasto(ponte_.sessione(), id_, latino)) tenuto += QLatin1Char(k);
+    }
+    if (!tenuto.isEmpty()) insert(tenuto);
+}
+
+void CampoTesto::keyPressEvent(QKeyEvent *e) {
+    const bool incolla = e->matches(QKeySequence::Paste);
+    const QString testo = incolla ? QGuiApplication::clipboard()->text().trimmed() : e->text();
+    const bool stampabile = !testo.isEmpty() && testo.at(0).isPrint() && !(e->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier));
+    if (!incolla && !stampabile) return QLineEdit::keyPressEvent(e);
+    if (isReadOnly()) return;
+    filtrato(testo);
+    ponte_.fai(id_, [this] { app::Cambia(ponte_.sessione(), id_, text().toStdString()); });
+    e->accept();
+}
+
+void CampoTesto::focusInEvent(QFocusEvent *e) {
+    QLineEdit::focusInEvent(e);
+    if (e->reason() == Qt::PopupFocusReason || e->reason() == Qt::ActiveWindowFocusReason) return;
+    app::Entra(ponte_.sessione(), id_);
+    selectAll();
+}
+
+void CampoTesto::focusOutEvent(QFocusEvent *e) {
+    QLineEdit::focusOutEvent(e);
+    if (e->reason() == Qt::PopupFocusReason || e->reason() == Qt::ActiveWindowFocusReason) return;
+    ponte_.fai(id_, [this] { app::Lascia(ponte_.sessione(), id_); });
+}
+
+}  // namespace ombrelia::desktop

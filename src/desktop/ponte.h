@@ -1,0 +1,77 @@
+// Between widgets and session: every widget is made from its row of the table of controls, bears the row's name, tells the
+// session what its user does and shows what the session holds. No handler lives here.
+#pragma once
+
+#include <QAction>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QWidget>
+#include <functional>
+#include <string_view>
+#include <vector>
+
+#include "app/comandi.h"
+#include "sessione/sessione.h"
+
+namespace ombrelia::desktop {
+
+class Ponte {
+public:
+    explicit Ponte(Sessione &s) : s_(s) {}
+    Ponte(const Ponte &) = delete;
+    Ponte &operator=(const Ponte &) = delete;
+
+    // The widget of a control, by its name as the action script gives it. A name that is not in the table is a bug.
+    QWidget *crea(std::string_view nome, QWidget *genitore);
+    // A menu entry.
+    QAction *voce(std::string_view nome, QObject *genitore);
+    // A row shown by a widget made elsewhere: it takes the row's name, and follows its state.
+    void adotta(std::string_view nome, QWidget *widget);
+
+    // Shows everything as the session has it.
+    void sincronizza();
+    // Runs an action of the user on the session, then shows what became of it. id: the control, or NESSUN_CONTROLLO.
+    void fai(IdControllo id, const std::function<void()> &azione);
+
+    // Heard after each action.
+    std::function<void(IdControllo)> dopo;
+
+    [[nodiscard]] Sessione &sessione() { return s_; }
+    // Through the dictionary.
+    [[nodiscard]] QString Traduci(std::string_view testo) const;
+
+private:
+    struct Legame {
+        IdControllo id;
+        QWidget *widget;
+        QAction *azione;
+    };
+    void collega(IdControllo id, QWidget *w);
+    void mostra(const Legame &l);
+
+    Sessione &s_;
+    std::vector<Legame> legami_;
+    int dentro_ = 0;
+};
+
+// A text box that passes its keys through the row's filter and tells when it is entered and left.
+class CampoTesto final : public QLineEdit {
+public:
+    CampoTesto(Ponte &ponte, IdControllo id, QWidget *genitore);
+
+protected:
+    void keyPressEvent(QKeyEvent *e) override;
+    void focusInEvent(QFocusEvent *e) override;
+    void focusOutEvent(QFocusEvent *e) override;
+
+private:
+    void filtrato(const QString &testo);
+
+    Ponte &ponte_;
+    IdControllo id_;
+};
+
+// A caption as people read it: the blanks that pad it in the table are left out, accelerators are none.
+[[nodiscard]] QString Leggibile(const std::string &caption);
+
+}  // namespace ombrelia::desktop

@@ -1,0 +1,175 @@
+// The plot surface in the window.
+#include "desktop/quadro.h"
+
+#include <QComboBox>
+#include <QGroupBox>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QResizeEvent>
+#include <QScrollBar>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+#include "desktop/dialoghi.h"
+
+namespace ombrelia::desktop {
+
+namespace {
+
+std::string intero(std::string_view nome) { return "Tavolo1." + std::string(nome); }
+
+QFrame *riga(QWidget *genitore) {
+    auto *f = new QFrame(genitore);
+    f->setFrameShape(QFrame::VLine);
+    f->setFrameShadow(QFrame::Sunken);
+    return f;
+}
+
+}  // namespace
+
+Quadro::Quadro(Ponte &ponte, QWidget *genitore) : QWidget(genitore), ponte_(ponte) {
+    ponte.adotta("frmTavolo.Tavolo1", this);
+    auto *colonna = new QVBoxLayout(this);
+    colonna->setContentsMargins(0, 0, 0, 0);
+    colonna->setSpacing(0);
+    colonna->addWidget(testata());
+    foglio_ = new Foglio(ponte.sessione().tavolo, this);
+    ponte.adotta("Tavolo1.picPlot", foglio_->viewport());
+    ponte.adotta("Tavolo1.HScroll1", foglio_->horizontalScrollBar());
+    ponte.adotta("Tavolo1.VScroll1", foglio_->verticalScrollBar());
+    colonna->addWidget(foglio_, 1);
+    colonna->addWidget(piede());
+    pannelli_ = {
+        {pannello("PicAssi", {{"lblX", "txtX"}, {"lblY", "txtY"}, {"cmdAssiAgg", "cmdAssiChiudi"}}), findChild<QWidget *>("cmdAssi")},
+        {pannello("picDimensioni", {{"lblQL", "txtQL"}, {"lblQH", "txtQH"}, {"cmdQAggiorna", "cmdQAnnulla"}}), findChild<QWidget *>("cmdDim")},
+        {pannello("picPrint", {{"optAll"}, {"optSelected"}, {"cmdPOk", "cmdPCancel"}}), findChild<QWidget *>("cmdStampa")},
+    };
+    foglio_->suClic = [this](double x, double y) {
+        ponte_.fai(NESSUN_CONTROLLO, [&] { ponte_.sessione().tavolo.MouseDown(x, y); });
+    };
+    foglio_->suPosizione = [this](std::optional<QPointF> mm) {
+        posizione_->setText(mm ? QStringLiteral("x %1   y %2 mm").arg(mm->x(), 0, 'f', 1).arg(-mm->y(), 0, 'f', 1) : QString());
+    };
+}
+
+QWidget *Quadro::testata() {
+    QWidget *testa = ponte_.crea("Tavolo1.picHead", this);
+    auto *fila = new QHBoxLayout(testa);
+    fila->setContentsMargins(8, 5, 8, 5);
+    fila->setSpacing(4);
+    const auto metti = [&](std::string_view nome) {
+        QWidget *w = ponte_.crea(intero(nome), testa);
+        fila->addWidget(w);
+        return w;
+    };
+    for (const std::string_view nome : {"cmdStampa", "cmdSave", "cmdDxf"}) metti(nome);
+    fila->addWidget(riga(testa));
+    for (const std::string_view nome : {"cmdAssi", "CmdGriglia", "cmdDim", "cmdPulisci"}) metti(nome);
+    fila->addWidget(riga(testa));
+    invX_ = metti("cmdInvX");
+    invY_ = metti("cmdInvY");
+    fila->addStretch(1);
+    const auto strumento = [&](const QString &testo, const QString &aiuto, auto azione) {
+        auto *b = new QToolButton(testa);
+        b->setText(testo);
+        b->setToolTip(aiuto);
+        b->setAutoRaise(true);
+        connect(b, &QToolButton::clicked, this, azione);
+        fila->addWidget(b);
+    };
+    constexpr double PASSO = 1.25;
+    strumento(QStringLiteral("−"), ponte_.Traduci("Rimpicciolisci"), [this] { foglio_->ingrandisci(1 / PASSO); });
+    strumento(QStringLiteral("+"), ponte_.Traduci("Ingrandisci"), [this] { foglio_->ingrandisci(PASSO); });
+    strumento(QStringLiteral("⛶"), ponte_.Traduci("Tutto il foglio"), [this] { foglio_->tutto(); });
+    QWidget *scala = metti("cmbScala");
+    scala->setToolTip(ponte_.Traduci("Scala del foglio"));
+    return testa;
+}
+
+QWidget *Quadro::piede() {
+    auto *p = new QWidget(this);
+    p->setObjectName(QStringLiteral("piede"));
+    auto *fila = new QHBoxLayout(p);
+    fila->setContentsMargins(8, 3, 8, 3);
+    fila->setSpacing(14);
+    fila->addWidget(ponte_.crea("Tavolo1.p_mess", p), 1);
+    avviso_ = new QLabel(p);
+    avviso_->setObjectName(QStringLiteral("avvisoCornice"));
+    avviso_->setTextFormat(Qt::RichText);
+    connect(avviso_, &QLabel::linkActivated, this, [this] {
+        if (suAdatta) suAdatta();
+    });
+    fila->addWidget(avviso_);
+    posizione_ = new QLabel(p);
+    posizione_->setMinimumWidth(posizione_->fontMetrics().horizontalAdvance(QStringLiteral("x -00000.0   y -00000.0 mm")));
+    posizione_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    fila->addWidget(posizione_);
+    for (const auto &[nome, aiuto] : {std::pair{"lblXYval", ponte_.Traduci("Ultimo punto premuto, millimetri")},
+                                      std::pair{"lblDimVal", ponte_.Traduci("Foglio, metri")}, std::pair{"lblScala", ponte_.Traduci("Scala del foglio")}}) {
+        fila->addWidget(riga(p));
+        QWidget *w = ponte_.crea(intero(nome), p);
+        w->setToolTip(aiuto);
+        fila->addWidget(w);
+    }
+    return p;
+}
+
+QWidget *Quadro::pannello(std::string_view cornice, std::initializer_list<std::initializer_list<std::string_view>> righe) {
+    QWidget *p = ponte_.crea(intero(cornice), this);
+    p->setAutoFillBackground(true);
+    auto *griglia = new QGridLayout(p);
+    int r = 0;
+    for (const auto &voci : righe) {
+        int c = 0;
+        for (const std::string_view nome : voci) {
+            QWidget *w = ponte_.crea(intero(nome), p);
+            if (qobject_cast<QLineEdit *>(w)) w->setFixedWidth(96);
+            griglia->addWidget(w, r, c, 1, voci.size() == 1 ? 2 : 1);
+            if (c == 1)
+                if (auto *etichetta = qobject_cast<QLabel *>(griglia->itemAtPosition(r, 0)->widget())) etichetta->setBuddy(w);
+            ++c;
+        }
+        ++r;
+    }
+    return p;
+}
+
+void Quadro::collocaPannelli() {
+    for (const auto &[p, bottone] : pannelli_) {
+        p->adjustSize();
+        const QPoint sotto = bottone->mapTo(this, QPoint(0, bottone->height() + 8));
+        p->move(std::clamp(sotto.x(), 4, std::max(4, width() - p->width() - 24)), sotto.y());
+        p->raise();
+    }
+}
+
+void Quadro::resizeEvent(QResizeEvent *e) {
+    QWidget::resizeEvent(e);
+    collocaPannelli();
+}
+
+// Whether the frame of the limit lines leaves the sheet.
+bool Quadro::corniceFuori() const {
+    const DialInputs &in = ponte_.sessione().in;
+    const Tavolo &t = ponte_.sessione().tavolo;
+    const double u = in.ChCentimetro == 1 ? 0.001 : 1;
+    const Valore x0 = Val(in.txtX0) * u, x1 = Val(in.txtX1) * u, y0 = Val(in.txtY0) * u, y1 = Val(in.txtY1) * u;
+    if (!(x0.esiste() && x1.esiste() && y0.esiste() && y1.esiste())) return false;
+    constexpr double NULLA = 1e-9;
+    return x0.v < -t.ShiftX() - NULLA || x1.v > t.QuadranteL() - t.ShiftX() + NULLA || -y0.v < -t.ShiftY() - NULLA ||
+           -y1.v > t.QuadranteH() - t.ShiftY() + NULLA;
+}
+
+void Quadro::aggiorna() {
+    const Tavolo &t = ponte_.sessione().tavolo;
+    // 0x80FFFF of the palette's order: a pale yellow.
+    const QString tinta = QStringLiteral("background:#ffff80; color:#202020;");
+    invX_->setStyleSheet(t.FattoreX < 0 ? tinta : QString());
+    invY_->setStyleSheet(t.FattoreY < 0 ? tinta : QString());
+    avviso_->setText(corniceFuori() ? ponte_.Traduci("La cornice esce dal foglio:") + QStringLiteral(" <a href=\"a\">") +
+                                          ponte_.Traduci("Adatta il foglio") + QStringLiteral("</a>")
+                                    : QString());
+    collocaPannelli();
+}
+
+}  // namespace ombrelia::desktop

@@ -1,0 +1,39 @@
+// The plot surface in the window: head panel, sheet, read-outs, and the three panels that its buttons open.
+#pragma once
+
+#include <QLabel>
+#include <QPushButton>
+
+#include "desktop/foglio.h"
+#include "desktop/ponte.h"
+
+namespace ombrelia::desktop {
+
+class Quadro final : public QWidget {
+public:
+    Quadro(Ponte &ponte, QWidget *genitore);
+
+    [[nodiscard]] Foglio &foglio() { return *foglio_; }
+    // After an action: the mirrors' tints, the panels' places, the hint about frame and sheet.
+    void aggiorna();
+
+    std::function<void()> suAdatta;
+
+protected:
+    void resizeEvent(QResizeEvent *e) override;
+
+private:
+    QWidget *testata();
+    QWidget *piede();
+    QWidget *pannello(std::string_view cornice, std::initializer_list<std::initializer_list<std::string_view>> righe);
+    void collocaPannelli();
+    [[nodiscard]] bool corniceFuori() const;
+
+    Ponte &ponte_;
+    Foglio *foglio_ = nullptr;
+    QLabel *posizione_ = nullptr, *avviso_ = nullptr;
+    QWidget *invX_ = nullptr, *invY_ = nullptr;
+    std::vector<std::pair<QWidget *, QWidget *>> pannelli_;  // and the button below which each opens
+};
+
+}  // namespace ombrelia::desktop

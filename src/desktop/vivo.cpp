@@ -1,0 +1,156 @@
+// Runs off the window's thread.
+#include "desktop/vivo.h"
+
+#include <QMetaObject>
+#include <QObject>
+#include <utility>
+
+#include "app/comandi.h"
+
+namespace ombrelia::desktop {
+
+namespace {
+
+// Says nothing and asks nothing; keeps the first box.
+class Muto final : public Utente {
+public:
+    std::string avviso;
+    void Messaggio(std::string_view) override {}
+    bool Box(std::string_view testo, Domanda) override {
+        if (avviso.empty()) avviso = testo;
+        return true;
+    }
+    std::string Input(std::string_view, std::string_view, std::string_view proposta) override { return std::string(proposta); }
+    std::optional<std::string> File(const RichiestaFile &) override { return {}; }
+    void Beep() override {}
+};
+
+struct Fermato {};
+
+// A device that paints nothing and ends a run that nobody waits for any more.
+class Guardia final : public Dispositivo {
+public:
+    Guardia(const std::atomic<unsigned> &ultimo, unsigned mio) : ultimo_(ultimo), mio_(mio) {}
+    void guarda() const {
+        if (ultimo_.load(std::memory_order_relaxed) != mio_) throw Fermato{};
+    }
+    void Cls() override {}
+    void Linea(double, double, double, double, Colore, int) override { guarda(); }
+    void Riquadro(double, double, double, double, Colore, bool) override {}
+    void Punto(double, double, Colore) override { guarda(); }
+    void Cerchio(double, double, double, Colore, Colore, double, double, double) override {}
+    void Testo(double, double, std::string_view, Colore) override {}
+
+private:
+    const std::atomic<unsigned> &ultimo_;
+    unsigned mio_;
+};
+
+}  // namespace
+
+Vivo::Vivo(QObject *contesto, const Dizionario &dizionario, std::function<void(Esito &)> pronto)
+    : contesto_(contesto), dizionario_(dizionario), pronto_(std::move(pronto)), filo_([this] { lavora(); }) {}
+
+Vivo::~Vivo() {
+    {
+        const std::lock_guard chiave(mutex_);
+        fine_ = true;
+        ++numero_;
+    }
+    sveglia_.notify_one();
+    filo_.join();
+}
+
+void Vivo::ferma() {
+    const std::lock_guard chiave(mutex_);
+    prossima_.reset();
+    ++numero_;
+    attese_ = 0;
+}
+
+void Vivo::chiedi(const Sessione &s, const Vista &vista) {
+    const Tavolo &t = s.tavolo;
+    Richiesta r{s.in, s.v, s.stati, t.QuadranteL(), t.QuadranteH(), t.ShiftX(), t.ShiftY(), t.Scala(), t.FattoreX, t.FattoreY, vista};
+    {
+        const std::lock_guard chiave(mutex_);
+        prossima_ = std::move(r);
+        ++numero_;
+        attese_ = 1;
+    }
+    sveglia_.notify_one();
+}
+
+void Vivo::lavora() {
+    Muto utente;
+    Sessione s(utente);
+    s.dizionario = dizionario_;
+    for (;;) {
+        Richiesta r;
+        unsigned mio = 0;
+        {
+            std::unique_lock chiave(mutex_);
+            sveglia_.wait(chiave, [this] { return fine_ || prossima_; });
+            if (fine_) return;
+            r = std::move(*prossima_);
+            prossima_.reset();
+            mio = numero_;
+        }
+        utente.avviso.clear();
+        s.in = std::move(r.in);
+        s.v = r.v;
+        s.stati = std::move(r.stati);
+        Tavolo &t = s.tavolo;
+        t.dispositivo = nullptr;
+        t.Clear();
+        t.ForeColor = 0;
+        t.QuadranteL(r.quadranteL);
+        t.QuadranteH(r.quadranteH);
+        t.ShiftX(r.shiftX);
+        t.ShiftY(r.shiftY);
+        t.Scala(r.scala);
+        auto esito = std::make_shared<Esito>();
+        try {
+            Guardia guardia(numero_, mio);
+            t.dispositivo = &guardia;
+            app::cmdRun(s);
+            // These boxes draw when they are set.
+            for (const std::string_view nome : {"ckRomani", "ckArabi"}) {
+                const IdControllo id = TrovaControllo(nome);
+                if (std::exchange(s.valore(id), 0) == 1) app::Spunta(s, id, 1);
+            }
+            t.dispositivo = nullptr;
+            t.FattoreX = r.fattoreX;
+            t.FattoreY = r.fattoreY;
+            guardia.guarda();
+            esito->immagine = DisegnaVista(t, r.vista);
+        } catch (const Fermato &) {
+            t.dispositivo = nullptr;
+            continue;
+        } catch (const std::bad_alloc &) {
+            t.dispositivo = nullptr;
+            t.Clear();
+            continue;
+        }
+        esito->vista = r.vista;
+        esito->v = s.v;
+        esito->avviso = utente.avviso;
+        esito->tavolo = std::make_unique<Tavolo>();
+        Tavolo &e = *esito->tavolo;
+        e.ScambiaDisegno(t);
+        e.QuadranteL(t.QuadranteL());
+        e.QuadranteH(t.QuadranteH());
+        e.ShiftX(t.ShiftX());
+        e.ShiftY(t.ShiftY());
+        e.ForeColor = t.ForeColor;
+        QMetaObject::invokeMethod(
+            contesto_,
+            [this, esito, mio] {
+                if (mio != numero_) return;
+                attese_ = 0;
+                pronto_(*esito);
+            },
+            Qt::QueuedConnection);
+    }
+}
+
+}  // namespace ombrelia::desktop

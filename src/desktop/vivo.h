@@ -1,0 +1,65 @@
+// The dial while the user types: a run of the program on a copy of the fields, off the window's thread. The newest
+// request wins: it stops the run in hand.
+#pragma once
+
+#include <atomic>
+#include <condition_variable>
+#include <functional>
+#include <memory>
+#include <mutex>
+#include <optional>
+#include <thread>
+#include <vector>
+
+#include "desktop/vista.h"
+#include "sessione/sessione.h"
+
+namespace ombrelia::desktop {
+
+class Vivo {
+public:
+    // What a run needs of the session. Plain copies.
+    struct Richiesta {
+        DialInputs in;
+        Variabili v;
+        std::vector<StatoControllo> stati;
+        double quadranteL = 0, quadranteH = 0, shiftX = 0, shiftY = 0;
+        int scala = 1;
+        double fattoreX = 1, fattoreY = 1;
+        Vista vista;
+    };
+    struct Esito {
+        std::unique_ptr<Tavolo> tavolo;  // the drawing, on the sheet as the run left it
+        Variabili v;
+        QImage immagine;
+        Vista vista;
+        std::string avviso;  // what a box would have said
+    };
+
+    // pronto is called on the window's thread (that of contesto).
+    Vivo(QObject *contesto, const Dizionario &dizionario, std::function<void(Esito &)> pronto);
+    ~Vivo();
+    Vivo(const Vivo &) = delete;
+    Vivo &operator=(const Vivo &) = delete;
+
+    void chiedi(const Sessione &s, const Vista &vista);
+    // Gives up what is asked and what runs; nothing of it will arrive.
+    void ferma();
+    [[nodiscard]] bool attivo() const { return attese_ > 0; }
+
+private:
+    void lavora();
+
+    QObject *contesto_;
+    Dizionario dizionario_;
+    std::function<void(Esito &)> pronto_;
+    std::mutex mutex_;
+    std::condition_variable sveglia_;
+    std::optional<Richiesta> prossima_;
+    std::atomic<unsigned> numero_ = 0;  // of the newest request; an older run stops
+    std::atomic<int> attese_ = 0;
+    bool fine_ = false;
+    std::thread filo_;
+};
+
+}  // namespace ombrelia::desktop

@@ -29,8 +29,8 @@ void prepara(Sessione &s) {
     s.tavolo.ShiftX(1.5);
     s.tavolo.ShiftY(1.5);
     DialInputs &in = s.in;
-    in.txtInc = "0";
-    in.TxtFraz = "4";
+    in.txtInc = std::string("0");
+    in.TxtFraz = std::string("4");
     for (int DialInputs::*c : {&DialInputs::CkUNI, &DialInputs::chkOreAstronomiche, &DialInputs::Ck_DayLightCurves, &DialInputs::ck_Equinoziale,
                                &DialInputs::ck_Italiche, &DialInputs::ck_babiloniche, &DialInputs::ckTemp, &DialInputs::ck_Sustilare,
                                &DialInputs::ck_Triangolo, &DialInputs::ckAlt, &DialInputs::ck_Lemniscate, &DialInputs::ckAsr, &DialInputs::CkQibla,

@@ -146,7 +146,10 @@ void CalcolaSolstiziOrizzonte(Sessione &s) {
         std::string_view etichetta;
         Valore valore;
         double y;
-    } righe[] = {{"lat = ", Gradi(v.lat_o), -0.7}, {"d = ", Gradi(v.dec_o), -0.65}, {"i = ", Gradi(v.iz_o), -0.6}, {"gn = ", v.gn / v.unita, -0.55}};
+    } righe[] = {{"lat = "_it, Gradi(v.lat_o), -0.7},
+                 {"d = "_it, Gradi(v.dec_o), -0.65},
+                 {"i = "_it, Gradi(v.iz_o), -0.6},
+                 {"gn = "_it, v.gn / v.unita, -0.55}};
     for (const auto &riga : righe) {
         s.Dati(s.Traduci(riga.etichetta), 0.1, riga.y);
         s.Dati(Frase() << riga.valore, 0.15, riga.y);

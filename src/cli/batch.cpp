@@ -25,7 +25,13 @@ struct Rifiuto {
 
 class Esecuzione {
 public:
-    Esecuzione() : console_(stdout), s_(console_) { app::Avvia(s_); }
+    Esecuzione() : console_(stdout), s_(console_) {
+        s_.suImmagine = [](Sessione &s) {
+            std::string errore;
+            return FormatoDi("bmp")->scrivi(s, errore);
+        };
+        app::Avvia(s_);
+    }
     void esegui(std::string_view riga);
 
 private:

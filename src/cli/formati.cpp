@@ -34,7 +34,7 @@ constexpr Formato FORMATI[] = {
     {"svg", "drawing at true scale, one group a layer", [](Sessione &s, std::string &) { return SVG_Generate(s.tavolo); }},
     {"txt", "the display list as text", [](Sessione &s, std::string &) { return ListaTesto(s.tavolo.lista()); }},
     {"pdf", "one page at true scale", pdf},
-    {"png", "picture at the sheet's scale, 200 dots an inch", png},
+    {"png", "picture at the sheet's scale, 150 dots an inch", png},
     {"bmp", "the same picture without compression", bmp},
 };
 

@@ -9,6 +9,9 @@
 #include "cli/draw.h"
 #include "cli/report.h"
 #include "cli/sun.h"
+#ifdef OMBRELIA_CON_QT
+#include "desktop/avvio.h"
+#endif
 
 namespace {
 
@@ -17,6 +20,27 @@ struct Comando {
     int (*esegui)(int argc, char **argv);
 };
 constexpr Comando COMANDI[] = {{"batch", ombrelia::cli::Batch}, {"draw", ombrelia::cli::Draw}, {"report", ombrelia::cli::Report}, {"sun", ombrelia::cli::Sun}};
+
+// The window, when this build has one: by name, or with no command where there is a display.
+bool apreFinestra(std::string_view primo, int argc, char **argv, int &esito) {
+#ifdef OMBRELIA_CON_QT
+    if (primo != "gui" && !(primo.empty() && ombrelia::desktop::HaSchermo())) return false;
+    if (!ombrelia::desktop::HaSchermo()) {
+        std::fputs("ombrelia: there is no display for the window; see ombrelia --help for what needs none\n", stderr);
+        esito = 2;
+        return true;
+    }
+    if (argc > 1) argv[1] = argv[0];
+    esito = ombrelia::desktop::ApriFinestra(argc > 1 ? argc - 1 : argc, argc > 1 ? argv + 1 : argv);
+    return true;
+#else
+    if (primo != "gui") return false;
+    (void)argc, (void)argv;
+    std::fputs("ombrelia: this build has no Qt and so no window\n", stderr);
+    esito = 2;
+    return true;
+#endif
+}
 
 bool chiedeAiuto(std::string_view a) { return a == "--help" || a == "-h" || a == "help"; }
 
@@ -28,6 +52,7 @@ int main(int argc, char **argv) {
         std::puts("ombrelia " OMBRELIA_VERSIONE);
         return 0;
     }
+    if (int esito = 0; apreFinestra(primo, argc, argv, esito)) return esito;
     if (primo.empty() || chiedeAiuto(primo)) {
         std::fputs(ombrelia::cli::Aiuto(argc > 2 ? argv[2] : "").c_str(), stdout);
         return primo.empty() ? 2 : 0;

@@ -75,7 +75,8 @@ std::optional<std::string> UtenteFinestra::File(const RichiestaFile &r) {
     QString proposta = Q(r.suggerito);
     if (proposta.isEmpty() || proposta.contains(QLatin1Char('*'))) proposta = Q(app::CartellaDisegni()) + QLatin1Char('/');
     const auto f = dialoghi_.file(sopra, r.salva, Q(r.estensione), Q(r.filtro), proposta);
-    return f && !f->isEmpty() ? std::optional(f->toStdString()) : std::nullopt;
+    if (!f || f->isEmpty()) return {};
+    return ultimoFile = f->toStdString();
 }
 
 void UtenteFinestra::Puntatore(bool attesa) {

@@ -50,6 +50,7 @@ public:
 
     QWidget *sopra = nullptr;  // the window over which boxes open
     std::function<void(std::string_view, bool)> suModulo;
+    std::string ultimoFile;  // the file box's last answer
 
     void Messaggio(std::string_view) override {}  // the status line is a control of the sheet
     bool Box(std::string_view testo, Domanda domanda) override;

@@ -61,11 +61,24 @@ QString Leggibile(const std::string &caption) { return Q(caption).simplified().r
 QString Ponte::Traduci(std::string_view testo) const { return Q(s_.Traduci(testo)); }
 
 void Ponte::fai(IdControllo id, const std::function<void()> &azione) {
+    if (prima && !prima(id)) return sincronizza();
     ++dentro_;
     azione();
     --dentro_;
     sincronizza();
     if (dopo) dopo(id);
+}
+
+QWidget *Ponte::widget(std::string_view nome) const {
+    const IdControllo id = cerca(nome);
+    for (const Legame &l : legami_)
+        if (l.id == id) return l.widget;
+    return nullptr;
+}
+
+void Ponte::premi(std::string_view nome) {
+    const IdControllo id = cerca(nome);
+    fai(id, [&] { app::Premi(s_, id); });
 }
 
 void Ponte::adotta(std::string_view nome, QWidget *widget) {
@@ -111,12 +124,12 @@ QWidget *Ponte::crea(std::string_view nome, QWidget *genitore) {
 }
 
 void Ponte::collega(IdControllo id, QWidget *w) {
-    const auto premi = [this, id] { fai(id, [&] { app::Premi(s_, id); }); };
+    const auto premuto = [this, id] { fai(id, [&] { app::Premi(s_, id); }); };
     if (auto *b = qobject_cast<QAbstractButton *>(w)) {
         if (riga(id).classe == Classe::Casella)
             QObject::connect(b, &QAbstractButton::clicked, b, [this, id](bool su) { fai(id, [&] { app::Spunta(s_, id, su ? 1 : 0); }); });
         else
-            QObject::connect(b, &QAbstractButton::clicked, b, premi);
+            QObject::connect(b, &QAbstractButton::clicked, b, premuto);
     } else if (auto *c = qobject_cast<QComboBox *>(w)) {
         QObject::connect(c, &QComboBox::textActivated, c, [this, id](const QString &v) { fai(id, [&] { app::Imposta(s_, id, v.toStdString()); }); });
     } else if (auto *e = qobject_cast<QLineEdit *>(w)) {

@@ -33,7 +33,13 @@ public:
     // Runs an action of the user on the session, then shows what became of it. id: the control, or NESSUN_CONTROLLO.
     void fai(IdControllo id, const std::function<void()> &azione);
 
-    // Heard after each action.
+    // The widget made for a control; null when there is none.
+    [[nodiscard]] QWidget *widget(std::string_view nome) const;
+    // Presses a control as its user would.
+    void premi(std::string_view nome);
+
+    // Asked before each action, which false keeps from happening; told after it.
+    std::function<bool(IdControllo)> prima;
     std::function<void(IdControllo)> dopo;
 
     [[nodiscard]] Sessione &sessione() { return s_; }

@@ -80,7 +80,7 @@ QWidget *Quadro::testata() {
     constexpr double PASSO = 1.25;
     strumento(QStringLiteral("−"), ponte_.Traduci("Rimpicciolisci"), [this] { foglio_->ingrandisci(1 / PASSO); });
     strumento(QStringLiteral("+"), ponte_.Traduci("Ingrandisci"), [this] { foglio_->ingrandisci(PASSO); });
-    strumento(QStringLiteral("⛶"), ponte_.Traduci("Tutto il foglio"), [this] { foglio_->tutto(); });
+    strumento(QStringLiteral("◻"), ponte_.Traduci("Tutto il foglio"), [this] { foglio_->tutto(); });
     QWidget *scala = metti("cmbScala");
     scala->setToolTip(ponte_.Traduci("Scala del foglio"));
     return testa;

@@ -14,8 +14,8 @@ namespace ombrelia::desktop {
 namespace {
 
 constexpr auto FOGLIO = R"(
-QGroupBox { border: 1px solid #d5d9de; border-radius: 6px; margin-top: 9px; background: #fcfcfb; font-weight: 600; }
-QGroupBox::title { subcontrol-origin: margin; left: 9px; padding: 0 4px; color: #7a5a10; background: transparent; }
+QGroupBox { border: 1px solid #d5d9de; border-radius: 6px; margin-top: 19px; background: #fcfcfb; font-weight: 600; }
+QGroupBox::title { subcontrol-origin: margin; subcontrol-position: top left; left: 3px; padding: 0 2px; color: #7a5a10; }
 QGroupBox QWidget { font-weight: normal; }
 QLineEdit { padding: 2px 5px; border: 1px solid #c3c9d0; border-radius: 4px; background: #ffffff; }
 QLineEdit:focus { border: 1px solid #c08a1e; }

@@ -1,3 +1,5 @@
+#include <ctime>
+#include <cstdio>
 // Runs off the window's thread.
 #include "desktop/vivo.h"
 
@@ -112,7 +114,8 @@ void Vivo::lavora() {
         try {
             Guardia guardia(numero_, mio);
             t.dispositivo = &guardia;
-            app::cmdRun(s);
+            auto T=[]{timespec x; clock_gettime(CLOCK_THREAD_CPUTIME_ID,&x); return double(x.tv_sec)*1e3+double(x.tv_nsec)/1e6;}; double a=T();
+            app::cmdRun(s);double b=T();
             // These boxes draw when they are set.
             for (const std::string_view nome : {"ckRomani", "ckArabi"}) {
                 const IdControllo id = TrovaControllo(nome);
@@ -122,7 +125,7 @@ void Vivo::lavora() {
             t.FattoreX = r.fattoreX;
             t.FattoreY = r.fattoreY;
             guardia.guarda();
-            esito->immagine = DisegnaVista(t, r.vista);
+            esito->immagine = DisegnaVista(t, r.vista); std::fprintf(stderr,"run %.2f draw %.2f\n",b-a,T()-b);
         } catch (const Fermato &) {
             t.dispositivo = nullptr;
             continue;

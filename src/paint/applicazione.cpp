@@ -12,8 +12,11 @@ void AssicuraApplicazione() {
     static char *argv[] = {nome, nullptr};
     const QByteArray prima = qgetenv("QT_QPA_PLATFORM");
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    // What the toolkit says of its surroundings is not the user's business here.
+    const QtMessageHandler voce = qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
     // Lives as long as the process: what it holds outlasts every static.
     [[maybe_unused]] static auto *const applicazione = new QGuiApplication(argc, argv);
+    qInstallMessageHandler(voce);
     if (prima.isEmpty()) qunsetenv("QT_QPA_PLATFORM");
     else qputenv("QT_QPA_PLATFORM", prima);
 }

@@ -11,11 +11,15 @@ namespace ombrelia::paint {
 namespace {
 
 constexpr qsizetype LINEA_MASSIMA = 4096, PUNTI_MASSIMI_IN_MANO = 4096;
+constexpr Colore NESSUNO = -1;
 
 }  // namespace
 
 DispositivoQt::DispositivoQt(QPainter &pittore, Supporto supporto, const Posa &posa)
-    : pittore_(pittore), supporto_(supporto), posa_(posa) {}
+    : pittore_(pittore), supporto_(supporto), posa_(posa) {
+    if (supporto == Supporto::Schermo && !posa.vista.isEmpty())
+        celle_.assign(static_cast<std::size_t>(posa.vista.width() + 1) * static_cast<std::size_t>(posa.vista.height() + 1), NESSUNO);
+}
 
 bool DispositivoQt::fuori(const QPointF &a, const QPointF &b) const {
     if (posa_.vista.isEmpty()) return false;
@@ -45,80 +49,88 @@ void DispositivoQt::pagina() {
 void DispositivoQt::Linea(double x1, double y1, double x2, double y2, Colore colore, int spessore) {
     const QPointF a = porta(x1, y1), b = porta(x2, y2);
     if (fuori(a, b)) return;
-    vuotaPunti();
-    if (linea_.isEmpty() || colore != colore_ || spessore != spessore_ || a != fine_ || linea_.size() >= LINEA_MASSIMA) {
-        vuotaLinea();
-        prima(colore, spessore);
-        linea_.append(a);
-        fine_ = a;
-    }
-    aggiungi(b);
-}
-
-void DispositivoQt::prima(Colore colore, int spessore) {
+    for (Catena &c : catene_)
+        if (c.fine == a && c.colore == colore && c.spessore == spessore && !c.corsa.isEmpty() && c.corsa.size() < LINEA_MASSIMA) return aggiungi(c, b);
+    Catena &c = catene_[turno_];
+    turno_ = (turno_ + 1) % catene_.size();
+    vuotaCatena(c);
     pagina();
-    colore_ = colore;
-    spessore_ = spessore;
+    c.colore = colore;
+    c.spessore = spessore;
+    c.corsa.append(a);
+    aggiungi(c, b);
 }
 
 // A point is held back while all points since the last kept corner lie within the tolerance of one straight run.
-void DispositivoQt::aggiungi(const QPointF &p) {
-    const QPointF da = linea_.constLast();
-    double dx = p.x() - da.x(), dy = p.y() - da.y();
-    const double d = std::hypot(dx, dy);
-    if (d > posa_.tolleranza) {
-        dx /= d;
-        dy /= d;
-        if (apertura_ == 0) {
-            dirX_ = dx;
-            dirY_ = dy;
-            apertura_ = posa_.tolleranza / d;
-        } else {
-            // Sine of the angle off the run's direction; the run narrows as it grows longer.
-            const double seno = std::fabs(dirX_ * dy - dirY_ * dx);
-            if (dirX_ * dx + dirY_ * dy <= 0 || seno > apertura_) {
-                linea_.append(fine_);
-                apertura_ = 0;
-                sospesa_ = false;
-                const QPointF nuovo = linea_.constLast();
-                const double ex = p.x() - nuovo.x(), ey = p.y() - nuovo.y(), e = std::hypot(ex, ey);
-                if (e > posa_.tolleranza) {
-                    dirX_ = ex / e;
-                    dirY_ = ey / e;
-                    apertura_ = posa_.tolleranza / e;
-                }
-            } else {
-                apertura_ = std::min(apertura_, posa_.tolleranza / d);
-            }
+void DispositivoQt::aggiungi(Catena &c, const QPointF &p) const {
+    const auto verso = [this, &c](const QPointF &q) {
+        const QPointF da = c.corsa.constLast();
+        const double dx = q.x() - da.x(), dy = q.y() - da.y(), d = std::sqrt(dx * dx + dy * dy);
+        // A line that turns back keeps the point where it did.
+        if (d < c.lunga - posa_.tolleranza) return true;
+        c.lunga = std::max(c.lunga, d);
+        if (d <= posa_.tolleranza) return false;
+        if (c.apertura == 0) {
+            c.dirX = dx / d;
+            c.dirY = dy / d;
+            c.apertura = posa_.tolleranza / d;
+            return false;
         }
-    } else if (apertura_ != 0) {
-        // Came back to the corner: keep where it turned.
-        linea_.append(fine_);
-        apertura_ = 0;
+        // Sine of the angle off the run's direction; the run narrows as it grows longer.
+        const double seno = std::fabs(c.dirX * dy - c.dirY * dx) / d;
+        if (c.dirX * dx + c.dirY * dy <= 0 || seno > c.apertura) return true;
+        c.apertura = std::min(c.apertura, posa_.tolleranza / d);
+        return false;
+    };
+    if (verso(p)) {
+        c.corsa.append(c.fine);
+        c.apertura = c.lunga = 0;
+        verso(p);
     }
-    fine_ = p;
-    sospesa_ = true;
+    c.fine = p;
 }
 
-void DispositivoQt::vuotaLinea() {
-    if (linea_.isEmpty()) return;
-    if (sospesa_) linea_.append(fine_);
-    sospesa_ = false;
-    apertura_ = 0;
-    pittore_.setPen(matita(colore_, posa_.penna * spessore_));
-    if (linea_.size() == 2) pittore_.drawLine(linea_[0], linea_[1]);
-    else pittore_.drawPolyline(linea_);
-    linea_.clear();
+void DispositivoQt::vuotaCatena(Catena &c) {
+    if (c.corsa.isEmpty()) return;
+    c.corsa.append(c.fine);
+    c.apertura = c.lunga = 0;
+    if (c.corsa.size() == 2) {
+        const QLineF linea(c.corsa[0], c.corsa[1]);
+        c.corsa.clear();
+        if (std::fabs(linea.dx()) + std::fabs(linea.dy()) < posa_.tolleranza && segnata(linea.center(), c.colore)) return;
+        for (Tratti &t : tratti_)
+            if (t.colore == c.colore && t.spessore == c.spessore) return t.linee.append(linea);
+        tratti_.push_back({c.colore, c.spessore, {linea}});
+        return;
+    }
+    pittore_.setPen(matita(c.colore, posa_.penna * c.spessore));
+    pittore_.drawPolyline(c.corsa);
+    c.corsa.clear();
+}
+
+void DispositivoQt::vuotaTratti() {
+    for (Tratti &t : tratti_) {
+        if (t.linee.isEmpty()) continue;
+        pittore_.setPen(matita(t.colore, posa_.penna * t.spessore));
+        pittore_.drawLines(t.linee);
+        t.linee.clear();
+    }
+}
+
+bool DispositivoQt::segnata(const QPointF &p, Colore colore) {
+    if (celle_.empty() || fuori(p, p)) return false;
+    const auto i = static_cast<std::size_t>(p.x() - posa_.vista.left()), j = static_cast<std::size_t>(p.y() - posa_.vista.top());
+    Colore &cella = celle_[j * static_cast<std::size_t>(posa_.vista.width() + 1) + i];
+    const bool gia = cella == colore;
+    cella = colore;
+    return gia;
 }
 
 void DispositivoQt::Punto(double x, double y, Colore colore) {
     const QPointF p = porta(x, y);
     if (fuori(p, p)) return;
-    vuotaLinea();
-    if (!punti_.isEmpty()) {
-        if (colore != colorePunti_ || punti_.size() >= PUNTI_MASSIMI_IN_MANO) vuotaPunti();
-        else if (std::fabs(p.x() - punti_.constLast().x()) + std::fabs(p.y() - punti_.constLast().y()) < posa_.tolleranza) return;
-    }
+    if (segnata(p, colore)) return;
+    if (!punti_.isEmpty() && (colore != colorePunti_ || punti_.size() >= PUNTI_MASSIMI_IN_MANO)) vuotaPunti();
     if (punti_.isEmpty()) pagina();
     colorePunti_ = colore;
     punti_.append(p);
@@ -145,7 +157,8 @@ void DispositivoQt::vuotaPunti() {
 }
 
 void DispositivoQt::vuota() {
-    vuotaLinea();
+    for (std::size_t i = 0; i < catene_.size(); ++i) vuotaCatena(catene_[(turno_ + i) % catene_.size()]);
+    vuotaTratti();
     vuotaPunti();
 }
 

@@ -4,6 +4,7 @@
 #include <QPainter>
 #include <QPolygonF>
 #include <QVector>
+#include <array>
 #include <functional>
 #include <vector>
 
@@ -55,10 +56,21 @@ public:
 private:
     [[nodiscard]] QPointF porta(double x, double y) const { return {x * posa_.fattore + posa_.x0, y * posa_.fattore + posa_.y0}; }
     [[nodiscard]] bool fuori(const QPointF &a, const QPointF &b) const;
-    void prima(Colore colore, int spessore);
-    void aggiungi(const QPointF &p);
-    void vuotaLinea();
+    // A line in hand: kept corners, the end that was held back, and what it is drawn with.
+    struct Catena {
+        QPolygonF corsa;
+        QPointF fine;
+        double dirX = 0, dirY = 0, apertura = 0;  // of the run since the last kept corner; 0: none begun
+        double lunga = 0;                         // how far it got
+        Colore colore = 0;
+        int spessore = 1;
+    };
+    void aggiungi(Catena &c, const QPointF &p) const;
+    void vuotaCatena(Catena &c);
+    void vuotaTratti();
     void vuotaPunti();
+    // Whether a dot of the screen shows this colour's point already; it does from now on.
+    [[nodiscard]] bool segnata(const QPointF &p, Colore colore);
     void pagina();
     [[nodiscard]] QColor ink(Colore colore);
     [[nodiscard]] QPen matita(Colore colore, double larghezza);
@@ -68,15 +80,19 @@ private:
     Posa posa_;
     bool tratteggio_ = false, paginaNuova_ = false;
 
-    // The line in hand: kept corners, the end that was held back, and what it is drawn with.
-    QPolygonF linea_;
-    QPointF fine_;
-    bool sospesa_ = false;
-    double dirX_ = 0, dirY_ = 0, apertura_ = 0;  // of the run since the last kept corner
-    Colore colore_ = 0;
-    int spessore_ = 1;
+    // Engines trace a few curves by turns. Lines and points in hand cross only where nobody can tell which came first.
+    std::array<Catena, 6> catene_;
+    std::size_t turno_ = 0;  // the next to be put out when none is free
+    // Lines that no other went on with, by pen.
+    struct Tratti {
+        Colore colore;
+        int spessore;
+        QVector<QLineF> linee;
+    };
+    std::vector<Tratti> tratti_;
     QPolygonF punti_;
     Colore colorePunti_ = 0;
+    std::vector<Colore> celle_;  // of the screen: the point painted last in each dot
     std::vector<std::pair<Colore, QColor>> inchiostri_;
 };
 

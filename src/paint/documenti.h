@@ -13,7 +13,7 @@ namespace ombrelia::paint {
 // Points of a PDF page a metre.
 inline constexpr double PUNTI_AL_METRO = 72 / 0.0254;
 // Of the pictures, at the sheet's present scale.
-inline constexpr int PUNTI_AL_POLLICE = 200;
+inline constexpr int PUNTI_AL_POLLICE = 150;
 
 // Hears each tile before it is drawn (from 0, of how many) and stops the run by false.
 using Avanzamento = std::function<bool(std::size_t, std::size_t)>;

@@ -197,12 +197,15 @@ std::string RapportoHtml(const Rapporto &r) {
             }
             if (riga.genere != Genere::Dati) continue;
             h += "<tr>";
+            std::size_t celle = 0;
             for (const Elemento &e : riga.voci) {
                 if (e.ornamento) continue;
                 h += "<td>";
                 aggiungiHtml(h, SenzaBlanks(e.testo));
                 h += "</td>";
+                ++celle;
             }
+            for (; celle < r.tabelle[static_cast<std::size_t>(aperta)].colonne.size(); ++celle) h += "<td></td>";
             h += "</tr>\n";
             continue;
         }

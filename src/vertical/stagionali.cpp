@@ -38,6 +38,20 @@ void azimut(Sfera &sfera, const Orario &o, const Sfera::Giorno &g) {
     if (Sfera::segno(o.Hr) != Sfera::segno(sfera.A.numero())) sfera.mendaMuro();
 }
 
+// A point of a line. What no test needs is worked out when a chord asks for it.
+struct Posto {
+    enum class Manca : std::uint8_t { Niente, Ordinata, Tutto };
+    Reale x, y;
+    double A, seno;  // azimuth and sine of the altitude
+    Manca manca = Manca::Niente;
+
+    void completa(const Sfera &sfera) {
+        if (manca == Manca::Tutto) x = sfera.ascissa(A);
+        if (manca != Manca::Niente) y = sfera.ordinata(A, ArcSin(seno).v);
+        manca = Manca::Niente;
+    }
+};
+
 // The lines n of a count; angolo gives the hour angle from n and H0. A point behind the plane is counted but not stored,
 // so the next chord joins what an earlier line of this call left in its place, or the foot of the ortostilo: meant.
 template <typename Angolo>
@@ -46,17 +60,15 @@ void tracciaOre(Sessione &s, Valore da, Valore a, std::string_view strato, Color
     const Cornice cornice = LeggiCornice(s);
     v.fraz = Val(s.in.TxtFraz);
     if (v.fraz == 0) v.fraz = 1;
-    const Conteggio conti(da, a, 1 / v.fraz);
     Sfera sfera(v);
     std::vector<Giornata> giorni;
-    std::vector<Reale> x, y;
+    std::vector<Posto> posti;
     const IdNome id = s.tavolo.nome(strato);
-    double seno = 0;  // of the last altitude that did not fault: worked out only where it is used
-    for (const double n : conti) {
-        if (x.empty()) {
+    double seno = 0;  // of the last altitude that did not fault
+    for (const double n : Conteggio(da, a, 1 / v.fraz)) {
+        if (posti.empty()) {
             giorni = anno(v, sfera);
-            x.resize(giorni.size() + 1);
-            y.resize(giorni.size() + 1);
+            posti.resize(giorni.size() + 1);
         }
         std::size_t i = 0;
         for (const Giornata &g : giorni) {
@@ -66,10 +78,19 @@ void tracciaOre(Sessione &s, Valore da, Valore a, std::string_view strato, Color
             if (std::fabs(s0) < 1) seno = s0;
             ++i;
             if (!sfera.davanti()) continue;
-            sfera.h = ArcSin(seno);
-            sfera.punto(x[i], y[i]);
-            if (i < 2 || y[i] > 0 || !cornice.contiene(x[i], y[i])) continue;
-            s.tavolo.xLine(x[i], -y[i], x[i - 1], -y[i - 1], colore, id);
+            Posto &p = posti[i];
+            p.A = sfera.A.numero();
+            p.seno = seno;
+            p.manca = Posto::Manca::Tutto;
+            if (i < 2 || sfera.sottoTerra(p.A, p.seno)) continue;
+            p.x = sfera.ascissa(p.A);
+            p.manca = Posto::Manca::Ordinata;
+            if (!(cornice.xMin < p.x && p.x < cornice.xMax)) continue;
+            p.completa(sfera);
+            if (p.y > 0 || !cornice.contiene(p.x, p.y)) continue;
+            Posto &prima = posti[i - 1];
+            prima.completa(sfera);
+            s.tavolo.xLine(p.x, -p.y, prima.x, -prima.y, colore, id);
         }
     }
 }

@@ -66,14 +66,14 @@ void TracciaTriangoloStilo(Sessione &s) {
     cerchio(F, 100, QB(12));
 
     s.Dati("");
-    s.Dati("TRIANGOLO dello STILO LUNGO");
+    s.Dati(s.Traduci("TRIANGOLO dello STILO LUNGO"));
     const auto riga = [&](std::string_view etichetta, Valore lunghezza, const Punto &p) {
-        s.Dati(Frase(etichetta) << Abs(Tronca5(lunghezza)) / v.unita << ", coordinate x, y " << Tronca5(p.x / v.unita) << ", "
-                                << Tronca5(p.y / v.unita));
+        s.Dati(Frase(s.Traduci(etichetta)) << Abs(Tronca5(lunghezza)) / v.unita << ", " << s.Traduci("coordinate x, y ")
+                                           << Tronca5(p.x / v.unita) << ", " << Tronca5(p.y / v.unita));
     };
-    riga("Falso ortostilo = ", ortoFalso, P);
-    riga("assostilo = ", Lu / cos(g), Q);
-    riga("cateto sottostilo = ", ortoFalso / tan(g), F);
+    riga("Falso ortostilo = "_it, ortoFalso, P);
+    riga("assostilo = "_it, Lu / cos(g), Q);
+    riga("cateto sottostilo = "_it, ortoFalso / tan(g), F);
 }
 
 }  // namespace ombrelia::vertical

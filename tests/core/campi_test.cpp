@@ -19,7 +19,7 @@ TEST(Campi, FieldsOneAfterTheOther) {
         {"LAT,45.5\nDEC,-20\rINC,0", {"LAT", "45.5", "DEC", "-20", "INC", "0"}},
         {"\"uno\"\r\n\"due\"\r\n", {"uno", "due"}},
         {"\"a\" behind, \t\"b\"\r\n", {"a", "b"}},
-        {"\"say \"hm\", next\"\r\nb", {"say ", "next\"", "b"}},
+        {"\"say \"hm\", next\"\r\nb", {"say ", " next\"", "b"}},
         {"\"never closed, ever\r\n", {"never closed, ever\r\n"}},
         {"\"A\",", {"A"}},
         {",,\r\n\r\n", {"", "", "", ""}},

@@ -82,12 +82,13 @@ TEST(Dizionari, FilesAreWhole) {
     }
 }
 
-// A file that translates what is no literal has its literals elsewhere, and must have marked them.
+// A file that translates what is no literal has marked its literals, unless it only hands texts on.
 TEST(Dizionari, TextsTranslatedByVariableAreMarked) {
     std::vector<TestoSorgente> testi;
     std::vector<std::string> variabili;
     prova::TestiDelProgramma(testi, variabili);
-    const std::set<std::string> senzaTesti{"lang/dizionario.h", "lang/dizionario.cpp", "sessione/sessione.h", "app/lingua.cpp"};
+    const std::set<std::string> senzaTesti{"lang/dizionario.h", "lang/dizionario.cpp", "sessione/sessione.h", "app/lingua.cpp",
+                                           "reports/foglio.h",  "desktop/ponte.h",     "desktop/ponte.cpp"};
     for (const std::string &file : variabili) {
         const bool segnati = std::any_of(testi.begin(), testi.end(), [&](const TestoSorgente &t) { return t.file == file; });
         EXPECT_TRUE(segnati || senzaTesti.contains(file)) << file << " calls Traduci for texts that bear no _it";

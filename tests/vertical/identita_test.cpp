@@ -73,7 +73,8 @@ TEST(VerticaleEDiretta, LoStessoMuro) {
     std::printf("%zu chord ends compared, worst %.6f mm\n", confrontati, peggiore * 1000);
 }
 
-// The other way round on a wall that looks South, where no night hour falls on the plane.
+// The other way round on a wall that looks South, where no night hour falls on the plane. Sunset and sunrise themselves
+// lie on the horizon, where the tenth digit of PI decides what is drawn; they are left out.
 TEST(VerticaleEDiretta, NienteDiPiuNellaDiretta) {
     Banco v, d;
     disegna(v, {"45.7", "-20"}, true, "10.001");
@@ -82,6 +83,7 @@ TEST(VerticaleEDiretta, NienteDiPiuNellaDiretta) {
         const auto di = d.linee(diretta), su = v.linee(verticale);
         std::size_t lontani = 0, tutti = 0;
         for (std::size_t i = 0; i < di.size(); i += static_cast<std::size_t>(passo)) {
+            if (std::fabs(di[i].Y1) < 1e-6) continue;
             ++tutti;
             lontani += !(distanza({di[i].X1, di[i].Y1}, su) <= CENTESIMO);
         }

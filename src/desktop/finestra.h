@@ -1,0 +1,71 @@
+// The main window: menus, commands, fields, sheet; the user at its keys and the session behind it.
+#pragma once
+
+#include <QMainWindow>
+#include <memory>
+
+#include "desktop/dialoghi.h"
+#include "desktop/moduli.h"
+#include "desktop/ponte.h"
+#include "desktop/quadro.h"
+#include "desktop/vivo.h"
+#include "paint/documenti.h"
+
+class QCheckBox;
+
+namespace ombrelia::desktop {
+
+class Finestra final : public QMainWindow {
+public:
+    // Starts the program: defaults, dictionary, sheet. The boxes it opens are those of dialoghi, which outlives it.
+    explicit Finestra(Dialoghi &dialoghi);
+    ~Finestra() override;
+
+    [[nodiscard]] Sessione &sessione() { return s_; }
+    [[nodiscard]] Ponte &ponte() { return ponte_; }
+    [[nodiscard]] Quadro &quadro() { return *quadro_; }
+    [[nodiscard]] Moduli &moduli() { return *moduli_; }
+    [[nodiscard]] Vivo &vivo() { return *vivo_; }
+
+    // Opens a project; the user is told when it can't be.
+    void apri(const QString &percorso);
+    void esegui();
+    // True when the fields or the sheet differ from what was opened or saved last.
+    [[nodiscard]] bool modificato();
+
+protected:
+    void closeEvent(QCloseEvent *e) override;
+
+private:
+    void costruisciMenu();
+    void costruisciBarra();
+    void costruisciColonne();
+    QAction *comando(const QString &testo, const QKeySequence &tasti, const std::function<void()> &azione);
+    bool prima(IdControllo id);
+    void dopo(IdControllo id);
+    void disegnoVivo(Vivo::Esito &e);
+    void chiediVivo();
+    void adatta();
+    void stampa(bool aree);
+    void esportaPdf();
+    void esporta();
+    // Asks what is to become of unsaved work; false when the user wants to go on with it.
+    bool lasciaAndare();
+    void ricorda(const QString &percorso);
+    void riempiRecenti();
+    void messaggio(const QString &testo);
+    bool piastrelle(const std::function<bool(const paint::Avanzamento &)> &lavoro);
+
+    Dialoghi &dialoghi_;
+    UtenteFinestra utente_;
+    Sessione s_;
+    Ponte ponte_;
+    Quadro *quadro_ = nullptr;
+    std::unique_ptr<Moduli> moduli_;
+    std::unique_ptr<Vivo> vivo_;
+    QMenu *recenti_ = nullptr;
+    QCheckBox *vivoAcceso_ = nullptr, *pulisciPrima_ = nullptr;
+    std::string salvato_, improntaCampi_;
+};
+
+}  // namespace ombrelia::desktop

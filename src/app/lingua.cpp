@@ -18,10 +18,14 @@ Testi testiDi(Classe classe) {
         case Classe::Opzione:
         case Classe::Etichetta:
         case Classe::Pulsante:
-        case Classe::Cornice: return {true, true};
-        case Classe::Menu: return {true, false};
-        case Classe::Testo: return {false, true};
-        default: return {false, false};
+        case Classe::Cornice:
+            return {true, true};
+        case Classe::Menu:
+            return {true, false};
+        case Classe::Testo:
+            return {false, true};
+        default:
+            return {false, false};
     }
 }
 

@@ -16,22 +16,32 @@ constexpr std::string_view FINESTRA = "MDIForm1", FOGLIO = "frmTavolo";
 enum class Contenuto { Niente, Testo, Numero, Vero, Caption };
 Contenuto contenutoDi(Classe classe) {
     switch (classe) {
-        case Classe::Testo: return Contenuto::Testo;
-        case Classe::Casella: return Contenuto::Numero;
+        case Classe::Testo:
+            return Contenuto::Testo;
+        case Classe::Casella:
+            return Contenuto::Numero;
         case Classe::Opzione:
-        case Classe::Menu: return Contenuto::Vero;
-        case Classe::Etichetta: return Contenuto::Caption;
-        default: return Contenuto::Niente;
+        case Classe::Menu:
+            return Contenuto::Vero;
+        case Classe::Etichetta:
+            return Contenuto::Caption;
+        default:
+            return Contenuto::Niente;
     }
 }
 
 std::string valoreDi(Sessione &s, IdControllo id, Contenuto contenuto) {
     switch (contenuto) {
-        case Contenuto::Testo: return s.testo(id);
-        case Contenuto::Numero: return std::to_string(s.valore(id));
-        case Contenuto::Vero: return s.valore(id) != 0 ? "-1" : "0";
-        case Contenuto::Caption: return s.stato(id).caption;
-        case Contenuto::Niente: break;
+        case Contenuto::Testo:
+            return s.testo(id);
+        case Contenuto::Numero:
+            return std::to_string(s.valore(id));
+        case Contenuto::Vero:
+            return s.valore(id) != 0 ? "-1" : "0";
+        case Contenuto::Caption:
+            return s.stato(id).caption;
+        case Contenuto::Niente:
+            break;
     }
     return {};
 }
@@ -47,20 +57,26 @@ void scegli(Sessione &s, const Controllo &scelto, bool vero) {
 void applica(Sessione &s, const Controllo &c, std::string_view valore) {
     const IdControllo id = IdDi(c);
     switch (contenutoDi(c.classe)) {
-        case Contenuto::Testo: s.testo(id) = valore; break;
-        case Contenuto::Caption: s.stato(id).caption = valore; break;
+        case Contenuto::Testo:
+            s.testo(id) = valore;
+            break;
+        case Contenuto::Caption:
+            s.stato(id).caption = valore;
+            break;
         case Contenuto::Numero:
             if (const auto n = Intero16(valore)) s.valore(id) = *n;
             break;
         case Contenuto::Vero:
             if (const Valore n = Val(valore); n.esiste()) scegli(s, c, n.v != 0);
             break;
-        case Contenuto::Niente: break;
+        case Contenuto::Niente:
+            break;
     }
 }
 
 void aggiungiTag(std::string &testo, std::string_view nome, std::string_view attributi, std::string_view valore) {
-    for (const std::string_view pezzo : {std::string_view("<"), nome, attributi, std::string_view(">"), valore, std::string_view("</"), nome})
+    for (const std::string_view pezzo :
+         {std::string_view("<"), nome, attributi, std::string_view(">"), valore, std::string_view("</"), nome})
         testo += pezzo;
     testo += '>';
 }
@@ -129,7 +145,8 @@ void ApplicaProgetto(Sessione &s, std::string testo) {
         if (n.esiste()) (s.tavolo.*m.imposta)(n.v);
     }
     ApplicaControlli(s, tag);
-    if (s.tavolo.QuadranteH() == 0 || s.tavolo.QuadranteL() == 0) s.Messaggio(s.Traduci("Il foglio è vuoto: altezza o larghezza 0"));
+    if (s.tavolo.QuadranteH() == 0 || s.tavolo.QuadranteL() == 0)
+        s.Messaggio(s.Traduci("Il foglio è vuoto: altezza o larghezza 0"));
 }
 
 bool ApriProgetto(Sessione &s, const std::string &NomeFile) {
@@ -145,7 +162,8 @@ bool ApriProgetto(Sessione &s, const std::string &NomeFile) {
 
 bool ChiudiTavolo(Sessione &s) {
     std::string &titolo = s.titolo(FOGLIO);
-    if (!titolo.empty() && !s.utente.Box(s.Traduci("Attenzione! desideri chiudere il file ") + titolo + "?", Domanda::SiNo)) return false;
+    if (!titolo.empty() && !s.utente.Box(s.Traduci("Attenzione! desideri chiudere il file ") + titolo + "?", Domanda::SiNo))
+        return false;
     titolo.clear();
     return true;
 }

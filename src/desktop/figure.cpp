@@ -128,10 +128,13 @@ void misura(QPainter &p, const Sessione &s, const QColor &testo) {
     p.drawRect(QRectF(-80, -69, 160, 90));
     p.setBrush(Qt::NoBrush);
     const QColor legno(0x5C, 0x4A, 0x2E);
-    scritta(p, {-40, 12}, t("tavoletta orizzontale"_it), legno);
+    scritta(p, {-122, 8}, t("tavoletta orizzontale"_it), testo);
+    p.setPen(penna(testo, 0.8));
+    p.drawLine(QPointF(-112, 0), QPointF(-74, -18));
+    p.setPen(penna(legno, 1));
     p.setPen(penna(legno, 1, Qt::DashLine));
     p.drawLine(QPointF(0, -69), QPointF(0, 86));
-    scritta(p, {-46, 72}, t("perpendicolare"_it), testo);
+    scritta(p, {44, 80}, t("perpendicolare"_it), testo);
     constexpr double AZ = 34 * GRADO;
     const QPointF filo(0, 6), verso(std::sin(AZ), -std::cos(AZ));
     p.setPen(penna(OMBRA, 2.4));

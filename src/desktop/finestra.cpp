@@ -1,5 +1,3 @@
-#include <ctime>
-#include <cstdio>
 // The main window: how it is put together and what follows each action.
 #include "desktop/finestra.h"
 
@@ -49,6 +47,9 @@ Finestra::Finestra(Dialoghi &dialoghi) : dialoghi_(dialoghi), utente_(dialoghi),
     app::Avvia(s_);
     setWindowTitle(Q(s_.titolo("MDIForm1")));
 
+    // Made in the order in which the eye, and so the Tab key, goes: commands, the dial, the sheet, the drawing.
+    costruisciBarra();
+    molo(ponte_.Traduci("Quadrante"), "quadrante", ColonnaQuadrante(ponte_, this), Qt::LeftDockWidgetArea);
     auto *foglio = new QWidget(this);
     foglio->setObjectName(QStringLiteral("frmTavolo"));
     auto *dentro = new QVBoxLayout(foglio);
@@ -61,8 +62,7 @@ Finestra::Finestra(Dialoghi &dialoghi) : dialoghi_(dialoghi), utente_(dialoghi),
     scatola->hide();
     scatola->setObjectName(QStringLiteral("CDialog1"));
 
-    costruisciBarra();
-    costruisciColonne();
+    molo(ponte_.Traduci("Disegno"), "disegno", ColonnaDisegno(ponte_, this), Qt::RightDockWidgetArea);
     moduli_ = std::make_unique<Moduli>(ponte_, dialoghi_, this);
     costruisciMenu();
 
@@ -186,16 +186,12 @@ void Finestra::costruisciBarra() {
     addToolBar(barra);
 }
 
-void Finestra::costruisciColonne() {
-    const auto molo = [this](const QString &titolo, const char *nome, QWidget *contenuto, Qt::DockWidgetArea dove) {
-        auto *d = new QDockWidget(titolo, this);
-        d->setObjectName(QString::fromLatin1(nome));
-        d->setFeatures(QDockWidget::DockWidgetMovable | QDockWidget::DockWidgetClosable);
-        d->setWidget(contenuto);
-        addDockWidget(dove, d);
-    };
-    molo(ponte_.Traduci("Quadrante"), "quadrante", ColonnaQuadrante(ponte_, this), Qt::LeftDockWidgetArea);
-    molo(ponte_.Traduci("Disegno"), "disegno", ColonnaDisegno(ponte_, this), Qt::RightDockWidgetArea);
+void Finestra::molo(const QString &titolo, const char *nome, QWidget *contenuto, Qt::DockWidgetArea dove) {
+    auto *d = new QDockWidget(titolo, this);
+    d->setObjectName(QString::fromLatin1(nome));
+    d->setFeatures(QDockWidget::DockWidgetMovable | QDockWidget::DockWidgetClosable);
+    d->setWidget(contenuto);
+    addDockWidget(dove, d);
 }
 
 // Before an action: what runs off the thread is given up, unsaved work is asked about, the sheet is wiped when wished.
@@ -242,7 +238,7 @@ void Finestra::disegnoVivo(Vivo::Esito &e) {
     Tavolo &t = s_.tavolo;
     t.ScambiaDisegno(*e.tavolo);
     t.ForeColor = e.tavolo->ForeColor;
-    s_.v = e.v; auto T=[]{timespec x; clock_gettime(CLOCK_THREAD_CPUTIME_ID,&x); return double(x.tv_sec)*1e3+double(x.tv_nsec)/1e6;}; double a=T();
+    s_.v = e.v;
     if (t.ShiftX() != e.tavolo->ShiftX()) t.ShiftX(e.tavolo->ShiftX());
     if (t.ShiftY() != e.tavolo->ShiftY()) t.ShiftY(e.tavolo->ShiftY());
     if (t.QuadranteL() != e.tavolo->QuadranteL()) t.QuadranteL(e.tavolo->QuadranteL());
@@ -250,7 +246,7 @@ void Finestra::disegnoVivo(Vivo::Esito &e) {
     t.Messaggio(e.avviso);
     quadro_->foglio().cambiato(e.immagine, e.vista);
     ponte_.sincronizza();
-    quadro_->aggiorna(); std::fprintf(stderr,"gui %.2f\n",T()-a);
+    quadro_->aggiorna();
 }
 
 void Finestra::adatta() {

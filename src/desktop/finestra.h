@@ -39,7 +39,7 @@ protected:
 private:
     void costruisciMenu();
     void costruisciBarra();
-    void costruisciColonne();
+    void molo(const QString &titolo, const char *nome, QWidget *contenuto, Qt::DockWidgetArea dove);
     QAction *comando(const QString &testo, const QKeySequence &tasti, const std::function<void()> &azione);
     bool prima(IdControllo id);
     void dopo(IdControllo id);

@@ -101,7 +101,8 @@ void mettiRiga(Ponte &ponte, const Riga &nomi, QVBoxLayout *colonna, QWidget *gr
             if (prima) prima->setBuddy(w);
         }
         prima = qobject_cast<QLabel *>(w);
-        if (prima) prima->setWordWrap(nomi.size() == 2);
+        constexpr int LUNGA = 26;  // letters
+        if (prima) prima->setWordWrap(nomi.size() == 2 && prima->text().size() > LUNGA);
         fila->addWidget(w, campo || (stretta && prima) ? 0 : 1);
         if (stretta && prima && nome.starts_with("Label")) fila->addStretch(1);
     }

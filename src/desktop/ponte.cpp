@@ -156,7 +156,7 @@ void Ponte::mostra(const Legame &l) {
         if (e->text() != testo) {
             const int cursore = e->cursorPosition();
             e->setText(testo);
-            if (e->hasFocus()) e->setCursorPosition(std::min(cursore, static_cast<int>(testo.size())));
+            e->setCursorPosition(e->hasFocus() ? std::min(cursore, static_cast<int>(testo.size())) : 0);
         }
     } else if (auto *c = qobject_cast<QComboBox *>(w)) {
         voci(s_, l.id, c);

@@ -55,8 +55,8 @@ Quadro::Quadro(Ponte &ponte, QWidget *genitore) : QWidget(genitore), ponte_(pont
 QWidget *Quadro::testata() {
     QWidget *testa = ponte_.crea("Tavolo1.picHead", this);
     auto *fila = new QHBoxLayout(testa);
-    fila->setContentsMargins(8, 5, 8, 5);
-    fila->setSpacing(4);
+    fila->setContentsMargins(6, 5, 6, 5);
+    fila->setSpacing(3);
     const auto metti = [&](std::string_view nome) {
         QWidget *w = ponte_.crea(intero(nome), testa);
         fila->addWidget(w);
@@ -109,6 +109,7 @@ QWidget *Quadro::piede() {
         fila->addWidget(riga(p));
         QWidget *w = ponte_.crea(intero(nome), p);
         w->setToolTip(aiuto);
+        w->setMinimumWidth(w->fontMetrics().horizontalAdvance(QString::fromLatin1(nome == std::string_view("lblScala") ? "1:100" : "-0000 : -0000")));
         fila->addWidget(w);
     }
     return p;

@@ -33,6 +33,9 @@ QToolBar { border: 0; border-bottom: 1px solid #d5d9de; spacing: 6px; padding: 5
 QDockWidget { font-weight: 600; }
 QDockWidget::title { background: #e9ebec; padding: 5px 9px; }
 #picHead, #piede { background: #f4f5f5; }
+#picHead QPushButton { padding: 3px 7px; }
+#PicAssi, #picDimensioni, #picPrint { margin-top: 0; padding-top: 20px; border: 1px solid #9aa3ad; background: #fcfcfb; }
+#PicAssi::title, #picDimensioni::title, #picPrint::title { subcontrol-origin: border; left: 9px; top: 5px; }
 #avvisoCornice { color: #9a3b12; }
 )";
 
@@ -70,7 +73,7 @@ QIcon Icona() {
     const QPointF centro(128, 62);
     p.setPen(QPen(QColor(0x7C, 0x8B, 0x9B), 6, Qt::SolidLine, Qt::RoundCap));
     for (int i = -3; i <= 3; ++i) {
-        const double t = i * 24 * std::numbers::pi / 180, lungo = 140;
+        const double t = i * 22 * std::numbers::pi / 180, lungo = 140 - 12 * std::abs(i);
         p.drawLine(centro + 40 * QPointF(std::sin(t), std::cos(t)), centro + lungo * QPointF(std::sin(t), std::cos(t)));
     }
     p.setPen(QPen(QColor(0x3B, 0x6E, 0xA8), 9, Qt::SolidLine, Qt::RoundCap));

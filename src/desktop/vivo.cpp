@@ -1,5 +1,3 @@
-#include <ctime>
-#include <cstdio>
 // Runs off the window's thread.
 #include "desktop/vivo.h"
 
@@ -114,8 +112,7 @@ void Vivo::lavora() {
         try {
             Guardia guardia(numero_, mio);
             t.dispositivo = &guardia;
-            auto T=[]{timespec x; clock_gettime(CLOCK_THREAD_CPUTIME_ID,&x); return double(x.tv_sec)*1e3+double(x.tv_nsec)/1e6;}; double a=T();
-            app::cmdRun(s);double b=T();
+            app::cmdRun(s);
             // These boxes draw when they are set.
             for (const std::string_view nome : {"ckRomani", "ckArabi"}) {
                 const IdControllo id = TrovaControllo(nome);
@@ -125,7 +122,7 @@ void Vivo::lavora() {
             t.FattoreX = r.fattoreX;
             t.FattoreY = r.fattoreY;
             guardia.guarda();
-            esito->immagine = DisegnaVista(t, r.vista); std::fprintf(stderr,"run %.2f draw %.2f\n",b-a,T()-b);
+            esito->immagine = DisegnaVista(t, r.vista);
         } catch (const Fermato &) {
             t.dispositivo = nullptr;
             continue;

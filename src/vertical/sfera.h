@@ -41,7 +41,10 @@ public:
 
     // Denominator of the azimuth's tangent.
     [[nodiscard]] double denominatore(const Orario &o, const Giorno &g) const { return senLat_ * o.cos - g.cosTan; }
-    void azimut(const Orario &o, const Giorno &g) { A = Atn(Valore(o.sen) / denominatore(o, g)); }
+    void azimut(const Orario &o, const Giorno &g) {
+        const Valore q = o.sen / denominatore(o, g);  // not finite where the denominator is 0
+        if (q.esiste()) A = std::atan(q.v);
+    }
 
     // The quadrant is wrong when A and the hour angle lie on different sides of the meridian.
     [[nodiscard]] bool quadranteErrato(const Orario &o) const {

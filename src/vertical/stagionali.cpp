@@ -33,7 +33,7 @@ std::vector<Giornata> anno(Variabili &v, const Sfera &sfera) {
 }
 
 // These hours compare the angles themselves, not their sines.
-void azimut(Sfera &sfera, const Orario &o, const Sfera::Giorno &g) {
+inline void azimut(Sfera &sfera, const Orario &o, const Sfera::Giorno &g) {
     sfera.azimut(o, g);
     if (Sfera::segno(o.Hr) != Sfera::segno(sfera.A.numero())) sfera.mendaMuro();
 }

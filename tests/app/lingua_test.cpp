@@ -60,8 +60,9 @@ TEST_F(LinguaTest, NamesOfTheLanguage) {
 TEST_F(LinguaTest, Export) {
     Banco b;
     app::TraduciForm(b.s, "frmAbout", "_DB");
-    EXPECT_EQ(leggi("_DBfrmAbout.txt"),
-              "\"Ombrelia|\r\nVersione|\r\nProgetto di orologi solari in scala reale|\r\nOK|\r\nInformazioni di sistema...|\r\n\"\r\n");
+    EXPECT_EQ(
+        leggi("_DBfrmAbout.txt"),
+        "\"Ombrelia|\r\nVersione|\r\nProgetto di orologi solari in scala reale|\r\nOK|\r\nInformazioni di sistema...|\r\n\"\r\n");
     app::TraduciForm(b.s, "Tavolo1", "_DBnuova");
     const std::string t = leggi("_DBTavolo1.txt");
     EXPECT_TRUE(t.starts_with("\"|\r\nPrint|\r\nAxes|\r\n")) << t.substr(0, 40);
@@ -72,7 +73,9 @@ TEST_F(LinguaTest, Export) {
 }
 
 TEST_F(LinguaTest, CommandsChangeTheFileAndWorkOnce) {
-    const std::string francese = "\"Dati|Donn\xE9" "es\"\r\n";
+    const std::string francese =
+        "\"Dati|Donn\xE9"
+        "es\"\r\n";
     scrivi("DBFranceseC2008.txt", francese);
     scrivi("DBIngleseC2008.txt", "\"Dati|Data\"\r\n");
     Banco b;

@@ -19,9 +19,12 @@ TEST_F(DefaultTest, AFreshFile) {
     b.premi("cmdSave");
     const std::string t = leggi("Ombrelia.dat");
     EXPECT_EQ(std::count(t.begin(), t.end(), '\n'), 41);
-    EXPECT_TRUE(t.starts_with("\"LAT\",\"45,5\"\r\n\"DEC\",\"-20\"\r\n\"INC\",\"25.2\"\r\n\"ORTO\",\".195\"\r\n\"LONG\",\"0\"\r\n\"FRAZIONE\",\"2\"\r\n"));
+    EXPECT_TRUE(
+        t.starts_with("\"LAT\",\"45,5\"\r\n\"DEC\",\"-20\"\r\n\"INC\",\"25.2\"\r\n\"ORTO\",\".195\"\r\n\"LONG\","
+                      "\"0\"\r\n\"FRAZIONE\",\"2\"\r\n"));
     EXPECT_TRUE(t.ends_with("\"CENTIMETRO\",\"0\"\r\n\"ARABI\",\".03\"\r\n\"ROMANI\",\".07\"\r\n\"ZODIACO\",\"0.02\"\r\n"));
-    for (const char *riga : {"\"CIFRE\",\"1\"\r\n\"QUADRO\",\"1\"\r\n\"QIBLA\",\"0\"\r\n", "\"ORAINIZIO\",\"6.5\"\r\n\"ORAFINE\",\"17.5\"\r\n"})
+    for (const char *riga :
+         {"\"CIFRE\",\"1\"\r\n\"QUADRO\",\"1\"\r\n\"QIBLA\",\"0\"\r\n", "\"ORAINIZIO\",\"6.5\"\r\n\"ORAFINE\",\"17.5\"\r\n"})
         EXPECT_NE(t.find(riga), std::string::npos) << riga;
 }
 
@@ -49,7 +52,9 @@ TEST_F(DefaultTest, SameBytesAsSingleWrites) {
     Banco b({{"txtLAT", "5\" x"}});
     b.premi("cmdSave");
     const std::string avuto = leggi("Ombrelia.dat");
-    EXPECT_TRUE(avuto.starts_with("\"mine\",\"kept\"\r\n\"DEC\",\"1\"\r\n\"DEC\",\"2\"\r\n\"lat\",\"3\"\r\n\"ZODIACO\",\".9\"\r\n\"LAT\",\"5\" x\"\r\n\"INC\""));
+    EXPECT_TRUE(
+        avuto.starts_with("\"mine\",\"kept\"\r\n\"DEC\",\"1\"\r\n\"DEC\",\"2\"\r\n\"lat\",\"3\"\r\n\"ZODIACO\",\".9\"\r\n\"LAT\","
+                          "\"5\" x\"\r\n\"INC\""));
 
     scrivi("nuovo.dat", "");
     b.premi("cmdSave");

@@ -25,7 +25,8 @@ std::vector<std::string> Tutto(Sessione &s) {
         if (c.classe == Classe::Pulsante || c.classe > Classe::Etichetta) continue;
         const StatoControllo &stato = s.stato(IdDi(c));
         t.push_back(std::string(c.nome) + "|" + s.testo(IdDi(c)) + "|" + std::to_string(s.valore(IdDi(c))) + "|" +
-                    (c.classe == Classe::Etichetta ? stato.caption : "") + (stato.visibile ? "v" : "-") + (stato.abilitato ? "e" : "-"));
+                    (c.classe == Classe::Etichetta ? stato.caption : "") + (stato.visibile ? "v" : "-") +
+                    (stato.abilitato ? "e" : "-"));
     }
     for (const double n : {s.tavolo.QuadranteH(), s.tavolo.QuadranteL(), s.tavolo.ShiftX(), s.tavolo.ShiftY()})
         t.push_back(NumeroGenerale(n));
@@ -39,12 +40,17 @@ TEST_F(ProgettoTest, TheFormOfTheFile) {
     ASSERT_EQ(app::SalvaProgetto(b.s, "p.omb"), std::nullopt);
     const std::string t = leggi("p.omb");
     EXPECT_TRUE(t.starts_with("\"<mnuApri visible=true enabled=true>0</mnuApri>\r\n"));
-    for (const char *riga : {"\r\n<txtLAT visible=true enabled=true>45.74805</txtLAT>\r\n", "\r\n<lblX1 visible=true>III retta :            x1 = </lblX1>\r\n",
-                             "\r\n<ckZodiac visible=true enabled=true>1</ckZodiac>\r\n", "\r\n<Filtertxt visible=false enabled=true>.2</Filtertxt>\r\n",
-                             "\r\n<OptIta visible=true enabled=true>0</OptIta>\r\n"})
+    for (const char *riga :
+         {"\r\n<txtLAT visible=true enabled=true>45.74805</txtLAT>\r\n",
+          "\r\n<lblX1 visible=true>III retta :            x1 = </lblX1>\r\n",
+          "\r\n<ckZodiac visible=true enabled=true>1</ckZodiac>\r\n",
+          "\r\n<Filtertxt visible=false enabled=true>.2</Filtertxt>\r\n", "\r\n<OptIta visible=true enabled=true>0</OptIta>\r\n"})
         EXPECT_NE(t.find(riga), std::string::npos) << riga;
-    for (const char *altro : {"cmdRun", "cmbStati", "Panel3D1", "PicScroll"}) EXPECT_EQ(t.find(altro), std::string::npos) << altro;
-    EXPECT_TRUE(t.ends_with("\r\n<_QuadranteH>2</_QuadranteH><_QuadranteL>3</_QuadranteL><_Shiftx>1.5625E-02</_Shiftx><_Shifty>-0.25</_Shifty>\"\r\n"));
+    for (const char *altro : {"cmdRun", "cmbStati", "Panel3D1", "PicScroll"})
+        EXPECT_EQ(t.find(altro), std::string::npos) << altro;
+    EXPECT_TRUE(
+        t.ends_with("\r\n<_QuadranteH>2</_QuadranteH><_QuadranteL>3</_QuadranteL><_Shiftx>1.5625E-02</_Shiftx><_Shifty>-0.25</"
+                    "_Shifty>\"\r\n"));
 }
 
 TEST_F(ProgettoTest, SavingOpeningAndSavingAgainGivesTheSameBytes) {
@@ -91,7 +97,8 @@ TEST_F(ProgettoTest, AMissingTagLeavesItsControlAlone) {
 
 TEST_F(ProgettoTest, NoHandlerRuns) {
     Banco b;
-    app::ApplicaProgetto(b.s, Tag("ck_Italiche", "1") + Tag("ck_babiloniche", "1") + Tag("CkUNI", "1") + Tag("txtInc", "0") + FOGLIO);
+    app::ApplicaProgetto(b.s,
+                         Tag("ck_Italiche", "1") + Tag("ck_babiloniche", "1") + Tag("CkUNI", "1") + Tag("txtInc", "0") + FOGLIO);
     EXPECT_EQ(b.s.in.ck_Italiche, 1);
     EXPECT_EQ(b.s.in.ck_babiloniche, 1);
     EXPECT_EQ(b.s.in.TxtInizio, "6.5");
@@ -103,8 +110,9 @@ TEST_F(ProgettoTest, ValuesOfEachClass) {
         const char *nome, *valore;
         int atteso;
     } casi[] = {
-        {"ckAlt", "1", 1},  {"ckAlt", "2", 2},      {"ckAlt", "1.9", 1},   {"ckAlt", "", 0},    {"ckAlt", "1e9", 1},  {"ckAlt", "abc", 0},
-        {"OptIta", "-1", 1}, {"OptIta", "1", 1},    {"OptIta", "0", 0},    {"OptIta", "", 0},   {"mnuAvviso", "-1", 1}, {"mnuAvviso", "0", 0},
+        {"ckAlt", "1", 1},   {"ckAlt", "2", 2},   {"ckAlt", "1.9", 1},    {"ckAlt", "", 0},
+        {"ckAlt", "1e9", 1}, {"ckAlt", "abc", 0}, {"OptIta", "-1", 1},    {"OptIta", "1", 1},
+        {"OptIta", "0", 0},  {"OptIta", "", 0},   {"mnuAvviso", "-1", 1}, {"mnuAvviso", "0", 0},
     };
     for (const auto &caso : casi) {
         Banco b;
@@ -113,7 +121,8 @@ TEST_F(ProgettoTest, ValuesOfEachClass) {
         EXPECT_EQ(b.s.valore(TrovaControllo(caso.nome)), caso.atteso) << caso.nome << " " << caso.valore;
     }
     Banco b;
-    app::ApplicaProgetto(b.s, Tag("OptTEMP", "-1") + Tag("optHorae", "-1") + Tag("lblLatitudine", "Breite", " visible=false") + FOGLIO);
+    app::ApplicaProgetto(
+        b.s, Tag("OptTEMP", "-1") + Tag("optHorae", "-1") + Tag("lblLatitudine", "Breite", " visible=false") + FOGLIO);
     EXPECT_EQ(b.s.in.OptTEMP + b.s.in.optHorae, 1) << "one option at a time";
     EXPECT_EQ(b.s.stato("lblLatitudine").caption, "Breite");
     EXPECT_FALSE(b.s.stato("lblLatitudine").visibile);
@@ -137,7 +146,8 @@ TEST_F(ProgettoTest, TheSheet) {
         double H, L, X, Y;
         bool vuoto;
     } casi[] = {
-        {"<_QuadranteH>2.5</_QuadranteH><_QuadranteL>20</_QuadranteL><_ShiftX>-1E-02</_ShiftX><_shifty>1</_shifty>", 2.5, 15, -0.01, 1, false},
+        {"<_QuadranteH>2.5</_QuadranteH><_QuadranteL>20</_QuadranteL><_ShiftX>-1E-02</_ShiftX><_shifty>1</_shifty>", 2.5, 15,
+         -0.01, 1, false},
         {"something else", 0, 0, 0, 0, true},
         {"<_QuadranteH>1,5</_QuadranteH><_QuadranteL>1e999</_QuadranteL>", 1, 14, 0, 0, false},
     };

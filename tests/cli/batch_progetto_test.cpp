@@ -1,6 +1,5 @@
 // Projects, defaults and language from an action script.
 #include "cli/batch.h"
-
 #include "comuni/cartella.h"
 
 namespace ombrelia {
@@ -21,7 +20,8 @@ Esito Esegui(std::string_view script) {
 
 TEST_F(BatchProgetto, SaveAndOpen) {
     const Esito e = Esegui(
-        "set txtLAT 41.5\nsave a b.omb\nset txtLAT 12\ncheck ck_Italiche\nopen a b.omb\nshow txtLAT\nshow ck_Italiche\nshow TxtInizio\n"
+        "set txtLAT 41.5\nsave a b.omb\nset txtLAT 12\ncheck ck_Italiche\nopen a b.omb\nshow txtLAT\nshow ck_Italiche\nshow "
+        "TxtInizio\n"
         "save c.omb\nopen none.omb\nshow txtLAT\n");
     EXPECT_EQ(e.stato, 0) << e.errore;
     // The hours are those of the file, too.
@@ -42,7 +42,8 @@ TEST_F(BatchProgetto, WhatCanNotBeSavedEndsTheRun) {
 
 TEST_F(BatchProgetto, MenusTakeQueuedAnswers) {
     const Esito e = Esegui(
-        "answer m.omb\nclick mnuSalva\nclick mnuApri\nset txtLAT 1\nanswer m.omb\nclick mnuApri\nshow txtLAT\nset txtLAT 2\nanswer No\n"
+        "answer m.omb\nclick mnuSalva\nclick mnuApri\nset txtLAT 1\nanswer m.omb\nclick mnuApri\nshow txtLAT\nset txtLAT "
+        "2\nanswer No\n"
         "click mnuApri\nshow txtLAT\nanswer Yes\nanswer m.omb\nclick mnuApri\nshow txtLAT\n");
     EXPECT_EQ(e.stato, 0) << e.errore;
     const std::string domanda = "box: Attenzione! Vuoi chiudere il file m.omb?\n";
@@ -54,7 +55,8 @@ TEST_F(BatchProgetto, TheNextRunSpeaksTheNewLanguageAndKnowsTheDefaults) {
     const Esito prima = Esegui("set txtLAT 48.85\nclick cmdSave\nclick mnuFrancais\nclick mnuFrancais\nshow cmdRun\n");
     EXPECT_EQ(prima.detto, "box: Il faut sortir avant d'exécuter Ombrelia!!\ndisabled: mnuFrancais\ncmdRun=Esegui enabled\n");
     const Esito poi = Esegui("show cmdRun\nshow txtLAT\nclick mnuAusiliaria\nshow frmDeclin.cmdExit\nopen none.omb\n");
-    EXPECT_EQ(poi.detto, "cmdRun=Exécuter enabled\ntxtLAT=48.85\nfrmDeclin.cmdExit=Quitter enabled\nbox: Fichier non reconnu !\n");
+    EXPECT_EQ(poi.detto,
+              "cmdRun=Exécuter enabled\ntxtLAT=48.85\nfrmDeclin.cmdExit=Quitter enabled\nbox: Fichier non reconnu !\n");
 }
 
 }  // namespace

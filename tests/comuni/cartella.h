@@ -29,9 +29,7 @@ protected:
         std::ifstream f(nome, std::ios::binary);
         return {std::istreambuf_iterator<char>(f), {}};
     }
-    static std::size_t quanti() {
-        return static_cast<std::size_t>(std::distance(std::filesystem::directory_iterator("."), {}));
-    }
+    static std::size_t quanti() { return static_cast<std::size_t>(std::distance(std::filesystem::directory_iterator("."), {})); }
 
 private:
     static std::string nome() { return "ombrelia-qui-" + std::to_string(::getpid()); }

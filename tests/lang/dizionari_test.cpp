@@ -78,7 +78,8 @@ TEST(Dizionari, FilesAreWhole) {
         EXPECT_EQ(DaFile(t), t) << lingua << " is no plain UTF-8";
         EXPECT_EQ(std::count(t.begin(), t.end(), '"'), 2) << lingua << ": a quote inside ends the reading";
         EXPECT_TRUE(t.starts_with('"') && t.ends_with("\r\n\"\r\n")) << lingua;
-        for (std::size_t i = t.find('\n'); i != std::string::npos; i = t.find('\n', i + 1)) EXPECT_EQ(t[i - 1], '\r') << lingua << " at " << i;
+        for (std::size_t i = t.find('\n'); i != std::string::npos; i = t.find('\n', i + 1))
+            EXPECT_EQ(t[i - 1], '\r') << lingua << " at " << i;
     }
 }
 

@@ -42,9 +42,15 @@ TEST(Dizionario, Lookup) {
     const struct {
         const char *testo, *traduzione;
     } casi[] = {
-        {"Latitudine:   ", "Latitude:   "}, {"LATITUDINE:   ", "Latitude:   "}, {"Latitudine:", "Latitudine:"},
-        {"CITTÀ È GIÀ PIÙ", "CITY"},        {"UNO", "first"},                   {"uno", "first"},
-        {"ŒUVRE Ÿ", "work"},                {"OEUVRE Y", "OEUVRE Y"},           {"", ""},
+        {"Latitudine:   ", "Latitude:   "},
+        {"LATITUDINE:   ", "Latitude:   "},
+        {"Latitudine:", "Latitudine:"},
+        {"CITTÀ È GIÀ PIÙ", "CITY"},
+        {"UNO", "first"},
+        {"uno", "first"},
+        {"ŒUVRE Ÿ", "work"},
+        {"OEUVRE Y", "OEUVRE Y"},
+        {"", ""},
         {"citta e gia piu", "citta e gia piu"},
     };
     for (const auto &caso : casi) EXPECT_EQ(d.Traduci(caso.testo), caso.traduzione);

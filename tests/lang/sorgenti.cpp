@@ -77,7 +77,8 @@ std::vector<Pezzo> pezzi(std::string_view codice) {
 
 }  // namespace
 
-void TestiDi(std::string_view codice, const std::string &file, std::vector<TestoSorgente> &testi, std::vector<std::string> &variabili) {
+void TestiDi(std::string_view codice, const std::string &file, std::vector<TestoSorgente> &testi,
+             std::vector<std::string> &variabili) {
     const std::vector<Pezzo> p = pezzi(codice);
     for (std::size_t i = 0; i < p.size(); ++i) {
         if (p[i].tipo == Pezzo::Letterale && p[i].segnato) testi.push_back({p[i].testo, file});

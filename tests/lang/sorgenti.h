@@ -13,7 +13,8 @@ struct TestoSorgente {
 };
 
 // Those of one C++ source; file is only copied. A call of Traduci without a literal adds the file to variabili.
-void TestiDi(std::string_view codice, const std::string &file, std::vector<TestoSorgente> &testi, std::vector<std::string> &variabili);
+void TestiDi(std::string_view codice, const std::string &file, std::vector<TestoSorgente> &testi,
+             std::vector<std::string> &variabili);
 
 // Those of every source file under src.
 void TestiDelProgramma(std::vector<TestoSorgente> &testi, std::vector<std::string> &variabili);

@@ -1,7 +1,8 @@
 // What a kill in the middle and a disk that fills up leave of a file.
-#include <csignal>
 #include <sys/resource.h>
 #include <sys/wait.h>
+
+#include <csignal>
 
 #include "comuni/cartella.h"
 #include "core/campi.h"

@@ -31,12 +31,12 @@ TEST_F(ParametriTest, WhatFilesHold) {
     } casi[] = {
         {"\"K\",\"first\"\r\n\"K\",\"second\"\r\n", "first"},
         {"K,plain\nL,x\n", "plain"},
-        {"\"L\"\r\n\"x\"\r\n\"K\",\"v\"\r\n", "v"},      // the next line's first field is the value
-        {"\"L\"\r\n\"K\",\"v\"\r\n", ""},                // and so K is a value here, and v a key
+        {"\"L\"\r\n\"x\"\r\n\"K\",\"v\"\r\n", "v"},  // the next line's first field is the value
+        {"\"L\"\r\n\"K\",\"v\"\r\n", ""},            // and so K is a value here, and v a key
         {"\"K\",\"say \"hm\"\"\r\n", "say "},
         {"\"L\",\"x\"\r\n\"K\"", ""},
         {"\xEF\xBB\xBF\"K\",\"perch\xC3\xA9\"\r\n", "perché"},
-        {"\"K\",\"perch\xE9 \x80\"\r\n", "perché €"},    // Windows-1252
+        {"\"K\",\"perch\xE9 \x80\"\r\n", "perché €"},  // Windows-1252
         {"\"k\",\"x\"\r\n", ""},
         {"", ""},
     };

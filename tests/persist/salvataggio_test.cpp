@@ -13,10 +13,10 @@ TEST(Salvataggio, TagsByFirstOccurrence) {
     } casi[] = {
         {"<txtH visible=true>1</txtH>", "txtH", "<txtH visible=true>1", "1"},
         {"<TXTH visible=true>Perché</txth>", " txtH ", "<TXTH visible=true>Perché", "Perché"},
-        {"<txtHour>1</txtHour><txtH>2</txtH>", "txtH", "<txtHour>1", "1"},   // the longer name stands earlier
+        {"<txtHour>1</txtHour><txtH>2</txtH>", "txtH", "<txtHour>1", "1"},  // the longer name stands earlier
         {"<txtH>2</txtH><txtHour>1</txtHour>", "txtH", "<txtH>2", "2"},
-        {"<a>x <b>y</a><b>z</b>", "b", "<b>y</a><b>z", "y</a><b>z"},         // a value that holds another's open
-        {"<a>x </b>y</a><b>z</b>", "b", "", ""},                             // or its close
+        {"<a>x <b>y</a><b>z</b>", "b", "<b>y</a><b>z", "y</a><b>z"},  // a value that holds another's open
+        {"<a>x </b>y</a><b>z</b>", "b", "", ""},                      // or its close
         {"</a><a>1", "a", "", ""},
         {"<a>1", "a", "", ""},
         {"1</a>", "a", "", ""},

@@ -189,8 +189,9 @@ TEST(Concordanza, ItalicAndBabylonianTablesLieOnTheirLines) {
         for (const bool italiche : {true, false}) {
             BancoRapporti b;
             const char *da = italiche ? "14" : "1", *a = italiche ? "23" : "11";
-            Disegna(b, q, {italiche ? "ck_Italiche" : "ck_babiloniche"}, da, a);
+            Disegna(b, q, {italiche ? "ck_Italiche" : "ck_babiloniche", "Ck_DayLightCurves"}, da, a);
             const auto rette = prova::Rette(b.linee(italiche ? "Ita" : "Bab"), 0.02);
+            const auto inverno = b.linee("delta -23.445°");
             if (Val(q.inc) == 90) continue;  // the table's hours are fixed there
             const Rapporto &r = b.apri(italiche ? "OptIta" : "OptBab");
             const double H[] = {Gradi(PI / 2 - ArcSin(tan(b.s.v.lat_o) * tan(Radianti(23.445)))).v,
@@ -201,6 +202,10 @@ TEST(Concordanza, ItalicAndBabylonianTablesLieOnTheirLines) {
                     const double t = 15 * Numero(riga[0]) + (italiche ? H[k] - 360 : -H[k]);
                     if (!Illuminato(q, t, k == 0 ? -23.445 : 23.445) || !Dentro(p)) continue;
                     EXPECT_LT(LontananzaRetta(rette, p), QUATTRO_CIFRE) << Nome(q) << " hour " << riga[0];
+                    // A line's two ends are told apart by the winter line alone.
+                    if (k == 0 && std::fabs(Val(q.dec).v) <= 90) {
+                        EXPECT_LT(Lontananza(inverno, p), QUATTRO_CIFRE + 1e-5) << Nome(q) << " hour " << riga[0];
+                    }
                     ++confrontati;
                 }
             // The chosen lines: on the same straight lines.

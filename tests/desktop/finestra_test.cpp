@@ -1,0 +1,301 @@
+// The window: its widgets are the table's rows, its handlers those of the action script, its keys are filtered, and no
+// box waits for anybody.
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTest>
+#include <fstream>
+#include <sstream>
+
+#include "app/progetto.h"
+#include "comuni/prova.h"
+#include "core/file.h"
+#include "desktop/dialoghi_prova.h"
+#include "desktop/finestra.h"
+
+namespace ombrelia {
+namespace {
+
+using desktop::Finestra;
+
+struct BancoFinestra {
+    prova::DialoghiDiProva dialoghi;
+    Finestra f{dialoghi};
+
+    BancoFinestra() {
+        f.show();
+        QApplication::setActiveWindow(&f);
+        QCoreApplication::processEvents();
+    }
+    template <class T = QWidget>
+    T *w(std::string_view nome) {
+        return qobject_cast<T *>(f.ponte().widget(nome));
+    }
+    void scrivi(std::string_view nome, const char *testo) {
+        auto *campo = w<QLineEdit>(nome);
+        campo->setFocus();
+        campo->selectAll();
+        QTest::keyClicks(campo, QString::fromUtf8(testo));
+    }
+    void premi(std::string_view nome) { QTest::mouseClick(w(nome), Qt::LeftButton); }
+    // A box is pressed where its mark is.
+    void spunta(std::string_view nome) { w<QAbstractButton>(nome)->click(); }
+    void aspettaVivo() {
+        ASSERT_TRUE(QTest::qWaitFor([this] { return !f.vivo().attivo(); }, 20000));
+        QCoreApplication::processEvents();
+    }
+    [[nodiscard]] std::string lista() const { return ListaTesto(const_cast<Finestra &>(f).sessione().tavolo.lista()); }
+};
+
+TEST(Finestra, EachRowOfTheTableHasItsWidget) {
+    BancoFinestra b;
+    std::size_t trovati = 0;
+    for (const Controllo &c : TavolaControlli()) {
+        QString nome = desktop::Q(c.nome);
+        if (c.indice >= 0) nome += QStringLiteral("(%1)").arg(c.indice);
+        QObject *dove = c.modulo == "MDIForm1" ? &b.f : c.modulo == "Tavolo1" || c.modulo == "frmTavolo" ? &b.f.quadro() : static_cast<QObject *>(b.f.moduli().modulo(c.modulo));
+        ASSERT_NE(dove, nullptr) << c.modulo;
+        QObject *w = dove->objectName() == nome ? dove : dove->findChild<QObject *>(nome);
+        EXPECT_NE(w, nullptr) << c.modulo << '.' << c.nome;
+        trovati += w != nullptr;
+        if (const auto *campo = qobject_cast<QLineEdit *>(w); campo && c.testo) {
+            EXPECT_EQ(campo->text().toStdString(), c.inizio) << c.nome;
+        }
+        if (c.classe == Classe::Menu) {
+            EXPECT_NE(qobject_cast<QAction *>(w), nullptr) << c.nome;
+        }
+    }
+    EXPECT_EQ(trovati, TavolaControlli().size());
+    EXPECT_GT(trovati, 150U);
+}
+
+TEST(Finestra, TheSameUserAtWindowAndScriptLeavesTheSameDrawing) {
+    struct Caso {
+        const char *nome;
+        std::vector<std::pair<std::string_view, const char *>> campi;
+        std::vector<std::string_view> caselle, pulsanti;
+    };
+    const std::vector<Caso> casi{
+        {"wall", {{"txtLAT", "45.07"}, {"txtDec", "18"}, {"txtInc", "0"}, {"TxtFraz", "1"}}, {"chkOreAstronomiche", "Ck_DayLightCurves", "ck_Triangolo"}, {"cmdRun"}},
+        {"leaning, added up", {{"txtDec", "-12.5"}, {"txtInc", "33"}}, {"chkOreAstronomiche", "ck_Equinoziale"}, {"cmdRun", "cmdRun", "Tavolo1.cmdAssi"}},
+        {"southern", {{"txtLAT", "-33"}}, {"chkOreAstronomiche"}, {"cmdRun", "Tavolo1.cmdInvX"}},
+        {"italic against babylonian", {{"txtInc", "0"}}, {"ck_babiloniche", "ck_Italiche", "ck_babiloniche"}, {"cmdRun", "Tavolo1.CmdGriglia"}},
+        {"analytic", {{"txtInc", "0"}, {"txtDec", "10"}}, {"chkOreAstronomiche", "ck_Equinoziale"}, {"cmdEqui"}},
+    };
+    for (const Caso &c : casi) {
+        BancoFinestra b;
+        prova::UtenteDiProva utente;
+        Sessione s(utente);
+        app::Avvia(s);
+        for (const auto &[nome, testo] : c.campi) {
+            b.scrivi(nome, testo);
+            app::Imposta(s, TrovaControllo(nome), testo);
+        }
+        for (const std::string_view nome : c.caselle) {
+            b.spunta(nome);
+            app::Premi(s, TrovaControllo(nome));
+        }
+        for (const std::string_view nome : c.pulsanti) {
+            b.premi(nome);
+            app::Premi(s, TrovaControllo(nome));
+        }
+        ASSERT_FALSE(s.tavolo.lista().Ordine.empty()) << c.nome;
+        EXPECT_EQ(b.lista(), ListaTesto(s.tavolo.lista())) << c.nome;
+        EXPECT_EQ(b.dialoghi.avvisi, utente.box) << c.nome;
+        EXPECT_EQ(app::ScriviProgetto(b.f.sessione()), app::ScriviProgetto(s)) << c.nome;
+        EXPECT_EQ(b.w<QLineEdit>("txtLAT")->text().toStdString(), s.in.txtLAT) << c.nome;
+    }
+}
+
+TEST(Finestra, KeysPassTheirFilter) {
+    struct Caso {
+        std::string_view campo;
+        const char *tasti, *resta;
+        int beep;
+    };
+    const Caso casi[] = {
+        {"txtLAT", "45,7x5", "45.75", 1},          // a comma is a point
+        {"txtDec", "-1e2", "-12", 1},
+        {"txtInc", "2e1", "2e1", 0},               // no filter there
+        {"frmDeclin.txtAngle", "+3a", "+3", 0},    // the board's filter is silent
+        {"frmDeclin.txtHH", "-9.5", "9.5", 0},
+    };
+    for (const Caso &c : casi) {
+        BancoFinestra b;
+        if (c.campo.starts_with("frmDeclin")) {
+            b.f.ponte().premi("mnuAusiliaria");
+            QApplication::setActiveWindow(b.f.moduli().modulo("frmDeclin"));
+        }
+        b.scrivi(c.campo, c.tasti);
+        EXPECT_EQ(b.w<QLineEdit>(c.campo)->text().toStdString(), c.resta);
+        EXPECT_EQ(b.f.sessione().testo(TrovaControllo(c.campo)), c.resta);
+        EXPECT_EQ(b.dialoghi.beepSentiti, c.beep) << c.campo;
+    }
+}
+
+TEST(Finestra, FieldsFollowTheirRules) {
+    BancoFinestra b;
+    EXPECT_FALSE(b.w("cmdEqui")->isEnabled());
+    b.scrivi("txtInc", "0");
+    for (const std::string_view nome : {"cmdEqui", "ckZodiac", "ckRomani", "ckArabi", "Option1"}) EXPECT_TRUE(b.w(nome)->isEnabled()) << nome;
+    b.spunta("ck_Italiche");
+    EXPECT_EQ(b.w<QLineEdit>("TxtInizio")->text(), QStringLiteral("13"));
+    b.scrivi("txtInc", "5");
+    b.spunta("CkUNI");
+    EXPECT_EQ(b.w<QLineEdit>("txtInc")->text(), QStringLiteral("0"));
+}
+
+TEST(Finestra, EachReportOpensWithItsTextAndPrints) {
+    struct Caso {
+        std::string_view comando, modulo, menu;
+    };
+    const Caso casi[] = {
+        {"cmdData", "Form1", "menuFond"},    {"optHorae", "Form2", "mnuPrinta"}, {"OptTEMP", "Form3", "mnustampat"}, {"OptBab", "Form4", "mnubabprint"},
+        {"OptInter", "Form6", "mnu_Print"}, {"Option1", "Form8", "menuprinta"}, {"OptIta", "Form9", "mnuStammpa"},
+    };
+    BancoFinestra b;
+    b.scrivi("txtInc", "0");
+    std::size_t stampati = 0;
+    for (const Caso &c : casi) {
+        b.f.ponte().premi(c.comando);
+        QWidget *w = b.f.moduli().modulo(c.modulo);
+        ASSERT_TRUE(w->isVisible()) << c.modulo;
+        EXPECT_GT(w->findChild<QPlainTextEdit *>(QStringLiteral("testo"))->toPlainText().size(), 200) << c.modulo;
+        w->findChild<QAction *>(desktop::Q(c.menu))->trigger();
+        EXPECT_EQ(b.dialoghi.stampe.size(), ++stampati) << c.modulo;
+        w->close();
+    }
+    b.spunta("ckFunzione");
+    b.f.ponte().premi("OptInter");
+    EXPECT_TRUE(b.f.moduli().modulo("Form7")->isVisible());
+    b.f.ponte().premi("mnuAvviso");
+    EXPECT_TRUE(b.f.moduli().modulo("Form5")->isVisible());
+}
+
+TEST(Finestra, TheBoardHandsItsNumbersOver) {
+    BancoFinestra b;
+    b.f.ponte().premi("mnuAusiliaria");
+    QWidget *board = b.f.moduli().modulo("frmDeclin");
+    ASSERT_TRUE(board->isVisible());
+    QApplication::setActiveWindow(board);
+    b.scrivi("frmDeclin.txtLAT", "44.5");
+    b.w("frmDeclin.txtLON")->setFocus();  // converted when it is left
+    EXPECT_EQ(b.w<QLineEdit>("frmDeclin.txtLatP")->text(), QStringLiteral("30"));
+    b.premi("frmDeclin.cmdTrans");
+    EXPECT_EQ(b.w<QLineEdit>("txtLAT")->text(), QStringLiteral("44.5"));
+    b.premi("frmDeclin.cmdCalcola");
+    EXPECT_TRUE(b.w<QPlainTextEdit>("frmDeclin.txtResult")->toPlainText().contains(QStringLiteral("Azimut")));
+    b.premi("frmDeclin.cmdInfo");
+    EXPECT_TRUE(b.f.moduli().modulo("frmInfoDec")->isVisible());
+    b.f.moduli().modulo("frmInfoDec")->close();
+    b.premi("frmDeclin.cmdExit");
+    EXPECT_FALSE(board->isVisible());
+}
+
+TEST(Finestra, TheLiveDialIsTheRunOfItsFields) {
+    BancoFinestra b;
+    b.spunta("chkOreAstronomiche");
+    b.spunta("Ck_DayLightCurves");
+    b.f.findChild<QAbstractButton *>(QStringLiteral("disegnaMentreScrivi"))->setChecked(true);
+    b.scrivi("txtDec", "-33.5");  // a request a key: the newest wins
+    b.aspettaVivo();
+    prova::UtenteDiProva utente;
+    Sessione s(utente);
+    app::Avvia(s);
+    for (const std::string_view nome : {"chkOreAstronomiche", "Ck_DayLightCurves"}) app::Spunta(s, TrovaControllo(nome), 1);
+    app::Imposta(s, TrovaControllo("txtDec"), "-33.5");
+    app::Premi(s, TrovaControllo("cmdRun"));
+    EXPECT_EQ(b.lista(), ListaTesto(s.tavolo.lista()));
+
+    // The typed field is the user's: a southern latitude is drawn, told in the status line, and stays.
+    b.scrivi("txtLAT", "-30");
+    b.aspettaVivo();
+    EXPECT_EQ(b.w<QLineEdit>("txtLAT")->text(), QStringLiteral("-30"));
+    EXPECT_TRUE(b.dialoghi.avvisi.empty());
+    // The button stays what it is: it adds to what is there.
+    const std::size_t vivo = b.f.sessione().tavolo.lista().Ordine.size();
+    b.premi("cmdRun");
+    EXPECT_GT(b.f.sessione().tavolo.lista().Ordine.size(), vivo);
+    EXPECT_EQ(b.dialoghi.avvisi.size(), 1U);
+    b.f.findChild<QAbstractButton *>(QStringLiteral("disegnaMentreScrivi"))->setChecked(false);
+}
+
+TEST(Finestra, ALongRunIsStoppedByTheNextKey) {
+    BancoFinestra b;
+    for (const std::string_view nome : {"chkOreAstronomiche", "Ck_DayLightCurves", "ckAlt", "ckAz"}) b.spunta(nome);
+    b.f.findChild<QAbstractButton *>(QStringLiteral("disegnaMentreScrivi"))->setChecked(true);
+    b.scrivi("txtDensity", ".00001");
+    QElapsedTimer t;
+    t.start();
+    b.scrivi("txtDensity", ".01");
+    EXPECT_LT(t.elapsed(), 2000);  // the keys themselves never wait
+    b.aspettaVivo();
+    const std::size_t linee = b.f.sessione().tavolo.lista().Ordine.size();
+    EXPECT_GT(linee, 0U);
+    EXPECT_LT(linee, 100000U);
+    b.f.findChild<QAbstractButton *>(QStringLiteral("disegnaMentreScrivi"))->setChecked(false);
+}
+
+TEST(Finestra, SheetFollowsTheFrameAndTheSwitchClears) {
+    BancoFinestra b;
+    auto *avviso = b.f.findChild<QLabel *>(QStringLiteral("avvisoCornice"));
+    EXPECT_FALSE(avviso->text().isEmpty());
+    b.f.findChild<QPushButton *>(QStringLiteral("Adatta"))->click();
+    EXPECT_TRUE(avviso->text().isEmpty());
+    EXPECT_NEAR(b.f.sessione().tavolo.QuadranteL(), 1.14, 1e-12);
+    b.spunta("chkOreAstronomiche");
+    b.premi("cmdRun");
+    const std::string una = b.lista();
+    b.f.findChild<QAbstractButton *>(QStringLiteral("pulisciPrima"))->setChecked(true);
+    b.premi("cmdRun");
+    EXPECT_EQ(b.lista(), una);
+}
+
+TEST(Finestra, AClickOnTheSheetReadsOutAndChoosesItsTile) {
+    BancoFinestra b;
+    b.f.findChild<QPushButton *>(QStringLiteral("Adatta"))->click();
+    desktop::Foglio &foglio = b.f.quadro().foglio();
+    const Tavolo &t = b.f.sessione().tavolo;
+    // A point of the second column of tiles, 30 mm to the right of its edge and 20 mm below the sheet's top.
+    const double x = (t.LarghezzaPagina() + 0.03) * t.ScalaCorrente(), y = 0.02 * t.ScalaCorrente();
+    const QPointF punto = QPointF(x, y) * foglio.vista().fattore + foglio.vista().origine;
+    QTest::mouseClick(foglio.viewport(), Qt::LeftButton, Qt::NoModifier, punto.toPoint());
+    ASSERT_EQ(t.lista().Aree.size(), 1U);
+    EXPECT_EQ(t.lista().Aree[0].Pagina, 2);
+    const QString letto = b.w<QLabel>("Tavolo1.lblXYval")->text();
+    EXPECT_NEAR(letto.split(QStringLiteral(" : ")).at(0).toInt(), (t.LarghezzaPagina() + 0.03 - t.ShiftX()) * 1000, 2.5) << letto.toStdString();
+    // With a tile chosen the print button opens its panel.
+    b.premi("Tavolo1.cmdStampa");
+    EXPECT_TRUE(b.w("Tavolo1.picPrint")->isVisible());
+    b.premi("Tavolo1.cmdPCancel");
+    EXPECT_FALSE(b.w("Tavolo1.picPrint")->isVisible());
+}
+
+TEST(Finestra, AProjectIsSavedOpenedAndAskedAbout) {
+    BancoFinestra b;
+    b.scrivi("txtDec", "7.25");
+    EXPECT_TRUE(b.f.modificato());
+    b.dialoghi.risposte = {"prova.omb"};
+    b.f.ponte().premi("mnuSalva");
+    EXPECT_FALSE(b.f.modificato());
+    b.scrivi("txtDec", "8");
+    b.dialoghi.prima = desktop::Salvataggio::Annulla;
+    EXPECT_FALSE(b.f.close());
+    ASSERT_EQ(b.dialoghi.domande.size(), 1U);
+    b.dialoghi.prima = desktop::Salvataggio::Scarta;
+    b.dialoghi.risposte = {"prova.omb"};
+    b.f.ponte().premi("mnuApri");
+    EXPECT_EQ(b.w<QLineEdit>("txtDec")->text(), QStringLiteral("7.25"));
+    b.dialoghi.risposte = {"missing.omb"};
+    b.f.ponte().premi("mnuApri");
+    ASSERT_FALSE(b.dialoghi.avvisi.empty());
+    EXPECT_EQ(b.dialoghi.avvisi.back(), "File non riconosciuto!");
+    EXPECT_EQ(b.w<QLineEdit>("txtDec")->text(), QStringLiteral("7.25"));
+}
+
+}  // namespace
+}  // namespace ombrelia

@@ -1,0 +1,203 @@
+// True scale on paper, measured in the finished PDF by another program: page boxes, lengths, tiles that meet.
+#include <gtest/gtest.h>
+
+#include <QBuffer>
+#include <QFile>
+#include <QImage>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QStandardPaths>
+#include <cmath>
+
+#include "paint/documenti.h"
+#include "plot/lista_testo.h"
+
+namespace ombrelia {
+namespace {
+
+constexpr int DPI = 600;
+constexpr double MM = DPI / 25.4;      // dots
+constexpr double ESATTO = 0.1;         // millimetres: a saw cut is wider
+constexpr double A4_L = 210, A4_H = 297;
+
+bool ceStrumento(const char *nome) { return !QStandardPaths::findExecutable(QString::fromLatin1(nome)).isEmpty(); }
+
+QByteArray chiama(const char *nome, const QStringList &argomenti) {
+    QProcess p;
+    p.start(QString::fromLatin1(nome), argomenti);
+    p.waitForFinished(60000);
+    return p.readAllStandardOutput();
+}
+
+void salva(const QByteArray &pdf, const char *nome) {
+    QFile f(QString::fromLatin1(nome));
+    ASSERT_TRUE(f.open(QIODevice::WriteOnly));
+    f.write(pdf);
+}
+
+// A strip of a page, millimetres from its top left corner, grey.
+QImage striscia(const char *pdf, int pagina, double x, double y, double l, double h) {
+    const auto n = [](double mm) { return QString::number(std::lround(mm * MM)); };
+    const QString p = QString::number(pagina);
+    const QByteArray pgm = chiama("pdftoppm", {"-r", QString::number(DPI), "-f", p, "-l", p, "-x", n(x), "-y", n(y), "-W", n(l), "-H", n(h), "-gray", QString::fromLatin1(pdf)});
+    return QImage::fromData(pgm, "PGM").convertToFormat(QImage::Format_Grayscale8);
+}
+
+// Middles of the dark runs of a strip's row (or column), millimetres from its start.
+std::vector<double> tratti(const QImage &i, int riga, bool colonne = false) {
+    std::vector<double> r;
+    double peso = 0, somma = 0;
+    const int n = colonne ? i.height() : i.width();
+    for (int k = 0; k < n; ++k) {
+        const int buio = 255 - qGray(colonne ? i.pixel(riga, k) : i.pixel(k, riga));
+        if (buio > 20) {
+            peso += buio;
+            somma += buio * (k + 0.5);
+        } else if (peso > 0) {
+            r.push_back(somma / peso / MM);
+            peso = somma = 0;
+        }
+    }
+    return r;
+}
+
+void foglio(Tavolo &t, double l, double h, double x, double y) {
+    t.QuadranteL(l);
+    t.QuadranteH(h);
+    t.ShiftX(x);
+    t.ShiftY(y);
+}
+
+TEST(Carta, PageBoxesAreTheSheetToTheHundredthOfAPoint) {
+    if (!ceStrumento("pdfinfo")) GTEST_SKIP() << "needs poppler-utils";
+    struct Caso {
+        double l, h;
+    };
+    for (const Caso &c : {Caso{0.2, 0.3}, Caso{1.0417, 0.8331}, Caso{0.0125, 0.5}}) {
+        Tavolo t;
+        foglio(t, c.l, c.h, 0, 0);
+        t.xLine(0.001, 0.001, c.l - 0.001, c.h - 0.001, 0, "L");
+        std::string errore;
+        const QByteArray pdf = paint::PdfFoglio(t, errore);
+        ASSERT_TRUE(errore.empty()) << errore;
+        salva(pdf, "foglio.pdf");
+        const QString detto = QString::fromUtf8(chiama("pdfinfo", {"foglio.pdf"}));
+        const auto m = QRegularExpression(QStringLiteral("Page size:\\s+([0-9.]+) x ([0-9.]+) pts")).match(detto);
+        ASSERT_TRUE(m.hasMatch()) << detto.toStdString();
+        EXPECT_NEAR(m.captured(1).toDouble(), c.l / 0.0254 * 72, 0.01);
+        EXPECT_NEAR(m.captured(2).toDouble(), c.h / 0.0254 * 72, 0.01);
+    }
+}
+
+TEST(Carta, AHundredMillimetresAreAHundredMillimetresAtAnyScale) {
+    if (!ceStrumento("pdftoppm")) GTEST_SKIP() << "needs poppler-utils";
+    for (const int scala : {1, 2, 5}) {
+        Tavolo t;
+        foglio(t, 0.3, 0.2, 0.05, 0.05);
+        t.Scala(scala);
+        for (const double x : {0.02, 0.12}) t.xLine(x, -0.02, x, 0.05, QB(15), "L");
+        t.xLine(-0.03, 0.07, 0.2, 0.07, QB(14), "L");
+        t.xLine(-0.03, 0.09, 0.2, 0.09, QB(11), "L");
+        std::string errore;
+        salva(paint::PdfFoglio(t, errore), "cento.pdf");
+        const std::vector<double> x = tratti(striscia("cento.pdf", 1, 0, 60, 300, 1), 5);
+        ASSERT_EQ(x.size(), 2U) << scala;
+        EXPECT_NEAR(x[0], 70, ESATTO);
+        EXPECT_NEAR(x[1] - x[0], 100, ESATTO);
+        const std::vector<double> y = tratti(striscia("cento.pdf", 1, 100, 0, 1, 200), 5, true);
+        ASSERT_EQ(y.size(), 2U) << "light colours must be seen on paper";
+        EXPECT_NEAR(y[1] - y[0], 20, ESATTO);
+    }
+}
+
+TEST(Carta, TilesShowWhatTheirOutlineHoldsAndMeet) {
+    if (!ceStrumento("pdftoppm")) GTEST_SKIP() << "needs poppler-utils";
+    Tavolo t;
+    foglio(t, 0.5, 0.6, 0.05, 0.04);
+    t.Scala(3);
+    const double l = t.LarghezzaPagina() * 1000, h = t.AltezzaPagina() * 1000;  // millimetres
+    // World x of a place on the sheet.
+    const auto mondo = [&t](double mm) { return mm / 1000 - t.ShiftX(); };
+    for (const double mm : {150.0, 250.0}) t.xLine(mondo(mm), 0, mondo(mm), 0.5, 0, "L");
+    // A slanted line over the seam of the first two tiles, and one over the seam of the rows.
+    t.xLine(mondo(180), 0.02, mondo(215), 0.055, 0, "L");
+    t.xLine(mondo(30), 0.20, mondo(80), 0.30, 0, "L");
+    t.Marchio = "Prova";
+    // Twice the first: it is then printed twice.
+    for (const auto &[x, y] : {std::pair{0.1, 0.1}, std::pair{0.25, 0.1}, std::pair{0.1, 0.4}, std::pair{0.1, 0.1}}) t.xTrovaA4(x, y);
+    const std::string prima = ListaTesto(t.lista());
+
+    const double bordoX = (A4_L - l) / 2, bordoY = (A4_H - h) / 2;
+    QByteArray pdf = paint::PdfPiastrelle(t);
+    EXPECT_EQ(ListaTesto(t.lista()), prima);  // marks and ruler are no records
+    EXPECT_EQ(t.Scala(), 3);
+    EXPECT_EQ(t.ShiftX(), 0.05);
+    salva(pdf, "tessere.pdf");
+    // Vertical lines, at a height free of slants: place in their tiles.
+    const double su = bordoY + 150;
+    const auto nella = [&](int pagina) { return tratti(striscia("tessere.pdf", pagina, bordoX + 1, su, l - 2, 1), 5); };
+    const std::vector<double> una = nella(1), due = nella(2);
+    ASSERT_EQ(una.size(), 1U);
+    ASSERT_EQ(due.size(), 1U);
+    EXPECT_NEAR(una[0] + 1, 150, ESATTO);
+    EXPECT_NEAR(l - (una[0] + 1) + (due[0] + 1), 100, ESATTO);
+    EXPECT_EQ(nella(4), una);
+    // The slant leaves one tile where it enters the other: half a millimetre from the seam on both sides.
+    const auto alta = [&](int pagina, double x) {
+        const std::vector<double> y = tratti(striscia("tessere.pdf", pagina, x, bordoY + 40, 0.2, 60), 2, true);
+        return y.size() == 1 ? y[0] : std::nan("");
+    };
+    EXPECT_NEAR(alta(2, bordoX + 0.5) - alta(1, bordoX + l - 0.7), 1.2, ESATTO);
+    const auto larga = [&](int pagina, double y) {
+        const std::vector<double> x = tratti(striscia("tessere.pdf", pagina, bordoX + 20, y, 100, 0.2), 2);
+        return x.size() == 1 ? x[0] : std::nan("");
+    };
+    EXPECT_NEAR(larga(3, bordoY + 0.5) - larga(1, bordoY + h - 0.7), 0.6, ESATTO);
+    // The ruler below the tile: its two long ends.
+    const std::vector<double> righello = tratti(striscia("tessere.pdf", 1, bordoX + 10, bordoY + h + 1.5 + 2.2, 130, 0.2), 2);
+    ASSERT_GE(righello.size(), 2U);
+    EXPECT_NEAR(righello[1] - righello[0], 100, ESATTO);
+}
+
+TEST(Carta, StoppedOrEmptyRunsLeaveNothing) {
+    Tavolo t;
+    EXPECT_TRUE(paint::PdfPiastrelle(t).isEmpty());
+    t.xTrovaA4(0.1, 0.1);
+    std::size_t chiesto = 0;
+    EXPECT_TRUE(paint::PdfPiastrelle(t, [&](std::size_t, std::size_t quante) {
+                    chiesto = quante;
+                    return false;
+                }).isEmpty());
+    EXPECT_EQ(chiesto, 1U);
+    foglio(t, 0, 0.2, 0, 0);
+    std::string errore;
+    EXPECT_TRUE(paint::PdfFoglio(t, errore).isEmpty());
+    EXPECT_FALSE(errore.empty());
+    errore.clear();
+    EXPECT_TRUE(paint::FileImmagine(t, "PNG", errore).isEmpty());
+    EXPECT_FALSE(errore.empty());
+}
+
+TEST(Carta, PicturesHaveTheSheetsSizeAndAreDarkOnWhite) {
+    Tavolo t;
+    foglio(t, 0.6, 0.3, 0.1, 0.1);
+    ASSERT_EQ(t.Scala(), 2);
+    t.xBox(0, 0, 0.2, 0.1, QB(15), true, "Cornice");
+    t.xLine(-0.05, 0.05, 0.4, 0.05, QB(12), "L");
+    for (const char *formato : {"PNG", "BMP"}) {
+        std::string errore;
+        const QImage i = QImage::fromData(paint::FileImmagine(t, formato, errore));
+        ASSERT_FALSE(i.isNull()) << formato << errore;
+        const double u = paint::PUNTI_AL_POLLICE / 0.0254 / 2;
+        EXPECT_EQ(i.width(), std::lround(0.6 * u));
+        EXPECT_EQ(i.height(), std::lround(0.3 * u));
+        EXPECT_EQ(i.dotsPerMeterX(), std::lround(u * 2));
+        const auto punto = [&](double x, double y) { return i.pixelColor(static_cast<int>((x + 0.1) * u), static_cast<int>((y + 0.1) * u)); };
+        EXPECT_EQ(punto(0.1, 0.02), QColor(Qt::white));     // the frame does not cover the dial
+        EXPECT_LT(punto(0.1, 0.0).lightness(), 130);        // its outline is dark
+        EXPECT_GT(punto(0.3, 0.05).red(), punto(0.3, 0.05).blue() + 80);
+    }
+}
+
+}  // namespace
+}  // namespace ombrelia

@@ -34,7 +34,7 @@ Draws a dial and writes it, once for each FILE, in the form of its ending.
                      ck_Lemniscate, ck_Triangolo, ck_Sustilare, ckAlt, ckAz, ckAsr, CkQibla, ck_Orizzonte, ckAssi ...
                      ChCentimetro: lengths are millimetres; ck_Etna: true time of the zone; ckFunzione: intermediate lines
   --engine ENGINE    auto (as the run button decides), direct, vertical or analytic (walls only)
-  --sheet L H X Y    width, height and origin of the sheet in metres; without it the sheet is fitted to the frame
+  --sheet L H X Y    width, height and origin of the sheet in metres; without it the project's, or fitted to the frame
 
 examples:
   ombrelia draw --set txtLAT=45.07 --set txtDec=18 --set txtInc=0 --check chkOreAstronomiche muro.svg muro.dxf

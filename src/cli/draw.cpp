@@ -19,7 +19,7 @@ struct Richiesta {
     Campi campi;
     std::vector<std::string> uscite;
     std::string motore = "auto";
-    std::vector<double> foglio;  // L H X Y, or empty to fit the frame
+    std::vector<double> foglio;  // L H X Y, or empty: the project's, else fitted to the frame
 };
 
 int rifiuta(const std::string &motivo) {
@@ -87,7 +87,7 @@ std::string applica(Sessione &s, const Richiesta &r) {
         s.tavolo.QuadranteH(r.foglio[1]);
         s.tavolo.ShiftX(r.foglio[2]);
         s.tavolo.ShiftY(r.foglio[3]);
-    } else if (!app::Adatta(s)) {
+    } else if (r.campi.progetto.empty() && !app::Adatta(s)) {
         return "the frame " + s.in.txtX0 + ".." + s.in.txtX1 + " by " + s.in.txtY1 + ".." + s.in.txtY0 +
                " fits no sheet: txtX0 < txtX1, txtY1 < txtY0, within 15 m";
     }
@@ -95,7 +95,12 @@ std::string applica(Sessione &s, const Richiesta &r) {
     if (r.motore == "vertical" && Val(s.in.txtInc) != 0) return "txtInc reads " + s.in.txtInc + ": the vertical engine draws walls only";
     if (r.motore == "analytic" && Val(s.in.txtInc) != 0)
         return "txtInc reads " + s.in.txtInc + ": the analytic engine draws walls only; use cmdTrasforma first";
-    return rispondi(app::Premi(s, TrovaControllo(bottone)), bottone);
+    const bool australe = Val(s.in.txtLAT) < 0;
+    if (std::string e = rispondi(app::Premi(s, TrovaControllo(bottone)), bottone); !e.empty()) return e;
+    if (s.tavolo.lista().Ordine.empty()) return "nothing was drawn, and nothing is written";
+    // A southern dial is drawn as its mirror image; a user at the window would now press the same button.
+    if (australe) s.tavolo.cmdInvX();
+    return {};
 }
 
 }  // namespace

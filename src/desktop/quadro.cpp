@@ -92,10 +92,14 @@ QWidget *Quadro::piede() {
     auto *fila = new QHBoxLayout(p);
     fila->setContentsMargins(8, 3, 8, 3);
     fila->setSpacing(14);
-    fila->addWidget(ponte_.crea("Tavolo1.p_mess", p), 1);
+    QWidget *messaggio = ponte_.crea("Tavolo1.p_mess", p);
+    messaggio->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    messaggio->setMinimumWidth(60);
+    fila->addWidget(messaggio, 1);
     avviso_ = new QLabel(p);
     avviso_->setObjectName(QStringLiteral("avvisoCornice"));
     avviso_->setTextFormat(Qt::RichText);
+    avviso_->setMinimumWidth(1);
     connect(avviso_, &QLabel::linkActivated, this, [this] {
         if (suAdatta) suAdatta();
     });

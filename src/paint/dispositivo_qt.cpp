@@ -49,14 +49,25 @@ void DispositivoQt::pagina() {
 void DispositivoQt::Linea(double x1, double y1, double x2, double y2, Colore colore, int spessore) {
     const QPointF a = porta(x1, y1), b = porta(x2, y2);
     if (fuori(a, b)) return;
-    for (Catena &c : catene_)
-        if (c.fine == a && c.colore == colore && c.spessore == spessore && !c.corsa.isEmpty() && c.corsa.size() < LINEA_MASSIMA) return aggiungi(c, b);
+    // Chords go on whichever way round they are drawn; the first of a line shows its way only with the second.
+    for (Catena &c : catene_) {
+        if (c.colore != colore || c.spessore != spessore || c.corsa.isEmpty() || c.corsa.size() >= LINEA_MASSIMA) continue;
+        if (c.sola && (c.corsa[0] == a || c.corsa[0] == b)) {
+            std::swap(c.corsa[0], c.fine);
+            c.dirX = -c.dirX;
+            c.dirY = -c.dirY;
+        }
+        if (c.fine != a && c.fine != b) continue;
+        c.sola = false;
+        return aggiungi(c, c.fine == a ? b : a);
+    }
     Catena &c = catene_[turno_];
     turno_ = (turno_ + 1) % catene_.size();
     vuotaCatena(c);
     pagina();
     c.colore = colore;
     c.spessore = spessore;
+    c.sola = true;
     c.corsa.append(a);
     aggiungi(c, b);
 }
@@ -95,9 +106,15 @@ void DispositivoQt::vuotaCatena(Catena &c) {
     c.corsa.append(c.fine);
     c.apertura = c.lunga = 0;
     if (c.corsa.size() == 2) {
-        const QLineF linea(c.corsa[0], c.corsa[1]);
+        QLineF linea(c.corsa[0], c.corsa[1]);
         c.corsa.clear();
-        if (std::fabs(linea.dx()) + std::fabs(linea.dy()) < posa_.tolleranza && segnata(linea.center(), c.colore)) return;
+        // On a screen a trace of crumbs is drawn dot by dot: each dot once, and then whole.
+        if (const double lunga = linea.length(); !celle_.empty() && lunga < posa_.penna) {
+            const QPointF mezzo = linea.center();
+            if (segnata(mezzo, c.colore)) return;
+            const QPointF verso = lunga > 0 ? QPointF(linea.dx(), linea.dy()) / lunga : QPointF(1, 0);
+            linea = QLineF(mezzo - verso * (posa_.penna / 2), mezzo + verso * (posa_.penna / 2));
+        }
         for (Tratti &t : tratti_)
             if (t.colore == c.colore && t.spessore == c.spessore) return t.linee.append(linea);
         tratti_.push_back({c.colore, c.spessore, {linea}});

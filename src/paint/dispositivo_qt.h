@@ -64,6 +64,7 @@ private:
         double lunga = 0;                         // how far it got
         Colore colore = 0;
         int spessore = 1;
+        bool sola = false;  // one chord so far
     };
     void aggiungi(Catena &c, const QPointF &p) const;
     void vuotaCatena(Catena &c);

@@ -118,9 +118,11 @@ void TracciaQibla(Sessione &s) {
         v.deltaOpz = d;
         const double tanD = std::tan(PI * d / 180);
         seno = equatore ? Valore(tanD) : tanD * senBeta / tanLat;
-        if (Abs(seno) > 1) continue;
-        ht = ArcSin(seno);
-        Hr = (beta - ht) * v.segnoLatPiana;
+        // A Sun that never stands on this azimuth leaves the hour angle of the day before, and its point is plotted.
+        if (!(Abs(seno) > 1)) {
+            ht = ArcSin(seno);
+            Hr = (beta - ht) * v.segnoLatPiana;
+        }
         proietta.perParete(SenCos(Hr), tanD, x, y);
         if (!cornice.contiene(x, y)) continue;
         if (orientale) s.tavolo.xPset(x, -y, QB(10));

@@ -55,7 +55,11 @@ TEST(Dispositivo, SimplifiedLinesStayWhereTheyAre) {
     for (const Linea &punti : casi) {
         Schermo s;
         paint::DispositivoQt d(s.pittore, Supporto::Schermo, s.posa);
-        for (std::size_t i = 1; i < punti.size(); ++i) d.Linea(punti[i - 1].x(), punti[i - 1].y(), punti[i].x(), punti[i].y(), QB(14), 1);
+        for (std::size_t i = 1; i < punti.size(); ++i) {
+            const bool indietro = &punti == &casi[3];  // the newer end first
+            const QPointF a = punti[indietro ? i : i - 1], b = punti[indietro ? i - 1 : i];
+            d.Linea(a.x(), a.y(), b.x(), b.y(), QB(14), 1);
+        }
         d.vuota();
         std::size_t spenti = 0;
         for (const QPointF &p : punti) spenti += s.luce(p.x(), p.y()) < ACCESO;

@@ -12,6 +12,7 @@ constexpr std::string_view GENERALE = R"(Ombrelia designs sundials and draws the
 
 usage: ombrelia COMMAND ...
 
+  gui       the window, also without any command where there is a display: ombrelia gui [--run] [PROJECT]
   draw      a dial from fields to files
   report    the numbers of a dial as text, CSV or HTML
   sun       the Sun over a place, and the declination of a wall from one reading or several

@@ -128,7 +128,7 @@ void misura(QPainter &p, const Sessione &s, const QColor &testo) {
     p.drawRect(QRectF(-80, -69, 160, 90));
     p.setBrush(Qt::NoBrush);
     const QColor legno(0x5C, 0x4A, 0x2E);
-    scritta(p, {-122, 8}, t("tavoletta orizzontale"_it), testo);
+    scritta(p, {-128, 8}, t("tavoletta orizzontale"_it), testo);
     p.setPen(penna(testo, 0.8));
     p.drawLine(QPointF(-112, 0), QPointF(-74, -18));
     p.setPen(penna(legno, 1));

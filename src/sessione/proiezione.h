@@ -43,8 +43,9 @@ public:
         const double den = sgsz_ * t.sen + b_ * t.cos + c1_ * tanD;
         const double nx = cg_ * t.sen - (sphi_ * t.cos - cphi_ * tanD) * sg_;
         const double ny = czsg_ * t.sen - d_ * t.cos - e_ * tanD;
-        x = Valore(gn_ * nx) / den * unita_;
-        y = Valore(gn_ * ny) / den * unita_;
+        // den is finite, so a fault shows in the quotient itself: infinite or no number, hence no value.
+        x = gn_ * nx / den * unita_;
+        y = gn_ * ny / den * unita_;
     }
     void operator()(Valore t, Valore D, Reale &x, Reale &y) const { (*this)(SenCos(t), std::tan(D.v), x, y); }
 
@@ -53,8 +54,8 @@ public:
         const double den = tanD * c1_ + sgsz_ * t.sen + b_ * t.cos;
         const double nx = cg_ * t.sen - (sphi_ * t.cos - cphi_ * tanD) * sg_;
         const double ny = czsg_ * t.sen - d_ * t.cos - e_ * tanD;
-        x = Valore(unita_ * nx * gn_) / den;
-        y = Valore(unita_ * ny * gn_) / den;
+        x = unita_ * nx * gn_ / den;
+        y = unita_ * ny * gn_ / den;
     }
 
     // On the equinoctial, where the terms of the declination are not written.
@@ -62,8 +63,8 @@ public:
         const double den = sgsz_ * t.sen + b_ * t.cos;
         const double nx = cg_ * t.sen - sphi_ * t.cos * sg_;
         const double ny = czsg_ * t.sen - d_ * t.cos;
-        x = Valore(gn_ * nx) / den * unita_;
-        y = Valore(gn_ * ny) / den * unita_;
+        x = gn_ * nx / den * unita_;
+        y = gn_ * ny / den * unita_;
     }
 
 private:

@@ -6,8 +6,12 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QProcess>
 #include <QPushButton>
+#include <QRegularExpression>
+#include <QStandardPaths>
 #include <QTest>
+#include <QWheelEvent>
 #include <fstream>
 #include <sstream>
 
@@ -273,6 +277,64 @@ TEST(Finestra, AClickOnTheSheetReadsOutAndChoosesItsTile) {
     EXPECT_TRUE(b.w("Tavolo1.picPrint")->isVisible());
     b.premi("Tavolo1.cmdPCancel");
     EXPECT_FALSE(b.w("Tavolo1.picPrint")->isVisible());
+}
+
+TEST(Finestra, PagesReachThePrinter) {
+    if (QStandardPaths::findExecutable(QStringLiteral("pdfinfo")).isEmpty()) GTEST_SKIP() << "needs poppler-utils";
+    BancoFinestra b;
+    b.spunta("chkOreAstronomiche");
+    b.premi("cmdRun");
+    const auto pagine = [](const char *file) {
+        QProcess p;
+        p.start(QStringLiteral("pdfinfo"), {QString::fromLatin1(file)});
+        p.waitForFinished();
+        const auto m = QRegularExpression(QStringLiteral("Pages:\\s+(\\d+)")).match(QString::fromUtf8(p.readAllStandardOutput()));
+        return m.captured(1).toInt();
+    };
+    // Nothing chosen: the whole sheet at once.
+    b.dialoghi.stampaSu = QStringLiteral("tutto.pdf");
+    b.premi("Tavolo1.cmdStampa");
+    EXPECT_EQ(pagine("tutto.pdf"), 1);
+    // Two tiles, through the panel.
+    for (const double y : {1000.0, 17000.0}) b.f.ponte().fai(NESSUN_CONTROLLO, [&] { b.f.sessione().tavolo.MouseDown(1000, y); });
+    b.premi("Tavolo1.cmdStampa");
+    b.w<QAbstractButton>("Tavolo1.optSelected")->click();
+    b.dialoghi.stampaSu = QStringLiteral("scelte.pdf");
+    b.premi("Tavolo1.cmdPOk");
+    EXPECT_EQ(pagine("scelte.pdf"), 2);
+    EXPECT_FALSE(b.w("Tavolo1.picPrint")->isVisible());
+    EXPECT_FALSE(b.f.sessione().tavolo.OutputToPRN);
+    // The picture, under the name that is given; a cancelled box does nothing.
+    b.premi("Tavolo1.cmdSave");
+    b.dialoghi.risposte = {"Image.bmp"};
+    b.premi("Tavolo1.cmdSave");
+    EXPECT_FALSE(QImage(QStringLiteral("Image.bmp")).isNull());
+    b.premi("Tavolo1.cmdPulisci");
+    b.f.ponte().premi("Tavolo1.cmdPOk");
+    ASSERT_EQ(b.dialoghi.avvisi.size(), 1U);
+    EXPECT_EQ(b.dialoghi.avvisi[0], "Nessuna area selezionata");
+}
+
+TEST(Finestra, TheWheelZoomsAboutThePointer) {
+    BancoFinestra b;
+    b.f.findChild<QPushButton *>(QStringLiteral("Adatta"))->click();
+    desktop::Foglio &foglio = b.f.quadro().foglio();
+    const QPointF punta(foglio.viewport()->width() * 0.4, foglio.viewport()->height() * 0.6);
+    const auto gira = [&](int scatti) {
+        QWheelEvent e(punta, foglio.viewport()->mapToGlobal(punta), {}, {0, 120 * scatti}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(foglio.viewport(), &e);
+        QCoreApplication::processEvents();
+    };
+    gira(6);  // past where the sheet fills the window
+    const QPointF sotto = foglio.suDispositivo(punta);
+    const double prima = foglio.vista().fattore;
+    gira(4);
+    EXPECT_NEAR(foglio.vista().fattore / prima, 4, 1e-9);
+    const QPointF spostato = (foglio.suDispositivo(punta) - sotto) * foglio.vista().fattore;
+    EXPECT_LT(std::hypot(spostato.x(), spostato.y()), 1.5);
+    foglio.tutto();
+    const QRectF intero = foglio.vista().foglio(b.f.sessione().tavolo);
+    EXPECT_TRUE(QRectF(foglio.viewport()->rect()).contains(intero));
 }
 
 TEST(Finestra, AProjectIsSavedOpenedAndAskedAbout) {

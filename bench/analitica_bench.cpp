@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "analytic/analitica.h"
+#include "comuni.h"
 #include "core/conteggio.h"
 #include "sessione/proiezione.h"
 
@@ -12,20 +13,13 @@ using namespace ombrelia;
 
 namespace {
 
-struct Muto : Utente {
-    void Messaggio(std::string_view) override {}
-    bool Box(std::string_view, Domanda) override { return true; }
-    std::string Input(std::string_view, std::string_view, std::string_view proposta) override { return std::string(proposta); }
-    std::optional<std::string> File(const RichiestaFile &) override { return {}; }
-    void Beep() override {}
-};
-
 void prepara(Sessione &s, double lato) {
     s.in.txtLAT = "45.74805";
     s.in.txtDec = "-20";
     s.in.txtInc = std::string("0");
-    for (int DialInputs::*c : {&DialInputs::chkOreAstronomiche, &DialInputs::Ck_DayLightCurves, &DialInputs::ck_Sustilare, &DialInputs::ck_Equinoziale,
-                               &DialInputs::ck_Italiche, &DialInputs::ck_babiloniche, &DialInputs::ck_Lemniscate})
+    for (int DialInputs::*c :
+         {&DialInputs::chkOreAstronomiche, &DialInputs::Ck_DayLightCurves, &DialInputs::ck_Sustilare, &DialInputs::ck_Equinoziale,
+          &DialInputs::ck_Italiche, &DialInputs::ck_babiloniche, &DialInputs::ck_Lemniscate})
         s.in.*c = 1;
     s.tavolo.QuadranteL(lato);
     s.tavolo.QuadranteH(lato);
@@ -35,7 +29,7 @@ void prepara(Sessione &s, double lato) {
 
 // All of the dial on a sheet that keeps every point, and on one of an ordinary size that drops most.
 void analitica(benchmark::State &stato) {
-    Muto utente;
+    misura::Muto utente;
     Sessione s(utente);
     prepara(s, static_cast<double>(stato.range(0)));
     for (auto _ : stato) {
@@ -48,7 +42,7 @@ BENCHMARK(analitica)->Arg(15)->Arg(1)->Unit(benchmark::kMillisecond);
 
 // The floor draws no readable dial: the same sweeps with any constants.
 void fondo(benchmark::State &stato) {
-    Muto utente;
+    misura::Muto utente;
     Sessione s(utente);
     prepara(s, static_cast<double>(stato.range(0)));
     Tavolo &t = s.tavolo;
@@ -75,7 +69,9 @@ void fondo(benchmark::State &stato) {
         for (const double x : Conteggio(-3, 3, 0.001)) t.xPset(x, -(x * (ss / cs) - y0 / cs), QB(10), IdNome{0});
         for (int giro = 0; giro < 2; ++giro) {
             const double A = se * se - ce * ce * 1.05, R = 1 / A, Q = -2 * gn * (se / ce) / A, P = gn * gn / (ce * ce) / A;
-            const auto punto = [&](double u, double v, Colore colore) { t.xPset(u * cs - (v - y0) * ss, -(u * ss + (v - y0) * cs), colore, IdNome{0}); };
+            const auto punto = [&](double u, double v, Colore colore) {
+                t.xPset(u * cs - (v - y0) * ss, -(u * ss + (v - y0) * cs), colore, IdNome{0});
+            };
             for (const double u : Conteggio(-0.5, 0.5, 0.00005)) {
                 const double d = Q * Q / 4 - P - R * (u * u);
                 if (!(d >= 0)) continue;

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "app/comandi.h"
+#include "comuni.h"
 #include "core/conteggio.h"
 #include "plot/dxf.h"
 #include "sessione/proiezione.h"
@@ -12,15 +13,6 @@
 namespace {
 
 using namespace ombrelia;
-
-class Muto : public Utente {
-public:
-    void Messaggio(std::string_view) override {}
-    bool Box(std::string_view, Domanda) override { return true; }
-    std::string Input(std::string_view, std::string_view, std::string_view p) override { return std::string(p); }
-    std::optional<std::string> File(const RichiestaFile &) override { return {}; }
-    void Beep() override {}
-};
 
 void prepara(Sessione &s) {
     app::Avvia(s);
@@ -32,10 +24,11 @@ void prepara(Sessione &s) {
     in.TxtFraz = "4";
     in.TxtInizio = "0";
     in.TxtFine = "24";
-    for (int DialInputs::*c : {&DialInputs::chkOreAstronomiche, &DialInputs::Ck_DayLightCurves, &DialInputs::ckFunzione, &DialInputs::ck_Equinoziale,
-                               &DialInputs::ck_Italiche, &DialInputs::ck_babiloniche, &DialInputs::ckTemp, &DialInputs::ck_Sustilare,
-                               &DialInputs::ck_Triangolo, &DialInputs::ckAlt, &DialInputs::ck_Lemniscate, &DialInputs::ckAsr, &DialInputs::CkQibla,
-                               &DialInputs::ckAssi, &DialInputs::ck_Orizzonte})
+    for (int DialInputs::*c :
+         {&DialInputs::chkOreAstronomiche, &DialInputs::Ck_DayLightCurves, &DialInputs::ckFunzione, &DialInputs::ck_Equinoziale,
+          &DialInputs::ck_Italiche, &DialInputs::ck_babiloniche, &DialInputs::ckTemp, &DialInputs::ck_Sustilare,
+          &DialInputs::ck_Triangolo, &DialInputs::ckAlt, &DialInputs::ck_Lemniscate, &DialInputs::ckAsr, &DialInputs::CkQibla,
+          &DialInputs::ckAssi, &DialInputs::ck_Orizzonte})
         in.*c = 1;
 }
 
@@ -67,7 +60,7 @@ void Pavimento(benchmark::State &stato) {
 BENCHMARK(Pavimento)->Unit(benchmark::kMillisecond);
 
 void QuadranteIntero(benchmark::State &stato) {
-    Muto utente;
+    misura::Muto utente;
     Sessione s(utente);
     prepara(s);
     for (auto _ : stato) {
@@ -101,7 +94,8 @@ void PuntoConReale(benchmark::State &stato) {
 BENCHMARK(PuntoConReale);
 
 void PuntoConDouble(benchmark::State &stato) {
-    const double sg = std::sin(-0.35), cg = std::cos(-0.35), sp = std::sin(0.8), cp = std::cos(0.8), sz = std::sin(1.13), cz = std::cos(1.13);
+    const double sg = std::sin(-0.35), cg = std::cos(-0.35), sp = std::sin(0.8), cp = std::cos(0.8), sz = std::sin(1.13),
+                 cz = std::cos(1.13);
     const double st = std::sin(0.5), ct = std::cos(0.5), a = sg * sz, b = cp * cz + sp * sz * cg, c1 = sp * cz - cp * sz * cg;
     const double e = cz * sg, f = cp * sz - sp * cz * cg, g = sp * sz + cp * cz * cg;
     double D = -0.4;

@@ -38,8 +38,8 @@ void tasti(desktop::Finestra &f, const char *come, const char *campo) {
         tempi.push_back(static_cast<double>(t.nsecsElapsed()) / 1e6);
     }
     const auto &l = f.sessione().tavolo.lista();
-    std::printf("%-28s median %6.1f ms   worst %6.1f ms   (%zu lines, %zu points)\n", come, mediana(tempi), *std::max_element(tempi.begin(), tempi.end()),
-                l.Linee.size(), l.Punti.size());
+    std::printf("%-28s median %6.1f ms   worst %6.1f ms   (%zu lines, %zu points)\n", come, mediana(tempi),
+                *std::max_element(tempi.begin(), tempi.end()), l.Linee.size(), l.Punti.size());
 }
 
 }  // namespace
@@ -64,8 +64,9 @@ int main(int argc, char **argv) {
     const auto imposta = [&](const char *nome, const char *testo) { app::Imposta(f.sessione(), TrovaControllo(nome), testo); };
     const auto prepara = [&](const char *inclinazione) {
         imposta("txtInc", inclinazione);
-        for (const char *c : {"chkOreAstronomiche", "Ck_DayLightCurves", "ck_Equinoziale", "ck_Sustilare", "ck_Triangolo", "ckZodiac", "ckAlt", "ck_Lemniscate",
-                              "ckAsr", "CkQibla", "ckAssi", "ck_Orizzonte", "ckAz", "ck_babiloniche"})
+        for (const char *c :
+             {"chkOreAstronomiche", "Ck_DayLightCurves", "ck_Equinoziale", "ck_Sustilare", "ck_Triangolo", "ckZodiac", "ckAlt",
+              "ck_Lemniscate", "ckAsr", "CkQibla", "ckAssi", "ck_Orizzonte", "ckAz", "ck_babiloniche"})
             app::Spunta(f.sessione(), TrovaControllo(c), 1);
         app::Adatta(f.sessione());
         f.ponte().sincronizza();

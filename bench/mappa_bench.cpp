@@ -4,6 +4,7 @@
 
 #include <cmath>
 
+#include "comuni.h"
 #include "core/file.h"
 #include "core/percorsi.h"
 #include "map/mappa.h"
@@ -11,14 +12,6 @@
 using namespace ombrelia;
 
 namespace {
-
-struct Muto : Utente {
-    void Messaggio(std::string_view) override {}
-    bool Box(std::string_view, Domanda) override { return true; }
-    std::string Input(std::string_view, std::string_view, std::string_view proposta) override { return std::string(proposta); }
-    std::optional<std::string> File(const RichiestaFile &) override { return {}; }
-    void Beep() override {}
-};
 
 // A horizontal dial at latitude 45 wide enough for all that its plane can see.
 void prepara(Sessione &s) {
@@ -45,7 +38,7 @@ Mondo centomila() {
 }
 
 void mondo(benchmark::State &stato) {
-    Muto utente;
+    misura::Muto utente;
     Sessione s(utente);
     prepara(s);
     s.mondo = centomila();
@@ -61,7 +54,7 @@ BENCHMARK(mondo)->Unit(benchmark::kMillisecond);
 // The floor. Each point: sine, cosine and tangent of H and D, azimuth and zenith distance with theirs; each point in
 // sight: a chord kept.
 void fondo(benchmark::State &stato) {
-    Muto utente;
+    misura::Muto utente;
     Sessione s(utente);
     const Mondo m = centomila();
     const double sphi = std::sin(PI * 45 / 180), cphi = std::cos(PI * 45 / 180);
@@ -92,7 +85,7 @@ BENCHMARK(fondo)->Unit(benchmark::kMillisecond);
 void carica(benchmark::State &stato) {
     const auto percorso = TrovaDato("mondo.csv");
     if (!percorso) return stato.SkipWithError("mondo.csv is not here: run in the folder data");
-    Muto utente;
+    misura::Muto utente;
     Sessione s(utente);
     for (auto _ : stato) CaricaMondo(s);
     stato.counters["punti"] = static_cast<double>(s.mondo.punti.size());

@@ -6,21 +6,13 @@
 #include <vector>
 
 #include "app/comandi.h"
+#include "comuni.h"
 #include "core/conteggio.h"
 #include "vertical/piana.h"
 
 namespace {
 
 using namespace ombrelia;
-
-class Muto : public Utente {
-public:
-    void Messaggio(std::string_view) override {}
-    bool Box(std::string_view, Domanda) override { return true; }
-    std::string Input(std::string_view, std::string_view, std::string_view p) override { return std::string(p); }
-    std::optional<std::string> File(const RichiestaFile &) override { return {}; }
-    void Beep() override {}
-};
 
 void prepara(Sessione &s) {
     app::Avvia(s);
@@ -31,10 +23,11 @@ void prepara(Sessione &s) {
     DialInputs &in = s.in;
     in.txtInc = std::string("0");
     in.TxtFraz = std::string("4");
-    for (int DialInputs::*c : {&DialInputs::CkUNI, &DialInputs::chkOreAstronomiche, &DialInputs::Ck_DayLightCurves, &DialInputs::ck_Equinoziale,
-                               &DialInputs::ck_Italiche, &DialInputs::ck_babiloniche, &DialInputs::ckTemp, &DialInputs::ck_Sustilare,
-                               &DialInputs::ck_Triangolo, &DialInputs::ckAlt, &DialInputs::ck_Lemniscate, &DialInputs::ckAsr, &DialInputs::CkQibla,
-                               &DialInputs::ckAssi, &DialInputs::ck_Orizzonte, &DialInputs::ckAz})
+    for (int DialInputs::*c :
+         {&DialInputs::CkUNI, &DialInputs::chkOreAstronomiche, &DialInputs::Ck_DayLightCurves, &DialInputs::ck_Equinoziale,
+          &DialInputs::ck_Italiche, &DialInputs::ck_babiloniche, &DialInputs::ckTemp, &DialInputs::ck_Sustilare,
+          &DialInputs::ck_Triangolo, &DialInputs::ckAlt, &DialInputs::ck_Lemniscate, &DialInputs::ckAsr, &DialInputs::CkQibla,
+          &DialInputs::ckAssi, &DialInputs::ck_Orizzonte, &DialInputs::ckAz})
         in.*c = 1;
 }
 
@@ -52,7 +45,7 @@ struct Conti {
 };
 
 void Pavimento(benchmark::State &stato) {
-    Muto utente;
+    misura::Muto utente;
     Sessione s(utente);
     prepara(s);
     app::cmdRun(s);
@@ -93,7 +86,8 @@ void Pavimento(benchmark::State &stato) {
         }
         {
             const auto [dt, dh] = passo(Conti::SUSTILARE);
-            for (int i = 0; i < Conti::SUSTILARE; ++i, t += dt, h += dh) punto(std::atan(std::tan(h) + std::sin(h) + std::cos(h)), h);
+            for (int i = 0; i < Conti::SUSTILARE; ++i, t += dt, h += dh)
+                punto(std::atan(std::tan(h) + std::sin(h) + std::cos(h)), h);
         }
         {
             const auto [dt, dh] = passo(Conti::GENERALI);
@@ -119,7 +113,7 @@ void Pavimento(benchmark::State &stato) {
 BENCHMARK(Pavimento)->Name("PareteIntera/pavimento")->Unit(benchmark::kMillisecond);
 
 void PareteIntera(benchmark::State &stato) {
-    Muto utente;
+    misura::Muto utente;
     Sessione s(utente);
     prepara(s);
     for (auto _ : stato) {

@@ -119,9 +119,23 @@ Esito Lascia(Sessione &s, IdControllo id) {
 Esito Digita(Sessione &s, IdControllo id, std::string_view tasti) {
     if (riga(id).classe != Classe::Testo) return Esito::Impossibile;
     if (!s.stato(id).abilitato) return Esito::Disabilitato;
-    for (const char c : tasti) {
-        const char tasto = FiltraTasto(s, id, c);
-        if (tasto != 0) cambiaTesto(s, id, s.testo(id) + tasto);
+    const auto continua = [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) == 0x80U; };
+    while (!tasti.empty()) {
+        // A key is one character, however many bytes it has; those of several pass no filter.
+        std::size_t byte = 1;
+        while (byte < tasti.size() && continua(tasti[byte])) ++byte;
+        const std::string_view tasto = tasti.substr(0, byte);
+        tasti.remove_prefix(byte);
+        const char tenuto = FiltraTasto(s, id, tasto[0]);
+        if (tenuto == 0) continue;
+        std::string testo = s.testo(id);
+        if (tenuto == '\b') {
+            while (!testo.empty() && continua(testo.back())) testo.pop_back();
+            if (!testo.empty()) testo.pop_back();
+        } else {
+            (testo += tenuto) += tasto.substr(1);
+        }
+        cambiaTesto(s, id, testo);
     }
     return Esito::Fatto;
 }

@@ -32,7 +32,8 @@ Esito Imposta(Sessione &s, IdControllo id, const std::string &testo);
 Esito Entra(Sessione &s, IdControllo id);
 Esito Cambia(Sessione &s, IdControllo id, const std::string &testo);
 Esito Lascia(Sessione &s, IdControllo id);
-// Sends keys through the control's filter, appended to what stands in the box.
+// Sends keys, one a character, through the control's filter, appended to what stands in the box; a backspace that
+// passes takes its last character.
 Esito Digita(Sessione &s, IdControllo id, std::string_view tasti);
 // Gives a check box its value; the click handler runs when the value changes.
 Esito Spunta(Sessione &s, IdControllo id, int valore);

@@ -2,6 +2,7 @@
 #include "analytic/analitica.h"
 #include "analytic/equivalente.h"
 #include "app/azioni.h"
+#include "app/lingua.h"
 #include "direct/diretta.h"
 #include "glyphs/numeri.h"
 #include "vertical/piana.h"
@@ -67,6 +68,7 @@ constexpr Gestore GESTORI[] = {
     {"MDIForm1", "ckRomani", Evento::Clic, [](Sessione &s, int) { PosizionaRomani(s); }},
     {"MDIForm1", "ckArabi", Evento::Clic, [](Sessione &s, int) { PosizionaArabi(s); }},
     {"MDIForm1", "txtInc", Evento::Cambio, txtInc_Change},
+    {"MDIForm1", "M_about", Evento::Clic, [](Sessione &s, int) { CaricaForm(s, "frmAbout"); }},
 };
 
 }  // namespace

@@ -156,6 +156,8 @@ bool ApriProgetto(Sessione &s, const std::string &NomeFile) {
         return false;
     }
     ApplicaProgetto(s, std::move(*testo));
+    // Buttons are not in the file: the one that the inclination rules follows the plane just opened.
+    s.stato("cmdEqui").abilitato = Val(s.in.txtInc) == 0;
     s.titolo(FOGLIO) = std::filesystem::path(NomeFile).filename().string();
     return true;
 }

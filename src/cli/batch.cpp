@@ -60,8 +60,14 @@ private:
         if (p.empty()) throw Rifiuto{"missing argument: " + std::string(cosa)};
         return p;
     }
-    static double numero(std::string_view &resto, std::string_view cosa) {
+    // The same where nothing may stand behind it: an action half understood is not done.
+    static std::string_view sola(std::string_view resto, std::string_view cosa) {
         const std::string_view p = richiesta(resto, cosa);
+        if (resto.find_first_not_of(' ') != std::string_view::npos) throw Rifiuto{"too many words: " + std::string(resto)};
+        return p;
+    }
+    static double numero(std::string_view &resto, std::string_view cosa, bool ultimo = false) {
+        const std::string_view p = ultimo ? sola(resto, cosa) : richiesta(resto, cosa);
         const Valore n = Val(p);
         const char c = p[p.find_first_not_of("+-.") == std::string_view::npos ? 0 : p.find_first_not_of("+-.")];
         if (!n.esiste() || c < '0' || c > '9') throw Rifiuto{std::string(cosa) + " is no number: " + std::string(p)};
@@ -141,27 +147,29 @@ void Esecuzione::set(std::string_view resto) {
 
 void Esecuzione::type(std::string_view resto) {
     const std::string_view nome = richiesta(resto, "CONTROL");
-    esito(app::Digita(s_, controllo(nome), resto), nome, "is no text box");
+    const IdControllo id = controllo(nome);
+    if (resto.empty()) throw Rifiuto{"missing argument: TEXT"};
+    esito(app::Digita(s_, id, resto), nome, "is no text box");
 }
 
 void Esecuzione::spunta(std::string_view resto, int valore) {
-    const std::string_view nome = richiesta(resto, "BOX");
+    const std::string_view nome = sola(resto, "BOX");
     esito(app::Spunta(s_, controllo(nome), valore), nome, "is no check box");
 }
 
 void Esecuzione::click(std::string_view resto) {
-    const std::string_view nome = richiesta(resto, "CONTROL");
+    const std::string_view nome = sola(resto, "CONTROL");
     esito(app::Premi(s_, controllo(nome)), nome, "can't be pressed");
 }
 
 void Esecuzione::mouse(std::string_view resto) {
     const double x = numero(resto, "X");
-    const double y = numero(resto, "Y");
+    const double y = numero(resto, "Y", true);
     s_.tavolo.MouseDown(x, y);
 }
 
 void Esecuzione::sheet(std::string_view resto) {
-    const double l = numero(resto, "L"), h = numero(resto, "H"), x = numero(resto, "X"), y = numero(resto, "Y");
+    const double l = numero(resto, "L"), h = numero(resto, "H"), x = numero(resto, "X"), y = numero(resto, "Y", true);
     Tavolo &t = s_.tavolo;
     t.QuadranteL(l);
     t.QuadranteH(h);
@@ -194,7 +202,7 @@ void Esecuzione::print(std::string_view resto) {
 }
 
 void Esecuzione::show(std::string_view resto) {
-    const std::string_view nome = richiesta(resto, "CONTROL");
+    const std::string_view nome = sola(resto, "CONTROL");
     const IdControllo id = controllo(nome);
     const StatoControllo &stato = s_.stato(id);
     const std::string abilitato = stato.abilitato ? " enabled" : " disabled";
@@ -212,7 +220,7 @@ void Esecuzione::show(std::string_view resto) {
 }
 
 void Esecuzione::value(std::string_view resto) {
-    const std::string nome(richiesta(resto, "NAME"));
+    const std::string nome(sola(resto, "NAME"));
     std::string riga = nome + "=";
     for (const NomeVariabile &n : NomiVariabili()) {
         if (!UguaglianzaSenzaCaso(n.nome, nome)) continue;
@@ -257,7 +265,7 @@ int Batch(int argc, char **argv) {
         std::fprintf(stderr, "%s:0: %s\n", nome.c_str(), errore.c_str());
         return 2;
     }
-    return EseguiAzioni(script, nome == "-" ? "standard input" : nome);
+    return EseguiAzioni(script, nome);
 }
 
 }  // namespace ombrelia::cli

@@ -3,6 +3,7 @@
 
 #include <iterator>
 #include <random>
+#include <tuple>
 
 #include "comuni/cartella.h"
 #include "comuni/prova.h"
@@ -39,18 +40,9 @@ TEST_F(ProgettoTest, TheFormOfTheFile) {
     b.premi("optHorae");
     ASSERT_EQ(app::SalvaProgetto(b.s, "p.omb"), std::nullopt);
     const std::string t = leggi("p.omb");
-    EXPECT_TRUE(t.starts_with("\"<mnuApri visible=true enabled=true>0</mnuApri>\r\n"));
-    for (const char *riga :
-         {"\r\n<txtLAT visible=true enabled=true>45.74805</txtLAT>\r\n",
-          "\r\n<lblX1 visible=true>III retta :            x1 = </lblX1>\r\n",
-          "\r\n<ckZodiac visible=true enabled=true>1</ckZodiac>\r\n",
-          "\r\n<Filtertxt visible=false enabled=true>.2</Filtertxt>\r\n", "\r\n<OptIta visible=true enabled=true>0</OptIta>\r\n"})
-        EXPECT_NE(t.find(riga), std::string::npos) << riga;
-    for (const char *altro : {"cmdRun", "cmbStati", "Panel3D1", "PicScroll"})
-        EXPECT_EQ(t.find(altro), std::string::npos) << altro;
-    EXPECT_TRUE(
-        t.ends_with("\r\n<_QuadranteH>2</_QuadranteH><_QuadranteL>3</_QuadranteL><_Shiftx>1.5625E-02</_Shiftx><_Shifty>-0.25</"
-                    "_Shifty>\"\r\n"));
+    for (const auto &r : prova::Tabella("righe_progetto.txt"))
+        EXPECT_EQ(t.find(prova::Scritto(r.at(1))) != std::string::npos, r.at(0) == "has") << r[1];
+    EXPECT_TRUE(t.starts_with("\"<mnuApri ") && t.ends_with("</_Shifty>\"\r\n"));
 }
 
 TEST_F(ProgettoTest, SavingOpeningAndSavingAgainGivesTheSameBytes) {
@@ -95,35 +87,23 @@ TEST_F(ProgettoTest, AMissingTagLeavesItsControlAlone) {
     EXPECT_EQ(diversi, 6U) << "two controls and four numbers";
 }
 
-TEST_F(ProgettoTest, NoHandlerRuns) {
-    Banco b;
-    app::ApplicaProgetto(b.s,
-                         Tag("ck_Italiche", "1") + Tag("ck_babiloniche", "1") + Tag("CkUNI", "1") + Tag("txtInc", "0") + FOGLIO);
-    EXPECT_EQ(b.s.in.ck_Italiche, 1);
-    EXPECT_EQ(b.s.in.ck_babiloniche, 1);
-    EXPECT_EQ(b.s.in.TxtInizio, "6.5");
-    EXPECT_FALSE(b.s.stato("ckZodiac").abilitato) << "what the file does not enable stays as it was";
-}
-
 TEST_F(ProgettoTest, ValuesOfEachClass) {
-    const struct {
-        const char *nome, *valore;
-        int atteso;
-    } casi[] = {
+    const std::tuple<const char *, const char *, int> casi[] = {
         {"ckAlt", "1", 1},   {"ckAlt", "2", 2},   {"ckAlt", "1.9", 1},    {"ckAlt", "", 0},
         {"ckAlt", "1e9", 1}, {"ckAlt", "abc", 0}, {"OptIta", "-1", 1},    {"OptIta", "1", 1},
-        {"OptIta", "0", 0},  {"OptIta", "", 0},   {"mnuAvviso", "-1", 1}, {"mnuAvviso", "0", 0},
-    };
-    for (const auto &caso : casi) {
-        Banco b;
-        b.s.valore(TrovaControllo(caso.nome)) = 1;
-        app::ApplicaProgetto(b.s, Tag(caso.nome, caso.valore) + FOGLIO);
-        EXPECT_EQ(b.s.valore(TrovaControllo(caso.nome)), caso.atteso) << caso.nome << " " << caso.valore;
-    }
+        {"OptIta", "0", 0},  {"OptIta", "", 0},   {"mnuAvviso", "-1", 1}, {"mnuAvviso", "0", 0}};
     Banco b;
+    for (const auto &[nome, valore, atteso] : casi) {
+        b.s.valore(TrovaControllo(nome)) = 1;
+        app::ApplicaProgetto(b.s, Tag(nome, valore) + FOGLIO);
+        EXPECT_EQ(b.s.valore(TrovaControllo(nome)), atteso) << nome << " " << valore;
+    }
     app::ApplicaProgetto(
         b.s, Tag("OptTEMP", "-1") + Tag("optHorae", "-1") + Tag("lblLatitudine", "Breite", " visible=false") + FOGLIO);
     EXPECT_EQ(b.s.in.OptTEMP + b.s.in.optHorae, 1) << "one option at a time";
+    app::ApplicaProgetto(b.s, Tag("ck_Italiche", "1") + Tag("ck_babiloniche", "1") + Tag("txtInc", "0") + FOGLIO);
+    EXPECT_EQ(b.s.in.ck_Italiche + b.s.in.ck_babiloniche, 2) << "no handler runs";
+    EXPECT_EQ(b.s.in.TxtInizio, "6.5");
     EXPECT_EQ(b.s.stato("lblLatitudine").caption, "Breite");
     EXPECT_FALSE(b.s.stato("lblLatitudine").visibile);
     EXPECT_TRUE(b.s.stato("lblLatitudine").abilitato);
@@ -141,34 +121,14 @@ TEST_F(ProgettoTest, TagsThatCollide) {
 }
 
 TEST_F(ProgettoTest, TheSheet) {
-    const struct {
-        const char *testo;
-        double H, L, X, Y;
-        bool vuoto;
-    } casi[] = {
-        {"<_QuadranteH>2.5</_QuadranteH><_QuadranteL>20</_QuadranteL><_ShiftX>-1E-02</_ShiftX><_shifty>1</_shifty>", 2.5, 15,
-         -0.01, 1, false},
-        {"something else", 0, 0, 0, 0, true},
-        {"<_QuadranteH>1,5</_QuadranteH><_QuadranteL>1e999</_QuadranteL>", 1, 14, 0, 0, false},
-    };
-    for (const auto &caso : casi) {
+    for (const auto &r : prova::Tabella("fogli.txt")) {
         Banco b;
-        app::ApplicaProgetto(b.s, caso.testo);
-        EXPECT_EQ(b.s.tavolo.QuadranteH(), caso.H) << caso.testo;
-        EXPECT_EQ(b.s.tavolo.QuadranteL(), caso.L) << caso.testo;
-        EXPECT_EQ(b.s.tavolo.ShiftX(), caso.X) << caso.testo;
-        EXPECT_EQ(b.s.tavolo.ShiftY(), caso.Y) << caso.testo;
-        EXPECT_EQ(b.utente.messaggi.size(), caso.vuoto ? 1U : 0U) << caso.testo;
+        app::ApplicaProgetto(b.s, r.at(0));
+        const Tavolo &t = b.s.tavolo;
+        EXPECT_EQ((std::vector{t.QuadranteH(), t.QuadranteL(), t.ShiftX(), t.ShiftY(), double(b.utente.messaggi.size())}),
+                  (std::vector{Val(r.at(1)).v, Val(r.at(2)).v, Val(r.at(3)).v, Val(r.at(4)).v, Val(r.at(5)).v}))
+            << r[0];
     }
-}
-
-TEST_F(ProgettoTest, AQuoteInABoxEndsTheFileThere) {
-    Banco prima({{"txtLAT", "5\" x"}, {"txtDec", "77"}}), poi({{"txtDec", "66"}});
-    ASSERT_EQ(app::SalvaProgetto(prima.s, "p.omb"), std::nullopt);
-    ASSERT_TRUE(app::ApriProgetto(poi.s, "p.omb"));
-    EXPECT_EQ(poi.s.in.txtLAT, "45.74805") << "its close is lost";
-    EXPECT_EQ(poi.s.in.txtDec, "66");
-    EXPECT_EQ(poi.s.tavolo.QuadranteH(), 0);
 }
 
 TEST_F(ProgettoTest, FilesThatAreNoProject) {
@@ -184,13 +144,6 @@ TEST_F(ProgettoTest, FilesThatAreNoProject) {
     }
 }
 
-TEST_F(ProgettoTest, OldFilesInWindows1252) {
-    scrivi("p.omb", "\"<txtH visible=true enabled=true>perch\xE9 \x80</txtH>\r\n" + FOGLIO + "\"\r\n");
-    Banco b;
-    ASSERT_TRUE(app::ApriProgetto(b.s, "p.omb"));
-    EXPECT_EQ(b.s.in.txtH, "perché €");
-}
-
 TEST_F(ProgettoTest, TheMenusAskAndTell) {
     Banco b({{"txtLAT", "33"}});
     std::filesystem::create_directory("qui");
@@ -199,16 +152,13 @@ TEST_F(ProgettoTest, TheMenusAskAndTell) {
     b.utente.risposte = {""};
     b.premi("mnuSalva");
     EXPECT_TRUE(std::filesystem::exists("qui/muro.omb"));
-    b.imposta({{"txtLAT", "34"}});
-    b.utente.risposte = {"qui/muro.omb"};
-    b.premi("mnuApri");
-    EXPECT_EQ(b.s.in.txtLAT, "33");
-    EXPECT_EQ(b.s.titolo("frmTavolo"), "muro.omb");
-    EXPECT_TRUE(b.utente.box.empty());
-    b.imposta({{"txtLAT", "35"}});
-    b.utente.risposte = {"No", "qui/muro.omb"};
-    b.premi("mnuApri");
-    EXPECT_EQ(b.s.in.txtLAT, "35");
+    for (const char *scritto : {"34", "35"}) {  // the second time the user says No
+        b.imposta({{"txtLAT", scritto}});
+        b.utente.risposte = {scritto[1] == '5' ? "No" : "qui/muro.omb"};
+        b.premi("mnuApri");
+        EXPECT_EQ(b.s.in.txtLAT, scritto[1] == '5' ? "35" : "33");
+        EXPECT_EQ(b.s.titolo("frmTavolo"), "muro.omb");
+    }
     EXPECT_EQ(b.utente.box, std::vector<std::string>{"Attenzione! Vuoi chiudere il file muro.omb?"});
     b.utente.risposte = {"No"};
     EXPECT_FALSE(app::ChiudiTavolo(b.s));

@@ -25,7 +25,9 @@ public:
         box.emplace_back(testo);
         return prossima("Yes") != "No";
     }
-    std::string Input(std::string_view, std::string_view, std::string_view proposta) override { return prossima(std::string(proposta)); }
+    std::string Input(std::string_view, std::string_view, std::string_view proposta) override {
+        return prossima(std::string(proposta));
+    }
     std::optional<std::string> File(const RichiestaFile &) override {
         std::string r = prossima("");
         return r.empty() ? std::nullopt : std::optional(r);
@@ -86,5 +88,9 @@ public:
 
 // Rows of tests/data/NAME: fields divided by "|", blank lines and lines that begin with # passed over.
 std::vector<std::vector<std::string>> Tabella(std::string_view nome);
+// What a field lists; an empty field lists nothing.
+std::vector<std::string> Divisi(std::string_view testo, char con);
+// A field of a table with its escapes undone: \r, \n, \t, \s for a blank, \p for a bar, \xHH for a byte.
+std::string Scritto(std::string_view campo);
 
 }  // namespace ombrelia::prova

@@ -5,11 +5,12 @@
 
 #include <concepts>
 #include <cstddef>
+#include <map>
 #include <set>
-#include <stdexcept>
 #include <string>
 #include <utility>
 
+#include "comuni/prova.h"
 #include "core/testo.h"
 
 namespace ombrelia {
@@ -30,12 +31,6 @@ template <typename T, std::size_t N = 0>
 constexpr std::size_t NumeroMembri() {
     if constexpr (Accetta<T>(std::make_index_sequence<N + 1>{})) return NumeroMembri<T, N + 1>();
     else return N;
-}
-
-const Controllo &Riga(std::string_view nome) {
-    const IdControllo id = TrovaControllo(nome);
-    if (id == NESSUN_CONTROLLO) throw std::out_of_range(std::string(nome));
-    return TavolaControlli()[static_cast<std::size_t>(id)];
 }
 
 std::string Pieno(const Controllo &riga) {
@@ -81,32 +76,11 @@ TEST(Controlli, NoNameOfTheMainWindowBeginsLikeAnEarlierOne) {
 }
 
 TEST(Controlli, NamesAsTheScriptGivesThem) {
-    const struct {
-        const char *nome, *modulo, *trovato;
-        int indice;
-    } casi[] = {
-        {"txtLAT", "MDIForm1", "txtLAT", -1},
-        {"MDIForm1.txtLAT", "MDIForm1", "txtLAT", -1},
-        {"mdiform1.TXTlat", "MDIForm1", "txtLAT", -1},
-        {"cmdsave", "MDIForm1", "cmdSave", -1},
-        {"Tavolo1.cmdSave", "Tavolo1", "cmdSave", -1},
-        {"TAVOLO1.VSCROLL1", "Tavolo1", "VScroll1", -1},
-        {"frmDeclin.txtLonG", "frmDeclin", "txtLonG", -1},
-        {"frmDeclin.cmdSign(0)", "frmDeclin", "cmdSign", 0},
-        {"FRMDECLIN.CMDSIGN(1)", "frmDeclin", "cmdSign", 1},
-        {"Form2.mnuPrinta", "Form2", "mnuPrinta", -1},
-        {"Form8.menuPrinta", "Form8", "menuprinta", -1},
-    };
-    for (const auto &caso : casi) {
-        ASSERT_NE(TrovaControllo(caso.nome), NESSUN_CONTROLLO) << caso.nome;
-        const Controllo &riga = Riga(caso.nome);
-        EXPECT_EQ(riga.modulo, caso.modulo) << caso.nome;
-        EXPECT_EQ(riga.nome, caso.trovato) << caso.nome;
-        EXPECT_EQ(riga.indice, caso.indice) << caso.nome;
+    for (const auto &r : prova::Tabella("controlli.txt")) {
+        const IdControllo id = TrovaControllo(r.at(0));
+        EXPECT_EQ(id == NESSUN_CONTROLLO ? "" : Pieno(TavolaControlli()[static_cast<std::size_t>(id)]), r.at(1)) << r[0];
     }
-    for (const char *nome : {"", ".", "txtLA", "txtLATx", " txtLAT", "txtQL", "MDIForm1.txtQL", ".txtLAT", "txtLAT(0)",
-                             "frmDeclin.cmdSign", "frmDeclin.cmdSign(2)", "cmdSign(0)", "frmTavolo.txtX", "Form5.menuFond"})
-        EXPECT_EQ(TrovaControllo(nome), NESSUN_CONTROLLO) << nome;
+    EXPECT_EQ(TrovaControllo(" txtLAT"), NESSUN_CONTROLLO);
 }
 
 TEST(Controlli, FormsLieOneAfterTheOther) {
@@ -122,62 +96,31 @@ TEST(Controlli, FormsLieOneAfterTheOther) {
     EXPECT_TRUE(ControlliDi("Form11").empty());
 }
 
-TEST(Controlli, StartTexts) {
+// So that no engine meets an empty text.
+TEST(Controlli, FieldsStartAsNumbersAndBoxesUnchecked) {
     const DialInputs in = InputsIniziali();
-    EXPECT_EQ(in.txtLAT, "45.74805");
-    EXPECT_EQ(in.txtInc, "25.2");
-    EXPECT_EQ(in.TxtStilo, ".195");
-    EXPECT_EQ(in.txtY1, "-0.8");
-    EXPECT_EQ(in.txtDensity, ".005");
-    EXPECT_EQ(in.TxtFine, "17.5");
-    EXPECT_EQ(in.txtQlon, "-39.81638");
-    EXPECT_EQ(in.txtWest, "150");
-    EXPECT_EQ(in.txtEAST, "50");
-    EXPECT_EQ(in.cmbStati, "");
-    // Every other field starts as a number, so that no engine meets an empty text.
     for (const Controllo &riga : TavolaControlli()) {
-        if (riga.testo && riga.classe == Classe::Testo) {
-            EXPECT_NE((in.*riga.testo).find_first_of("0123456789"), std::string::npos) << riga.nome;
-        }
-        if (riga.casella) {
-            EXPECT_EQ(in.*riga.casella, 0) << riga.nome;
-        }
+        const bool testo = riga.testo && riga.classe == Classe::Testo;
+        EXPECT_TRUE(!testo || (in.*riga.testo).find_first_of("0123456789") != std::string::npos) << riga.nome;
+        EXPECT_TRUE(!riga.casella || in.*riga.casella == 0) << riga.nome;
     }
 }
 
-TEST(Controlli, CaptionsKeepTheirBlanks) {
-    EXPECT_EQ(Riga("chkOreAstronomiche").caption, std::string(12, ' ') + "Rette orarie");
-    EXPECT_EQ(Riga("ck_babiloniche").caption, std::string(5, ' ') + "Ore babiloniche");
-    EXPECT_EQ(Riga("lblX1").caption, "III retta :" + std::string(12, ' ') + "x1 = ");
-    EXPECT_EQ(Riga("CkUNI").toolTip.back(), ' ');
-    EXPECT_EQ(Riga("Tavolo1.PicAssi").caption.front(), ' ');
-    EXPECT_EQ(Riga("Tavolo1.lblQL").caption, "L Larghezza ");
-}
+constexpr std::pair<Filtro, const char *> FILTRI[] = {{Filtro::Tasti, "keys"},
+                                                      {Filtro::Numeri, "numbers"},
+                                                      {Filtro::SoloCifreSegno, "digits and sign"},
+                                                      {Filtro::SoloCifre, "digits"}};
 
-TEST(Controlli, HiddenAtTheStart) {
-    std::set<std::string> nascosti;
-    for (const Controllo &riga : TavolaControlli())
-        if (!riga.visibile) nascosti.insert(Pieno(riga));
-    EXPECT_EQ(nascosti, (std::set<std::string>{"MDIForm1.lblFiltro", "MDIForm1.Filtertxt", "Tavolo1.PicAssi",
-                                               "Tavolo1.picDimensioni", "Tavolo1.picPrint"}));
-}
-
-TEST(Controlli, WhichBoxesFilterTheirKeys) {
-    const std::set<std::string> tasti{"txtAO",    "txtDec",  "txtDelta", "txtDensity", "txtEqx",  "txtEqy",  "TxtFraz",
-                                      "txtLAT",   "txtLonG", "txtMax",   "txtMinus",   "txtOriz", "txtQlat", "txtQlon",
-                                      "TxtStilo", "txtSusx", "txtSusy",  "txtX0",      "txtX1",   "txtY0",   "txtY1"};
-    std::set<std::string> trovati;
+TEST(Controlli, WhichBoxesFilterTheirKeysOrAreHidden) {
+    std::map<std::string, std::set<std::string>> attesi, trovati;
+    for (const auto &r : prova::Tabella("filtri.txt")) attesi[r.at(0)].insert(r.begin() + 1, r.end());
     for (const Controllo &riga : TavolaControlli()) {
         EXPECT_TRUE(riga.filtro == Filtro::Nessuno || riga.classe == Classe::Testo) << Pieno(riga);
-        if (riga.filtro == Filtro::Tasti) trovati.insert(riga.modulo == "MDIForm1" ? std::string(riga.nome) : Pieno(riga));
+        for (const auto &[filtro, nome] : FILTRI)
+            if (riga.filtro == filtro) trovati[nome].insert(Pieno(riga));
+        if (!riga.visibile) trovati["hidden"].insert(Pieno(riga));
     }
-    EXPECT_EQ(trovati, tasti);
-    for (const char *nome : {"Tavolo1.txtX", "Tavolo1.txtY", "Tavolo1.txtQL", "Tavolo1.txtQH"})
-        EXPECT_EQ(Riga(nome).filtro, Filtro::Numeri) << nome;
-    for (const char *nome : {"txtAngle", "txtLAT", "txtLON", "TxtFuso"})
-        EXPECT_EQ(Riga("frmDeclin." + std::string(nome)).filtro, Filtro::SoloCifreSegno) << nome;
-    for (const char *nome : {"txtLatG", "txtLatP", "txtLATS", "txtLonG", "txtLonP", "txtLonS"})
-        EXPECT_EQ(Riga("frmDeclin." + std::string(nome)).filtro, Filtro::SoloCifre) << nome;
+    EXPECT_EQ(trovati, attesi);
 }
 
 TEST(Controlli, KeyFilters) {

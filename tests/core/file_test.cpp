@@ -7,26 +7,17 @@
 
 #include <filesystem>
 
+#include "comuni/cartella.h"
+
 namespace ombrelia {
 namespace {
 
 namespace fs = std::filesystem;
 
-struct Cartella : testing::Test {
-    Cartella() : dove(fs::temp_directory_path() / ("ombrelia-prova-" + std::to_string(::getpid()))) {
-        fs::create_directories(dove);
-    }
-    ~Cartella() override { fs::remove_all(dove); }
-    [[nodiscard]] std::string nome(const char *n) const { return (dove / n).string(); }
-    [[nodiscard]] std::size_t quanti() const {
-        return static_cast<std::size_t>(std::distance(fs::directory_iterator(dove), fs::directory_iterator()));
-    }
-    fs::path dove;
-};
-using File = Cartella;
+using File = prova::InCartella;
 
 TEST_F(File, ScrittoERiletto) {
-    const std::string f = nome("a.dxf"), testo = std::string("uno\r\ndue\0tre", 12);
+    const std::string f = "a.dxf", testo = std::string("uno\r\ndue\0tre", 12);
     EXPECT_EQ(ScriviFile(f, std::string(100000, 'x')), std::nullopt);
     fs::permissions(f, fs::perms::owner_read | fs::perms::owner_write);
     EXPECT_EQ(ScriviFile(f, testo), std::nullopt);
@@ -38,28 +29,26 @@ TEST_F(File, ScrittoERiletto) {
 }
 
 TEST_F(File, CollegamentiRestano) {
-    fs::create_directory(dove / "altrove");
-    fs::create_symlink("altrove/b", dove / "a");
-    EXPECT_EQ(ScriviFile(nome("a"), "primo"), std::nullopt) << "the link may point to nothing yet";
-    EXPECT_EQ(ScriviFile(nome("a"), "secondo"), std::nullopt);
-    EXPECT_TRUE(fs::is_symlink(dove / "a"));
-    EXPECT_EQ(LeggiFile(nome("altrove/b"), 100), "secondo");
-    fs::create_symlink("giro", dove / "giro");
-    EXPECT_TRUE(ScriviFile(nome("giro"), "x"));
+    fs::create_directory("altrove");
+    fs::create_symlink("altrove/b", "a");
+    EXPECT_EQ(ScriviFile("a", "primo"), std::nullopt) << "the link may point to nothing yet";
+    EXPECT_EQ(ScriviFile("a", "secondo"), std::nullopt);
+    EXPECT_TRUE(fs::is_symlink("a"));
+    EXPECT_EQ(LeggiFile("altrove/b", 100), "secondo");
+    fs::create_symlink("giro", "giro");
+    EXPECT_TRUE(ScriviFile("giro", "x"));
 }
 
 TEST_F(File, ErroriConNomeEMotivo) {
-    ASSERT_EQ(::mkfifo(nome("tubo").c_str(), 0600), 0);
-    const std::string lungo(300, 'n');
+    ASSERT_EQ(::mkfifo("tubo", 0600), 0);
     struct Riga {
         std::string nome;
         const char *motivo;
     };
     for (const Riga &r :
-         {Riga{"/dev/full", "No space left on device"}, Riga{dove.string(), "Is a directory"},
-          Riga{nome("manca/a"), "No such file or directory"}, Riga{"", "No such file"}, Riga{nome("tubo"), "No such device"},
-          Riga{"/proc/a.dxf", "No such file"}, Riga{nome(lungo.c_str()), "name too long"},
-          Riga{nome("a") + std::string(1, '\0') + "b", "No such file"}}) {
+         {Riga{"/dev/full", "No space left on device"}, Riga{".", "Is a directory"}, Riga{"manca/a", "No such file or directory"},
+          Riga{"", "No such file"}, Riga{"tubo", "No such device"}, Riga{"/proc/a.dxf", "No such file"},
+          Riga{std::string(300, 'n'), "name too long"}, Riga{std::string("a\0b", 3), "No such file"}}) {
         const auto errore = ScriviFile(r.nome, "abc");
         ASSERT_TRUE(errore) << r.nome;
         EXPECT_NE(errore->find("\"" + r.nome + "\": "), std::string::npos) << *errore;
@@ -71,28 +60,28 @@ TEST_F(File, ErroriConNomeEMotivo) {
 }
 
 TEST_F(File, CartellaChiusa) {
-    ASSERT_EQ(ScriviFile(nome("vecchio"), "vecchio"), std::nullopt);
-    fs::permissions(dove, fs::perms::owner_read | fs::perms::owner_exec);
-    const auto errore = ScriviFile(nome("vecchio"), "nuovo");
-    fs::permissions(dove, fs::perms::owner_all);
+    ASSERT_EQ(ScriviFile("vecchio", "vecchio"), std::nullopt);
+    fs::permissions(".", fs::perms::owner_read | fs::perms::owner_exec);
+    const auto errore = ScriviFile("vecchio", "nuovo");
+    fs::permissions(".", fs::perms::owner_all);
     if (::geteuid() == 0) GTEST_SKIP() << "root writes everywhere";
     EXPECT_TRUE(errore);
-    EXPECT_EQ(LeggiFile(nome("vecchio"), 100), "vecchio");
+    EXPECT_EQ(LeggiFile("vecchio", 100), "vecchio");
 }
 
 TEST_F(File, LetturaLimitata) {
-    ASSERT_EQ(ScriviFile(nome("a"), std::string(50000, 'x')), std::nullopt);
-    ASSERT_EQ(::mkfifo(nome("tubo").c_str(), 0600), 0);
+    ASSERT_EQ(ScriviFile("a", std::string(50000, 'x')), std::nullopt);
+    ASSERT_EQ(::mkfifo("tubo", 0600), 0);
     std::string errore;
-    EXPECT_EQ(LeggiFile(nome("a"), 49999, &errore), std::nullopt);
+    EXPECT_EQ(LeggiFile("a", 49999, &errore), std::nullopt);
     EXPECT_NE(errore.find("49999"), std::string::npos);
-    EXPECT_EQ(LeggiFile(nome("a"), 50000)->size(), 50000U);
+    EXPECT_EQ(LeggiFile("a", 50000)->size(), 50000U);
     EXPECT_EQ(LeggiFile("/dev/zero", 1000000, &errore), std::nullopt);
-    EXPECT_EQ(LeggiFile(dove.string(), 10, &errore), std::nullopt);
+    EXPECT_EQ(LeggiFile(".", 10, &errore), std::nullopt);
     EXPECT_NE(errore.find("directory"), std::string::npos);
-    EXPECT_EQ(LeggiFile(nome("manca"), 10, &errore), std::nullopt);
+    EXPECT_EQ(LeggiFile("manca", 10, &errore), std::nullopt);
     EXPECT_NE(errore.find("No such file"), std::string::npos);
-    EXPECT_EQ(LeggiFile(nome("tubo"), 10), "") << "a pipe that nobody writes ends at once";
+    EXPECT_EQ(LeggiFile("tubo", 10), "") << "a pipe that nobody writes ends at once";
 }
 
 }  // namespace

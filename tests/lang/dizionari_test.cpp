@@ -2,20 +2,90 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <map>
+#include <regex>
 #include <set>
 
 #include "core/controlli.h"
 #include "core/testo.h"
 #include "lang/dizionario.h"
-#include "lang/sorgenti.h"
 
 namespace ombrelia {
 namespace {
 
-using prova::TestoSorgente;
+// A text of the program and the file it stands in.
+struct TestoSorgente {
+    std::string testo, file;
+};
+// The texts of sources, what stands inside Traduci(...) and what is marked by _it; and the files that call Traduci without
+// a literal.
+struct Raccolta {
+    std::vector<TestoSorgente> testi;
+    std::set<std::string> variabili;
+
+    void Leggi(const std::string &codice, const std::string &file) {
+        static const std::regex PEZZO(
+            R"~(//.*|#.*|/\*[^]*?\*/|"((?:[^"\\]|\\.)*)"(_it)?|'(?:[^'\\]|\\.)*'|\d[\w']*|\w+|[^\s\w])~");
+        std::string testo, prima;  // of adjacent literals; the piece before
+        bool dentro = false, letterale = false, segnato = false, trovati = false;
+        int profondo = 0;
+        const auto chiudi = [&] {
+            if (letterale && (segnato || dentro)) testi.push_back({testo, file});
+            trovati |= letterale;
+            testo.clear();
+            letterale = segnato = false;
+        };
+        for (std::sregex_iterator p(codice.begin(), codice.end(), PEZZO), fine; p != fine; ++p) {
+            const std::string pezzo = p->str();
+            if (pezzo.starts_with("//") || pezzo[0] == '#' || pezzo.starts_with("/*")) continue;
+            if (pezzo[0] == '"') {
+                testo += Sciolto((*p)[1].str());
+                letterale = true;
+                segnato |= (*p)[2].matched;
+                continue;
+            }
+            chiudi();
+            if (pezzo == "(" && !dentro && prima == "Traduci") {
+                dentro = true;
+                trovati = false;
+                profondo = 0;
+            }
+            if (dentro && pezzo == "(") ++profondo;
+            if (dentro && pezzo == ")" && --profondo == 0) {
+                dentro = false;
+                if (!trovati) variabili.insert(file);
+            }
+            prima = pezzo;
+        }
+        chiudi();
+    }
+
+    static std::string Sciolto(const std::string &t) {
+        std::string r;
+        for (std::size_t i = 0; i < t.size(); ++i) {
+            if (t[i] == '\\' && ++i < t.size()) r += t[i] == 'n' ? '\n' : t[i] == 'r' ? '\r' : t[i] == 't' ? '\t' : t[i];
+            else r += t[i];
+        }
+        return r;
+    }
+};
+
+const Raccolta &DelProgramma() {
+    static const Raccolta r = [] {
+        Raccolta tutti;
+        const std::filesystem::path radice = OMBRELIA_RADICE "/src";
+        for (const auto &voce : std::filesystem::recursive_directory_iterator(radice)) {
+            if (voce.path().extension() != ".cpp" && voce.path().extension() != ".h") continue;
+            std::ifstream f(voce.path(), std::ios::binary);
+            tutti.Leggi({std::istreambuf_iterator<char>(f), {}}, std::filesystem::relative(voce.path(), radice).generic_string());
+        }
+        return tutti;
+    }();
+    return r;
+}
 
 constexpr const char *LINGUE[] = {"DBFranceseC2008.txt", "DBIngleseC2008.txt"};
 
@@ -30,9 +100,7 @@ bool HaLettere(std::string_view t) {
 
 // Upper-cased texts of the program, each with a place where it stands.
 std::map<std::string, TestoSorgente> TuttiITesti() {
-    std::vector<TestoSorgente> testi;
-    std::vector<std::string> variabili;
-    prova::TestiDelProgramma(testi, variabili);
+    std::vector<TestoSorgente> testi = DelProgramma().testi;
     for (const Modulo &m : TavolaModuli()) testi.push_back({std::string(m.caption), "form " + std::string(m.nome)});
     for (const Controllo &c : TavolaControlli())
         for (const std::string_view t : {c.caption, c.toolTip})
@@ -60,21 +128,16 @@ TEST(Dizionari, EachTextOfTheProgramIsTranslatedAndEachEntryUsed) {
 }
 
 // Captions are laid out, and numbers joined to labels, by the blanks around the texts.
-TEST(Dizionari, TranslationsKeepTheBlanksAround) {
-    for (const char *lingua : LINGUE) {
-        Dizionario d;
-        d.Interpreta(Contenuto(lingua));
-        for (const auto &[sorgente, traduzione] : d.Voci()) {
-            EXPECT_EQ(sorgente.find_first_not_of(' '), traduzione.find_first_not_of(' ')) << lingua << ": \"" << sorgente << '"';
-            EXPECT_EQ(sorgente.size() - sorgente.find_last_not_of(' '), traduzione.size() - traduzione.find_last_not_of(' '))
-                << lingua << ": \"" << sorgente << '"';
-        }
-    }
-}
-
-TEST(Dizionari, FilesAreWhole) {
+TEST(Dizionari, FilesAreWholeAndKeepTheBlanksAround) {
     for (const char *lingua : LINGUE) {
         const std::string t = Contenuto(lingua);
+        Dizionario d;
+        d.Interpreta(t);
+        for (const auto &[sorgente, traduzione] : d.Voci()) {
+            EXPECT_EQ(sorgente.find_first_not_of(' '), traduzione.find_first_not_of(' ')) << lingua << ": " << sorgente;
+            EXPECT_EQ(sorgente.size() - sorgente.find_last_not_of(' '), traduzione.size() - traduzione.find_last_not_of(' '))
+                << lingua << ": " << sorgente;
+        }
         EXPECT_EQ(DaFile(t), t) << lingua << " is no plain UTF-8";
         EXPECT_EQ(std::count(t.begin(), t.end(), '"'), 2) << lingua << ": a quote inside ends the reading";
         EXPECT_TRUE(t.starts_with('"') && t.ends_with("\r\n\"\r\n")) << lingua;
@@ -85,31 +148,29 @@ TEST(Dizionari, FilesAreWhole) {
 
 // A file that translates what is no literal has marked its literals, unless it only hands texts on.
 TEST(Dizionari, TextsTranslatedByVariableAreMarked) {
-    std::vector<TestoSorgente> testi;
-    std::vector<std::string> variabili;
-    prova::TestiDelProgramma(testi, variabili);
+    const auto &[testi, variabili] = DelProgramma();
     const std::set<std::string> senzaTesti{"lang/dizionario.h", "lang/dizionario.cpp", "sessione/sessione.h", "app/lingua.cpp",
                                            "reports/foglio.h",  "desktop/ponte.h",     "desktop/ponte.cpp"};
     for (const std::string &file : variabili) {
-        const bool segnati = std::any_of(testi.begin(), testi.end(), [&](const TestoSorgente &t) { return t.file == file; });
+        bool segnati = false;
+        for (const TestoSorgente &t : testi) segnati |= t.file == file;
         EXPECT_TRUE(segnati || senzaTesti.contains(file)) << file << " calls Traduci for texts that bear no _it";
     }
 }
 
 TEST(Dizionari, TheGathererSeesWhatItShould) {
-    std::vector<TestoSorgente> testi;
-    std::vector<std::string> variabili;
-    prova::TestiDi(R"(#include "no"
+    Raccolta r;
+    r.Leggi(R"(#include "no"
         // s.Traduci("no")
         f(s.Traduci("uno \"1\" "
                     "due"), "no", '"', 1'000, "tre"_it);  /* "no" */
         g(Traduci(x < 0 ? "East" : h("West")), "no");
         s.Traduci(riga.etichetta);)",
-                   "f", testi, variabili);
-    std::vector<std::string> trovati;
-    for (const TestoSorgente &t : testi) trovati.push_back(t.testo);
-    EXPECT_EQ(trovati, (std::vector<std::string>{"uno \"1\" due", "tre", "East", "West"}));
-    EXPECT_EQ(variabili.size(), 1U);
+            "f");
+    std::string trovati;
+    for (const TestoSorgente &t : r.testi) trovati += t.testo + '|';
+    EXPECT_EQ(trovati, "uno \"1\" due|tre|East|West|");
+    EXPECT_EQ(r.variabili.size(), 1U);
 }
 
 }  // namespace

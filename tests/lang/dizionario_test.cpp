@@ -1,9 +1,12 @@
 // Loading and lookup of a dictionary.
 #include "lang/dizionario.h"
 
-#include <random>
+#include <gtest/gtest.h>
 
-#include "comuni/cartella.h"
+#include <random>
+#include <utility>
+
+#include "comuni/prova.h"
 
 namespace ombrelia {
 namespace {
@@ -17,43 +20,26 @@ Dizionario Da(const std::string &file) {
 using Voci = std::vector<Dizionario::Voce>;
 
 TEST(Dizionario, WhatAFileHolds) {
-    const struct {
-        std::string file;
-        Voci voci;
-    } casi[] = {
-        {"\"uno|one\r\ndue |two \r\n\"\r\n", {{"uno", "one"}, {"due ", "two "}}},
-        {"\"uno|one\r\ndue|two", {{"uno", "one"}, {"due", "two"}}},
-        {"\"uno|a|b\r\n|vuoto\r\n\"", {{"uno", "a|b"}, {"", "vuoto"}}},
-        {"\"uno|\r\ndue|   \r\n\r\ntre|3\"", {{"tre", "3"}}},
-        {"\"senza divisore\r\nuno|1\"", {{"", "senza divisore"}, {"uno", "1"}}},
-        {"\"uno|1\r\ndue|2\"\r\ntre|3\"", {{"uno", "1"}, {"due", "2"}}},
-        {"\"uno|1\ndue|2\r\ntre|3\"", {{"uno", "1\ndue|2"}, {"tre", "3"}}},
-        {"uno|1, resto\r\ndue|2", {{"uno", "1"}}},
-        {"\"citt\xE0|ville\r\n\"", {{"città", "ville"}}},
-        {"\"   \r\n   \"", {}},
-        {"", {}},
-        {"\"\"", {}},
-    };
-    for (const auto &caso : casi) EXPECT_EQ(Da(caso.file).Voci(), caso.voci) << caso.file;
+    for (const auto &r : prova::Tabella("dizionario.txt")) {
+        Voci attese;
+        for (std::size_t i = 1; i + 1 < r.size(); i += 2) attese.emplace_back(prova::Scritto(r[i]), prova::Scritto(r[i + 1]));
+        EXPECT_EQ(Da(prova::Scritto(r.at(0))).Voci(), attese) << r[0];
+    }
 }
 
 TEST(Dizionario, Lookup) {
     const Dizionario d = Da("\"Latitudine:   |Latitude:   \r\ncittà è già più|CITY\r\nUno|first\r\nuno|second\r\nœuvre ÿ|work\"");
-    const struct {
-        const char *testo, *traduzione;
-    } casi[] = {
-        {"Latitudine:   ", "Latitude:   "},
-        {"LATITUDINE:   ", "Latitude:   "},
-        {"Latitudine:", "Latitudine:"},
-        {"CITTÀ È GIÀ PIÙ", "CITY"},
-        {"UNO", "first"},
-        {"uno", "first"},
-        {"ŒUVRE Ÿ", "work"},
-        {"OEUVRE Y", "OEUVRE Y"},
-        {"", ""},
-        {"citta e gia piu", "citta e gia piu"},
-    };
-    for (const auto &caso : casi) EXPECT_EQ(d.Traduci(caso.testo), caso.traduzione);
+    const std::pair<const char *, const char *> casi[] = {{"Latitudine:   ", "Latitude:   "},
+                                                          {"LATITUDINE:   ", "Latitude:   "},
+                                                          {"Latitudine:", "Latitudine:"},
+                                                          {"CITTÀ È GIÀ PIÙ", "CITY"},
+                                                          {"UNO", "first"},
+                                                          {"uno", "first"},
+                                                          {"ŒUVRE Ÿ", "work"},
+                                                          {"OEUVRE Y", "OEUVRE Y"},
+                                                          {"", ""},
+                                                          {"citta e gia piu", "citta e gia piu"}};
+    for (const auto &[testo, traduzione] : casi) EXPECT_EQ(d.Traduci(testo), traduzione);
     EXPECT_EQ(Dizionario().Traduci("Latitudine:   "), "Latitudine:   ");
 }
 
@@ -89,20 +75,6 @@ TEST(Dizionario, EqualsTheLinearSearch) {
         }
     }
     EXPECT_GT(trovati, 1000);
-}
-
-using DizionarioTest = prova::InCartella;
-
-TEST_F(DizionarioTest, FilesOfTheCurrentDirectory) {
-    scrivi("DBC2008.txt", "\"uno|one\"\r\n");
-    Dizionario d;
-    d.CaricaDizionario(" C2008 ");
-    EXPECT_EQ(d.Traduci("uno"), "one");
-    EXPECT_EQ(d.Nome(), " C2008 ");
-    d.CaricaDizionario("manca");
-    EXPECT_EQ(d.Nome(), "manca");
-    EXPECT_EQ(d.Traduci("uno"), "uno");
-    EXPECT_TRUE(d.Voci().empty());
 }
 
 }  // namespace

@@ -1,132 +1,123 @@
-// The outlines: reading the file, and where, whether and in what colour a place is drawn.
+// The world on a dial: reading the outlines, and where, whether and in what colour a place, a city, a star is drawn.
 #include "map/mappa.h"
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <filesystem>
-#include <fstream>
+#include <map>
+#include <set>
 #include <string>
+#include <tuple>
 #include <vector>
 
-#include "prova_mappa.h"
+#include "comuni/cartella.h"
+#include "comuni/prova.h"
+#include "core/file.h"
+#include "map/citta.h"
 
 namespace ombrelia {
 namespace {
 
-TEST(LeggiMondo, RunsCountriesAndWhatIsPassedOver) {
-    struct Caso {
-        const char *testo;
-        std::vector<std::size_t> tratti;  // points a run
-        std::vector<std::string> paesi;   // a run's country
-        std::size_t voci;                 // entries of the list
-    };
-    const std::string lunga(100000, '9');
-    const Caso casi[] = {
-        {"", {}, {}, 1},
-        {"A1;1;2\nA1;3;4\nA2;5;6\nB1;7;8\n", {2, 1, 1}, {"A", "A", "B"}, 3},
-        {"A1;1;2\r\nA1;3;4\r\n\r\n", {2}, {"A"}, 2},
-        {"A1;1;2\rA1;3;4", {2}, {"A"}, 2},
-        {"A1;1;2\n\n   \nA1;3;4", {2}, {"A"}, 2},
-        {"A1\nA1;1\nA1;;\nA1;x;2\nA1;1;y\nA1;1;2", {1}, {"A"}, 2},
-        {"A1;1;1e999\nA1;1e999;1\nA1;1;1e308", {1}, {"A"}, 2},
-        {"11;1;2\n12;1;2\nA1;1;2\n3;1;2", {1, 1, 1, 1}, {"", "", "A", ""}, 4},
-        {"A1;1;2\nB1;1;2\nA1;1;2", {1, 1, 1}, {"A", "B", "A"}, 4},
-        {"1A 2b3;1;2;rest\n;4;5", {1, 1}, {"A b", ""}, 3},
-        {"A1; +1 ;\t.5\n", {1}, {"A"}, 2},
-        {";;;;\n;;\n;", {}, {}, 1},
-    };
-    for (const Caso &c : casi) {
-        SCOPED_TRACE(c.testo);
-        const Mondo m = LeggiMondo(c.testo, 0);
-        std::vector<std::size_t> tratti;
-        std::vector<std::string> paesi;
-        for (std::size_t t = 0; t < m.tratti.size(); ++t) {
-            tratti.push_back((t + 1 < m.tratti.size() ? m.tratti[t + 1].primo : m.punti.size()) - m.tratti[t].primo);
-            paesi.push_back(m.paesi[m.tratti[t].paese]);
-        }
-        EXPECT_EQ(tratti, c.tratti);
-        EXPECT_EQ(paesi, c.paesi);
-        ASSERT_EQ(m.paesi.size(), c.voci);
-        EXPECT_EQ(m.paesi[0], " World");
-    }
-    EXPECT_TRUE(LeggiMondo("A;" + lunga + ";1", 0).punti.empty());
-}
-
-TEST(LeggiMondo, WestIsPositiveFromTheSiteAndSouthIsPositive) {
-    const Mondo m = LeggiMondo("A1;41.9;12.5\nA1;-34.6;-58.4", -7.85);
-    ASSERT_EQ(m.punti.size(), 2u);
-    EXPECT_DOUBLE_EQ(m.punti[0].X, -4.65);
-    EXPECT_DOUBLE_EQ(m.punti[0].Y, -41.9);
-    EXPECT_DOUBLE_EQ(m.punti[1].X, 66.25);
-    EXPECT_DOUBLE_EQ(m.punti[1].Y, 34.6);
-}
-
-// A current directory of one's own for as long as the test lasts.
-struct Cartella {
-    std::filesystem::path prima = std::filesystem::current_path(), qui;
-    Cartella() {
-        std::string nome = (std::filesystem::temp_directory_path() / "ombrelia_mondo_XXXXXX").string();
-        if (!mkdtemp(nome.data())) throw std::runtime_error(nome);
-        std::filesystem::current_path(qui = nome);
-    }
-    ~Cartella() {
-        std::filesystem::current_path(prima);
-        std::filesystem::remove_all(qui);
-    }
-    void scrivi(std::string_view testo) const { std::ofstream(qui / "mondo.csv", std::ios::binary) << testo; }
+struct UtenteMappa : prova::UtenteDiProva {
+    std::vector<bool> attese;
+    void Puntatore(bool attesa) override { attese.push_back(attesa); }
 };
 
-TEST(CaricaMondo, ReplacesWhatWasLoadedAndShowsTheFilter) {
-    const Cartella cartella;
-    BancoMappa b;
-    EXPECT_FALSE(b.s.stato("lblFiltro").visibile);
-    EXPECT_FALSE(b.s.stato("Filtertxt").visibile);
+// A horizontal dial at latitude 45, 12 East, with a frame and a filter that keep everything.
+struct BancoMappa {
+    UtenteMappa utente;
+    Sessione s{utente};
+    const Lista &lista = s.tavolo.lista();
+    const std::vector<RecLinea> &l = lista.Linee;
+    BancoMappa() {
+        s.in.txtLAT = "45", s.in.txtLonG = "-12", s.in.txtDec = "0", s.in.txtInc = "90", s.in.TxtStilo = ".05", s.in.ck_inv = 1;
+        s.in.txtX0 = s.in.txtY1 = "-1000000", s.in.txtX1 = s.in.txtY0 = s.in.Filtertxt = "1000000";
+    }
+    void disegna(const std::string &testo) {
+        s.mondo = LeggiMondo(testo, Val(s.in.txtLonG));
+        s.in.cmbStati = " World";
+        DisegnaMondo(s);
+    }
+    // A place: an outline of one point twice.
+    void luogo(double lat, double lon) {
+        const std::string riga = "A1;" + std::to_string(lat) + ';' + std::to_string(lon) + '\n';
+        disegna(riga + riga);
+    }
+};
 
-    cartella.scrivi(
-        "Per\xF9"
-        "1;-12;-77\nCuba1;23;-82\n");  // Windows-1252
+// The file that comes with the program, for Greenwich.
+Mondo MondoSpedito() { return LeggiMondo(LeggiFile(OMBRELIA_RADICE "/data/mondo.csv", 32u << 20).value_or(""), 0); }
+
+std::size_t Fine(const Mondo &m, std::size_t t) { return t + 1 < m.tratti.size() ? m.tratti[t + 1].primo : m.punti.size(); }
+
+TEST(LeggiMondo, RunsCountriesAndWhatIsPassedOver) {
+    for (const auto &r : prova::Tabella("mondo_righe.txt")) {
+        SCOPED_TRACE(r.at(0));
+        const Mondo m = LeggiMondo(prova::Scritto(r.at(0)), 0);
+        std::string tratti, paesi;
+        for (std::size_t t = 0; t < m.tratti.size(); ++t) {
+            tratti += std::to_string(Fine(m, t) - m.tratti[t].primo) + ' ';
+            paesi += m.paesi[m.tratti[t].paese] + ',';
+        }
+        EXPECT_EQ(tratti, r.at(1).empty() ? "" : r.at(1) + ' ');
+        EXPECT_EQ(paesi, r.at(1).empty() ? "" : r.at(2) + ',');
+        EXPECT_EQ(std::to_string(m.paesi.size()), r.at(3));
+        EXPECT_EQ(m.paesi.at(0), " World");
+    }
+    EXPECT_TRUE(LeggiMondo("A;" + std::string(100000, '9') + ";1", 0).punti.empty());
+    // West is positive from the site, and south is positive.
+    const Mondo m = LeggiMondo("A1;-34.6;-58.4", -7.85);
+    EXPECT_DOUBLE_EQ(m.punti.at(0).X, 66.25);
+    EXPECT_DOUBLE_EQ(m.punti.at(0).Y, 34.6);
+}
+
+class CaricaMondoQui : public prova::InCartella {};
+
+TEST_F(CaricaMondoQui, ReplacesWhatWasLoadedShowsTheFilterAndLoadsOnceForTheDrawing) {
+    using Nomi = std::vector<std::string>;
+    BancoMappa b;
+    EXPECT_FALSE(b.s.stato("lblFiltro").visibile || b.s.stato("Filtertxt").visibile);
+    scrivi("mondo.csv",
+           "Per\xF9"
+           "1;-12;-77\nCuba1;23;-82\n");  // Windows-1252
     CaricaMondo(b.s);
-    EXPECT_EQ(b.s.mondo.paesi, (std::vector<std::string>{" World", "Perù", "Cuba"}));
+    EXPECT_EQ(b.s.mondo.paesi, (Nomi{" World", "Perù", "Cuba"}));
     EXPECT_EQ(b.s.in.cmbStati, " World");
-    EXPECT_EQ(b.utente.messaggi, std::vector<std::string>{"Map"});
-    EXPECT_TRUE(b.s.stato("lblFiltro").visibile);
-    EXPECT_TRUE(b.s.stato("Filtertxt").visibile);
+    EXPECT_EQ(b.utente.messaggi, Nomi{"Map"});
+    EXPECT_TRUE(b.s.stato("lblFiltro").visibile && b.s.stato("Filtertxt").visibile);
 
     b.s.in.cmbStati = "Cuba";
-    cartella.scrivi("\xEF\xBB\xBFÅland1;60;20");
+    scrivi("mondo.csv", "\xEF\xBB\xBFÅland1;60;20");
     CaricaMondo(b.s);
-    EXPECT_EQ(b.s.mondo.paesi, (std::vector<std::string>{" World", "Åland"}));
+    EXPECT_EQ(b.s.mondo.paesi, (Nomi{" World", "Åland"}));
     EXPECT_EQ(b.s.mondo.punti.size(), 1u);
     EXPECT_EQ(b.s.in.cmbStati, " World");
 
     std::filesystem::remove("mondo.csv");
     CaricaMondo(b.s);
-    EXPECT_EQ(b.s.mondo.paesi, std::vector<std::string>{" World"});
+    EXPECT_EQ(b.s.mondo.paesi, Nomi{" World"});
     DisegnaMondo(b.s);
-    EXPECT_TRUE(b.linee().empty());
-}
+    EXPECT_TRUE(b.l.empty());
 
-TEST(CaricaMondo, TheDrawingLoadsOnlyWhenNothingIsLoaded) {
-    const Cartella cartella;
-    BancoMappa b;
-    cartella.scrivi("A1;45;1\nA1;45;2\n");
-    b.s.in.ck_inv = 1;
+    scrivi("mondo.csv", "A1;45;1\nA1;45;2\n");
     b.s.in.punto = 1;
+    b.utente.attese.clear();
     DisegnaMondo(b.s);
-    EXPECT_EQ(b.linee().size(), 1u);
+    EXPECT_EQ(b.l.size(), 1u);
     EXPECT_EQ(b.s.in.punto, 0);
     EXPECT_EQ(b.utente.attese, (std::vector<bool>{true, false}));
-    cartella.scrivi("A1;45;1\nA1;45;2\nA1;45;3\n");
+    scrivi("mondo.csv", "A1;45;1\nA1;45;2\nA1;45;3\n");
     DisegnaMondo(b.s);
-    EXPECT_EQ(b.linee().size(), 2u);
+    EXPECT_EQ(b.l.size(), 2u);
 }
 
 // The plane's own axes, from the geometry of the globe: the place's direction in the site's east, north and up, seen
-// from a plane whose normal looks to the azimuth dec (West of south) and up by inc.
-std::array<double, 2> atteso(double lat, double lon, double sitoLat, double sitoLon, double dec, double inc, double gn) {
-    const double r = std::acos(-1.0) / 180;
+// from a plane whose normal looks to the azimuth dec (West of south) and up by inc. The sight is the last.
+std::array<double, 3> atteso(double lat, double lon, double sitoLat, double sitoLon, double dec, double inc, double gn) {
+    const double r = PI / 180;
     const double L = lat * r, f = sitoLat * r, d = (lon - sitoLon) * r, g = dec * r, i = inc * r;
     const double est = std::cos(L) * std::sin(d);
     const double nord = std::cos(f) * std::sin(L) - std::sin(f) * std::cos(L) * std::cos(d);
@@ -134,106 +125,53 @@ std::array<double, 2> atteso(double lat, double lon, double sitoLat, double sito
     const double destra = est * std::cos(g) - nord * std::sin(g);
     const double fronte = -nord * std::cos(g) - est * std::sin(g);
     const double normale = fronte * std::cos(i) + alto * std::sin(i);
-    const double su = alto * std::cos(i) - fronte * std::sin(i);
-    return {-gn * destra / normale, -gn * su / normale};
+    return {-gn * destra / normale, -gn * (alto * std::cos(i) - fronte * std::sin(i)) / normale, normale};
 }
 
-TEST(DisegnaMondo, PlacesFallWhereTheGlobeSays) {
-    struct Piano {
-        const char *lat, *lonG, *dec, *inc, *gn;
-        int mm;
-    };
-    // txtLonG is West positive.
-    const Piano piani[] = {{"45", "-12", "0", "90", ".05", 0},    {"45", "-12", "0", "0", ".3", 0},
-                           {"41.9", "-12.5", "30", "0", ".3", 0}, {"45", "70", "-40", "25", "50", 1},
-                           {"-33", "-151", "20", "60", ".1", 0},  {"0.5", "0", "0", "90", "200", 1}};
-    const double luoghi[][2] = {{10, 5}, {-25, -8}, {40, 60}, {64, -21.9}, {-33, 151}, {12, -70}, {0, 0}};
+TEST(DisegnaMondo, PlacesBeforeThePlaneFallWhereTheGlobeSays) {
+    // Off the sites' meridians: exactly on them a place north of the zenith has the azimuth 0, as the formula gives it.
+    const double luoghi[][2] = {{10, 5},    {-25, -8},   {40, 60},  {64, -21.9}, {-33, 150}, {12, -71},
+                                {0, 1},     {45, 13},    {-40, 13}, {-46, 13},   {80, 13},   {50, -160},
+                                {40, -160}, {-44, -160}, {0, -170}, {-70, 20},   {0, -40},   {0, 60}};
     double peggiore = 0;
     int confronti = 0, notte = 0;
-    for (const Piano &p : piani) {
+    for (const auto &p : prova::Tabella("mondo_piani.txt")) {
+        const auto n = [&p](std::size_t i) { return std::stod(p.at(i)); };
         for (const int inv : {0, 1}) {
-            for (const auto &luogo : luoghi) {
+            for (const auto &[lat, lon] : luoghi) {
                 BancoMappa b;
                 DialInputs &in = b.s.in;
-                in.txtLAT = p.lat, in.txtLonG = p.lonG, in.txtDec = p.dec, in.txtInc = p.inc, in.TxtStilo = p.gn;
-                in.ChCentimetro = p.mm, in.ck_inv = inv;
-                const double metri = p.mm == 1 ? 0.001 : 1;
-                b.mondo("A1;" + std::to_string(luogo[0]) + ';' + std::to_string(luogo[1]) + "\nA1;" + std::to_string(luogo[0]) +
-                        ';' + std::to_string(luogo[1]));
-                DisegnaMondo(b.s);
+                in.txtLAT = p[0], in.txtLonG = p[1], in.txtDec = p[2], in.txtInc = p[3], in.TxtStilo = p[4];
+                in.ChCentimetro = p[5] == "1", in.ck_inv = inv;
+                b.luogo(lat, lon);
                 // Without the inversion the map is mirrored north to south: ordinates are minus the latitude.
-                const double lat = inv == 1 ? luogo[0] : -luogo[0];
-                const double sito = std::stod(p.lat), lonSito = -std::stod(p.lonG), gn = std::stod(p.gn) * metri;
-                const bool orizzontale = std::string(p.inc) == "90";
-                const auto q = atteso(lat, luogo[1], sito, lonSito, orizzontale ? 0 : std::stod(p.dec), std::stod(p.inc), gn);
-                // A place behind the plane would be seen from a plane that looks the other way.
-                const auto rovescio =
-                    atteso(-lat, luogo[1] + 180, sito, lonSito, orizzontale ? 0 : std::stod(p.dec), std::stod(p.inc), gn);
-                EXPECT_NEAR(q[0], rovescio[0], 1e-9);
-                if (b.linee().empty()) {
-                    ++notte;
-                    continue;
-                }
-                const RecLinea &l = b.linee().front();
-                const double scarto = std::max(std::abs(l.X1 - q[0]), std::abs(-l.Y1 - q[1])) / gn;
-                EXPECT_LT(scarto, 1e-6) << p.lat << ' ' << p.inc << ' ' << lat << ' ' << luogo[1];
-                EXPECT_EQ(l.X1, l.X2);
-                EXPECT_EQ(l.colore, QB(11));
+                const double gn = n(4) * (p[5] == "1" ? 0.001 : 1);
+                const auto q = atteso(inv == 1 ? lat : -lat, lon, n(0), -n(1), n(2), n(3), gn);
+                ASSERT_EQ(b.l.size(), q[2] > 0 ? 1u : 0u)
+                    << p[0] << ' ' << p[2] << ' ' << p[3] << ' ' << inv << ' ' << lat << ' ' << lon;
+                if (b.l.empty() && ++notte > 0) continue;
+                const double scarto = std::max(std::abs(b.l[0].X1 - q[0]), std::abs(-b.l[0].Y1 - q[1])) / gn;
+                EXPECT_LT(scarto, 1e-6) << p[0] << ' ' << p[3] << ' ' << inv << ' ' << lat << ' ' << lon;
+                EXPECT_TRUE(b.l[0].X1 == b.l[0].X2 && b.l[0].colore == QB(11));
                 peggiore = std::max(peggiore, scarto);
                 ++confronti;
             }
         }
     }
     std::printf("%d places, worst %.1e ortostili; %d behind the plane\n", confronti, peggiore, notte);
-    EXPECT_GT(confronti, 30);
-}
-
-TEST(DisegnaMondo, OnlyTheSideBeforeThePlaneIsDrawn) {
-    struct Caso {
-        const char *dec, *inc;
-        double lat, lon;
-        bool visibile;
-    };
-    // Off the site's meridian: exactly on it a place north of the zenith has the azimuth 0, as the formula gives it.
-    const Caso casi[] = {
-        {"0", "90", 45, 13, true},    {"0", "90", -40, 13, true},    {"0", "90", -46, 13, false}, {"0", "90", 50, -160, true},
-        {"0", "90", 40, -160, false}, {"0", "90", -44, -160, false}, {"0", "0", 0, 13, true},     {"0", "0", 80, 13, false},
-        {"0", "0", -70, 20, true},    {"0", "0", 0, -170, false},    {"-90", "0", 0, 60, true},   {"-90", "0", 0, -40, false},
-        {"90", "0", 0, -40, true},    {"90", "0", 0, 60, false},     {"170", "0", 80, 13, true},  {"170", "0", 0, 13, false},
-        {"0", "0", 80, 12, true},
-    };
-    for (const Caso &c : casi) {
-        BancoMappa b;
-        b.s.in.ck_inv = 1, b.s.in.txtDec = c.dec, b.s.in.txtInc = c.inc;
-        const std::string luogo = "A1;" + std::to_string(c.lat) + ';' + std::to_string(c.lon) + '\n';
-        b.mondo(luogo + luogo);
-        DisegnaMondo(b.s);
-        EXPECT_EQ(b.linee().size(), c.visibile ? 1u : 0u) << c.dec << ' ' << c.inc << ' ' << c.lat << ' ' << c.lon;
-    }
+    EXPECT_TRUE(confronti > 100 && notte > 100);
 }
 
 TEST(DisegnaMondo, FilterFrameAndChosenCountry) {
-    const std::string due = "A1;44;11\nA1;45;12\nA1;46;13\nB1;45;11\nB1;46;11\nA2;43;12\nA2;43;13\n";
-    struct Caso {
-        const char *filtro, *stato, *x1;
-        std::size_t corde;
-        Colore colore;
-    };
-    const Caso casi[] = {
-        {"100", " World", "1000", 4, QB(11)}, {"0", " World", "1000", 0, 0},   {"", " World", "1000", 0, 0},
-        {"100", "A", "1000", 3, QB(12)},      {"100", "B", "1000", 1, QB(12)}, {"100", "a", "1000", 0, 0},
-        {"100", "World", "1000", 0, 0},       {".0001", "A", "1000", 0, 0},    {"100", " World", "-.0002", 2, QB(11)}};
-    for (const Caso &c : casi) {
+    for (const auto &r : prova::Tabella("mondo_filtri.txt")) {
         BancoMappa b;
-        b.s.in.ck_inv = 1;
-        b.mondo(due);
-        b.s.in.Filtertxt = c.filtro, b.s.in.cmbStati = c.stato, b.s.in.txtX1 = c.x1;
+        b.s.mondo = LeggiMondo("A1;44;11\nA1;45;12\nA1;46;13\nB1;45;11\nB1;46;11\nA2;43;12\nA2;43;13\n", -12);
+        b.s.in.Filtertxt = r.at(0), b.s.in.cmbStati = prova::Scritto(r.at(1)), b.s.in.txtX1 = r.at(2);
         DisegnaMondo(b.s);
-        EXPECT_EQ(b.linee().size(), c.corde) << c.filtro << c.stato << c.x1;
-        for (const RecLinea &l : b.linee()) EXPECT_EQ(l.colore, c.colore);
-        // The newer end is tested, the older may lie outside.
-        if (std::string(c.x1) == "-.0002") {
-            for (const RecLinea &l : b.linee()) EXPECT_TRUE(l.X1 < -.0002 && l.X2 > -.0002);
+        EXPECT_EQ(std::to_string(b.l.size()), r.at(3)) << r.at(0) << r.at(1) << r.at(2);
+        for (const RecLinea &l : b.l) {
+            EXPECT_EQ(l.colore, QB(std::stoi(r.at(4))));
+            EXPECT_TRUE(r.at(2) == "1000" || (l.X1 < -.0002 && l.X2 > -.0002));
         }
     }
 }
@@ -241,58 +179,153 @@ TEST(DisegnaMondo, FilterFrameAndChosenCountry) {
 TEST(DisegnaMondo, APlaceBehindThePlaneLeavesItsSlotAsItWas) {
     const std::string qui = "46;13\n", la = "47;14\n", notte = "-44;-160\n";
     BancoMappa b;
-    b.s.in.ck_inv = 1;
     // The first run starts in the dark: its chord comes from a slot never written. The third meets the first one's slot.
-    b.mondo("A1;" + notte + "A1;" + qui + "A2;" + la + "B1;" + notte + "B1;" + qui + "C1;" + notte + "C1;" + notte);
-    DisegnaMondo(b.s);
-    const auto &l = b.linee();
-    ASSERT_EQ(l.size(), 2u);
-    EXPECT_EQ(l[0].X2, 0);
-    EXPECT_EQ(l[0].Y2, 0);
-    EXPECT_EQ(l[1].X1, l[0].X1);
-    EXPECT_LT(l[1].X2, l[0].X1);  // 47 N 14 E lies beyond 46 N 13 E
-
-    // A second press starts afresh.
-    DisegnaMondo(b.s);
-    ASSERT_EQ(l.size(), 4u);
-    EXPECT_EQ(l[2].X2, 0);
+    b.disegna("A1;" + notte + "A1;" + qui + "A2;" + la + "B1;" + notte + "B1;" + qui + "C1;" + notte + "C1;" + notte);
+    ASSERT_EQ(b.l.size(), 2u);
+    EXPECT_TRUE(b.l[0].X2 == 0 && b.l[0].Y2 == 0);
+    EXPECT_EQ(b.l[1].X1, b.l[0].X1);
+    EXPECT_LT(b.l[1].X2, b.l[0].X1);  // 47 N 14 E lies beyond 46 N 13 E
+    DisegnaMondo(b.s);                // a second press starts afresh
+    ASSERT_EQ(b.l.size(), 4u);
+    EXPECT_EQ(b.l[2].X2, 0);
 }
 
-TEST(DisegnaMondo, PointsPastTheArraysAreSkipped) {
-    BancoMappa b;
-    b.s.in.ck_inv = 1;
-    std::string lunga;
-    for (int i = 0; i < 100010; ++i) lunga += "A1;45;12\n";
-    b.mondo(lunga + "B1;45;12\nB1;45;12\n");
-    DisegnaMondo(b.s);
-    EXPECT_EQ(b.linee().size(), 100000u + 1u);
-}
-
-TEST(DisegnaMondo, HostileFieldsAndPlacesAreHarmless) {
+TEST(DisegnaMondo, LongRunsHostileFieldsAndPlacesAreHarmless) {
+    BancoMappa lungo;
+    std::string testo;
+    for (int i = 0; i < 100010; ++i) testo += "A1;45;12\n";
+    lungo.disegna(testo + "B1;45;12\nB1;45;12\n");
+    EXPECT_EQ(lungo.l.size(), 100000u + 1u);  // points past the arrays are skipped
     for (const char *campo : {"1e308", "-1e308", "1e999", "", "abc", "90", "-90", "1e-320"}) {
         BancoMappa b;
+        b.s.in.ck_inv = 0;
         b.s.in.txtLAT = b.s.in.txtDec = b.s.in.txtInc = b.s.in.TxtStilo = b.s.in.txtLonG = campo;
-        b.mondo("A1;1e308;-1e308\nA1;1e308;1e300\nA1;90;0\nA1;-90;0\nA1;0;0\nA1;0;0");
-        DisegnaMondo(b.s);
-        for (const RecLinea &l : b.linee()) EXPECT_TRUE(std::isfinite(l.X1 + l.Y1 + l.X2 + l.Y2)) << campo;
+        b.disegna("A1;1e308;-1e308\nA1;1e308;1e300\nA1;90;0\nA1;-90;0\nA1;0;0\nA1;0;0");
+        for (const RecLinea &l : b.l) EXPECT_TRUE(std::isfinite(l.X1 + l.Y1 + l.X2 + l.Y2)) << campo;
     }
 }
 
-// The shipped file: whole rings, no edge longer than a degree, no digit left in a name.
-TEST(MondoCsv, IsWhatADialNeeds) {
+// How far a place lies from a country, degrees; 0 inside it.
+double distanza(const Mondo &m, std::string_view paese, double X, double Y) {
+    double vicino = 1e9;
+    bool dentro = false;
+    for (std::size_t t = 0; t < m.tratti.size(); ++t) {
+        if (m.paesi[m.tratti[t].paese] != paese) continue;
+        for (std::size_t i = m.tratti[t].primo + 1; i < Fine(m, t); ++i) {
+            const auto &p = m.punti[i], &q = m.punti[i - 1];
+            const double k = std::cos(Y * PI / 180), ex = (q.X - p.X) * k, ey = q.Y - p.Y, dx = (X - p.X) * k, dy = Y - p.Y;
+            const double u = std::clamp((dx * ex + dy * ey) / (ex * ex + ey * ey), 0.0, 1.0);
+            vicino = std::min(vicino, std::hypot(dx - u * ex, dy - u * ey));
+            if ((p.Y > Y) != (q.Y > Y) && X < p.X + (q.X - p.X) * (Y - p.Y) / (q.Y - p.Y)) dentro = !dentro;
+        }
+    }
+    return dentro ? 0 : vicino;
+}
+
+// The shipped file has whole rings and no edge longer than a degree; each city lies in its country.
+TEST(Citta, EachPlaceLiesInItsCountry) {
     const Mondo m = MondoSpedito();
     EXPECT_EQ(m.paesi.size(), 242u);
     EXPECT_GT(m.punti.size(), 90000u);
-    double peggiore = 0;
+    double lato = 0, peggiore = 0;
     for (std::size_t t = 0; t < m.tratti.size(); ++t) {
-        const std::size_t fine = t + 1 < m.tratti.size() ? m.tratti[t + 1].primo : m.punti.size();
-        EXPECT_GE(fine - m.tratti[t].primo, 2u);
-        for (std::size_t i = m.tratti[t].primo + 1; i < fine; ++i) {
+        EXPECT_GE(Fine(m, t) - m.tratti[t].primo, 2u);
+        for (std::size_t i = m.tratti[t].primo + 1; i < Fine(m, t); ++i) {
             const auto &p = m.punti[i], &q = m.punti[i - 1];
-            peggiore = std::max({peggiore, std::abs(std::remainder(p.X - q.X, 360)), std::abs(p.Y - q.Y)});
+            lato = std::max({lato, std::abs(std::remainder(p.X - q.X, 360)), std::abs(p.Y - q.Y)});
         }
     }
-    EXPECT_LT(peggiore, 1.02);
+    EXPECT_LT(lato, 1.02);
+
+    std::map<std::string, Citta> tavola;
+    for (const Citta &c : TavolaCitta()) tavola.emplace(SenzaBlanks(c.nome), c);
+    ASSERT_EQ(TavolaCitta().size(), 165u);
+    EXPECT_EQ(TavolaCitta()[0].nome, "Wellington");
+    EXPECT_EQ(TavolaCitta()[164].nome, "Midway Island");
+    std::set<std::string> viste;
+    for (const auto &r : prova::Tabella("citta.txt")) {
+        for (std::size_t i = 1; i < r.size(); ++i) {
+            const Citta &c = tavola.at(r[i]);
+            EXPECT_TRUE(viste.insert(r[i]).second) << r[i];
+            const double d = distanza(m, r[0], c.X, c.Y);
+            EXPECT_LT(d, 0.15) << r[i] << " in " << r[0];  // a quay or an islet may lie off the outline's 1:50 million
+            peggiore = std::max(peggiore, d);
+        }
+    }
+    // Atolls that the outlines do not have: latitude and longitude, north and East positive.
+    const std::tuple<const char *, double, double> atolli[] = {
+        {"Palmyra Atoll", 5.88, -162.08}, {"Johnston Atoll", 16.73, -169.53}, {"Midway Island", 28.21, -177.38}};
+    for (const auto &[nome, lat, lon] : atolli) {
+        EXPECT_LT(std::max(std::abs(tavola.at(nome).Y + lat), std::abs(tavola.at(nome).X + lon)), 0.05) << nome;
+        viste.emplace(nome);
+    }
+    std::printf("%zu places, the worst %.3f degrees outside its country's outline\n", viste.size(), peggiore);
+    EXPECT_EQ(viste.size(), 165u);
+}
+
+TEST(DisegnaCitta, RowsOfTheTableInSightAndNothingElse) {
+    for (const auto &r : prova::Tabella("citta_righe.txt")) {
+        SCOPED_TRACE(r.at(0) + ' ' + r.at(1));
+        BancoMappa b;
+        b.s.in.punto = 1, b.s.in.txtEAST = r.at(0), b.s.in.txtWest = r.at(1);
+        DisegnaCitta(b.s);
+        std::vector<std::string> nomi;
+        for (const RecTesto &t : b.lista.Testi) nomi.push_back(t.Testo);
+        EXPECT_EQ(nomi, prova::Divisi(r.at(2), ','));
+        ASSERT_EQ(b.lista.Figure.size(), nomi.size());
+        for (std::size_t i = 0; i < nomi.size(); ++i) {
+            const RecFigura &f = b.lista.Figure[i];
+            EXPECT_TRUE(f.X2 == 0.0009 && f.colore == QB(14) && f.Riempimento == QB(12));
+            EXPECT_EQ(b.lista.Testi[i].X, f.X1);
+            EXPECT_NEAR(b.lista.Testi[i].Y, f.Y1 + 0.02, 1e-15);
+        }
+        EXPECT_EQ(b.s.in.punto, 1);
+        EXPECT_EQ(b.utente.box, r.at(3).empty() ? std::vector<std::string>{} : std::vector{r.at(3)});
+    }
+    // A city stands where an outline through it does: the two take the site's longitude away in different places.
+    BancoMappa b;
+    b.s.in.txtEAST = b.s.in.txtWest = "74";
+    b.luogo(-TavolaCitta()[73].Y, -TavolaCitta()[73].X);
+    DisegnaCitta(b.s);
+    EXPECT_NEAR(b.lista.Figure.at(0).X1, b.l.at(0).X1, 1e-15);
+    EXPECT_NEAR(b.lista.Figure.at(0).Y1, b.l.at(0).Y1, 1e-15);
+}
+
+TEST(PuntoOpzionale, MarksTheShadowOfADeclinationAndAnHourAngle) {
+    // The circle's radius is not scaled, the star's is.
+    for (const bool mm : {false, true}) {
+        BancoMappa b;
+        DialInputs &in = b.s.in;
+        in.TxtStilo = mm ? "200" : ".2", in.ChCentimetro = mm, in.txtDelta = "20", in.txtAO = "-12", in.punto = 1;
+        PuntoOpzionale(b.s);
+        // Hour angle -12 + 12: the Sun culminates, 65 degrees high in the south; its shadow falls north.
+        ASSERT_EQ(b.lista.Figure.size(), 1u);
+        const RecFigura &f = b.lista.Figure[0];
+        EXPECT_NEAR(f.X1, 0, 1e-9);
+        EXPECT_NEAR(-f.Y1, .2 * std::tan(25 * PI / 180), 1e-9);
+        EXPECT_NEAR(f.X2 / (mm ? 200 : .2), std::sin(0.1 * PI) / std::sin(0.7 * PI) / 20, 1e-7);
+        EXPECT_TRUE(f.colore == QB(14) && f.Riempimento == QB(9));
+        ASSERT_EQ(b.l.size(), 10u);
+        EXPECT_NEAR(std::hypot(b.l[0].X1 - f.X1, b.l[0].Y1 - f.Y1), .2 / 20, 1e-12);
+        EXPECT_EQ(b.l[0].colore, QB(15));
+        EXPECT_TRUE(in.punto == 0 && b.s.v.deltaOpz == 20);
+        EXPECT_EQ(b.utente.messaggi, std::vector<std::string>{"Optional position"});
+    }
+}
+
+TEST(DisegnaStella, FiveTipsInOneClosedStroke) {
+    BancoMappa b;
+    DisegnaStella(b.s, 0.5, -0.25, 0.1, 12);
+    DisegnaStella(b.s, 0, 0, Valore::nessuno(), 12);  // draws nothing
+    ASSERT_EQ(b.l.size(), 10u);
+    for (std::size_t k = 0; k < 10; ++k) {
+        const RecLinea &l = b.l[k], &poi = b.l[(k + 1) % 10];
+        EXPECT_TRUE(l.colore == QB(12) && l.X2 == poi.X1 && l.Y2 == poi.Y1) << k;
+        EXPECT_NEAR(std::hypot(l.X1 - 0.5, l.Y1 + 0.25), k % 2 == 0 ? 0.1 : 0.0381966, 1e-12);
+        // Anticlockwise as seen, from 72 degrees; the sheet's ordinates grow downward.
+        const double gradi = std::atan2(-(l.Y1 + 0.25), l.X1 - 0.5) * 180 / PI;
+        EXPECT_NEAR(std::remainder(gradi - 72 - 36.0 * static_cast<double>(k), 360), 0, 1e-6);
+    }
 }
 
 }  // namespace

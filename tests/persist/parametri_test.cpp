@@ -1,7 +1,13 @@
-// The store of keys and values, to the byte.
+// The store of keys and values, to the byte, and what a kill in the middle and a disk that fills up leave of it.
 #include "persist/parametri.h"
 
+#include <sys/resource.h>
+#include <sys/wait.h>
+
+#include <csignal>
+
 #include "comuni/cartella.h"
+#include "comuni/prova.h"
 #include "core/campi.h"
 
 namespace ombrelia {
@@ -12,69 +18,22 @@ using ParametriTest = prova::InCartella;
 TEST_F(ParametriTest, EachWriteKeepsTheOtherRows) {
     Parametri p;
     EXPECT_EQ(p.Leggi("LAT"), "");
-    EXPECT_EQ(p.Scrivi("LAT", "45,5"), std::nullopt);
-    EXPECT_EQ(p.Scrivi("lat", ""), std::nullopt);
-    EXPECT_EQ(p.Scrivi("DEC", " -20 "), std::nullopt);
-    EXPECT_EQ(p.Scrivi("LAT", "46"), std::nullopt);
-    EXPECT_EQ(leggi("Ombrelia.dat"), "\"LAT\",\"46\"\r\n\"lat\",\"\"\r\n\"DEC\",\" -20 \"\r\n");
-    Parametri altro;
-    EXPECT_EQ(altro.Leggi("LAT"), "46");
-    EXPECT_EQ(altro.Leggi("DEC"), " -20 ");
-    EXPECT_EQ(altro.Leggi("Lat"), "");
+    const std::pair<const char *, const char *> righe[] = {
+        {"LAT", "45,5"}, {"lat", ""}, {"A", "5\" pipe, x"}, {"DEC", " -20 "}, {"LAT", "46"}};
+    for (const auto &[chiave, valore] : righe) EXPECT_EQ(p.Scrivi(chiave, valore), std::nullopt);
+    EXPECT_EQ(leggi("Ombrelia.dat"), "\"LAT\",\"46\"\r\n\"lat\",\"\"\r\n\"A\",\"5\" pipe, x\"\r\n\"DEC\",\" -20 \"\r\n");
+    EXPECT_EQ(p.Leggi("A"), "5\" pipe, x");
+    EXPECT_EQ(Parametri().Leggi("LAT"), "46");
+    EXPECT_EQ(Parametri().Leggi("A"), "5") << "a quote in a value ends it when it is read again";
+    EXPECT_EQ(Parametri().Leggi("Lat"), "");
     EXPECT_EQ(quanti(), 1U);
 }
 
 TEST_F(ParametriTest, WhatFilesHold) {
-    const struct {
-        std::string file;
-        const char *valore;  // of the key K
-    } casi[] = {
-        {"\"K\",\"first\"\r\n\"K\",\"second\"\r\n", "first"},
-        {"K,plain\nL,x\n", "plain"},
-        {"\"L\"\r\n\"x\"\r\n\"K\",\"v\"\r\n", "v"},  // the next line's first field is the value
-        {"\"L\"\r\n\"K\",\"v\"\r\n", ""},            // and so K is a value here, and v a key
-        {"\"K\",\"say \"hm\"\"\r\n", "say "},
-        {"\"L\",\"x\"\r\n\"K\"", ""},
-        {"\xEF\xBB\xBF\"K\",\"perch\xC3\xA9\"\r\n", "perché"},
-        {"\"K\",\"perch\xE9 \x80\"\r\n", "perché €"},  // Windows-1252
-        {"\"k\",\"x\"\r\n", ""},
-        {"", ""},
-    };
-    for (const auto &caso : casi) {
-        scrivi("Ombrelia.dat", caso.file);
-        EXPECT_EQ(Parametri().Leggi("K"), caso.valore) << caso.file;
+    for (const auto &r : prova::Tabella("parametri.txt")) {
+        scrivi("Ombrelia.dat", prova::Scritto(r.at(0)));
+        EXPECT_EQ(Parametri().Leggi("K"), prova::Scritto(r.at(1))) << r[0];
     }
-}
-
-TEST_F(ParametriTest, AQuoteInAValueEndsItOnlyWhenItIsReadAgain) {
-    Parametri p;
-    EXPECT_EQ(p.Scrivi("A", "5\" pipe, x"), std::nullopt);
-    EXPECT_EQ(p.Scrivi("B", "2"), std::nullopt);
-    EXPECT_EQ(leggi("Ombrelia.dat"), "\"A\",\"5\" pipe, x\"\r\n\"B\",\"2\"\r\n");
-    EXPECT_EQ(p.Leggi("A"), "5\" pipe, x");
-    EXPECT_EQ(Parametri().Leggi("A"), "5");
-}
-
-TEST_F(ParametriTest, ManyRows) {
-    std::string file;
-    for (int i = 0; i < 5000; ++i) file += "\"k" + std::to_string(i) + "\",\"" + std::to_string(i * i) + "\"\r\n";
-    scrivi("Ombrelia.dat", file);
-    Parametri p;
-    EXPECT_EQ(p.Leggi("k4999"), "24990001");
-    EXPECT_EQ(p.Scrivi("k0", "0"), std::nullopt);
-    EXPECT_EQ(leggi("Ombrelia.dat"), file);
-}
-
-TEST_F(ParametriTest, TheNextLoadOrWriteUsesTheName) {
-    scrivi("altro.dat", "\"K\",\"v\"\r\n");
-    Parametri p;
-    EXPECT_EQ(p.NomeFile(), "Ombrelia.dat");
-    p.NomeFile("altro.dat");
-    EXPECT_EQ(p.Leggi("K"), "v");
-    p.NomeFile("terzo.dat");
-    EXPECT_EQ(p.Scrivi("L", "w"), std::nullopt);
-    EXPECT_EQ(leggi("terzo.dat"), "\"K\",\"v\"\r\n\"L\",\"w\"\r\n");
-    EXPECT_EQ(leggi("altro.dat"), "\"K\",\"v\"\r\n");
 }
 
 TEST_F(ParametriTest, NoFileIsLostToAWriteThatCannotBe) {
@@ -93,6 +52,49 @@ TEST_F(ParametriTest, NoFileIsLostToAWriteThatCannotBe) {
     EXPECT_EQ(leggi("grande.dat"), grande);
     EXPECT_EQ(leggi("pieno.dat"), pieno);
     EXPECT_EQ(quanti(), 3U) << "nothing is left beside the targets";
+}
+
+std::string Grande(char c) { return std::string(300000, c); }
+
+TEST_F(ParametriTest, AKillLeavesTheOldFileOrTheNew) {
+    ASSERT_EQ(Parametri().Scrivi("K", Grande('a')), std::nullopt);
+    const std::string prima = leggi("Ombrelia.dat");
+    bool scritto = false;
+    for (int giro = 0; giro < 15; ++giro) {
+        const pid_t figlio = ::fork();
+        ASSERT_GE(figlio, 0);
+        if (figlio == 0) {
+            for (char c = 'b';; c = c == 'z' ? 'b' : static_cast<char>(c + 1)) (void)Parametri().Scrivi("K", Grande(c));
+        }
+        ::usleep(1000 + 3000 * static_cast<unsigned>(giro));
+        ::kill(figlio, SIGKILL);
+        ::waitpid(figlio, nullptr, 0);
+        const std::string poi = leggi("Ombrelia.dat");
+        ASSERT_EQ(poi.size(), prima.size());
+        const std::string valore = Parametri().Leggi("K");
+        ASSERT_EQ(valore, Grande(valore[0]));
+        scritto = scritto || poi != prima;
+    }
+    EXPECT_TRUE(scritto) << "no child came as far as one write";
+}
+
+TEST_F(ParametriTest, AFullDiskLeavesTheOldFile) {
+    ASSERT_EQ(Parametri().Scrivi("K", "old"), std::nullopt);
+    const std::string prima = leggi("Ombrelia.dat");
+    const pid_t figlio = ::fork();
+    ASSERT_GE(figlio, 0);
+    if (figlio == 0) {
+        std::signal(SIGXFSZ, SIG_IGN);
+        const rlimit limite{100000, 100000};
+        if (::setrlimit(RLIMIT_FSIZE, &limite) != 0) ::_exit(3);
+        const auto errore = Parametri().Scrivi("K", Grande('b'));
+        ::_exit(errore && errore->find("Ombrelia.dat") != std::string::npos ? 0 : 1);
+    }
+    int stato = 0;
+    ::waitpid(figlio, &stato, 0);
+    EXPECT_TRUE(WIFEXITED(stato) && WEXITSTATUS(stato) == 0) << "the failure is told with the file's name";
+    EXPECT_EQ(leggi("Ombrelia.dat"), prima);
+    EXPECT_EQ(quanti(), 1U) << "nothing is left beside it";
 }
 
 }  // namespace

@@ -2,34 +2,17 @@
 #include "persist/salvataggio.h"
 
 #include "comuni/cartella.h"
+#include "comuni/prova.h"
 #include "core/campi.h"
 
 namespace ombrelia {
 namespace {
 
 TEST(Salvataggio, TagsByFirstOccurrence) {
-    const struct {
-        const char *testo, *nome, *frammento, *valore;
-    } casi[] = {
-        {"<txtH visible=true>1</txtH>", "txtH", "<txtH visible=true>1", "1"},
-        {"<TXTH visible=true>Perché</txth>", " txtH ", "<TXTH visible=true>Perché", "Perché"},
-        {"<txtHour>1</txtHour><txtH>2</txtH>", "txtH", "<txtHour>1", "1"},  // the longer name stands earlier
-        {"<txtH>2</txtH><txtHour>1</txtHour>", "txtH", "<txtH>2", "2"},
-        {"<a>x <b>y</a><b>z</b>", "b", "<b>y</a><b>z", "y</a><b>z"},  // a value that holds another's open
-        {"<a>x </b>y</a><b>z</b>", "b", "", ""},                      // or its close
-        {"</a><a>1", "a", "", ""},
-        {"<a>1", "a", "", ""},
-        {"1</a>", "a", "", ""},
-        {"", "a", "", ""},
-        {"<a</a>", "a", "<a", ""},
-        {"<a></a>", "a", "<a>", ""},
-        {"<a>1>2</a>", "a", "<a>1>2", "1>2"},
-        {"<_a>5</_a><a>6</a>", "a", "<a>6", "6"},
-    };
-    for (const auto &caso : casi) {
-        const TestoProgetto t(caso.testo);
-        EXPECT_EQ(t.EstraiTag(caso.nome), caso.frammento) << caso.testo;
-        EXPECT_EQ(ValoreTag(t.EstraiTag(caso.nome)), caso.valore) << caso.testo;
+    for (const auto &r : prova::Tabella("etichette.txt")) {
+        const TestoProgetto t(r.at(0));
+        EXPECT_EQ(t.EstraiTag(' ' + r.at(1)), r.at(2)) << r[0];
+        EXPECT_EQ(ValoreTag(t.EstraiTag(r[1])), r.at(3)) << r[0];
     }
     const TestoProgetto foglio("<a>6</a><_a>5</_A><_Shiftx>1.5E-02</_Shiftx>");
     EXPECT_EQ(foglio.EstraiTagSheet("A"), "<_a>5");
@@ -40,10 +23,7 @@ using SalvataggioTest = prova::InCartella;
 
 TEST_F(SalvataggioTest, WhatAProjectFileHolds) {
     EXPECT_EQ(ProgettoDaTesto("<a>1</a>\r\n<_b>2</_b>"), "\"<a>1</a>\r\n<_b>2</_b>\"\r\n");
-    const struct {
-        std::string file;
-        std::optional<std::string> testo;
-    } casi[] = {
+    const std::pair<std::string, std::optional<std::string>> casi[] = {
         {ProgettoDaTesto("uno\r\ndue, tre"), "uno\r\ndue, tre"},
         {ProgettoDaTesto("prima \" dopo"), "prima "},
         {"senza virgolette, resto", "senza virgolette"},
@@ -54,9 +34,9 @@ TEST_F(SalvataggioTest, WhatAProjectFileHolds) {
         {"\r\n\"dopo\"", {}},
         {"\"" + std::string(FILE_MASSIMO, 'x') + "\"", {}},
     };
-    for (const auto &caso : casi) {
-        scrivi("p.omb", caso.file);
-        EXPECT_EQ(LeggiProgetto("p.omb"), caso.testo) << caso.file.substr(0, 50);
+    for (const auto &[file, testo] : casi) {
+        scrivi("p.omb", file);
+        EXPECT_EQ(LeggiProgetto("p.omb"), testo) << file.substr(0, 50);
     }
     EXPECT_EQ(LeggiProgetto("manca.omb"), std::nullopt);
     EXPECT_EQ(LeggiProgetto("."), std::nullopt);

@@ -20,33 +20,27 @@ constexpr double INF = std::numeric_limits<double>::infinity();
 Tavolo tavoloDiProva() { return Tavolo((0.25 + 0.013) * 56700, (0.5 + 0.015) * 56700); }
 
 TEST(Pagine, NumeroDellaPiastrella) {
-    struct Riga {
-        double larghezze, x, y;  // sheet in tiles; position in tiles
-        int pagina;              // 0: none
-    };
-    const Riga casi[] = {{2.04, 0.5, 0.5, 1},    {2.04, 1.5, 0.5, 2}, {2.04, 0.5, 1.5, 3}, {2.06, 0.5, 1.5, 4},
-                         {2.06, 2.03, 2.5, 9},   {1, 0.5, 3.5, 4},    {2, -0.01, 0.5, 0},  {2, 0.5, -0.01, 0},
-                         {2, 0.5, 4999.5, 9999}, {2, 0.5, 5000.5, 0}, {2, 1e18, 0.5, 0},   {2, INF, 0.5, 0},
-                         {2, 0.5, -INF, 0},      {-1, 0.5, 0.5, 1}};
-    for (const Riga &r : casi) {
+    // Sheet in tiles; position in tiles; number, 0 for none.
+    const double casi[][4] = {{2.04, 0.5, 0.5, 1},    {2.04, 1.5, 0.5, 2}, {2.04, 0.5, 1.5, 3}, {2.06, 0.5, 1.5, 4},
+                              {2.06, 2.03, 2.5, 9},   {1, 0.5, 3.5, 4},    {2, -0.01, 0.5, 0},  {2, 0.5, -0.01, 0},
+                              {2, 0.5, 4999.5, 9999}, {2, 0.5, 5000.5, 0}, {2, 1e18, 0.5, 0},   {2, INF, 0.5, 0},
+                              {2, 0.5, -INF, 0},      {-1, 0.5, 0.5, 1}};
+    for (const auto &[larghezze, x, y, pagina] : casi) {
         Tavolo t = tavoloDiProva();
-        t.QuadranteL(r.larghezze * t.LarghezzaPagina());
+        t.QuadranteL(larghezze * t.LarghezzaPagina());
         t.QuadranteH(1.5);
-        t.xTrovaA4(r.x * t.LarghezzaPagina(), r.y * t.AltezzaPagina());
-        ASSERT_EQ(t.lista().Aree.size(), r.pagina == 0 ? 0U : 1U) << r.larghezze << " " << r.x << " " << r.y;
-        EXPECT_EQ(t.lista().Linee.size(), r.pagina == 0 ? 0U : 4U);
-        if (r.pagina == 0) continue;
-        EXPECT_EQ(t.lista().Aree[0].Pagina, r.pagina) << r.larghezze << " " << r.x << " " << r.y;
-        EXPECT_NEAR(t.lista().Aree[0].X, std::floor(r.x) * t.LarghezzaPagina(), 1e-9);
-        EXPECT_NEAR(t.lista().Aree[0].Y, std::floor(r.y) * t.AltezzaPagina(), 1e-6);
+        t.xTrovaA4(x * t.LarghezzaPagina(), y * t.AltezzaPagina());
+        ASSERT_EQ(t.lista().Aree.size(), pagina == 0 ? 0U : 1U) << larghezze << " " << x << " " << y;
+        if (pagina == 0) continue;
+        EXPECT_EQ(t.lista().Aree[0].Pagina, pagina) << larghezze << " " << x << " " << y;
+        EXPECT_NEAR(t.lista().Aree[0].X, std::floor(x) * t.LarghezzaPagina(), 1e-9);
+        EXPECT_NEAR(t.lista().Aree[0].Y, std::floor(y) * t.AltezzaPagina(), 1e-6);
     }
 }
 
 TEST(Pagine, ContornoENumeroRegistrati) {
     Tavolo t = tavoloDiProva();
-    t.QuadranteL(0.5);
-    t.ShiftX(0.1);
-    t.ShiftY(0.2);
+    prova::Disegna(t, "F 0.5 0.5 0.1 0.2");
     t.xTrovaA4(0.3, 0.1);
     t.xTrovaA4(0.3, 0.1);
     EXPECT_EQ(t.lista().Aree.size(), 2U) << "chosen twice, printed twice";
@@ -65,10 +59,7 @@ TEST(Pagine, ContornoENumeroRegistrati) {
 TEST(Pagine, Griglia) {
     Tavolo t = tavoloDiProva();
     Registratore d;
-    t.QuadranteL(0.6);
-    t.QuadranteH(0.7);
-    t.ShiftX(0.1);
-    t.ShiftY(0.2);
+    prova::Disegna(t, "F 0.6 0.7 0.1 0.2");
     t.dispositivo = &d;
     t.xPlotA4();
     // 0.25, 0.5 ... up to 0.6 + 0.75; 0.5, 1 ... up to 0.7 + 1.5.
@@ -103,10 +94,8 @@ TEST(Stampa, TuttoIlFoglio) {
     t.dispositivo = &schermo;
     t.Marchio = "marchio";
     t.ForeColor = 255;
-    t.Dati("testo", 0.1, 0.1);
-    t.xLine(0, 0, 0.1, 0, 255, "a");
-    t.xBox(0, 0, 0.1, 0.1, 0xFFFFFF, true, "Cornice");
-    t.xCircle(0, 0, 0.01, 255, 0xFF00, 1, 0, 0);
+    prova::Disegna(t, "T 0.1 0.1 testo;L 0 0 0.1 0 255 a;B 0 0 0.1 0.1 16777215 1 Cornice;C 0 0 0.01 255 65280 1 0 0");
+    EXPECT_EQ(schermo.atti[0], "T 5670 5670 255 testo");
     schermo.atti.clear();
     t.PrintAll(carta);
     // In black, with the line's own width, and a filled box as its outline.
@@ -133,10 +122,7 @@ TEST(Stampa, PiastrelleScelte) {
     Registratore carta;
     EXPECT_FALSE(t.PrintArea(carta));
     EXPECT_TRUE(carta.atti.empty());
-    t.QuadranteL(1);
-    t.QuadranteH(1);
-    t.Scala(5);
-    t.xLine(0, 0.6, 1, 0.6, 255, "a");
+    prova::Disegna(t, "F 1 1 0 0;K 5;L 0 0.6 1 0.6 255 a");
     t.Marchio = "M";
     t.xTrovaA4(0.1, 0.6);
     t.xTrovaA4(0.3, 0.6);
@@ -147,8 +133,8 @@ TEST(Stampa, PiastrelleScelte) {
     EXPECT_EQ(carta.atti.front(), "T 850.5 850.5 0 5 M");
     EXPECT_EQ(carta.atti.back(), "fine");
     // The line of the list crosses each tile from edge to edge, at full size.
-    const std::string intera = "L 0 5670 14175 5670 0 1", girata = "L 14175 5670 0 5670 0 1";
-    EXPECT_EQ(std::count(carta.atti.begin(), carta.atti.end(), intera) + std::count(carta.atti.begin(), carta.atti.end(), girata),
+    EXPECT_EQ(std::count_if(carta.atti.begin(), carta.atti.end(),
+                            [](const auto &a) { return a == "L 0 5670 14175 5670 0 1" || a == "L 14175 5670 0 5670 0 1"; }),
               2);
     EXPECT_EQ(t.Scala(), 5);
     EXPECT_DOUBLE_EQ(t.ScalaCorrente(), 11340);

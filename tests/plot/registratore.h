@@ -1,12 +1,16 @@
-// A device that keeps what it is told, as one line of text an operation, in rounded device units.
+// A device that keeps what it is told, as one line of text an operation, in rounded device units; and drawings
+// written as steps.
 #pragma once
 
+#include <algorithm>
+#include <cctype>
 #include <cmath>
 #include <string>
 #include <vector>
 
 #include "core/testo.h"
 #include "plot/dispositivo.h"
+#include "plot/tavolo.h"
 
 namespace ombrelia::prova {
 
@@ -44,5 +48,42 @@ private:
 };
 
 using Atti = std::vector<std::string>;
+
+// Draws steps divided by ";": a letter (a small one only paints), its numbers ("no": no value) and the rest as a name.
+inline void Disegna(Tavolo &t, std::string_view passi) {
+    constexpr std::string_view SEGNI = "LPBCTVDSEMFKAZ", QUANTI = "53682300024100";
+    const auto prendi = [](std::string_view &da, char fine) {
+        const std::size_t n = std::min(da.find(fine), da.size());
+        const std::string pezzo = SenzaBlanks(da.substr(0, n));
+        da.remove_prefix(std::min(n + 1, da.size()));
+        return pezzo;
+    };
+    while (!passi.empty()) {
+        const std::string passo = prendi(passi, ';');
+        const bool tieni = std::isupper(static_cast<unsigned char>(passo.at(0))) != 0;
+        const char segno = static_cast<char>(std::toupper(static_cast<unsigned char>(passo[0])));
+        std::string_view resto = std::string_view(passo).substr(std::min<std::size_t>(2, passo.size()));
+        std::vector<Valore> n(8, 0.0);
+        for (std::size_t i = 0; i < static_cast<std::size_t>(QUANTI.at(SEGNI.find(segno)) - '0'); ++i) {
+            const std::string parola = prendi(resto, ' ');
+            n[i] = parola == "no" ? Valore::nessuno() : Val(parola);
+        }
+        const auto c = [&n](std::size_t i) { return static_cast<Colore>(n[i].v); };
+        if (segno == 'L') t.xLine(n[0], n[1], n[2], n[3], c(4), resto, tieni);
+        else if (segno == 'P') t.xPset(n[0], n[1], c(2), resto, tieni);
+        else if (segno == 'B') t.xBox(n[0], n[1], n[2], n[3], c(4), c(5) != 0, resto, tieni);
+        else if (segno == 'C') t.xCircle(n[0], n[1], n[2], c(3), c(4), n[5], n[6], n[7], resto, tieni);
+        else if (segno == 'T') t.Dati(resto, n[0], n[1], tieni);
+        else if (segno == 'D') t.Dati(resto);
+        else if (segno == 'S') t.xPlineStart(resto);
+        else if (segno == 'V') t.xPLineVertex(n[0], n[1], c(2), resto);
+        else if (segno == 'E') t.xPlineEnd(resto);
+        else if (segno == 'M') t.FattoreX = n[0].v, t.FattoreY = n[1].v;
+        else if (segno == 'F') t.QuadranteL(n[0].v), t.QuadranteH(n[1].v), t.ShiftX(n[2].v), t.ShiftY(n[3].v);
+        else if (segno == 'K') t.Scala(c(0));
+        else if (segno == 'A') t.Assi();
+        else t.Clear();
+    }
+}
 
 }  // namespace ombrelia::prova

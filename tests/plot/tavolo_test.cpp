@@ -1,9 +1,10 @@
-// Recording, the text position, sheet and scale.
+// The text position, sheet and scale.
 #include "plot/tavolo.h"
 
 #include <gtest/gtest.h>
 
 #include <limits>
+#include <utility>
 
 #include "plot/lista_testo.h"
 #include "registratore.h"
@@ -21,12 +22,8 @@ TEST(Tavolo, NasceComeUnaPaginaA4) {
     EXPECT_EQ(t.QuadranteL(), t.LarghezzaPagina());
     EXPECT_EQ(t.QuadranteH(), t.AltezzaPagina());
     EXPECT_EQ(t.Scala(), 1);
-    EXPECT_EQ(t.ScalaCorrente(), 56700.0);
     EXPECT_EQ(t.pannello.lblDimVal, "0.2 x 0.28");
-    EXPECT_EQ(t.pannello.lblScala, "1:1");
     EXPECT_EQ(t.pannello.cmbScala, "1:1");
-    EXPECT_EQ(t.pannello.txtX, "0");
-    EXPECT_EQ(t.pannello.txtQL, "0.2");
     EXPECT_EQ(t.cmbScala(), (std::vector<int>{1, 2, 3, 4, 5, 10, 20, 100}));
     // A printer without a usable page counts as none.
     EXPECT_EQ(Tavolo(0, -5).LarghezzaPagina(), t.LarghezzaPagina());
@@ -35,71 +32,35 @@ TEST(Tavolo, NasceComeUnaPaginaA4) {
 
 TEST(Tavolo, UnPuntoDelBordoBassoResta) {
     Tavolo t;
-    t.QuadranteL(0.2);
-    t.QuadranteH(0.4);
-    t.ShiftX(0.05);
-    t.ShiftY(0.1);
-    struct Riga {
-        double x, y;
-        bool tenuto;
-    };
+    prova::Disegna(t, "F 0.2 0.4 0.05 0.1");
     const double destra = 0.2 - 0.05, basso = 0.4 - 0.1;
-    std::size_t tenuti = 0;
-    for (const Riga &r : {Riga{-0.05, -0.1, true},
-                          {destra, 0, false},
-                          {0, basso, false},
-                          {std::nextafter(destra, 0), 0, true},
-                          {std::nextafter(-0.05, -1), 0, false},
-                          {0, std::nextafter(-0.1, -1), false},
-                          {NAN_, 0, false},
-                          {0, INF, false}}) {
-        t.xPset(r.x, r.y, 5, "a");
-        tenuti += r.tenuto ? 1 : 0;
-        EXPECT_EQ(t.lista().Punti.size(), tenuti) << r.x << " " << r.y;
+    const double punti[][3] = {{-0.05, -0.1, 1},
+                               {destra, 0, 0},
+                               {0, basso, 0},
+                               {std::nextafter(destra, 0), 0, 1},
+                               {std::nextafter(-0.05, -1), 0, 0},
+                               {0, std::nextafter(-0.1, -1), 0},
+                               {NAN_, 0, 0},
+                               {0, INF, 0}};
+    double tenuti = 0;
+    for (const auto &[x, y, tenuto] : punti) {
+        t.xPset(x, y, 5, "a");
+        tenuti += tenuto;
+        EXPECT_EQ(t.lista().Punti.size(), tenuti) << x << " " << y;
         EXPECT_EQ(t.lista().Ordine.size(), tenuti);
     }
 }
 
-TEST(Tavolo, SenzaValoreNonFaNulla) {
-    Tavolo t;
-    prova::Registratore d;
-    t.dispositivo = &d;
-    const Valore no = Valore::nessuno();
-    t.xLine(0, 0, 1, no, 0, "a");
-    t.xLine(0, no, 1, 0, 0, t.nome("a"));
-    t.xBox(no, 0, 1, 1, 0, true);
-    t.xCircle(0, 0, no, 0);
-    t.xCircle(0, 0, 1, 0, -1, 1, no);
-    t.xPLineVertex(0, no, 0, "p");
-    t.Dati("x", no, 0);
-    EXPECT_EQ(ListaTesto(t.lista()), "");
-    EXPECT_TRUE(t.lista().Figure.empty());
-    EXPECT_TRUE(d.atti.empty());
-}
-
 TEST(Tavolo, ScalaMinimaDelFoglio) {
-    struct Riga {
-        double m;
-        int n;
-    };
-    for (const Riga &r : {Riga{-3, 1},
-                          {0.5639, 1},
-                          {0.564, 2},
-                          {1.128, 3},
-                          {1.693, 4},
-                          {2.257, 5},
-                          {2.821, 10},
-                          {5.643, 20},
-                          {11.286, 20},
-                          {11.287, 100},
-                          {15, 100},
-                          {20, 100}}) {
+    const std::pair<double, int> casi[] = {{-3, 1},     {0.5639, 1}, {0.564, 2},   {1.128, 3},    {1.693, 4}, {2.257, 5},
+                                           {2.821, 10}, {5.643, 20}, {11.286, 20}, {11.287, 100}, {15, 100},  {20, 100}};
+    for (const auto &[metri, n] : casi) {
         Tavolo t;
-        t.QuadranteL(r.m);
-        EXPECT_EQ(t.ScalaMinima(), std::max(r.n, 1)) << r.m;
-        EXPECT_EQ(t.Scala(), r.n) << r.m;
-        EXPECT_EQ(t.cmbScala().front(), r.n);
-        EXPECT_DOUBLE_EQ(t.ScalaCorrente(), 56700.0 / r.n);
+        t.QuadranteL(metri);
+        EXPECT_EQ(t.ScalaMinima(), n) << metri;
+        EXPECT_EQ(t.Scala(), n) << metri;
+        EXPECT_EQ(t.cmbScala().front(), n);
+        EXPECT_DOUBLE_EQ(t.ScalaCorrente(), 56700.0 / n);
     }
 }
 
@@ -140,22 +101,14 @@ TEST(Tavolo, FoglioEScala) {
 
 TEST(Tavolo, PosizioneDelTesto) {
     Tavolo t;
-    t.ShiftX(0.1);
-    t.ShiftY(0.2);
-    t.Dati("a");
-    t.Dati("b", 0.05, -0.1);
-    t.Dati("c");
-    t.Dati("d", 0.5, 0.5, false);  // painted only
+    prova::Disegna(t, "F 0.2 0.28 0.1 0.2;D a;T 0.05 -0.1 b;D c;t 0.5 0.5 painted only");
     t.Dati("e", std::nullopt, 0.3);
+    const double attesi[][2] = {{-0.1, -0.2}, {0.05, -0.1}, {-0.1, -0.1 + 195 / 56700.0}, {-0.1, 0.3}};
     ASSERT_EQ(t.lista().Testi.size(), 4U);
-    const auto &T = t.lista().Testi;
-    EXPECT_DOUBLE_EQ(T[0].X, -0.1);
-    EXPECT_DOUBLE_EQ(T[0].Y, -0.2);
-    EXPECT_EQ(T[1].X, 0.05);
-    EXPECT_DOUBLE_EQ(T[2].X, -0.1);
-    EXPECT_NEAR(T[2].Y, -0.1 + 195 / 56700.0, 1e-15);
-    EXPECT_DOUBLE_EQ(T[3].X, -0.1);
-    EXPECT_EQ(T[3].Y, 0.3);
+    for (std::size_t i = 0; i < 4; ++i) {
+        EXPECT_NEAR(t.lista().Testi[i].X, attesi[i][0], 1e-15) << i;
+        EXPECT_NEAR(t.lista().Testi[i].Y, attesi[i][1], 1e-15) << i;
+    }
     EXPECT_NEAR(t.xCurrentY(), 0.3 + 195 / 56700.0, 1e-15);
     t.Scala(10);
     EXPECT_NEAR(t.xCurrentY(), (0.5 * 56700 + 195) / 5670 - 0.2, 1e-12);
@@ -165,9 +118,8 @@ TEST(Tavolo, PosizioneDelTesto) {
 }
 
 TEST(Tavolo, TestiDiCentoLettere) {
-    std::string gradi, atteso;
+    std::string gradi;
     for (int i = 0; i < 120; ++i) gradi += "°";
-    for (int i = 0; i < 100; ++i) atteso += "°";
     const std::string a(120, 'a');
     Tavolo t;
     prova::Registratore d;
@@ -177,7 +129,7 @@ TEST(Tavolo, TestiDiCentoLettere) {
     t.Dati("due blank  ");
     t.Dati("");
     EXPECT_EQ(t.lista().Testi[0].Testo, std::string(100, 'a'));
-    EXPECT_EQ(t.lista().Testi[1].Testo, atteso);
+    EXPECT_EQ(t.lista().Testi[1].Testo, gradi.substr(0, 100 * std::string("°").size()));
     EXPECT_EQ(t.lista().Testi[2].Testo, "due blank");
     EXPECT_EQ(t.lista().Testi[3].Testo, "");
     EXPECT_EQ(d.atti[0], "T 0 0 0 " + a) << "cut only when replayed";
@@ -191,8 +143,7 @@ TEST(Tavolo, ClearTieneIlFoglio) {
     const IdNome id = t.nome("Ore");
     t.ShiftX(0.1);
     t.QuadranteL(2);
-    t.FattoreX = t.FattoreY = -1;
-    t.xLine(0, 0, 0.1, 0.1, 3, id);
+    prova::Disegna(t, "M -1 -1;L 0 0 0.1 0.1 3 Ore");
     t.xPlotA4();
     t.xTrovaA4(0.01, 0.01);
     t.Clear();
@@ -205,44 +156,6 @@ TEST(Tavolo, ClearTieneIlFoglio) {
     EXPECT_EQ(t.ShiftX(), 0.1);
     t.xLine(0, 0, 1, 1, 3, id);
     EXPECT_EQ(ListaTesto(t.lista()), "L\t0\t0\t1\t1\t3\t1\tOre\n") << "names outlive the list";
-}
-
-TEST(Tavolo, AssiETestiRegistrati) {
-    Tavolo t;
-    t.QuadranteL(0.5);
-    t.QuadranteH(0.5);
-    t.ShiftX(0.25);
-    t.ShiftY(0.125);
-    t.Assi();
-    EXPECT_EQ(ListaTesto(t.lista()),
-              "L\t-0.25\t0\t0.25\t0\t255\t1\tAssiXY\n"
-              "L\t0\t-0.125\t0\t0.375\t255\t1\tAssiXY\n"
-              "T\t0.040000000000000001\t-0.040000000000000001\t\tO\n"
-              "T\t0.040000000000000001\t-0.084999999999999992\t\ty\n"
-              "T\t0.20999999999999999\t-0.059999999999999998\t\tx\n");
-}
-
-TEST(ListaTesto, OgniSpecie) {
-    Tavolo t;
-    t.xPset(0.1, 0.2, 255, "p");
-    t.xPlineStart("poli");
-    t.xLine(0, 0, -1.5, 1e-7, 16777215);
-    t.xPLineVertex(0.5, 0.25, 7, "poli");
-    t.xBox(0, 0, 1, -1, 15, true, "Cornice");
-    t.xPLineVertex(0.75, 0.25, 7, "poli");
-    t.xPlineEnd("poli");
-    t.xCircle(1, 2, 0.5, 8, -1, 1, -6.25, 0, "c");
-    t.Dati("Lat = 45°", 0.5, 1);
-    EXPECT_EQ(ListaTesto(t.lista()),
-              "P\t0.10000000000000001\t0.20000000000000001\t255\tp\n"
-              "V\tSTART\t0\t0\t4\tpoli\n"
-              "V\tVERTEX\t0.5\t0.25\t7\tpoli\n"
-              "L\t0\t0\t-1.5\t9.9999999999999995e-08\t16777215\t1\t\n"
-              "B\t0\t0\t1\t-1\t15\t1\tCornice\n"
-              "V\tVERTEX\t0.75\t0.25\t7\tpoli\n"
-              "V\tEND\t0\t0\t4\tpoli\n"
-              "C\t1\t2\t0.5\t1\t8\t-1\t-6.25\t0\tc\n"
-              "T\t0.5\t1\t\tLat = 45°\n");
 }
 
 }  // namespace

@@ -1,104 +1,80 @@
 // The tables agree with the drawn lines: points of the reports lie on the lines of the engines, within the printed digits.
-#include <algorithm>
-#include <cmath>
+#include <limits>
 #include <map>
 
 #include "analytic/quadranti.h"
+#include "glyphs/tratti_prova.h"
 #include "reports/rapporto_prova.h"
 
 namespace ombrelia {
 namespace {
 
-using prova::BancoRapporti;
-using prova::Numero;
-using prova::RigheTabella;
+using namespace prova;
 
 struct Punto {
     double x, y;
+    Punto(const std::string &a, const std::string &b) : x(Numero(a)), y(Numero(b)) {}
+    [[nodiscard]] bool dentro() const { return std::fabs(x) < 1.99 && std::fabs(y) < 1.99; }
 };
 
 struct Quadrante {
-    const char *lat, *dec, *inc;
-};
-constexpr Quadrante QUADRANTI[] = {{"45.74805", "-20", "25.2"}, {"45", "0", "0"},    {"45", "35", "0"}, {"52", "-70", "0"},
-                                   {"38", "20", "-15"},         {"60", "15", "60"},  {"45", "0", "90"}, {"10", "40", "30"},
-                                   {"45", "100", "0"},          {"45", "-120", "0"}, {"50", "0", "40"}, {"0", "30", "0"},
-                                   {"0", "-30", "0"},           {"0", "90", "0"},    {"0", "-90", "0"}, {"45", "90", "0"},
-                                   {"45", "-90", "0"}};
+    std::string nome;  // its fields
+    double lat, dec, inc;
 
-std::string Nome(const Quadrante &q) { return std::string(q.lat) + " " + q.dec + " " + q.inc; }
-
-// A dial drawn in a frame of four metres, hours as asked for.
-void Disegna(BancoRapporti &b, const Quadrante &q, std::initializer_list<std::string_view> caselle, const char *da,
-             const char *a) {
-    b.imposta({{"txtLAT", q.lat},
-               {"txtDec", q.dec},
-               {"txtInc", q.inc},
-               {"txtX0", "-2"},
-               {"txtX1", "2"},
-               {"txtY0", "2"},
-               {"txtY1", "-2"},
-               {"TxtFraz", "1"},
-               {"txtLonG", "-15"}});
-    for (const std::string_view c : caselle) b.spunta(c);
-    b.imposta({{"TxtInizio", da}, {"TxtFine", a}});
-    b.esegui();
-}
-
-// Whether the Sun at hour angle a (degrees, negative before noon) and declination d shines well on the plane: sines of its
-// altitude over horizon and plane, from its direction alone.
-bool Illuminato(const Quadrante &q, double a, double d) {
-    constexpr double G = 3.14159265358979 / 180;
-    const double phi = Val(q.lat).v * G, g = Val(q.dec).v * G, i = Val(q.inc).v * G;
-    const double sud = std::sin(phi) * std::cos(d * G) * std::cos(a * G) - std::cos(phi) * std::sin(d * G);
-    const double ovest = std::cos(d * G) * std::sin(a * G);
-    const double su = std::sin(phi) * std::sin(d * G) + std::cos(phi) * std::cos(d * G) * std::cos(a * G);
-    return su > 0.02 && std::cos(i) * (sud * std::cos(g) + ovest * std::sin(g)) + std::sin(i) * su > 0.1;
-}
-
-double Lontananza(const std::vector<RecLinea> &corde, Punto p) {  // from the nearest chord
-    double vicina = std::numeric_limits<double>::infinity();
-    for (const RecLinea &c : corde) {
-        const double dx = c.X2 - c.X1, dy = c.Y2 - c.Y1, q = dx * dx + dy * dy;
-        const double k = q == 0 ? 0 : std::clamp(((p.x - c.X1) * dx + (-p.y - c.Y1) * dy) / q, 0.0, 1.0);
-        vicina = std::min(vicina, std::hypot(p.x - c.X1 - k * dx, -p.y - c.Y1 - k * dy));
+    // Whether the Sun at hour angle a (degrees, negative before noon) and declination d shines well on the plane: sines of
+    // its altitude over horizon and plane, from its direction alone.
+    [[nodiscard]] bool illuminato(double a, double d) const {
+        constexpr double G = 3.14159265358979 / 180;
+        const double phi = lat * G, g = dec * G, i = inc * G;
+        const double sud = std::sin(phi) * std::cos(d * G) * std::cos(a * G) - std::cos(phi) * std::sin(d * G);
+        const double ovest = std::cos(d * G) * std::sin(a * G);
+        const double su = std::sin(phi) * std::sin(d * G) + std::cos(phi) * std::cos(d * G) * std::cos(a * G);
+        return su > 0.02 && std::cos(i) * (sud * std::cos(g) + ovest * std::sin(g)) + std::sin(i) * su > 0.1;
     }
-    return vicina;
+    // Beyond a right angle the direct engine keeps other branches of the day lines.
+    [[nodiscard]] bool versoSud() const { return std::fabs(dec) <= 90; }
+};
+
+std::vector<Quadrante> Quadranti() {
+    std::vector<Quadrante> r;
+    for (const auto &t : Tabella("quadranti.txt"))
+        r.push_back({"txtLAT=" + t[0] + ";txtDec=" + t[1] + ";txtInc=" + t[2], Numero(t[0]), Numero(t[1]), Numero(t[2])});
+    return r;
 }
 
-double LontananzaRetta(const std::vector<RecLinea> &rette, Punto p) {  // from the nearest line, drawn on
+// The dial drawn in a frame of four metres, with the boxes and hours asked for.
+struct Disegnato : BancoRapporti {
+    Disegnato(const Quadrante &q, const std::string &caselle, const std::string &ore)
+        : BancoRapporti(q.nome + ";txtX0=-2;txtX1=2;txtY0=2;txtY1=-2;TxtFraz=1;txtLonG=-15;" + caselle + ";" + ore) {
+        esegui();
+    }
+};
+
+// From the nearest chord, and from the nearest line drawn on.
+double Lontananza(const std::vector<RecLinea> &linee, const Punto &p, double (*da)(double, double, const RecLinea &) = Distanza) {
     double vicina = std::numeric_limits<double>::infinity();
-    for (const RecLinea &r : rette) vicina = std::min(vicina, prova::distanza(p.x, -p.y, r));
+    for (const RecLinea &l : linee) vicina = std::min(vicina, da(p.x, -p.y, l));
     return vicina;
 }
-
-bool Dentro(Punto p) { return std::fabs(p.x) < 1.99 && std::fabs(p.y) < 1.99; }
+double LontananzaRetta(const std::vector<RecLinea> &rette, const Punto &p) { return Lontananza(rette, p, distanza); }
 
 constexpr double QUATTRO_CIFRE = 0.5e-4 * 1.4143 + 1e-6;  // rounded in both coordinates
 constexpr double TAGLIO = 1e-4 * 1.4143 + 1e-6;           // cut in both
 
 TEST(Concordanza, SphericalTableLiesOnHourLinesAndDayLines) {
     int confrontati = 0;
-    for (const Quadrante &q : QUADRANTI) {
-        BancoRapporti b;
-        Disegna(b, q, {"chkOreAstronomiche", "Ck_DayLightCurves"}, "6", "18");
-        const auto corde = b.linee("hour"), rette = prova::Rette(corde, 0.02);
-        const auto inverno = b.linee("delta -23.445°");
-        const bool linee = std::fabs(Val(q.dec).v) <= 90;  // beyond, the direct engine keeps other branches
-        for (const auto &riga : RigheTabella(b.apri("OptInter"), 0)) {
-            const double a = Numero(riga[1]);
+    for (const Quadrante &q : Quadranti()) {
+        Disegnato b(q, "chkOreAstronomiche;Ck_DayLightCurves", "TxtInizio=6;TxtFine=18");
+        const auto corde = b.linee("hour"), rette = Rette(corde, 0.02), inverno = b.linee("delta -23.445°");
+        for (const auto &riga : RigheTabella(b.apri("OptInter"), 0))
             for (const int lato : {-1, 1}) {
-                const std::size_t k = lato < 0 ? 2 : 4;
-                const Punto p{Numero(riga[k]), Numero(riga[k + 1])};
-                if (!Illuminato(q, a, lato * 23.445) || !Dentro(p)) continue;
-                EXPECT_LT(Lontananza(corde, p), 0.01) << Nome(q) << " hour " << riga[0];
-                EXPECT_LT(LontananzaRetta(rette, p), QUATTRO_CIFRE) << Nome(q) << " hour " << riga[0];
-                if (lato < 0 && linee) {
-                    EXPECT_LT(Lontananza(inverno, p), QUATTRO_CIFRE + 1e-5) << Nome(q) << " hour " << riga[0];
-                }
+                const Punto p(riga[lato < 0 ? 2 : 4], riga[lato < 0 ? 3 : 5]);
+                if (!q.illuminato(Numero(riga[1]), lato * 23.445) || !p.dentro()) continue;
+                EXPECT_LT(Lontananza(corde, p), 0.01) << q.nome << " hour " << riga[0];
+                EXPECT_LT(LontananzaRetta(rette, p), QUATTRO_CIFRE) << q.nome << " hour " << riga[0];
+                EXPECT_TRUE(lato > 0 || !q.versoSud() || Lontananza(inverno, p) < QUATTRO_CIFRE + 1e-5) << q.nome << riga[0];
                 ++confrontati;
             }
-        }
     }
     EXPECT_GT(confrontati, 100);
 }
@@ -106,27 +82,24 @@ TEST(Concordanza, SphericalTableLiesOnHourLinesAndDayLines) {
 // The two roots of a row are the two days' points, in an order that depends on the hour.
 TEST(Concordanza, AnalyticTableRepeatsTheSphericalOneOnWalls) {
     int confrontati = 0;
-    for (const Quadrante &q : QUADRANTI) {
-        if (Val(q.inc) != 0 || Val(q.lat) == 0 || std::fabs(Val(q.dec).v) > 90) continue;
-        BancoRapporti b;
-        b.imposta({{"txtLAT", q.lat}, {"txtDec", q.dec}, {"txtInc", "0"}, {"txtLonG", "-15"}});
+    for (const Quadrante &q : Quadranti()) {
+        if (q.inc != 0 || q.lat == 0 || !q.versoSud()) continue;
+        BancoRapporti b(q.nome + ";txtLonG=-15");
         const Rapporto sferica = b.apri("OptInter");
         b.spunta("ckFunzione");
-        const Rapporto analitica = b.apri("OptInter");
-        ASSERT_EQ(analitica.modulo, "Form7");
+        const Rapporto &analitica = b.apri("OptInter");
         for (const int n : {0, 1, 2}) {
             std::map<std::string, std::vector<std::string>> perOra;
             for (const auto &riga : RigheTabella(sferica, n)) perOra[riga[0]] = riga;
             for (const auto &riga : RigheTabella(analitica, n)) {
                 const auto &altra = perOra.at(riga[0]);
-                const auto distano = [&](std::size_t i, std::size_t k) {
-                    return std::max(std::fabs(Numero(riga[i]) - Numero(altra[k])),
-                                    std::fabs(Numero(riga[i + 1]) - Numero(altra[k + 1])));
-                };
-                const double scarto = std::min(std::max(distano(2, 2), distano(4, 4)), std::max(distano(2, 4), distano(4, 2)));
-                double grande = 1;
-                for (std::size_t i = 2; i < 6; ++i) grande = std::max(grande, std::fabs(Numero(altra[i])));
-                EXPECT_LT(scarto, 1.6e-4 + 1e-9 * grande * grande * grande) << Nome(q) << " table " << n << " hour " << riga[0];
+                double dritto = 0, scambiato = 0, grande = 1;
+                for (std::size_t i = 2; i < 6; ++i) {
+                    dritto = std::max(dritto, std::fabs(Numero(riga[i]) - Numero(altra[i])));
+                    scambiato = std::max(scambiato, std::fabs(Numero(riga[i]) - Numero(altra[i < 4 ? i + 2 : i - 2])));
+                    grande = std::max(grande, std::fabs(Numero(altra[i])));
+                }
+                EXPECT_LT(std::min(dritto, scambiato), 1.6e-4 + 1e-9 * std::pow(grande, 3)) << q.nome << n << " hour " << riga[0];
                 ++confrontati;
             }
         }
@@ -136,18 +109,17 @@ TEST(Concordanza, AnalyticTableRepeatsTheSphericalOneOnWalls) {
 
 TEST(Concordanza, DayLineTableIsTheAnalyticEnginesLine) {
     int confrontati = 0;
-    for (const Quadrante &q : {Quadrante{"45", "35", "0"}, Quadrante{"52", "-70", "0"}, Quadrante{"45", "0", "0"}})
-        for (const char *delta : {"23.445", "-17", "5"}) {
-            BancoRapporti b({{"txtLAT", q.lat}, {"txtDec", q.dec}, {"txtInc", "0"}, {"txtDensity", "0.05"}, {"txtDelta", delta}});
-            b.premi("cmdEqui");
-            const auto punti = prova::puntiDi(b, QB(9));
+    for (const std::string q : {"txtLAT=45;txtDec=35", "txtLAT=52;txtDec=-70", "txtLAT=45;txtDec=0"})
+        for (const std::string delta : {"23.445", "-17", "5"}) {
+            BancoRapporti b(q + ";txtInc=0;txtDensity=0.05;txtDelta=" + delta + ";cmdEqui");
+            const auto punti = puntiDi(b, QB(9));
             for (const auto &riga : RigheTabella(b.apri("Option1"), 0))
                 for (const std::size_t k : {7U, 8U}) {
-                    const Punto p{Numero(riga[0]), Numero(riga[k])};
+                    const Punto p(riga[0], riga[k]);
                     const bool trovato = std::any_of(punti.begin(), punti.end(), [&](const RecPunto &r) {
                         return std::fabs(r.X - p.x) < 1e-9 && std::fabs(-r.Y - p.y) < 0.5001e-4;
                     });
-                    EXPECT_TRUE(trovato || std::fabs(p.y) > 7) << Nome(q) << " delta " << delta << " at " << riga[0];
+                    EXPECT_TRUE(trovato || std::fabs(p.y) > 7) << q << " delta " << delta << " at " << riga[0];
                     ++confrontati;
                 }
         }
@@ -157,25 +129,22 @@ TEST(Concordanza, DayLineTableIsTheAnalyticEnginesLine) {
 // The intercepts of the true hours lie on the drawn hour lines, drawn on to the chosen line.
 TEST(Concordanza, TrueHoursMeetTheChosenLines) {
     int confrontati = 0;
-    for (const Quadrante &q : QUADRANTI)
-        for (const bool fuso : {false, true}) {
+    for (const Quadrante &q : Quadranti())
+        for (const char *fuso : {"chkOreAstronomiche", "ck_Etna;chkOreAstronomiche"}) {
             // A wall's meridian row is the one where the zone's box is clear and the longitude not 15 East.
-            BancoRapporti b;
-            if (fuso) b.spunta("ck_Etna");
-            Disegna(b, q, {"chkOreAstronomiche"}, "7", "17");
-            const auto rette = prova::Rette(b.linee("hour"), 0.02);
+            Disegnato b(q, fuso, "TxtInizio=7;TxtFine=17");
+            const auto rette = Rette(b.linee("hour"), 0.02);
             const Rapporto &r = b.apri("optHorae");
             for (const int n : {0, 1})
                 for (const auto &riga : RigheTabella(r, n)) {
                     const double a = 15 * Numero(riga[0]) - 180;
-                    if (!Illuminato(q, a, -23.445) && !Illuminato(q, a, 23.445)) continue;
+                    if (!q.illuminato(a, -23.445) && !q.illuminato(a, 23.445)) continue;
+                    Punto ascissa(riga[1], riga[2]), ordinata(riga[3], riga[4]);
                     // An east wall at the equator has the ordinates of the west one.
-                    const int lato = Val(q.lat) == 0 && Val(q.dec) == -90 ? -1 : 1;
-                    const Punto p[] = {{Numero(riga[1]), Numero(riga[2])}, {Numero(riga[3]), lato * Numero(riga[4])}};
-                    for (const Punto &punto : p) {
-                        const bool inf = (&punto == &p[0] ? riga[1] : riga[4]) == "inf";
-                        if (inf || !(std::hypot(punto.x, punto.y) < 10)) continue;
-                        EXPECT_LT(LontananzaRetta(rette, punto), TAGLIO) << Nome(q) << " table " << n << " hour " << riga[0];
+                    if (q.lat == 0 && q.dec == -90) ordinata.y = -ordinata.y;
+                    for (const auto &[punto, testo] : {std::pair(ascissa, riga[1]), std::pair(ordinata, riga[4])}) {
+                        if (testo == "inf" || !(std::hypot(punto.x, punto.y) < 10)) continue;
+                        EXPECT_LT(LontananzaRetta(rette, punto), TAGLIO) << q.nome << " table " << n << " hour " << riga[0];
                         ++confrontati;
                     }
                 }
@@ -185,39 +154,31 @@ TEST(Concordanza, TrueHoursMeetTheChosenLines) {
 
 TEST(Concordanza, ItalicAndBabylonianTablesLieOnTheirLines) {
     int confrontati = 0;
-    for (const Quadrante &q : QUADRANTI)
+    for (const Quadrante &q : Quadranti())
         for (const bool italiche : {true, false}) {
-            BancoRapporti b;
-            const char *da = italiche ? "14" : "1", *a = italiche ? "23" : "11";
-            Disegna(b, q, {italiche ? "ck_Italiche" : "ck_babiloniche", "Ck_DayLightCurves"}, da, a);
-            const auto rette = prova::Rette(b.linee(italiche ? "Ita" : "Bab"), 0.02);
-            const auto inverno = b.linee("delta -23.445°");
-            if (Val(q.inc) == 90) continue;  // the table's hours are fixed there
+            if (q.inc == 90) continue;  // the table's hours are fixed there
+            Disegnato b(q, italiche ? "ck_Italiche;Ck_DayLightCurves" : "ck_babiloniche;Ck_DayLightCurves",
+                        italiche ? "TxtInizio=14;TxtFine=23" : "TxtInizio=1;TxtFine=11");
+            const auto rette = Rette(b.linee(italiche ? "Ita" : "Bab"), 0.02), inverno = b.linee("delta -23.445°");
             const Rapporto &r = b.apri(italiche ? "OptIta" : "OptBab");
-            const double H[] = {Gradi(PI / 2 - ArcSin(tan(b.s.v.lat_o) * tan(Radianti(23.445)))).v,
-                                Gradi(PI / 2 + ArcSin(tan(b.s.v.lat_o) * tan(Radianti(23.445)))).v};
+            const double salita = Gradi(ArcSin(tan(b.s.v.lat_o) * tan(Radianti(23.445)))).v;
+            // On a day: whether the Sun lights the hour's point, sunset's hour angle being H.
+            const auto acceso = [&](const std::string &ora, double H, double delta) {
+                return q.illuminato(15 * Numero(ora) + (italiche ? H - 360 : -H), delta);
+            };
             for (const auto &riga : RigheTabella(r, 0))
-                for (const std::size_t k : {0U, 1U}) {
-                    const Punto p{Numero(riga[1 + 2 * k]), Numero(riga[2 + 2 * k])};
-                    const double t = 15 * Numero(riga[0]) + (italiche ? H[k] - 360 : -H[k]);
-                    if (!Illuminato(q, t, k == 0 ? -23.445 : 23.445) || !Dentro(p)) continue;
-                    EXPECT_LT(LontananzaRetta(rette, p), QUATTRO_CIFRE) << Nome(q) << " hour " << riga[0];
+                for (const int lato : {-1, 1}) {
+                    const Punto p(riga[lato < 0 ? 1 : 3], riga[lato < 0 ? 2 : 4]);
+                    if (!acceso(riga[0], 90 + lato * salita, lato * 23.445) || !p.dentro()) continue;
+                    EXPECT_LT(LontananzaRetta(rette, p), QUATTRO_CIFRE) << q.nome << " hour " << riga[0];
                     // A line's two ends are told apart by the winter line alone.
-                    if (k == 0 && std::fabs(Val(q.dec).v) <= 90) {
-                        EXPECT_LT(Lontananza(inverno, p), QUATTRO_CIFRE + 1e-5) << Nome(q) << " hour " << riga[0];
-                    }
+                    EXPECT_TRUE(lato > 0 || !q.versoSud() || Lontananza(inverno, p) < QUATTRO_CIFRE + 1e-5) << q.nome << riga[0];
                     ++confrontati;
                 }
-            // The chosen lines: on the same straight lines.
-            for (const auto &riga : RigheTabella(r, 1)) {
-                const Punto p[] = {{Numero(riga[1]), Numero(riga[2])}, {Numero(riga[4]), Numero(riga[3])}};
-                const double t = 15 * Numero(riga[0]) + (italiche ? 90 - 360 : -90);
-                if (!Illuminato(q, t, 0)) continue;
-                for (const Punto &punto : p)
-                    if (Dentro(punto)) {
-                        EXPECT_LT(LontananzaRetta(rette, punto), QUATTRO_CIFRE + 2e-5) << Nome(q) << " hour " << riga[0];
-                    }
-            }
+            for (const auto &riga : RigheTabella(r, 1))  // the chosen lines: on the same straight lines
+                for (const Punto &p : {Punto(riga[1], riga[2]), Punto(riga[4], riga[3])})
+                    EXPECT_TRUE(!acceso(riga[0], 90, 0) || !p.dentro() || LontananzaRetta(rette, p) < QUATTRO_CIFRE + 2e-5)
+                        << q.nome << riga[0];
         }
     EXPECT_GT(confrontati, 150);
 }

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cmath>
 #include <string>
 #include <vector>
 
@@ -12,13 +14,8 @@
 namespace ombrelia::prova {
 
 inline std::vector<std::string> Righe(const Rapporto &r) {
-    std::vector<std::string> righe;
-    const std::string testo = reports::RapportoTesto(r);
-    for (std::size_t i = 0; i < testo.size();) {
-        const std::size_t fine = testo.find('\n', i);
-        righe.push_back(testo.substr(i, fine - i));
-        i = fine + 1;
-    }
+    auto righe = Divisi(reports::RapportoTesto(r), '\n');
+    if (!righe.empty()) righe.pop_back();  // each line has its end
     return righe;
 }
 
@@ -43,29 +40,22 @@ inline std::string RigaCon(const Rapporto &r, std::string_view inizio) {
     return {};
 }
 
-// A bench with the clock stopped and a report opened by pressing a control.
+// A bench with the clock stopped at 21 June 2026, 9:04:07, and a report opened by pressing a control.
 class BancoRapporti : public Banco {
 public:
-    explicit BancoRapporti(Campi campi = {}, std::initializer_list<std::string_view> caselle = {}) : Banco(campi, caselle) {
-        s.rapporti.orologio = [] {
-            std::tm t{};
-            t.tm_year = 126;
-            t.tm_mon = 5;
-            t.tm_mday = 21;
-            t.tm_hour = 9;
-            t.tm_min = 4;
-            t.tm_sec = 7;
-            return t;
-        };
+    // Fields as txtInc=0;txtDec=10; a name alone is a box to tick or a button to press.
+    explicit BancoRapporti(const std::string &campi = {}) {
+        s.rapporti.orologio = [] { return std::tm{7, 4, 9, 21, 5, 126, 0, 0, 0, 0, nullptr}; };
+        scrivi(campi);
     }
-    const Rapporto &apri(std::string_view controllo) {
-        premi(controllo);
-        return s.rapporti.aperto;
+    void scrivi(const std::string &campi) {
+        for (const std::string &c : Divisi(campi, ';'))
+            if (const std::size_t i = c.find('='); i != std::string::npos) imposta({{c.substr(0, i), c.substr(i + 1)}});
+            else if (c.starts_with("cmd")) premi(c);
+            else spunta(c);
     }
-    const Rapporto &stampa() {
-        s.rapporti.stampa(s);
-        return s.rapporti.stampato;
-    }
+    const Rapporto &apri(std::string_view controllo) { return premi(controllo), s.rapporti.aperto; }
+    const Rapporto &stampa() { return s.rapporti.stampa(s), s.rapporti.stampato; }
 };
 
 }  // namespace ombrelia::prova

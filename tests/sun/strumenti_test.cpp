@@ -17,17 +17,24 @@ protected:
 
     static IdControllo id(const std::string &nome) { return TrovaControllo("frmDeclin." + nome); }
     std::string testo(const std::string &nome) { return b.s.testo(id(nome)); }
-    std::string segno(int i) { return b.s.stato("frmDeclin.cmdSign(" + std::to_string(i) + ")").caption; }
     app::Esito scrivi(const std::string &nome, const std::string &t) { return app::Imposta(b.s, id(nome), t); }
     app::Esito premi(const std::string &nome) { return app::Premi(b.s, id(nome)); }
-    std::string sessagesimale(bool lat) {
-        return lat ? segno(0) + testo("txtLatG") + " " + testo("txtLatP") + " " + testo("txtLATS")
-                   : segno(1) + testo("txtLonG") + " " + testo("txtLonP") + " " + testo("txtLonS");
+    std::string parti(bool lon) {
+        return b.s.stato(lon ? "frmDeclin.cmdSign(1)" : "frmDeclin.cmdSign(0)").caption + testo(lon ? "txtLonG" : "txtLatG") +
+               " " + testo(lon ? "txtLonP" : "txtLatP") + " " + testo(lon ? "txtLonS" : "txtLATS");
     }
     void muro() {
-        for (const auto &[nome, t] : {std::pair{"txtLAT", "45.07"}, {"txtLON", "-7.68"}, {"txtDay", "21"}, {"txtMonth", "6"}, {"txtYear", "2026"},
-                                      {"txtHH", "9"}, {"txtMM", "40"}, {"txtSS", "0"}, {"txtAngle", "12.5"}})
-            EXPECT_EQ(scrivi(nome, t), app::Esito::Fatto) << nome;
+        b.premi("mnuAusiliaria");
+        for (const auto &[nome, t] : prova::Campi{{"LAT", "45.07"},
+                                                  {"LON", "-7.68"},
+                                                  {"Day", "21"},
+                                                  {"Month", "6"},
+                                                  {"Year", "2026"},
+                                                  {"HH", "9"},
+                                                  {"MM", "40"},
+                                                  {"SS", "0"},
+                                                  {"Angle", "12.5"}})
+            EXPECT_EQ(scrivi("txt" + std::string(nome), std::string(t)), app::Esito::Fatto) << nome;
     }
 };
 
@@ -35,96 +42,49 @@ TEST_F(Strumenti, OpeningTakesTheSiteAndTheClock) {
     b.imposta({{"txtLAT", "-45.5"}, {"txtLonG", "7.25"}});
     const std::time_t prima = std::time(nullptr);
     EXPECT_EQ(b.premi("mnuAusiliaria"), app::Esito::Fatto);
-    EXPECT_EQ(testo("txtLAT"), "-45.5");
-    EXPECT_EQ(testo("txtLON"), "7.25");
-    EXPECT_EQ(sessagesimale(true), "-45 30 0.0000");
-    EXPECT_EQ(sessagesimale(false), "+7 15 0.0000");
+    EXPECT_EQ(testo("txtLAT") + ' ' + parti(false), "-45.5 -45 30 0.0000");
+    EXPECT_EQ(testo("txtLON") + ' ' + parti(true), "7.25 +7 15 0.0000");
     EXPECT_EQ(b.s.valore(id("optModoDec")), 1);
     EXPECT_EQ(scrivi("txtLatG", "1"), app::Esito::Disabilitato);
+    const auto n = [this](const char *nome) { return std::stoi(testo(nome)); };
     std::tm m{};
-    m.tm_year = std::stoi(testo("txtYear")) - 1900;
-    m.tm_mon = std::stoi(testo("txtMonth")) - 1;
-    m.tm_mday = std::stoi(testo("txtDay"));
-    m.tm_hour = std::stoi(testo("txtHH"));
-    m.tm_min = std::stoi(testo("txtMM"));
-    m.tm_sec = std::stoi(testo("txtSS"));
+    m.tm_year = n("txtYear") - 1900, m.tm_mon = n("txtMonth") - 1, m.tm_mday = n("txtDay");
+    m.tm_hour = n("txtHH"), m.tm_min = n("txtMM"), m.tm_sec = n("txtSS");
     const std::time_t mostrata = timegm(&m);
-    EXPECT_LE(prima, mostrata);
-    EXPECT_LE(mostrata, std::time(nullptr));
+    EXPECT_TRUE(prima <= mostrata && mostrata <= std::time(nullptr));
 }
 
-TEST_F(Strumenti, BoxesAreConvertedWhenTheyAreLeft) {
+TEST_F(Strumenti, BoxesSignsAndModes) {
     b.premi("mnuAusiliaria");
-    const struct {
-        const char *scritto, *letto;
-    } decimali[] = {{"12.3456", "+12 20 44.1600"}, {"-0.5", "-0 30 0.0000"}, {"0", "+0 0 0.0000"}, {"", "+0 0 0.0000"}, {"-33.87", "-33 52 12.0000"}};
-    for (const auto &c : decimali) {
-        scrivi("txtLAT", c.scritto);
-        EXPECT_EQ(sessagesimale(true), c.letto) << c.scritto;
-        EXPECT_EQ(testo("txtLAT"), c.scritto);
-        scrivi("txtLON", c.scritto);
-        EXPECT_EQ(sessagesimale(false), c.letto) << c.scritto;
+    for (const auto &r : prova::Tabella("strumenti.txt")) {
+        EXPECT_EQ(r.at(1).empty() ? premi(r.at(0)) : scrivi(r.at(0), r.at(1)), app::Esito::Fatto) << r.at(0);
+        const std::string trovati[] = {testo("txtLAT"), parti(false), testo("txtLON"), parti(true)};
+        for (std::size_t i = 0; i < 4; ++i)
+            EXPECT_EQ(r.at(i + 2).empty() ? "" : trovati[i], r.at(i + 2)) << r.at(0) << ' ' << r.at(1);
     }
-    // Typed keys convert nothing before the box is left.
+    scrivi("txtLAT", "");
+    EXPECT_EQ(parti(false), "+0 0 0.0000");
+    // Typed keys pass the box's filter and convert nothing before the box is left.
+    const std::string prima = testo("txtLON");
     app::Digita(b.s, id("txtLON"), "5");
-    EXPECT_EQ(testo("txtLON"), "-33.875");
-    EXPECT_EQ(sessagesimale(false), "-33 52 12.0000");
-
-    EXPECT_EQ(premi("OptModoSess"), app::Esito::Fatto);
-    EXPECT_EQ(scrivi("txtLAT", "1"), app::Esito::Disabilitato);
-    EXPECT_EQ(scrivi("txtLatG", "10"), app::Esito::Fatto);
-    EXPECT_EQ(testo("txtLAT"), "-10.87000");
-    scrivi("txtLatP", "30");
-    scrivi("txtLATS", "0");
-    EXPECT_EQ(testo("txtLAT"), "-10.50000");
-    EXPECT_EQ(testo("txtLON"), "-33.875");
-    scrivi("txtLonS", "36");
-    EXPECT_EQ(testo("txtLON"), "-33.87667");
-    EXPECT_EQ(premi("optModoDec"), app::Esito::Fatto);
-    EXPECT_EQ(scrivi("txtLAT", "1e999"), app::Esito::Fatto);
-    EXPECT_EQ(sessagesimale(true), "-10 30 0");  // no number, nothing to convert
-}
-
-TEST_F(Strumenti, SignButtons) {
-    b.premi("mnuAusiliaria");
-    scrivi("txtLAT", "45.50");
-    scrivi("txtLON", "-7.68");
-    premi("cmdSign(0)");
-    premi("cmdSign(1)");
-    EXPECT_EQ(segno(0), "-");
-    EXPECT_EQ(testo("txtLAT"), "-45.5");
-    EXPECT_EQ(segno(1), "+");
-    EXPECT_EQ(testo("txtLON"), "7.68");
-    premi("cmdSign(0)");
-    EXPECT_EQ(testo("txtLAT"), "45.5");
-    premi("OptModoSess");
-    EXPECT_EQ(premi("cmdSign(1)"), app::Esito::Fatto);  // the buttons answer in both modes
-    EXPECT_EQ(testo("txtLON"), "-7.68");
-    // The caption decides, not the sign in the box.
-    premi("optModoDec");
-    app::Digita(b.s, id("txtLAT"), "");
-    scrivi("txtLAT", "0");
-    premi("cmdSign(0)");
-    EXPECT_EQ(testo("txtLAT"), "0");
-    EXPECT_EQ(segno(0), "-");
-}
-
-TEST_F(Strumenti, KeysPassTheirFilters) {
+    EXPECT_EQ(testo("txtLON"), prima + "5");
+    EXPECT_EQ(parti(true), "-33 52 36");
     app::Digita(b.s, id("txtMonth"), "-1,2.x+");
-    EXPECT_EQ(testo("txtMonth"), "12.");
+    EXPECT_TRUE(testo("txtMonth").ends_with("12.")) << testo("txtMonth");
     scrivi("txtAngle", "");
     app::Digita(b.s, id("txtAngle"), "-1,2.x+");
     EXPECT_EQ(testo("txtAngle"), "-12.+");
     EXPECT_EQ(b.utente.beep, 0);
+    premi("OptModoSess");
+    EXPECT_EQ(scrivi("txtLAT", "1"), app::Esito::Disabilitato);
 }
 
-TEST_F(Strumenti, ARunWritesReportFieldsAndSharedVariables) {
-    b.premi("mnuAusiliaria");
+TEST_F(Strumenti, ARunWritesReportFieldsAndSharedVariablesAndAFaultLeavesThem) {
     muro();
     app::Spunta(b.s, id("ckDst"), 1);
     b.s.v.corrLong = 0.25;
     premi("cmdCalcola");
-    EXPECT_NE(testo("txtResult").find("Declinazione del quadrante solare: -67.9956    East\r\n"), std::string::npos) << testo("txtResult");
+    EXPECT_NE(testo("txtResult").find("Declinazione del quadrante solare: -67.9956    East\r\n"), std::string::npos);
     EXPECT_NE(testo("txtResult").find("mezzodì:  13   31   5\r\n"), std::string::npos);
     EXPECT_EQ(b.s.in.txtDelta, "23.436");
     EXPECT_TRUE(b.s.in.txtAO.starts_with("-27.7708755678")) << b.s.in.txtAO;
@@ -134,12 +94,7 @@ TEST_F(Strumenti, ARunWritesReportFieldsAndSharedVariables) {
     premi("cmdCalcola");
     EXPECT_EQ(b.s.v.corrLong.numero(), 1);
     EXPECT_TRUE(b.utente.box.empty());
-}
 
-TEST_F(Strumenti, AFaultIsToldAndTheReportStays) {
-    b.premi("mnuAusiliaria");
-    muro();
-    premi("cmdCalcola");
     const std::string prima = testo("txtResult");
     scrivi("txtYear", "9e150");
     premi("cmdCalcola");
@@ -147,14 +102,9 @@ TEST_F(Strumenti, AFaultIsToldAndTheReportStays) {
     EXPECT_TRUE(b.utente.box[0].starts_with("Il calcolo si ferma: ")) << b.utente.box[0];
     EXPECT_EQ(testo("txtResult"), prima);
     EXPECT_EQ(b.s.in.txtDelta, "23.436");
-}
 
-TEST_F(Strumenti, TheSiteGoesToTheMainWindow) {
-    b.premi("mnuAusiliaria");
-    muro();
-    premi("cmdTrans");
-    EXPECT_EQ(b.s.in.txtLAT, "45.07");
-    EXPECT_EQ(b.s.in.txtLonG, "-7.68");
+    premi("cmdTrans");  // the site goes to the main window
+    EXPECT_EQ(b.s.in.txtLAT + b.s.in.txtLonG, "45.07-7.68");
 }
 
 }  // namespace

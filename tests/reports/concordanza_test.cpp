@@ -3,7 +3,6 @@
 #include <map>
 
 #include "analytic/quadranti.h"
-#include "glyphs/tratti_prova.h"
 #include "reports/rapporto_prova.h"
 
 namespace ombrelia {
@@ -50,13 +49,12 @@ struct Disegnato : BancoRapporti {
     }
 };
 
-// From the nearest chord, and from the nearest line drawn on.
-double Lontananza(const std::vector<RecLinea> &linee, const Punto &p, double (*da)(double, double, const RecLinea &) = Distanza) {
+// From the nearest line, drawn on.
+double LontananzaRetta(const std::vector<RecLinea> &rette, const Punto &p) {
     double vicina = std::numeric_limits<double>::infinity();
-    for (const RecLinea &l : linee) vicina = std::min(vicina, da(p.x, -p.y, l));
+    for (const RecLinea &r : rette) vicina = std::min(vicina, distanza(p.x, -p.y, r));
     return vicina;
 }
-double LontananzaRetta(const std::vector<RecLinea> &rette, const Punto &p) { return Lontananza(rette, p, distanza); }
 
 constexpr double QUATTRO_CIFRE = 0.5e-4 * 1.4143 + 1e-6;  // rounded in both coordinates
 constexpr double TAGLIO = 1e-4 * 1.4143 + 1e-6;           // cut in both
@@ -70,9 +68,9 @@ TEST(Concordanza, SphericalTableLiesOnHourLinesAndDayLines) {
             for (const int lato : {-1, 1}) {
                 const Punto p(riga[lato < 0 ? 2 : 4], riga[lato < 0 ? 3 : 5]);
                 if (!q.illuminato(Numero(riga[1]), lato * 23.445) || !p.dentro()) continue;
-                EXPECT_LT(Lontananza(corde, p), 0.01) << q.nome << " hour " << riga[0];
+                EXPECT_LT(DaCorde(p.x, -p.y, corde), 0.01) << q.nome << " hour " << riga[0];
                 EXPECT_LT(LontananzaRetta(rette, p), QUATTRO_CIFRE) << q.nome << " hour " << riga[0];
-                EXPECT_TRUE(lato > 0 || !q.versoSud() || Lontananza(inverno, p) < QUATTRO_CIFRE + 1e-5) << q.nome << riga[0];
+                EXPECT_TRUE(lato > 0 || !q.versoSud() || DaCorde(p.x, -p.y, inverno) < QUATTRO_CIFRE + 1e-5) << q.nome << riga[0];
                 ++confrontati;
             }
     }
@@ -172,7 +170,8 @@ TEST(Concordanza, ItalicAndBabylonianTablesLieOnTheirLines) {
                     if (!acceso(riga[0], 90 + lato * salita, lato * 23.445) || !p.dentro()) continue;
                     EXPECT_LT(LontananzaRetta(rette, p), QUATTRO_CIFRE) << q.nome << " hour " << riga[0];
                     // A line's two ends are told apart by the winter line alone.
-                    EXPECT_TRUE(lato > 0 || !q.versoSud() || Lontananza(inverno, p) < QUATTRO_CIFRE + 1e-5) << q.nome << riga[0];
+                    EXPECT_TRUE(lato > 0 || !q.versoSud() || DaCorde(p.x, -p.y, inverno) < QUATTRO_CIFRE + 1e-5)
+                        << q.nome << riga[0];
                     ++confrontati;
                 }
             for (const auto &riga : RigheTabella(r, 1))  // the chosen lines: on the same straight lines

@@ -15,26 +15,22 @@ TEST(Tabelle, CellsAndLinesOfSpecialDials) {
     for (const auto &t : Tabella("celle_rapporti.txt")) {
         BancoRapporti b(t[0]);
         const std::string luogo = t[0] + " " + t[1] + " " + t[2] + " " + t[3] + " " + t[4], atteso = Scritto(t[5]);
-        const bool carta = t[1].ends_with("/carta");
-        const Rapporto *r = &b.apri(t[1].substr(0, t[1].find('/')));
-        if (carta) r = &b.stampa();
+        b.apri(t[1].substr(0, t[1].find('/')));
+        const Rapporto &r = t[1].ends_with("/carta") ? b.stampa() : b.s.rapporti.aperto;
+        const auto testi = Righe(r);
+        const auto righe = RigheTabella(r, t[2].empty() ? -1 : std::stoi(t[2]));
+        const std::ptrdiff_t quante = std::ssize(righe);
         if (t[2].empty()) {
-            const auto righe = Righe(*r);
-            const auto riga = t[3].empty() ? std::find(righe.begin(), righe.end(), atteso) : righe.begin() + std::stoi(t[3]);
-            EXPECT_TRUE(riga < righe.end() && *riga == atteso) << luogo << atteso;
-            continue;
+            const auto riga = t[3].empty() ? std::find(testi.begin(), testi.end(), atteso) : testi.begin() + std::stoi(t[3]);
+            EXPECT_TRUE(riga < testi.end() && *riga == atteso) << luogo << atteso;
+        } else if (t[3] == "n") {
+            EXPECT_EQ(std::to_string(quante), atteso) << luogo;
+        } else {
+            const std::ptrdiff_t da = t[3] == "*" ? 0 : std::stoi(t[3]) + (t[3][0] == '-' ? quante : 0);
+            ASSERT_LT(da, quante) << luogo;
+            for (const auto &riga : std::vector(righe.begin() + da, t[3] == "*" ? righe.end() : righe.begin() + da + 1))
+                EXPECT_EQ(t[4] == "n" ? std::to_string(riga.size()) : riga.at(std::stoul(t[4])), atteso) << luogo;
         }
-        const auto righe = RigheTabella(*r, std::stoi(t[2]));
-        if (t[3] == "n") {
-            EXPECT_EQ(std::to_string(righe.size()), atteso) << luogo;
-            continue;
-        }
-        const bool tutte = t[3] == "*";
-        const std::size_t da = tutte ? 0 : static_cast<std::size_t>(std::stoi(t[3]) + (t[3][0] == '-' ? std::ssize(righe) : 0));
-        ASSERT_LT(da, righe.size()) << luogo;
-        for (std::size_t i = da; i < (tutte ? righe.size() : da + 1); ++i)
-            EXPECT_EQ(t[4] == "n" ? std::to_string(righe[i].size()) : righe[i].at(std::stoul(t[4])), atteso)
-                << luogo << " row " << i;
     }
 }
 

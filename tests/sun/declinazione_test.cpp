@@ -1,15 +1,75 @@
-// The utility board as a user works it: boxes, signs, options, what goes to the main window.
-#include <gtest/gtest.h>
-
-#include <cmath>
-#include <ctime>
-#include <string>
-
-#include "comuni/prova.h"
+// The declination board: its report, and the board as a user works it: boxes, signs, options, the main window.
 #include "sun/declinazione.h"
 
-namespace ombrelia {
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <ctime>
+#include <string>
+#include <tuple>
+
+#include "comuni/prova.h"
+
+namespace ombrelia::sun {
 namespace {
+
+DatiDeclinazione Torino() {
+    return {
+        .lat = 45.07, .lon = -7.68, .giorno = 21, .mese = 6, .anno = 2026, .ore = 9, .minuti = 40, .angolo = 12.5, .fuso = -1};
+}
+
+TEST(Declinazione, ReportsToTheLastDigit) {
+    const auto etichette = prova::Tabella("sole_etichette.txt");
+    int righe = 0, notti = 0, giorni = 0;
+    for (const auto &r : prova::Tabella("sole_rapporti.txt")) {
+        std::string atteso;
+        SCOPED_TRACE(r.at(0) + ' ' + r.at(2) + '-' + r.at(3) + '-' + r.at(4) + ' ' + r.at(5));
+        std::size_t i = 12;
+        for (const auto &e : etichette) atteso += e.at(0) + r.at(i++) + (e.at(1) == "2" ? "\r\n\r\n" : "\r\n");
+        if (r.at(i) == "notte") atteso += "Il sole non sorge  ", ++notti;
+        else if (r.at(i) == "giorno") atteso += "Il sole non tramonta  ", ++giorni;
+        else atteso += "Il Sole sorge:   " + r.at(i) + "\r\nIl sole tramonta:   " + r.at(i + 1);
+        std::replace(atteso.begin(), atteso.end(), '_', ' ');
+        DatiDeclinazione d;
+        std::size_t k = 0;
+        for (Valore *v : {&d.lat, &d.lon, &d.giorno, &d.mese, &d.anno, &d.ore, &d.minuti, &d.secondi, &d.angolo, &d.fuso})
+            *v = Val(r.at(k++));
+        d.dst = r.at(10) == "1";
+        const EsitoDeclinazione e = Declinazione(d, {});
+        EXPECT_EQ(e.rapporto, atteso);
+        EXPECT_EQ(e.txtDelta.value_or(""), r.at(11));
+        EXPECT_EQ(e.corrLong, e.declinazione > 0);
+        EXPECT_EQ(e.errore, "");
+        ++righe;
+    }
+    EXPECT_TRUE(righe >= 100 && notti >= 3 && giorni >= 3);
+}
+
+TEST(Declinazione, LabelsGoThroughTheDictionary) {
+    Dizionario d;
+    d.Interpreta("\"Azimut del Sole:  |Azimuth of the Sun:  \r\nwest|ovest\r\nIl sole tramonta:   |Sunset:   \r\n\"\r\n");
+    DatiDeclinazione dati = Torino();
+    dati.angolo = -80;
+    const std::string t = Declinazione(dati, d).rapporto;
+    EXPECT_TRUE(t.starts_with("Azimuth of the Sun:  -55.4956\r\nDeclinazione del quadrante solare: 24.5044    ovest\r\n")) << t;
+    EXPECT_TRUE(t.ends_with("\r\nSunset:   20  19  51")) << t;
+}
+
+// A fault ends the calculation where it stands; what was written before it stays written.
+TEST(Declinazione, FaultsStopItWhereTheyAre) {
+    const Valore no = Valore::nessuno();
+    using D = DatiDeclinazione;
+    const std::tuple<Valore D::*, Valore, bool> casi[] = {
+        {&D::lat, no, false}, {&D::fuso, no, false}, {&D::angolo, no, false}, {&D::anno, 1e200, false}, {&D::lon, 1.7e308, true}};
+    for (const auto &[campo, valore, delta] : casi) {
+        D dati = Torino();
+        dati.*campo = valore;
+        const EsitoDeclinazione e = Declinazione(dati, {});
+        EXPECT_TRUE(e.errore != "" && e.rapporto.empty()) << valore.v;
+        EXPECT_TRUE(e.deltaOpz.has_value() == delta && e.txtDelta.has_value() == delta) << valore.v;
+        EXPECT_FALSE(e.txtAO.has_value() || e.corrLong) << valore.v;
+    }
+}
 
 class Strumenti : public testing::Test {
 protected:
@@ -22,19 +82,6 @@ protected:
     std::string parti(bool lon) {
         return b.s.stato(lon ? "frmDeclin.cmdSign(1)" : "frmDeclin.cmdSign(0)").caption + testo(lon ? "txtLonG" : "txtLatG") +
                " " + testo(lon ? "txtLonP" : "txtLatP") + " " + testo(lon ? "txtLonS" : "txtLATS");
-    }
-    void muro() {
-        b.premi("mnuAusiliaria");
-        for (const auto &[nome, t] : prova::Campi{{"LAT", "45.07"},
-                                                  {"LON", "-7.68"},
-                                                  {"Day", "21"},
-                                                  {"Month", "6"},
-                                                  {"Year", "2026"},
-                                                  {"HH", "9"},
-                                                  {"MM", "40"},
-                                                  {"SS", "0"},
-                                                  {"Angle", "12.5"}})
-            EXPECT_EQ(scrivi("txt" + std::string(nome), std::string(t)), app::Esito::Fatto) << nome;
     }
 };
 
@@ -80,11 +127,12 @@ TEST_F(Strumenti, BoxesSignsAndModes) {
 }
 
 TEST_F(Strumenti, ARunWritesReportFieldsAndSharedVariablesAndAFaultLeavesThem) {
-    muro();
+    b.premi("mnuAusiliaria");
+    for (const std::string &c : prova::Divisi("LAT=45.07|LON=-7.68|Day=21|Month=6|Year=2026|HH=9|MM=40|SS=0|Angle=12.5", '|'))
+        EXPECT_EQ(scrivi("txt" + c.substr(0, c.find('=')), c.substr(c.find('=') + 1)), app::Esito::Fatto) << c;
     app::Spunta(b.s, id("ckDst"), 1);
     b.s.v.corrLong = 0.25;
     premi("cmdCalcola");
-    EXPECT_NE(testo("txtResult").find("Declinazione del quadrante solare: -67.9956    East\r\n"), std::string::npos);
     EXPECT_NE(testo("txtResult").find("mezzodì:  13   31   5\r\n"), std::string::npos);
     EXPECT_EQ(b.s.in.txtDelta, "23.436");
     EXPECT_TRUE(b.s.in.txtAO.starts_with("-27.7708755678")) << b.s.in.txtAO;
@@ -108,4 +156,4 @@ TEST_F(Strumenti, ARunWritesReportFieldsAndSharedVariablesAndAFaultLeavesThem) {
 }
 
 }  // namespace
-}  // namespace ombrelia
+}  // namespace ombrelia::sun

@@ -127,7 +127,9 @@ TEST(Analitica, OrdineColoriEDiUnaCorsa) {
     EXPECT_EQ(b.punti(10).size(), 6001U + b.punti(5).size()) << "equinoctial and one branch";
     EXPECT_TRUE(b.testo(" ordinata ore 12 itabab") && b.testo("Ascisse delle intersezioni dei solstizi con l'orizzonte"));
     EXPECT_EQ(b.s.v.xEq, 0.8);
-    EXPECT_EQ(b.utente.messaggi.at(0), "Piede Esegui: algoritmo che usa prevalentemente la Geometria Analitica ");
+    EXPECT_EQ(b.utente.messaggi,
+              std::vector<std::string>{"Piede Esegui: algoritmo che usa prevalentemente la Geometria Analitica "});
+    EXPECT_TRUE(std::ranges::all_of(l.Linee, [](const RecLinea &r) { return r.Spessore == 1; }));
 }
 
 TEST(Analitica, PuntiFondamentali) {
@@ -135,6 +137,12 @@ TEST(Analitica, PuntiFondamentali) {
     b.premi("cmdEqui");
     EXPECT_NEAR(b.s.v.xCentro.numero(), -0.2 * std::tan(PI / 6), 1e-9) << "the pole as the wall sees it";
     EXPECT_NEAR(b.s.v.yCentro.numero(), 0.2 / std::cos(PI / 6), 1e-9);
+    // Ortostilo and polar style laid flat keep their lengths.
+    for (const auto &[colore, lunga] : {std::pair{12, 0.2}, {9, 0.2 / std::sin(b.s.v.altStilo.numero())}}) {
+        const auto l = std::ranges::find(b.lista().Linee, QB(colore), &RecLinea::colore);
+        ASSERT_NE(l, b.lista().Linee.end()) << colore;
+        EXPECT_NEAR(std::hypot(l->X1 - l->X2, l->Y1 - l->Y2), lunga, 1e-12) << colore;
+    }
     // Where the solstices cross the horizon, at the hour when the Sun rises or sets; each is noted.
     for (const double delta : {-Radianti(23.445).v, Radianti(23.445).v})
         for (const int lato : {-1, 1}) {
@@ -147,7 +155,9 @@ TEST(Analitica, PuntiFondamentali) {
 TEST(Analitica, MillimetriSenzaOreRestanoMillimetri) {
     Quadro metri("txtDec=15 txtInc=0 TxtStilo=0.2 chkOreAstronomiche"),
         mm("txtDec=15 txtInc=0 TxtStilo=200 ChCentimetro chkOreAstronomiche");
-    EXPECT_LT(prova::Confronta(metri.analitica().linee("Ore_astro"), mm.analitica().linee("Ore_astro")).peggiore, 1e-9);
+    const auto a = metri.analitica().linee("Ore_astro"), b = mm.analitica().linee("Ore_astro");
+    EXPECT_TRUE(std::ranges::equal(a, b, [](const RecLinea &l, const RecLinea &m) { return std::fabs(l.X1 - m.X1) < 1e-9; }));
+    EXPECT_NEAR(metri.s.v.yCentro.numero(), mm.s.v.yCentro.numero(), 1e-12);
     mm.spunta("chkOreAstronomiche", 0);
     EXPECT_NEAR(mm.analitica().s.v.yCentro.numero(), 1000 * metri.s.v.yCentro.numero(), 1e-9)
         << "only the hour lines scale the gnomon";
@@ -203,7 +213,9 @@ TEST(Analitica, RifiutiEFoglio) {
     Quadro australe("txtLAT=-45 txtInc=0 chkOreAstronomiche ckAssi");
     EXPECT_EQ(australe.premi("cmdEqui"), app::Esito::Fatto);
     EXPECT_TRUE(australe.lista().Ordine.empty() && australe.lista().Testi.empty());
-    EXPECT_EQ(australe.utente.messaggi.at(1), "Grafica Analitica non è abilitata a lavorare a latitudini australi ");
+    EXPECT_EQ(australe.s.v.segnoLat, -1);
+    ASSERT_EQ(australe.utente.messaggi.size(), 2U);
+    EXPECT_EQ(australe.utente.messaggi[1], "Grafica Analitica non è abilitata a lavorare a latitudini australi ");
     EXPECT_EQ(australe.s.in.txtLAT, "-45");
     EXPECT_EQ(australe.s.v.letture, 0);
 
@@ -227,7 +239,8 @@ TEST(Analitica, CampiAssurdiSonoRifiutatiOInnocui) {
         b.premi("cmdEqui");
         EXPECT_EQ(b.utente.box.empty() ? "" : b.utente.box.front(), r.at(1)) << r[0];
         EXPECT_EQ(b.lista().Ordine.empty(), !r[1].empty()) << r[0];
-        for (const RecLinea &l : b.lista().Linee) ASSERT_TRUE(std::isfinite(l.X1 + l.Y1) && std::isfinite(l.X2 + l.Y2)) << r[0];
+        for (const RecLinea &l : b.lista().Linee)
+            for (const double d : {l.X1, l.Y1, l.X2, l.Y2}) ASSERT_TRUE(std::isfinite(d)) << r[0];
     }
     Quadro b("txtLAT=0 txtInc=0 txtDensity=1e-6");
     b.s.in.ck_Italiche = 1;

@@ -44,12 +44,12 @@ TEST(Equivalente, QuelCheScrive) {
     for (const auto &r : prova::Tabella("analitica_equivalenti.txt")) {
         const std::string dove = r.at(0) + " " + r.at(1) + " " + r.at(2);
         Quadro b("txtLonG=-12.5 TxtStilo=0.2 txtOriz=7 txtLAT=" + r[0] + " txtDec=" + r[1] + " txtInc=" + r[2]);
-        b.s.in.ck_Etna = r.at(3) == "1";
+        if (r.at(3) == "1") b.spunta("ck_Etna");
         EXPECT_EQ(b.premi("cmdEqui"), app::Esito::Disabilitato);
         b.premi("cmdTrasforma");
         const DialInputs &in = b.s.in;
         const Variabili &v = b.s.v;
-        EXPECT_EQ(in.txtLAT + in.txtInc + in.txtOriz, r.at(5) + "0" + r.at(7)) << dove;
+        EXPECT_EQ(in.txtLAT + " " + in.txtInc + " " + in.txtOriz, r.at(5) + " 0 " + r.at(7)) << dove;
         EXPECT_NEAR(Val(in.txtDec).v, Val(r.at(6)).v, 1e-5) << dove;
         EXPECT_NEAR(Val(in.txtLonG).v, Val(r.at(8)).v, 1e-9) << dove;
         EXPECT_EQ(v.diffLong, PI * Val(r.at(9))) << dove;

@@ -118,8 +118,9 @@ TEST(Piana, OraDelFusoEdEffettiDellaLongitudine) {
         return Muro("txtDec=0 txtLonG=" + lon, std::string("chkOreAstronomiche") + fuso).premuto().linee("Astro");
     };
     const auto locali = ore("-7", ""), spostate = ore("0", " ck_Etna");
-    EXPECT_TRUE(Contenuti(locali, ore("40", ""))) << "local time knows no longitude";
-    EXPECT_TRUE(Contenuti(locali, ore("-15", " ck_Etna"))) << "on the zone meridian both times are one";
+    EXPECT_TRUE(Contenuti(locali, ore("40", "")) && Contenuti(ore("40", ""), locali)) << "local time knows no longitude";
+    EXPECT_TRUE(Contenuti(locali, ore("-15", " ck_Etna")) && Contenuti(ore("-15", " ck_Etna"), locali))
+        << "on the zone meridian both times are one";
     // At longitude 0 the zone's noon is an hour before: whole hours fall on whole hours, the red one among them.
     EXPECT_TRUE(Contenuti(spostate, locali));
     for (const RecLinea &l : spostate) EXPECT_TRUE(l.colore != QB(12) || l.X1 < 0) << "noon of the zone is a morning hour here";
@@ -137,6 +138,7 @@ TEST(Piana, CkFunzione) {
     EXPECT_EQ(con.linee("Ipotenusa").size(), 1u);
     // The hours of the steeples are the half hours of the others.
     EXPECT_EQ(con.utente.messaggi.back(), "Steeple Italic Hours");
+    EXPECT_NE(senza.utente.messaggi.back(), "Steeple Italic Hours");
     EXPECT_TRUE(Contenuti(con.linee("Ita"), senza.linee("Ita")));
     // Five day marks of four chords, from the least to the greatest equation of time; no noon line on a plumb wall.
     auto tacche = con.linee("");
@@ -181,7 +183,8 @@ TEST(Piana, TroppoFittoPrimaDiDisegnare) {
         b.premuto();
         const bool rifiutato = r.at(4) == "1";
         EXPECT_EQ(b.utente.box, std::vector(rifiutato, r[2] + " = " + r[3] + ": troppo fitto"));
-        EXPECT_EQ(b.lista().Ordine.empty() && b.lista().Testi.empty(), rifiutato) << r[0] << " " << r[3];
+        EXPECT_EQ(b.lista().Ordine.empty(), rifiutato) << r[0] << " " << r[3];
+        EXPECT_EQ(b.lista().Testi.empty(), rifiutato) << r[0] << " " << r[3];
     }
 }
 
@@ -256,6 +259,10 @@ TEST(Piana, CasiLimite) {
     EXPECT_TRUE(Muro("txtLAT=0 txtDec=20", "ckAz").premuto().punti(6).empty());
     EXPECT_FALSE(Muro("txtLAT=80 txtDec=0", "Ck_DayLightCurves").premuto().strati().contains("Solstizio dicembre"))
         << "no sunrise";
+    // At declination 0 of the user's day the optional line is the equinoctial within the limits of the day.
+    Muro equinozio("txtDec=20 txtDelta=0", "Ck_DayLightCurves ck_Equinoziale");
+    equinozio.premuto();
+    EXPECT_TRUE(Contenuti(equinozio.linee("Diurna opzionale"), equinozio.linee("21 III or 23 IX Eq")));
     // On a wall that faces East or West each Asr point of the frame comes twice, the others once.
     std::map<std::pair<double, double>, int> volte;
     Muro ovest("txtDec=90", "ckAsr");
@@ -285,7 +292,8 @@ TEST(Piana, TriangoloAllungato) {
 TEST(Piana, NumeriEZodiaco) {
     const auto segni = [](const std::string &caselle) {
         Muro b("txtDec=0 txtDelta=10 txtNumbersize=.03", caselle);
-        return b.premuto().anonime(7) + std::ssize(b.linee("Astro"));
+        b.premuto();
+        return b.anonime(7) + std::ssize(b.linee("Astro"));
     };
     const auto ore = segni("chkOreAstronomiche"), romani = segni("chkOreAstronomiche ckRomani");
     EXPECT_GT(romani, ore);

@@ -64,6 +64,7 @@ void EsportaDizionario(Sessione &s, std::string_view modulo) {
     std::string testo;
     const auto riga = [&testo](const std::string &t) { testo += SenzaBlanks(t) + "|\r\n"; };
     for (const Controllo &c : ControlliDi(modulo)) {
+        if (c.nostro) continue;
         const Testi quali = testiDi(c.classe);
         const StatoControllo &stato = s.stato(IdDi(c));
         if (quali.caption) riga(stato.caption);

@@ -16,8 +16,11 @@ struct Chiave {
     std::string_view nome;
     std::string In::*testo = nullptr;
     int In::*casella = nullptr;
+    std::string_view inizio{};  // of a later key, which a file holds only where it differs; empty for the others
 };
-constexpr Chiave T(std::string_view nome, std::string In::*campo) { return {nome, campo, nullptr}; }
+constexpr Chiave T(std::string_view nome, std::string In::*campo, std::string_view inizio = {}) {
+    return {nome, campo, nullptr, inizio};
+}
 constexpr Chiave C(std::string_view nome, int In::*casella) { return {nome, nullptr, casella}; }
 
 // In the order of a fresh file. ROMANI is the size box; the switch of the Roman numerals is CIFRE.
@@ -63,6 +66,7 @@ constexpr Chiave CHIAVI[] = {
     T("ARABI", &In::txtArabi),
     T("ROMANI", &In::txtNumbersize),
     T("ZODIACO", &In::txtZodiacsize),
+    T("MERIDIANO", &In::txtMeridiano, "-15"),
 };
 
 }  // namespace
@@ -79,7 +83,11 @@ void LeggiDefault(Sessione &s) {
 
 std::optional<std::string> ScriviDefault(Sessione &s) {
     Parametri parametri;
-    for (const Chiave &c : CHIAVI) parametri.Poni(c.nome, c.testo ? s.in.*c.testo : std::to_string(s.in.*c.casella));
+    for (const Chiave &c : CHIAVI) {
+        const std::string valore = c.testo ? s.in.*c.testo : std::to_string(s.in.*c.casella);
+        const bool sottinteso = !c.inizio.empty() && valore == c.inizio && parametri.Leggi(c.nome).empty();
+        if (!sottinteso) parametri.Poni(c.nome, valore);
+    }
     return parametri.Salva();
 }
 

@@ -46,6 +46,26 @@ std::string valoreDi(Sessione &s, IdControllo id, Contenuto contenuto) {
     return {};
 }
 
+// Whether a later control stands as an older file leaves it.
+bool alPosto(Sessione &s, const Controllo &c) {
+    if (!c.nostro) return false;
+    switch (contenutoDi(c.classe)) {
+        case Contenuto::Testo:
+            return s.testo(IdDi(c)) == c.inizio;
+        case Contenuto::Numero:
+        case Contenuto::Vero:
+            return s.valore(IdDi(c)) == 0;
+        default:
+            return true;  // captions follow the language
+    }
+}
+
+// A later control that a file doesn't hold.
+void rimetti(Sessione &s, const Controllo &c) {
+    if (c.classe == Classe::Testo) s.testo(IdDi(c)) = c.inizio;
+    else if (c.classe == Classe::Casella) s.valore(IdDi(c)) = 0;
+}
+
 // Setting an option clears the others of its form.
 void scegli(Sessione &s, const Controllo &scelto, bool vero) {
     if (vero && scelto.classe == Classe::Opzione)
@@ -106,7 +126,7 @@ std::string LeggiControlli(Sessione &s) {
     std::string testo;
     for (const Controllo &c : ControlliDi(FINESTRA)) {
         const Contenuto contenuto = contenutoDi(c.classe);
-        if (contenuto == Contenuto::Niente) continue;
+        if (contenuto == Contenuto::Niente || alPosto(s, c)) continue;
         const StatoControllo &stato = s.stato(IdDi(c));
         std::string attributi = stato.visibile ? " visible=true" : " visible=false";
         if (contenuto != Contenuto::Caption) attributi += stato.abilitato ? " enabled=true" : " enabled=false";
@@ -120,7 +140,10 @@ void ApplicaControlli(Sessione &s, const TestoProgetto &testo) {
     for (const Controllo &c : ControlliDi(FINESTRA)) {
         if (contenutoDi(c.classe) == Contenuto::Niente) continue;
         const std::string_view frammento = testo.EstraiTag(c.nome);
-        if (frammento.empty()) continue;
+        if (frammento.empty()) {
+            if (c.nostro) rimetti(s, c);
+            continue;
+        }
         StatoControllo &stato = s.stato(IdDi(c));
         leggiStato(frammento, "visible", stato.visibile);
         leggiStato(frammento, "enabled", stato.abilitato);

@@ -41,6 +41,7 @@ struct Controllo {
     int DialInputs::*casella = nullptr;
     std::string PannelloTavolo::*pannello = nullptr;
     bool visibile = true;
+    bool nostro = false;  // a later control: files hold it only where it differs from its start value
 };
 
 using IdControllo = int;

@@ -141,6 +141,12 @@ constexpr Controllo RIGHE_PRINCIPALE[] = {
     Pulsante("cmdData", "Dati", "Technical data of sundial"),
     Pulsante("cmdSave", "Salva parametri", "Save default parameters for new sundials"),
 
+    // Later controls; files hold them only where they differ from what stands here.
+    Nostro(Etichetta("lblMeridiano", "Meridiano del fuso O +, E -")),
+    Nostro(Testo("txtMeridiano", &In::txtMeridiano, "-15", "longitudine del meridiano dell'ora civile: -15 per l'Europa centrale", Filtro::Tasti)),
+    Nostro(Casella("ckCorretta", &In::ckCorretta, "Geometria corretta", "traccia le linee vere, punto per punto, dal modello dell'ombra")),
+    Nostro(Casella("ckEtichette", &In::ckEtichette, "Etichette", "scrive su ogni linea il suo numero, la data o i gradi")),
+
     // The window's own furniture.
     Cornice("Panel3D1"),
     Muto("PicScroll", Classe::Immagine),

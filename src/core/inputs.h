@@ -18,11 +18,15 @@ struct DialInputs {
     // Prayer, figures, glyph sizes, Sun or Moon point, map.
     std::string txtQlat, txtQlon, txtAO, txtNumbersize, txtArabi, txtZodiacsize, txtSUBSTYLE, textDelta, txtH;
     std::string txtWest, txtEAST, Filtertxt;
+    // The zone's meridian, degrees West positive.
+    std::string txtMeridiano;
 
     int ck_Etna = 0, ChCentimetro = 0, CkUNI = 0, ckFunzione = 0;
     int chkOreAstronomiche = 0, Ck_DayLightCurves = 0, ck_Equinoziale = 0, ck_Italiche = 0, ck_babiloniche = 0, ckTemp = 0;
     int ck_Sustilare = 0, ck_Triangolo = 0, ckZodiac = 0, ckAlt = 0, ck_Lemniscate = 0, ckAsr = 0, CkQibla = 0;
     int ckAssi = 0, ck_Orizzonte = 0, ckAz = 0, ckRomani = 0, ckArabi = 0, ck_inv = 0, punto = 0;
+    // True lines in place of those that are not; labels on every line.
+    int ckCorretta = 0, ckEtichette = 0;
     // Option buttons of the reports: 1 when set.
     int optHorae = 0, OptIta = 0, OptBab = 0, OptTEMP = 0, OptInter = 0, Option1 = 0;
     // The country chosen in the list of the map.

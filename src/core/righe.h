@@ -67,4 +67,10 @@ constexpr Controllo Nascosto(Controllo riga) {
     return riga;
 }
 
+// A control that older files do not know: kept out of them while it stands at its start value.
+constexpr Controllo Nostro(Controllo riga) {
+    riga.nostro = true;
+    return riga;
+}
+
 }  // namespace ombrelia::righe

@@ -17,6 +17,7 @@ void Lista::svuota() {
     Testi.clear();
     Aree.clear();
     Ordine.clear();
+    pretese.clear();
 }
 
 std::optional<std::size_t> Lista::TrovaStart(IdNome id) const {

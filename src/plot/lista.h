@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "core/colori.h"
+#include "plot/pretesa.h"
 
 namespace ombrelia {
 
@@ -84,6 +85,7 @@ struct Lista {
     std::vector<RecArea> Aree;
     std::string Ordine;  // the kind of each primitive in the order it was added: P, L, V, B or C
     Nomi nomi;
+    std::vector<Pretesa> pretese;  // in the order of their records; ranges do not overlap
 
     void svuota();
 

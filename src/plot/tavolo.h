@@ -142,6 +142,11 @@ public:
 
     [[nodiscard]] const Lista &lista() const { return lista_; }
     [[nodiscard]] IdNome nome(std::string_view Id) { return lista_.nomi.id(Id); }
+    // Keeps a claim up to the last record; one without records says nothing.
+    void pretendi(Pretesa p) {
+        p.a = lista_.Ordine.size();
+        if (p.a > p.da) lista_.pretese.push_back(p);
+    }
 
     Dispositivo *dispositivo = nullptr;                 // not owned; may be absent
     std::function<void(std::string_view)> suMessaggio;  // hears the status line
@@ -187,6 +192,22 @@ private:
     double scalaCorrente_ = ScalaBase;
     std::vector<int> vociScala_;
     double currentX_ = 0, currentY_ = 0;  // device units
+};
+
+// Brackets the drawing of one line: what is recorded in its life claims to be that line. Brackets do not nest.
+class Pretendi {
+public:
+    Pretendi(Tavolo &tavolo, Specie specie, double valore = 0) : tavolo_(tavolo) {
+        const Lista &l = tavolo.lista();
+        pretesa_ = {specie, valore, l.Ordine.size(), 0, l.Linee.size(), l.Punti.size(), l.Figure.size()};
+    }
+    Pretendi(const Pretendi &) = delete;
+    Pretendi &operator=(const Pretendi &) = delete;
+    ~Pretendi() { tavolo_.pretendi(pretesa_); }
+
+private:
+    Tavolo &tavolo_;
+    Pretesa pretesa_;
 };
 
 // Meeting point of the line through points 1 and 2 with the line through points 3 and 4; none when they are parallel.

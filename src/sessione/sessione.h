@@ -40,6 +40,9 @@ struct Sessione {
     Mondo mondo;  // as cmdStati loaded it
     Rapporti rapporti;
     Utente &utente;
+    // A run reads the original dial anew unless the dial was transformed: on for whoever designs, off for action scripts,
+    // where the first read since start fixes it for good.
+    bool originaleFresco = false;
     std::vector<StatoControllo> stati;  // one a row of the table of controls
     std::vector<std::string> titoli;    // captions of the forms, one a row of the table of forms
 

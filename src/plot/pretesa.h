@@ -1,0 +1,40 @@
+// What drawn lines say of themselves: a range of the display list and the line that it claims to be. Plain data; who
+// draws fills it, who judges or names a line reads it.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+
+namespace ombrelia {
+
+// The kinds of lines. The value that goes with each stands beside it.
+enum class Specie : std::uint8_t {
+    Ora,           // true hour on the face, 12 at noon; in zone time with the zone's box set
+    Diurna,        // declination of the Sun, degrees
+    Equinoziale,   // 0
+    Italica,       // hours since sunset
+    Babilonica,    // hours since sunrise
+    Temporaria,    // twelfths of the day since sunrise
+    Almucantarat,  // altitude of the Sun, degrees
+    Azimut,        // azimuth of the Sun, degrees from South, West positive
+    Asr,           // shadow lengths beyond the noon shadow: 1
+    Qibla,         // 0: the Sun stands in the bearing of the Qibla
+    Analemma,      // hour of mean time on the face, 12 for mean noon
+    Mezzogiorno,   // 0: the site's meridian
+    OraSustilare,  // 0: the hour line through the substyle
+    Sustilare,     // 0: the substyle itself
+    Orizzonte,     // 0: the Sun on the horizon
+    Stilo,         // 0: the triangle of the style
+    Etichetta,     // labels and title block
+    Nessuna        // frame, axes, glyphs, map: nothing to hold them against
+};
+
+// Records da to a (one past the last) of Lista::Ordine; the first line, point and figure among them.
+struct Pretesa {
+    Specie specie;
+    double valore;
+    std::size_t da, a;
+    std::size_t linea, punto, figura;
+};
+
+}  // namespace ombrelia

@@ -83,6 +83,7 @@ void CalcolaCentroAnalitico(Sessione &s) {
     v.segStiloSus = v.gn / tan(v.altStilo);
     v.xCentro = -v.segStiloSus * sin(v.angSustilare);
     v.yCentro = v.segStiloSus * cos(v.angSustilare);
+    const Pretendi pretendi(s.tavolo, Specie::Mezzogiorno);
     s.tavolo.xLine(v.xCentro, -v.semiH, v.xCentro, v.semiH, QB(4));
 }
 

@@ -9,20 +9,40 @@ namespace ombrelia::analytic {
 
 namespace {
 
+// The side of the equinoctial on which a point lies tells the declination of the two that one conic holds: the centre
+// of a wall that looks to the equator lies on the winter's side, of one that looks away on the summer's.
+class Lato {
+public:
+    Lato(const Variabili &v, double delta) : delta_(std::fabs(delta)), ss_(sin(v.angSustilare)), cs_(cos(v.angSustilare)), y0_(v.y0) {}
+    // The claim of a point of the dial's frame, y upward: recorded while it lives.
+    [[nodiscard]] Pretendi operator()(Tavolo &t, Valore x, Valore y) const {
+        if (delta_ == 0) return Pretendi(t, Specie::Equinoziale);
+        return {t, Specie::Diurna, y * cs_ - x * ss_ + y0_ > 0 ? -delta_ : delta_};
+    }
+
+private:
+    double delta_;
+    Valore ss_, cs_, y0_;
+};
+
 // A day line in a sweep of abscissas; its ordinates keep their values where they fault.
 struct Diurna {
     OrdinateConica ordinate;
     Colore colore;
+    Lato lato;
     Reale meno, piu;
 
-    Diurna(const Variabili &v, Valore m, int colore_) : ordinate(conica(v, m), v.angSustilare, v.y0), colore(QB(colore_)) {}
+    Diurna(const Variabili &v, Valore m, double delta, int colore_)
+        : ordinate(conica(v, m), v.angSustilare, v.y0), colore(QB(colore_)), lato(v, delta) {}
     void punto(Tavolo &t, double x) {
         const Radici y = ordinate(x);
         if (!y.reali) return;
         meno = y.meno;
         piu = y.piu;
-        t.xPset(x, -meno, colore, SENZA_STRATO);
-        t.xPset(x, -piu, colore, SENZA_STRATO);
+        for (const Reale y : {meno, piu}) {
+            const Pretendi pretendi = lato(t, x, y);
+            t.xPset(x, -y, colore, SENZA_STRATO);
+        }
     }
 
 private:
@@ -38,10 +58,12 @@ private:
 struct DiurnaEquatore {
     Valore m;
     Colore colore;
+    Lato lato;
     Reale y;
 
-    DiurnaEquatore(Valore m_, int colore_) : m(m_), colore(QB(colore_)) {}
+    DiurnaEquatore(const Variabili &v, Valore m_, double delta, int colore_) : m(m_), colore(QB(colore_)), lato(v, delta) {}
     void punti(Tavolo &t, double x) const {
+        const Pretendi pretendi = lato(t, -x, y);
         t.xPset(-x, -y, colore, SENZA_STRATO);
         t.xPset(-x, y, colore, SENZA_STRATO);
     }
@@ -75,11 +97,11 @@ void TracciaLineaDiurnaScelta(Sessione &s) {
     Reale m;  // stays 0 on the equinox, whose cotangent faults
     m = QuadratoCotangente(v.deltaOpz);
     if (v.lat != 0) {
-        Diurna linea(v, m, 9);
+        Diurna linea(v, m, v.deltaOpz.numero(), 9);
         for (const double x : Conteggio(-1, 1, v.passo)) linea.punto(s.tavolo, x);
     } else if (!paralleloAlPolo(v)) {
         const Equatore equatore(v);
-        DiurnaEquatore linea(m, 9);
+        DiurnaEquatore linea(v, m, v.deltaOpz.numero(), 9);
         for (const double x : Equatore::ascisse())
             if (equatore.esiste(linea, x)) linea.punti(s.tavolo, x);
     }
@@ -91,12 +113,12 @@ void TracciaLineeDiurneAnalitiche(Sessione &s) {
     // Not the 23.445 of the horizon: meant.
     const Valore m2345 = QuadratoCotangente(23.45), m20 = QuadratoCotangente(20), m115 = QuadratoCotangente(11.5);
     if (v.lat != 0) {
-        std::array linee{Diurna(v, m2345, 15), Diurna(v, m20, 14), Diurna(v, m115, 13)};
+        std::array linee{Diurna(v, m2345, 23.445, 15), Diurna(v, m20, 20, 14), Diurna(v, m115, 11.5, 13)};
         for (const double x : Conteggio(-1, 1, v.passo))
             for (Diurna &linea : linee) linea.punto(s.tavolo, x);
     } else if (!paralleloAlPolo(v)) {
         const Equatore equatore(v);
-        DiurnaEquatore d2345(m2345, 2), d20(m20, 3), d115(m115, 4);
+        DiurnaEquatore d2345(v, m2345, 23.445, 2), d20(v, m20, 20, 3), d115(v, m115, 11.5, 4);
         for (const double x : Equatore::ascisse()) {
             // Each line only where those nearer the equinox exist; the innermost is drawn first.
             if (!equatore.esiste(d115, x)) continue;

@@ -1,4 +1,6 @@
 // Straight figures of the analytic engine: hour lines, substyle, equinoctial and the style triangle laid flat.
+#include <optional>
+
 #include "analytic/analitica.h"
 #include "core/conteggio.h"
 
@@ -15,6 +17,7 @@ void oreParallele(Sessione &s, const Cornice &limiti, IdNome strato) {
     const Valore m2 = 1 / (tanSolstizio * tanSolstizio), radice = Sqr(m2);
     Reale x2, y2;
     for (const double h : Conteggio(-75, 75, 15 / v.fraz)) {
+        const Pretendi pretendi(s.tavolo, Specie::Ora, 12 + h / 15);
         const Valore r = h * PI / 180;
         v.x1 = v.gn / (radice * cos(r));
         x2 = -v.gn / (radice * cos(r));
@@ -43,6 +46,7 @@ void TracciaOreAstronomiche(Sessione &s) {
     const Valore sinE = sin(v.altStilo), obliqua = v.gn / cos(v.altStilo), t0 = v.angoloOra - v.corrLong;
     Reale a, b, k, m, x2;
     for (const double h : Conteggio(-90, 90, 15 / v.fraz)) {
+        const Pretendi pretendi(s.tavolo, Specie::Ora, 12 + h / 15);
         const Valore tanT = tan(t0 + h * PI / 180);
         a = sinE * tanT;
         b = obliqua * tanT;
@@ -61,11 +65,13 @@ void TracciaSustilareAnalitica(Sessione &s) {
     const Variabili &v = s.v;
     if (v.angSustilare == 0) return;
     const Valore t = tan(v.angSustilare);
+    const Pretendi pretendi(s.tavolo, Specie::Sustilare);
     for (const double i : Conteggio(-1, 1, 0.002)) s.tavolo.xPset(i, i / t, QB(14), SENZA_STRATO);
 }
 
 void TracciaEquinozialeAnalitica(Sessione &s) {
     const Variabili &v = s.v;
+    const Pretendi pretendi(s.tavolo, Specie::Equinoziale);
     if (v.lat > 0) {
         const Valore t = tan(v.angSustilare), q = v.y0 / cos(v.angSustilare);
         Reale y;
@@ -91,9 +97,11 @@ void TracciaTriangoloAnalitico(Sessione &s) {
     const Valore a = tan(v.altStilo - v.angSustilare), t = tan(v.angSustilare);
     xT = (v.yCentroNeg - v.yCentro - t * v.xCentroNeg) / (1 / a - t) + v.xCentro / (1 - a * t);
     yT = (xT - v.xCentro) / a + v.yCentro;
+    std::optional<Pretendi> pretendi(std::in_place, tavolo, Specie::Stilo);
     if (Abs(v.yCentro) < 3) tavolo.xLine(xT, -yT, v.xCentro, -v.yCentro, QB(9));
     tavolo.xLine(xT, -yT, v.xCentroNeg, -v.yCentroNeg, QB(12));
     tavolo.xPset(v.xCentroNeg, -v.yCentroNeg, QB(15), SENZA_STRATO);
+    pretendi.emplace(tavolo, Specie::Orizzonte);
     tavolo.xLine(-v.semiL, -v.yCentroNeg, v.semiL, -v.yCentroNeg, QB(14));
 }
 

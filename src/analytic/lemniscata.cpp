@@ -19,6 +19,7 @@ void TracciaLemniscataAnalitica(Sessione &s) {
     v.y0 = v.gn * tan(v.altStilo);
     v.lonPiu15 = 15 + v.lon;
     v.corrLong = v.lonPiu15 * PI / 180;
+    const Pretendi pretendi(s.tavolo, Specie::Analemma, 12);
 
     if (v.latR != 0 && v.dec == 0) {
         // Due south the latitude is left out of the formula: meant.

@@ -8,8 +8,9 @@ namespace ombrelia::analytic {
 
 namespace {
 
-// verso is the sign before the root of the tangent's slope: -1 from sunset, 1 from sunrise.
-void traccia(Sessione &s, double verso) {
+// verso is the sign before the root of the tangent's slope: -1 from sunset, 1 from sunrise. ora is the hour, so counted,
+// of noon at the equinox.
+void traccia(Sessione &s, Specie specie, double verso, double ora) {
     Variabili &v = s.v;
     Tavolo &tavolo = s.tavolo;
     if (v.lat_o == 0) return;
@@ -30,8 +31,12 @@ void traccia(Sessione &s, double verso) {
         const Valore quadrato = q4 - R * (u * u);
         if (!(quadrato >= 0)) continue;
         const Valore radice = Sqr(quadrato);
-        punto(u, mezzo + radice, QB(5));
-        punto(u, mezzo - radice, QB(10));
+        const auto delGiorno = [&](Valore w, Colore colore) {
+            const Pretendi pretendi(tavolo, Specie::Diurna, w > 0 ? phi.numero() * 180 / PI - 90 : 90 - phi.numero() * 180 / PI);
+            punto(u, w, colore);
+        };
+        delGiorno(mezzo + radice, QB(5));
+        delGiorno(mezzo - radice, QB(10));
     }
 
     const Valore obliqua = v.gn / cos(v.altStilo), t0 = v.angoloOra + v.diffLong;
@@ -41,13 +46,14 @@ void traccia(Sessione &s, double verso) {
         const Valore hh = h * h, RR = R * R, QQ = Q * Q;
         g = (-2 * R * Q * h + verso * (2 * Sqr(RR * QQ * hh + R * P * QQ - 4 * R * (P * P) - 4 * RR * P * hh))) / (QQ - 4 * P - 4 * R * hh);
         const Valore pendenza = g, piede = h;
+        const Pretendi pretendi(tavolo, specie, ora + a / 15);
         for (const double u : Conteggio(-1, 1, v.passo / 10)) punto(u, pendenza * (u - piede), QB(15));
     }
 }
 
 }  // namespace
 
-void TracciaItalicheAnalitiche(Sessione &s) { traccia(s, -1); }
-void TracciaBabilonicheAnalitiche(Sessione &s) { traccia(s, 1); }
+void TracciaItalicheAnalitiche(Sessione &s) { traccia(s, Specie::Italica, -1, 18); }
+void TracciaBabilonicheAnalitiche(Sessione &s) { traccia(s, Specie::Babilonica, 1, 6); }
 
 }  // namespace ombrelia::analytic

@@ -59,6 +59,7 @@ void didascalia(Sessione &s, Valore seno, Valore q) {
 }
 
 void rettaOrizzonte(Sessione &s) {
+    const Pretendi pretendi(s.tavolo, Specie::Orizzonte);
     const double l = s.tavolo.ShiftX();
     s.tavolo.xLine(-l, -s.v.yOriz, l, -s.v.yOriz, QB(14));
 }

@@ -32,10 +32,11 @@ void TracciaLineeDiurne(Sessione &s) {
     const Reale a = -v.gn * tan(Hs) * sin(S) * v.unita;
     const Reale b = v.gn * tan(Hs) * cos(S) * v.unita;
 
-    const Valore opzionale = Val(s.in.txtDelta) * v.segnoLat * 1.0001;
+    const Valore richiesta = Val(s.in.txtDelta), opzionale = richiesta * v.segnoLat * 1.0001;
     const bool intermedie = s.in.ckFunzione == 1;
     struct Linea {
         Valore delta;
+        Valore dichiarata;  // declination that the maker asked for, degrees
         bool si;
         int lato;     // of the branch kept: 1 W > 0, -1 W < 0, 0 none
         bool forzato; // W counts as lato when E = 0; the last two lines have no such case, as meant
@@ -44,12 +45,12 @@ void TracciaLineeDiurne(Sessione &s) {
     };
     // The offsets of a thousandth and the factor 1.0001 are meant.
     const Linea linee[] = {
-        {-23.445, true, 1, true, QB(14), "delta -23.445°"},
-        {-20.001, intermedie, 1, true, QB(13), "delta -20°"},
-        {20.001, intermedie, -1, true, QB(13), "delta 20°"},
-        {-11.501, intermedie, 1, true, QB(11), "delta -11.5°"},
-        {11.501, intermedie, -1, false, QB(11), "delta 11.5°"},
-        {opzionale, true, opzionale < 0 ? 1 : opzionale > 0 ? -1 : 0, false, QB(9), "Delta opt"},
+        {-23.445, -23.445 * v.segnoLat, true, 1, true, QB(14), "delta -23.445°"},
+        {-20.001, -20 * v.segnoLat, intermedie, 1, true, QB(13), "delta -20°"},
+        {20.001, 20 * v.segnoLat, intermedie, -1, true, QB(13), "delta 20°"},
+        {-11.501, -11.5 * v.segnoLat, intermedie, 1, true, QB(11), "delta -11.5°"},
+        {11.501, 11.5 * v.segnoLat, intermedie, -1, false, QB(11), "delta 11.5°"},
+        {opzionale, richiesta, true, opzionale < 0 ? 1 : opzionale > 0 ? -1 : 0, false, QB(9), "Delta opt"},
     };
     const Sbarramento passa(cornice, v);
     const Proiezione proietta(v);
@@ -60,6 +61,7 @@ void TracciaLineeDiurne(Sessione &s) {
         v.deltaOpz = linea.delta;
         const double tanD = tan(PI * v.deltaOpz / 180).v;
         const bool forza = linea.forzato && E == 0;
+        const Pretendi pretendi(s.tavolo, Specie::Diurna, linea.dichiarata.v);
         Catena catena(s.tavolo, linea.strato);
         for (const SenCos &t : ore) {
             proietta(t, tanD, x, y);
@@ -74,6 +76,7 @@ void TracciaEquinoziale(Sessione &s) {
     const Cornice cornice = LeggiCornice(s);
     const Sbarramento passa(cornice, s.v);
     const Proiezione proietta(s.v);
+    const Pretendi pretendi(s.tavolo, Specie::Equinoziale);
     Catena catena(s.tavolo, "equinox");
     Reale x, y;
     for (const SenCos &t : giornata(s.v.diffLong)) {

@@ -22,11 +22,15 @@ void TracciaStiloPolare(Sessione &s) {
     const Reale px = v.gn * cos(-S) * v.unita;
     const Reale py = v.gn * sin(-S) * v.unita;
 
-    t.xPset(xc, -yc, QB(12));
-    t.xPset(px, -py, QB(12));
-    t.xLine(px, -py, xc, -yc, QB(9), "polar style");
-    t.xLine(px, -py, 0, 0, QB(13), "pillar");
-    t.xLine(xc, -yc, 0, 0, QB(14), "substyle");
+    {
+        const Pretendi pretendi(t, Specie::Stilo);
+        t.xPset(xc, -yc, QB(12));
+        t.xPset(px, -py, QB(12));
+        t.xLine(px, -py, xc, -yc, QB(9), "polar style");
+        t.xLine(px, -py, 0, 0, QB(13), "pillar");
+        t.xLine(xc, -yc, 0, 0, QB(14), "substyle");
+    }
+    const Pretendi pretendi(t, Specie::Mezzogiorno);
     t.xLine(xc, -t.ShiftY(), xc, 2 * t.ShiftY(), QB(8));
 }
 
@@ -38,6 +42,7 @@ void TracciaSustilare(Sessione &s) {
     else t = Arco2(sin(v.decR), sin(v.latR) * cos(v.decR) + cos(v.latR) * tan(v.incR));
     const SenCos angolo(t);
     const Proiezione proietta(v);
+    const Pretendi pretendi(s.tavolo, Specie::OraSustilare);
     Catena catena(s.tavolo, "substyle hour");
     Reale x, y;
     // Past the solstices, so as to reach the centre.
@@ -47,6 +52,9 @@ void TracciaSustilare(Sessione &s) {
         catena.punto(x, y, cornice.contiene(x, y), QB(9));
     }
 }
+
+// The azimuth that the mirror of north and south makes of one, degrees.
+static double oltreEstOvest(double A) { return A < 0 ? -180 - A : 180 - A; }
 
 void TracciaRetteAzimutali(Sessione &s) {
     Variabili &v = s.v;
@@ -71,6 +79,7 @@ void TracciaRetteAzimutali(Sessione &s) {
     const Valore tanLat = tan(v.latR);
     Reale t, x, y;
     for (const double A : Conteggio(-90, 90, 15)) {
+        const Pretendi pretendi(s.tavolo, Specie::Azimut, v.segnoLat == -1 ? oltreEstOvest(A) : A);
         const Reale B = Atn(sin(v.latR) * tan(PI * A / 180));
         const Valore senB = sin(B);
         for (const Declinazione &d : Anno()) {
@@ -111,6 +120,7 @@ void TracciaAlmucantarat(Sessione &s) {
     Reale c, t, x, y;
     for (const bool mattina : {true, false}) {
         for (const double h : Conteggio(10, hMax, 10)) {
+            const Pretendi pretendi(s.tavolo, Specie::Almucantarat, h);
             const double senH = std::sin(PI * h / 180);
             for (const Campione &a : anno) {
                 c = (Valore(senH) - a.senTermine) / a.cosTermine;

@@ -29,6 +29,7 @@ void prepara(Sessione &s) {
 template <typename Angolo, typename Passa>
 void traccia(Sessione &s, std::string_view strato, Colore colore, double verso, Angolo angolo, Passa passa) {
     const Proiezione proietta(s.v);
+    const Pretendi pretendi(s.tavolo, Specie::Analemma, 12);
     Catena catena(s.tavolo, strato);
     Reale x, y;
     for (const double m : Conteggio(-80, 280, (360.0 / 365.2422) * 0.1)) {

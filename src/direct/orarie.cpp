@@ -34,6 +34,7 @@ void TracciaRetteOrarie(Sessione &s) {
         for (const double A : Conteggio(f.inizio, -f.inizio, f.passo)) {
             const Colore colore = !ore ? f.colore : A == 0 ? QB(12) : std::fabs(A) == 90 ? QB(9) : f.colore;
             const SenCos t(PI * A / 180 - c);
+            const Pretendi pretendi(s.tavolo, Specie::Ora, 12 + A / 15);
             for (const Declinazione &d : Anno()) {
                 proietta(t, d.tanD, x, y);
                 catena.punto(x, y, passa(x, y), colore);
@@ -72,7 +73,8 @@ private:
 
 // The lines k of a range; angolo gives the hour angle from k and H0, dentro says whether it lies in the day.
 template <typename Angolo, typename Dentro>
-void tracciaOre(Sessione &s, const Conteggio &ore, std::string_view strato, Colore colore, Angolo angolo, Dentro dentro) {
+void tracciaOre(Sessione &s, const Conteggio &ore, Specie specie, std::string_view strato, Colore colore, Angolo angolo,
+                Dentro dentro) {
     Variabili &v = s.v;
     const Cornice cornice = LeggiCornice(s);
     const Sbarramento passa(cornice, v);
@@ -83,6 +85,7 @@ void tracciaOre(Sessione &s, const Conteggio &ore, std::string_view strato, Colo
     bool prima = true;
     for (const double k : ore) {
         const std::vector<double> &H0 = archi.diLinea(prima);
+        const Pretendi pretendi(s.tavolo, specie, k);
         for (std::size_t i = 0; i < H0.size(); ++i) {
             const double t = angolo(k, H0[i]);
             if (!dentro(t, H0[i])) continue;
@@ -105,7 +108,7 @@ Valore frazione(const Sessione &s) {
 void TracciaOreItaliche(Sessione &s) {
     const double diff = s.v.diffLong.numero();
     tracciaOre(
-        s, Conteggio(Val(s.in.TxtInizio), Val(s.in.TxtFine), 1 / frazione(s)), "Ita", QB(12),
+        s, Conteggio(Val(s.in.TxtInizio), Val(s.in.TxtFine), 1 / frazione(s)), Specie::Italica, "Ita", QB(12),
         [diff](double k, double H0) { return PI * k / 12 + H0 - 2 * PI + diff; },
         [](double t, double H0) { return std::fabs(t) <= H0; });
 }
@@ -113,7 +116,7 @@ void TracciaOreItaliche(Sessione &s) {
 void TracciaOreBabiloniche(Sessione &s) {
     const double diff = s.v.diffLong.numero();
     tracciaOre(
-        s, Conteggio(Val(s.in.TxtInizio), Val(s.in.TxtFine), 1 / frazione(s)), "Bab", QB(11),
+        s, Conteggio(Val(s.in.TxtInizio), Val(s.in.TxtFine), 1 / frazione(s)), Specie::Babilonica, "Bab", QB(11),
         [diff](double k, double H0) { return PI * k / 12 - H0 + diff; },
         [](double t, double H0) { return std::fabs(t) <= H0; });
 }
@@ -121,7 +124,7 @@ void TracciaOreBabiloniche(Sessione &s) {
 void TracciaOreTemporarie(Sessione &s) {
     const double diff = s.v.diffLong.numero();
     tracciaOre(
-        s, Conteggio(0, 12, 1 / frazione(s)), "Temp", QB(3),
+        s, Conteggio(0, 12, 1 / frazione(s)), Specie::Temporaria, "Temp", QB(3),
         [diff](double k, double H0) { return H0 * (k / 6 - 1) + diff; }, [](double, double) { return true; });
 }
 

@@ -9,6 +9,7 @@ void TracciaAsr(Sessione &s, const Cornice &cornice, bool orizzontale) {
     const Sbarramento passa(cornice, v);
     const Proiezione proietta(v);
     const Valore senLat = sin(v.latR), cosLat = cos(v.latR);
+    const Pretendi pretendi(s.tavolo, Specie::Asr, 1);
     Reale h, c, t, x, y;
     for (const Declinazione &d : Anno()) {
         const double D = PI * d.d / 180;
@@ -33,6 +34,7 @@ void curva(Sessione &s, const Cornice &cornice, bool orizzontale, Valore B) {
     const bool nord = v.latR >= 0;
     const Reale limite = v.gn * tan(v.incR);  // unscaled by unita, as meant
     const Valore senB = sin(B), tanLat = tan(v.latR);
+    const Pretendi pretendi(s.tavolo, Specie::Qibla);
     Catena catena(s.tavolo, "Quibla");
     Reale t, x, y;
     for (const double d : Conteggio(-23.445, 23.445, 0.005)) {

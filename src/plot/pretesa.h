@@ -8,8 +8,15 @@
 namespace ombrelia {
 
 // The kinds of lines. The value that goes with each stands beside it.
+//
+// A claim is what the finished dial means to its maker. A southern run (segnoLat = -1) draws the northern dial of the
+// mirrored latitude, to be mirrored in x; the mirror swaps north and south and leaves east and west. So a line drawn for
+// declination d claims -d there and one drawn for azimuth a claims the opposite side of the east-west line, 180 - a
+// (-180 - a when a < 0), while every hour, true, Italic, Babylonian or temporary, is what it was.
+//
+// Where one line carries both a Sun and its opposite (an azimuth's vertical plane), the value is the side that is swept.
 enum class Specie : std::uint8_t {
-    Ora,           // true hour on the face, 12 at noon; in zone time with the zone's box set
+    Ora,           // true hour on the face, 0..24, 12 at noon; in zone time with the zone's box set
     Diurna,        // declination of the Sun, degrees
     Equinoziale,   // 0
     Italica,       // hours since sunset

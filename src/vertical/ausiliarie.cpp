@@ -29,6 +29,7 @@ void TracciaSustilare(Sessione &s) {
     const Reale ps = v.latR == 0 ? Valore(PI / 2) : Arco2(tan(v.decR), sin(v.latR));
     const Orario ora(ps);
     Sfera sfera(v);
+    const Pretendi pretendi(s.tavolo, Specie::OraSustilare);
     Reale x, y;
     for (const double d : Conteggio(-23.445, 23.445, 0.999 * v.passo)) {
         v.deltaOpz = d;
@@ -45,6 +46,7 @@ void TracciaOrizzonte(Sessione &s) {
     (void)LeggiCornice(s);
     if (v.iz_o < PI / 2) v.yOriz = OrdinataOrizzonte(v, Sgn(v.latR));
     s.Scrivi(&DialInputs::txtOriz, TestoNumero(v.yOriz.numero()));
+    const Pretendi pretendi(s.tavolo, Specie::Orizzonte);
     const double l = s.tavolo.ShiftX();
     s.tavolo.xLine(-l, -v.yOriz, l, -v.yOriz, QB(2));
 }
@@ -61,6 +63,7 @@ void TracciaAzimutali(Sessione &s) {
     for (const double a : Conteggio(-90, 90, 15)) {
         beta = Atn(senLat * tan(PI * a / 180));
         const Valore senBeta = sin(beta);
+        const Pretendi pretendi(s.tavolo, Specie::Azimut, v.latR < 0 ? a - (a < 0 ? -180 : 180) : a);
         for (const direct::Declinazione &d : direct::Anno()) {
             ht = ArcSin(d.tanD * senBeta / tanLat);
             Hr = beta - ht;
@@ -82,6 +85,7 @@ void TracciaAsr(Sessione &s) {
     const bool nord = v.latR >= 0, orientale = Abs(v.decGradi) == 90;
     const Proiezione proietta(v);
     const Valore senLat = sin(v.latR), cosLat = cos(v.latR);
+    const Pretendi pretendi(s.tavolo, Specie::Asr, 1);
     constexpr Colore VERDE = Rgb(0, 193, 97);
     Reale hA, Hr, x, y;
     for (const double d : Conteggio(-23.45, 23.45, 0.05)) {
@@ -113,6 +117,7 @@ void TracciaQibla(Sessione &s) {
     const bool nord = v.latR >= 0, orientale = Abs(v.decGradi) == 90, equatore = v.latR == 0;
     const Proiezione proietta(v);
     const Valore senBeta = sin(beta), tanLat = tan(v.latR);
+    const Pretendi pretendi(s.tavolo, Specie::Qibla);
     Reale seno, ht, Hr, x, y;
     for (const double d : Conteggio(-23.445, 23.445, 0.005)) {
         v.deltaOpz = d;

@@ -21,7 +21,7 @@ std::span<const Orario> giri() {
 }
 
 struct Diurna {
-    double delta;
+    double delta, dichiarata;
     Colore colore;
     std::string_view strato;
     bool intermedia;    // not with ckFunzione
@@ -29,13 +29,13 @@ struct Diurna {
     std::size_t mezzo;  // hour angles from -mezzo to mezzo, degrees
 };
 // The declinations are not symmetrical, the horizon's sign and the sweeps are not alike: meant.
-constexpr Diurna DICEMBRE{-23.445, QB(12), "Solstizio dicembre", false, true, 360};
-constexpr Diurna D_20XI{-20.005, QB(13), "20 XI or 20 I", true, false, 360};
-constexpr Diurna D_20II{-11.5, QB(11), "20 II or 20 X", true, true, 180};
-constexpr Diurna D_20IV{11.5, QB(11), "20 IV or 20 VIII", true, true, 180};
-constexpr Diurna D_20V{20, QB(13), "20 V or 20 VII", true, true, 360};
-constexpr Diurna GIUGNO{23.45, QB(12), "Solstizio giugno", false, false, 360};
-constexpr Diurna OPZIONALE{0, QB(14), "Diurna opzionale", false, true, 360};
+constexpr Diurna DICEMBRE{-23.445, -23.445, QB(12), "Solstizio dicembre", false, true, 360};
+constexpr Diurna D_20XI{-20.005, -20, QB(13), "20 XI or 20 I", true, false, 360};
+constexpr Diurna D_20II{-11.5, -11.5, QB(11), "20 II or 20 X", true, true, 180};
+constexpr Diurna D_20IV{11.5, 11.5, QB(11), "20 IV or 20 VIII", true, true, 180};
+constexpr Diurna D_20V{20, 20, QB(13), "20 V or 20 VII", true, true, 360};
+constexpr Diurna GIUGNO{23.45, 23.445, QB(12), "Solstizio giugno", false, false, 360};
+constexpr Diurna OPZIONALE{0, 0, QB(14), "Diurna opzionale", false, true, 360};
 
 // The two hour angles, degrees, between which the Sun stands before the plane on the day of declination dr (radians),
 // from the elevation of the style and the meridian on it; leaves both in altStilo and angoloOra.
@@ -75,7 +75,7 @@ Limiti limitiDelGiorno(Variabili &v, Valore dr) {
 // Chords only between points of one side of the plumb line through the foot.
 bool stessoLato(Reale x, Reale xPrima) { return Sgn(x) == Sgn(xPrima); }
 
-void traccia(Sessione &s, const Diurna &d, Valore delta) {
+void traccia(Sessione &s, const Diurna &d, Valore delta, Valore dichiarata) {
     Variabili &v = s.v;
     const Cornice cornice = LeggiCornice(s);
     v.yOriz = OrdinataOrizzonte(v, d.conSegno ? Sgn(v.latR) : 1);
@@ -86,6 +86,7 @@ void traccia(Sessione &s, const Diurna &d, Valore delta) {
     Sfera sfera(v);
     const Sfera::Giorno giorno = sfera.giorno(v.deltaOpz.numero());
     const Orizzonte orizzonte(v);
+    const Pretendi pretendi(s.tavolo, Specie::Diurna, dichiarata.v);
     direct::Catena catena(s.tavolo, d.strato);
     Reale x, y;
     double H = -static_cast<double>(d.mezzo);
@@ -98,7 +99,7 @@ void traccia(Sessione &s, const Diurna &d, Valore delta) {
 }
 
 void traccia(Sessione &s, const Diurna &d) {
-    if (!d.intermedia || s.in.ckFunzione != 1) traccia(s, d, d.delta);
+    if (!d.intermedia || s.in.ckFunzione != 1) traccia(s, d, d.delta, d.dichiarata);
 }
 
 }  // namespace
@@ -126,7 +127,8 @@ void TracciaDiurna20V(Sessione &s) {
 void TracciaDiurnaSolstizioGiugno(Sessione &s) { traccia(s, GIUGNO); }
 
 void TracciaDiurnaOpzionale(Sessione &s) {
-    if (s.in.ckRomani != 1 && s.in.ckArabi != 1) traccia(s, OPZIONALE, Val(s.in.txtDelta));
+    const Valore richiesta = Val(s.in.txtDelta);
+    if (s.in.ckRomani != 1 && s.in.ckArabi != 1) traccia(s, OPZIONALE, richiesta, richiesta);
 }
 
 void TracciaEquinoziale(Sessione &s) {
@@ -137,6 +139,7 @@ void TracciaEquinoziale(Sessione &s) {
     Sfera sfera(v);
     const Sfera::Giorno giorno = sfera.giorno(0);
     const Orizzonte orizzonte(v);
+    const Pretendi pretendi(s.tavolo, Specie::Equinoziale);
     direct::Catena catena(s.tavolo, "21 III or 23 IX Eq");
     Reale x, y;
     for (const Orario &ora : giri()) {
@@ -161,6 +164,7 @@ void PuntiEquinozialeDecZero(Sessione &s) {
     const Sfera::Giorno giorno = sfera.giorno(0);
     const Valore cosLat = cos(v.latR);
     const bool equatore = v.latR == 0;
+    const Pretendi pretendi(s.tavolo, Specie::Equinoziale);
     Reale x, y;
     for (const double a : Conteggio(-90, 90, 10 * v.passo)) {
         const Orario ora(PI * a / 180);

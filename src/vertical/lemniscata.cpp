@@ -1,6 +1,7 @@
 // The lemniscate of the vertical engine, a mean noon of the zone meridian through a year of days, and what ckFunzione
 // adds to it: the day marks, the zodiac and the straight noon line.
 #include <array>
+#include <optional>
 
 #include "core/conteggio.h"
 #include "glyphs/zodiaco.h"
@@ -27,6 +28,7 @@ void traccia(Sessione &s, const Tacche &t) {
     const Valore HrMin = t.Emin * 15 * PI / (60.0 * 180) - v.corrLong;
     constexpr int PARTI = 4;
     const Valore parte = (HrMax - HrMin) / PARTI;
+    const Pretendi pretendi(s.tavolo, Specie::Diurna, t.delta);
 
     Sfera sfera(v);
     const Sfera::Giorno giorno = sfera.giorno(t.delta);
@@ -61,6 +63,7 @@ void TracciaLemniscata(Sessione &s) {
     const IdNome strato = s.tavolo.nome("Lemniscata");
     const Valore cosLat = cos(v.latR), senLatA = sin(v.latR * segno), senLat = segno * sin(v.latR);
     Sfera sfera(v);
+    std::optional<Pretendi> pretendi(std::in_place, s.tavolo, Specie::Analemma, 12);
     for (const double d : Conteggio(-80, 360, 360 / 365.2422)) {
         const SoleMedio sole = SoleAllaLongitudine(PI * d / 180);
         const Orario ora(sole.Et - v.corrLong);
@@ -74,6 +77,7 @@ void TracciaLemniscata(Sessione &s) {
         if (k == 0 || !(y[k] < v.yOriz) || Sgn(x[k]) != Sgn(x[k - 1]) || !cornice.contiene(x[k], y[k])) continue;
         s.tavolo.xLine(x[k], -y[k], x[k - 1], -y[k - 1], QB(13), strato);
     }
+    pretendi.reset();  // the marks claim for themselves
     if (s.in.ckFunzione == 1) TaccheMeno20(s);
 }
 
@@ -115,6 +119,7 @@ void RettaMezzogiorno(Sessione &s) {
     Reale x2, y2;
     punto(23.445, v.x1, v.y1);
     punto(-23.445, x2, y2);
+    const Pretendi pretendi(s.tavolo, Specie::Mezzogiorno);
     // A wall's points lie below its horizon, so this seldom passes: meant.
     if (v.yOriz <= y2) s.tavolo.xLine(v.x1, -v.y1, x2, -y2, QB(12));
 }

@@ -44,6 +44,8 @@ void TracciaOreAstro(Sessione &s) {
         for (const double H : Conteggio(f.inizio, 180 + verso, f.passo)) {
             const Colore colore = !f.ore ? f.colore : H == 0 ? QB(12) : std::fabs(H) == 90 ? QB(9) : f.colore;
             const Orario ora = OraOrologio(v, H);
+            // 0..24: the sweep goes past midnight.
+            const Pretendi pretendi(s.tavolo, Specie::Ora, H < -180 ? 36 + H / 15 : H > 180 ? H / 15 - 12 : 12 + H / 15);
             for (const Sfera::Giorno &g : anno) {
                 sfera.puntoMuro(ora, g, x, y);
                 catena.punto(x, y, orizzonte.passa(y, catena.yPrima()) && cornice.contiene(x, y), colore);

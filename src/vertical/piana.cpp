@@ -178,6 +178,7 @@ void Piana_Esegui(Sessione &s) {
     if (in.ckAlt == 1) direct::TracciaAlmucantarat(s);
     if (in.ckAz == 1) TracciaAzimutali(s);
     if (in.ck_Orizzonte == 1) {
+        const Pretendi pretendi(t, Specie::Orizzonte);
         t.xLine(-v.semiL, -v.yOriz, v.semiL, -v.yOriz, QB(14));
         s.Scrivi(&DialInputs::txtOriz, TestoNumero(v.yOriz.numero()));
     }

@@ -55,7 +55,7 @@ struct Posto {
 // The lines n of a count; angolo gives the hour angle from n and H0. A point behind the plane is counted but not stored,
 // so the next chord joins what an earlier line of this call left in its place, or the foot of the ortostilo: meant.
 template <typename Angolo>
-void tracciaOre(Sessione &s, Valore da, Valore a, std::string_view strato, Colore colore, Angolo angolo) {
+void tracciaOre(Sessione &s, Valore da, Valore a, Specie specie, std::string_view strato, Colore colore, Angolo angolo) {
     Variabili &v = s.v;
     const Cornice cornice = LeggiCornice(s);
     v.fraz = Val(s.in.TxtFraz);
@@ -70,6 +70,7 @@ void tracciaOre(Sessione &s, Valore da, Valore a, std::string_view strato, Color
             giorni = anno(v, sfera);
             posti.resize(giorni.size() + 1);
         }
+        const Pretendi pretendi(s.tavolo, specie, n);
         std::size_t i = 0;
         for (const Giornata &g : giorni) {
             const Orario ora(angolo(n, g.H0));
@@ -144,16 +145,16 @@ void TracciaItaliche(Sessione &s) {
     const bool campanili = s.in.ckFunzione == 1;
     if (campanili) s.Messaggio(s.Traduci("Steeple Italic Hours"));
     const double scarto = campanili ? 0.5 : 0;
-    tracciaOre(s, 6 + scarto, 24 + scarto, "Ita", Rgb(255, 128, 128), [](double n, double H0) { return H0 + PI * n / 12 - 2 * PI; });
+    tracciaOre(s, 6 + scarto, 24 + scarto, Specie::Italica, "Ita", Rgb(255, 128, 128), [](double n, double H0) { return H0 + PI * n / 12 - 2 * PI; });
 }
 
 void TracciaBabiloniche(Sessione &s) {
     if (s.v.inc_o == 90) return;
-    tracciaOre(s, 0, 18, "Bab", QB(11), [](double n, double H0) { return PI * n / 12 - H0; });
+    tracciaOre(s, 0, 18, Specie::Babilonica, "Bab", QB(11), [](double n, double H0) { return PI * n / 12 - H0; });
 }
 
 void TracciaTemporarie(Sessione &s) {
-    tracciaOre(s, 0, 12, "Temp", QB(6), [](double n, double H0) { return (n / 6 - 1) * H0; });
+    tracciaOre(s, 0, 12, Specie::Temporaria, "Temp", QB(6), [](double n, double H0) { return (n / 6 - 1) * H0; });
 }
 
 void EtichetteItaliche(Sessione &s) {

@@ -1,5 +1,7 @@
 // The triangle of the polar style for the builder: the style lengthened along the substyle by txtSUBSTYLE, the plain
 // triangle under it, and the measures as text.
+#include <optional>
+
 #include "vertical/piana.h"
 #include "vertical/sfera.h"
 
@@ -45,6 +47,7 @@ void TracciaTriangoloStilo(Sessione &s) {
         t.xLine(a.x, -a.y, b.x, -b.y, colore, strato);
     };
     const Punto origine;
+    std::optional<Pretendi> pretendi(std::in_place, t, Specie::Stilo);
     cerchio(P, 10, QB(15));
     cerchio(Q, 10, QB(12));
     linea(F, Q, QB(9), "IPOTENUSA_L");
@@ -61,9 +64,12 @@ void TracciaTriangoloStilo(Sessione &s) {
         linea(F, origine, QB(14), "Cateto");
     }
     cerchio(F, 10, QB(12));
+    pretendi.emplace(t, Specie::Mezzogiorno);
     t.xLine(F.x, -F.y, F.x, 2 * t.ShiftY(), QB(8), "Mezzogiorno");
+    pretendi.emplace(t, Specie::Stilo);
     linea(G, origine, QB(13), "Ortostilo");
     cerchio(F, 100, QB(12));
+    pretendi.reset();
 
     s.Dati("");
     s.Dati(s.Traduci("TRIANGOLO dello STILO LUNGO"));

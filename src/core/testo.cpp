@@ -3,10 +3,11 @@
 
 #include <algorithm>
 #include <array>
-#include <bit>
 #include <charconv>
 #include <cstdint>
 #include <cstring>
+
+#include "core/cifre.h"
 
 namespace ombrelia {
 
@@ -47,14 +48,13 @@ Cifre quindiciCifre(double x) {
     }
     std::array<char, 40> b;
     // The shortest form is several times quicker than the exact one and decides all but the ties of its own digits.
-    auto r = std::to_chars(b.data(), b.data() + b.size(), x, std::chars_format::scientific);
-    leggiScientifico(c, b.data(), r.ptr);
+    leggiScientifico(c, b.data(), b.data() + cifre::Corto(b, x));
     if (c.n > 15) {
         const bool pari = c.n == 16 && c.d[15] == '5';
-        const bool potenza = (std::bit_cast<std::uint64_t>(x) & 0xFFFFFFFFFFFFFULL) == 0;
+        int ordine = 0;
+        const bool potenza = std::frexp(x, &ordine) == 0.5;
         if (pari || potenza) {
-            r = std::to_chars(b.data(), b.data() + b.size(), x, std::chars_format::scientific, 14);
-            leggiScientifico(c, b.data(), r.ptr);
+            leggiScientifico(c, b.data(), b.data() + cifre::Scientifico(b, x, 14));
         } else {
             const bool su = c.d[15] >= '5';
             c.n = 15;
@@ -175,8 +175,7 @@ Valore Val(std::string_view testo) {
     const bool meno = testo[0] == '-';
     const char *da = testo.data() + prima;
     double x = 0;
-    const auto r = std::from_chars(da, testo.data() + fine, x);
-    if (r.ec == std::errc::result_out_of_range) {
+    if (!cifre::Leggi(da, testo.data() + fine, x)) {
         long e = 0;
         if (fine > i) {
             const char *es = testo.data() + i + 1;
@@ -261,8 +260,7 @@ std::string Formato(Valore numero, std::string_view maschera) {
 
 void AggiungiNumero17(std::string &testo, double numero) {
     std::array<char, 32> b;
-    const auto r = std::to_chars(b.data(), b.data() + b.size(), numero, std::chars_format::general, 17);
-    testo.append(b.data(), r.ptr);
+    testo.append(b.data(), cifre::Diciassette(b, numero));
 }
 
 std::string SenzaBlanks(std::string_view testo) {

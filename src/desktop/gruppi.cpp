@@ -1,4 +1,4 @@
-// The groups and their rows: one table, one loop.
+// The groups and their rows as widgets: one loop over the table of groups.
 #include "desktop/gruppi.h"
 
 #include <QGroupBox>
@@ -10,6 +10,7 @@
 #include <QVBoxLayout>
 #include <vector>
 
+#include "app/gruppi.h"
 #include "desktop/dialoghi.h"
 #include "desktop/figure.h"
 
@@ -17,64 +18,9 @@ namespace ombrelia::desktop {
 
 namespace {
 
-// A row holds names of controls; what is no control's name is a caption of the window's own.
-using Riga = std::vector<std::string_view>;
-struct Gruppo {
-    std::string_view titolo;
-    std::vector<Riga> righe;
-};
-
-const std::vector<Gruppo> QUADRANTE = {
-    {"Luogo"_it, {{"lblLatitudine", "txtLAT"}, {"lblLongitudine", "txtLonG"}, {"ck_Etna"}}},
-    {"Piano"_it,
-     {{"Picture2", "Picture3"}, {"lblDeclinazione", "txtDec"}, {"lblInclinazione", "txtInc"}, {"CkUNI"}}},
-    {"Gnomone"_it,
-     {{"p_Stilo", "TxtStilo"}, {"LabSUS", "txtSUBSTYLE"}, {"ChCentimetro"}, {"ck_Sustilare", "ck_Triangolo"}}},
-    {"Cornice e rette"_it,
-     {{"lblX0", "txtX0"},
-      {"lblY0", "txtY0"},
-      {"lblX1", "txtX1"},
-      {"lblY1", "txtY1"},
-      {"Line1"},
-      {"lblEqx", "txtEqx"},
-      {"lblEqy", "txtEqy"},
-      {"lblSusx", "txtSusx"},
-      {"lblSusy", "txtSusy"},
-      {"lblOriz", "txtOriz"}}},
-};
-
-const std::vector<Gruppo> DISEGNO = {
-    {"Ore"_it,
-     {{"chkOreAstronomiche", "ck_Lemniscate"},
-      {"ck_Italiche", "ck_babiloniche"},
-      {"ckTemp"},
-      {"LblHour", "TxtFraz"},
-      {"Orainizilale", "TxtInizio", "Orafinale", "TxtFine"}}},
-    {"Linee"_it,
-     {{"Ck_DayLightCurves", "ck_Equinoziale"},
-      {"ckAlt", "ckAz"},
-      {"ck_Orizzonte", "ckAssi"},
-      {"ckFunzione"},
-      {"lblDelta", "txtDelta"},
-      {"lblAO", "txtAO"},
-      {"lblMinus", "txtMinus"},
-      {"lblMax", "txtMax"},
-      {"lbl_Definizione", "txtDensity"}}},
-    {"Numeri e segni"_it, {{"ckRomani", "txtNumbersize"}, {"ckArabi", "txtArabi"}, {"ckZodiac", "txtZodiacsize"}}},
-    {"Preghiera"_it, {{"ckAsr", "CkQibla"}, {"lblQlat", "txtQlat"}, {"lblQlon", "txtQlon"}}},
-    {"Tabelle"_it, {{"optHorae", "OptInter"}, {"OptIta", "OptBab"}, {"OptTEMP", "Option1"}}},
-    {"Mappa e punto"_it,
-     {{"LabelCombo", "cmbStati"},
-      {"cmdStati", "cmdPlot", "ck_inv"},
-      {"lblFiltro", "Filtertxt"},
-      {"Città da"_it, "txtEAST", "fino a"_it, "txtWest"},
-      {"punto", "Option_P"},
-      {"Label2", "textDelta", "txtH"}}},
-};
-
 constexpr int CAMPO = 92, CAMPO_STRETTO = 62;
 
-void mettiRiga(Ponte &ponte, const Riga &nomi, QVBoxLayout *colonna, QWidget *gruppo) {
+void mettiRiga(Ponte &ponte, const app::Gruppo::Riga &nomi, QVBoxLayout *colonna, QWidget *gruppo) {
     auto *fila = new QHBoxLayout;
     fila->setSpacing(6);
     QLabel *prima = nullptr;
@@ -109,7 +55,7 @@ void mettiRiga(Ponte &ponte, const Riga &nomi, QVBoxLayout *colonna, QWidget *gr
     colonna->addLayout(fila);
 }
 
-QScrollArea *colonna(Ponte &ponte, const std::vector<Gruppo> &gruppi, QWidget *genitore) {
+QScrollArea *colonna(Ponte &ponte, const std::vector<app::Gruppo> &gruppi, QWidget *genitore) {
     auto *area = new QScrollArea(genitore);
     area->setWidgetResizable(true);
     area->setFrameShape(QFrame::NoFrame);
@@ -119,12 +65,12 @@ QScrollArea *colonna(Ponte &ponte, const std::vector<Gruppo> &gruppi, QWidget *g
     auto *giu = new QVBoxLayout(tela);
     giu->setContentsMargins(8, 6, 8, 8);
     giu->setSpacing(6);
-    for (const Gruppo &g : gruppi) {
+    for (const app::Gruppo &g : gruppi) {
         auto *scatola = new QGroupBox(Q(ponte.sessione().Traduci(g.titolo)), tela);
         auto *righe = new QVBoxLayout(scatola);
         righe->setContentsMargins(10, 6, 10, 8);
         righe->setSpacing(5);
-        for (const Riga &r : g.righe) mettiRiga(ponte, r, righe, scatola);
+        for (const app::Gruppo::Riga &r : g.righe) mettiRiga(ponte, r, righe, scatola);
         giu->addWidget(scatola);
     }
     giu->addStretch(1);
@@ -136,13 +82,13 @@ QScrollArea *colonna(Ponte &ponte, const std::vector<Gruppo> &gruppi, QWidget *g
 }  // namespace
 
 QWidget *ColonnaQuadrante(Ponte &ponte, QWidget *genitore) {
-    QScrollArea *area = colonna(ponte, QUADRANTE, genitore);
+    QScrollArea *area = colonna(ponte, app::GruppiQuadrante(), genitore);
     ponte.adotta("Panel3D1", area);
     ponte.adotta("PicScroll", area->widget());
     ponte.adotta("VScroll1", area->verticalScrollBar());
     return area;
 }
 
-QWidget *ColonnaDisegno(Ponte &ponte, QWidget *genitore) { return colonna(ponte, DISEGNO, genitore); }
+QWidget *ColonnaDisegno(Ponte &ponte, QWidget *genitore) { return colonna(ponte, app::GruppiDisegno(), genitore); }
 
 }  // namespace ombrelia::desktop

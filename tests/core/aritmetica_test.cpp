@@ -1,13 +1,16 @@
 // The arithmetic that keeps old values, the counting ranges, the number forms and the encodings.
 #include <gtest/gtest.h>
 
+#include <bit>
 #include <cmath>
 #include <cstdio>
+#include <cstring>
 #include <random>
 #include <utility>
 
 #include "comuni/prova.h"
 #include "core/angoli.h"
+#include "core/cifre.h"
 #include "core/conteggio.h"
 #include "core/testo.h"
 
@@ -110,6 +113,36 @@ TEST(Numeri, FormeEMaschere) {
         char b[64];
         std::snprintf(b, sizeof b, "%.15g", x);
         ASSERT_EQ(Val(NumeroGenerale(x)).v, Val(b).v) << b;
+    }
+}
+
+// The make for libraries without floating charconv against the library's own: bits of every size, dial-sized numbers, ties.
+TEST(Numeri, LeCifrePortatiliDannoGliStessiByte) {
+    std::mt19937_64 caso(17);
+    const auto uguali = [](double x) {
+        char a[64], b[64];
+        const auto testo = [](const char *t, std::size_t n) { return std::string(t, n); };
+        EXPECT_EQ(testo(a, cifre::Diciassette(a, x)), testo(b, cifre::portatile::Diciassette(b, x)));
+        for (const int decimali : {0, 14})
+            EXPECT_EQ(testo(a, cifre::Scientifico(a, x, decimali)), testo(b, cifre::portatile::Scientifico(b, x, decimali)));
+        double da = 1, dalla = 2;
+        const std::size_t n = cifre::Diciassette(a, std::fabs(x));
+        EXPECT_EQ(cifre::Leggi(a, a + n, da), cifre::portatile::Leggi(a, a + n, dalla)) << testo(a, n);
+        EXPECT_EQ(da, dalla);
+        // Fifteen digits by the exact form are what the shortest form comes to.
+        const std::size_t m = cifre::portatile::Scientifico(b, std::fabs(x), 14);
+        EXPECT_EQ(Val(testo(b, m)).v, Val(NumeroGenerale(std::fabs(x))).v);
+    };
+    for (int i = 0; i < 100000 && !testing::Test::HasFailure(); ++i) {
+        const auto x = std::bit_cast<double>(caso());
+        if (std::isfinite(x) && x != 0) uguali(x);
+        uguali(std::ldexp(static_cast<double>(caso() >> 11) - 0x1p52, -50));
+        uguali(static_cast<double>(caso() % 2000001) / 8192 + 0x1p-14);
+        uguali(std::ldexp(1, static_cast<int>(caso() % 2098) - 1074));
+    }
+    for (const char *t : {"1e400", "1e-400", "0.00000000001e330", "4.9e-324", "2.4e-324", "1.7976931348623159e308"}) {
+        double a = 1, b = 2;
+        EXPECT_EQ(cifre::Leggi(t, t + std::strlen(t), a), cifre::portatile::Leggi(t, t + std::strlen(t), b)) << t;
     }
 }
 

@@ -1,6 +1,9 @@
 // What handlers share below the dispatch.
 #pragma once
 
+#include <optional>
+#include <string>
+
 #include "app/comandi.h"
 
 namespace ombrelia::app {
@@ -10,6 +13,9 @@ void AbilitaPerInclinazione(Sessione &s);
 
 // Selects an entry of a list.
 Esito ScegliVoce(Sessione &s, IdControllo id, const std::string &voce);
+
+// The outcome of writing a file; an error is told in a box.
+Esito EsitoScrittura(Sessione &s, const std::string &nome, const std::optional<std::string> &errore);
 
 // One key through a control's filter: the key to keep, or 0; beeps where the filter does.
 char FiltraTasto(Sessione &s, IdControllo id, char tasto);

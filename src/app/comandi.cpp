@@ -21,28 +21,28 @@ public:
         for (const auto gestori : {GestoriPrincipale(), GestoriTavolo(), GestoriRapporti(), GestoriFile(), GestoriSole(), GestoriMappa()})
             for (const Gestore &g : gestori)
                 for (const Controllo &c : ControlliDi(g.modulo))
-                    if (c.nome == g.nome) azioni_[chiave(IdDi(c), g.evento)] = g.azione;
+                    if (c.nome == g.nome) azioni_.insert_or_assign(chiave(IdDi(c), g.evento), g.azione);
     }
-    void avvisa(Sessione &s, IdControllo id, Evento evento) const {
+    Esito avvisa(Sessione &s, IdControllo id, Evento evento) const {
         const auto i = azioni_.find(chiave(id, evento));
-        if (i != azioni_.end()) i->second(s, riga(id).indice);
+        return i == azioni_.end() ? Esito(Esito::Fatto) : i->second(s, riga(id).indice);
     }
 
 private:
     static int chiave(IdControllo id, Evento e) { return id * 4 + static_cast<int>(e); }
-    std::unordered_map<int, void (*)(Sessione &, int)> azioni_;
+    std::unordered_map<int, Azione> azioni_;
 };
 
-void avvisa(Sessione &s, IdControllo id, Evento evento) {
+Esito avvisa(Sessione &s, IdControllo id, Evento evento) {
     static const Registro registro;
-    registro.avvisa(s, id, evento);
+    return registro.avvisa(s, id, evento);
 }
 
-void cambiaTesto(Sessione &s, IdControllo id, const std::string &testo) {
+Esito cambiaTesto(Sessione &s, IdControllo id, const std::string &testo) {
     std::string &dove = s.testo(id);
-    if (dove == testo) return;
+    if (dove == testo) return Esito::Fatto;
     dove = testo;
-    avvisa(s, id, Evento::Cambio);
+    return avvisa(s, id, Evento::Cambio);
 }
 
 IdControllo rigaDi(std::string DialInputs::*campo) {
@@ -92,28 +92,27 @@ Esito Imposta(Sessione &s, IdControllo id, const std::string &testo) {
     const Classe classe = riga(id).classe;
     if (classe == Classe::Elenco) return s.stato(id).abilitato ? ScegliVoce(s, id, testo) : Esito::Disabilitato;
     const Esito esito = Entra(s, id);
-    if (esito != Esito::Fatto) return esito;
+    if (!esito) return esito;
     Cambia(s, id, testo);
     return Lascia(s, id);
 }
 
 namespace {
 
-Esito conCasella(Sessione &s, IdControllo id, void (*azione)(Sessione &, IdControllo, const std::string &), const std::string &testo) {
+Esito conCasella(Sessione &s, IdControllo id, Esito (*azione)(Sessione &, IdControllo, const std::string &), const std::string &testo) {
     if (riga(id).classe != Classe::Testo) return Esito::Impossibile;
     if (!s.stato(id).abilitato) return Esito::Disabilitato;
-    azione(s, id, testo);
-    return Esito::Fatto;
+    return azione(s, id, testo);
 }
 
 }  // namespace
 
 Esito Entra(Sessione &s, IdControllo id) {
-    return conCasella(s, id, [](Sessione &q, IdControllo i, const std::string &) { avvisa(q, i, Evento::Entrata); }, {});
+    return conCasella(s, id, [](Sessione &q, IdControllo i, const std::string &) { return avvisa(q, i, Evento::Entrata); }, {});
 }
 Esito Cambia(Sessione &s, IdControllo id, const std::string &testo) { return conCasella(s, id, cambiaTesto, testo); }
 Esito Lascia(Sessione &s, IdControllo id) {
-    return conCasella(s, id, [](Sessione &q, IdControllo i, const std::string &) { avvisa(q, i, Evento::Uscita); }, {});
+    return conCasella(s, id, [](Sessione &q, IdControllo i, const std::string &) { return avvisa(q, i, Evento::Uscita); }, {});
 }
 
 Esito Digita(Sessione &s, IdControllo id, std::string_view tasti) {
@@ -143,11 +142,9 @@ Esito Digita(Sessione &s, IdControllo id, std::string_view tasti) {
 Esito Spunta(Sessione &s, IdControllo id, int valore) {
     if (riga(id).classe != Classe::Casella) return Esito::Impossibile;
     if (!s.stato(id).abilitato) return Esito::Disabilitato;
-    if (s.valore(id) != valore) {
-        s.valore(id) = valore;
-        avvisa(s, id, Evento::Clic);
-    }
-    return Esito::Fatto;
+    if (s.valore(id) == valore) return Esito::Fatto;
+    s.valore(id) = valore;
+    return avvisa(s, id, Evento::Clic);
 }
 
 Esito Premi(Sessione &s, IdControllo id) {
@@ -161,8 +158,7 @@ Esito Premi(Sessione &s, IdControllo id) {
         default: return Esito::Impossibile;
     }
     if (!s.stato(id).abilitato) return Esito::Disabilitato;
-    avvisa(s, id, Evento::Clic);
-    return Esito::Fatto;
+    return avvisa(s, id, Evento::Clic);
 }
 
 void SpuntaDaProgramma(Sessione &s, int DialInputs::*casella, int valore) {

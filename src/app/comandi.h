@@ -5,22 +5,41 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <type_traits>
 
+#include "app/esito.h"
 #include "sessione/sessione.h"
 
 namespace ombrelia::app {
 
 enum class Evento : std::uint8_t { Clic, Cambio, Entrata, Uscita };
 
-// A handler: which control, which event, what runs. indice is that of a control array, else -1.
+// What a handler runs; indice is that of a control array, else -1. One that can fail or be cancelled gives an outcome, one
+// that always does its work gives nothing.
+class Azione {
+public:
+    template <class F>
+    constexpr Azione(F azione) {  // NOLINT: a routine is an action
+        if constexpr (std::is_void_v<std::invoke_result_t<F, Sessione &, int>>) senza_ = azione;
+        else con_ = azione;
+    }
+    Esito operator()(Sessione &s, int indice) const {
+        if (con_) return con_(s, indice);
+        senza_(s, indice);
+        return Esito::Fatto;
+    }
+
+private:
+    void (*senza_)(Sessione &, int) = nullptr;
+    Esito (*con_)(Sessione &, int) = nullptr;
+};
+
+// A handler: which control, which event, what runs.
 struct Gestore {
     std::string_view modulo, nome;
     Evento evento;
-    void (*azione)(Sessione &s, int indice);
+    Azione azione;
 };
-
-// What became of an action.
-enum class Esito : std::uint8_t { Fatto, Disabilitato, Impossibile };
 
 // The start-up: defaults file, dictionary, sheet and shift, enabled controls. Makes no folder.
 void Avvia(Sessione &s);
@@ -37,7 +56,7 @@ Esito Lascia(Sessione &s, IdControllo id);
 Esito Digita(Sessione &s, IdControllo id, std::string_view tasti);
 // Gives a check box its value; the click handler runs when the value changes.
 Esito Spunta(Sessione &s, IdControllo id, int valore);
-// Presses a button, option, check box or menu entry.
+// Presses a button, option, check box or menu entry. Besides what all of them give: Annullato or Fallito from its handler.
 Esito Premi(Sessione &s, IdControllo id);
 
 // For handlers: clear or set a box as a routine does, its click running when the value changes.

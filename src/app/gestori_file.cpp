@@ -2,13 +2,14 @@
 #include <filesystem>
 #include <system_error>
 
-#include "app/comandi.h"
+#include "app/azioni.h"
 #include "app/lingua.h"
 #include "app/parametri_default.h"
 #include "app/progetto.h"
 #include "core/campi.h"
 #include "core/file.h"
 #include "core/percorsi.h"
+#include "persist/parametri.h"
 
 namespace ombrelia::app {
 
@@ -16,19 +17,17 @@ namespace {
 
 constexpr std::string_view ESTENSIONE = "omb", FILTRO = "*.omb";
 
-void diErrore(Sessione &s, const std::optional<std::string> &errore) {
-    if (errore) s.utente.Box(*errore);
-}
-
-void mnuApri_Click(Sessione &s, int) {
+Esito mnuApri_Click(Sessione &s, int) {
     const std::string &aperto = s.titolo("frmTavolo");
-    if (!aperto.empty() && !s.utente.Box(s.Traduci("Attenzione! Vuoi chiudere il file ") + aperto + "?", Domanda::SiNo)) return;
-    if (const auto nome = s.utente.File({false, ESTENSIONE, FILTRO, {}})) ApriProgetto(s, *nome);
+    if (!aperto.empty() && !s.utente.Box(s.Traduci("Attenzione! Vuoi chiudere il file ") + aperto + "?", Domanda::SiNo)) return Esito::Annullato;
+    const auto nome = s.utente.File({false, ESTENSIONE, FILTRO, {}});
+    return nome ? ApriProgetto(s, *nome) : Esito(Esito::Annullato);
 }
 
-void mnuSalva_Click(Sessione &s, int) {
+Esito mnuSalva_Click(Sessione &s, int) {
     const auto nome = s.utente.File({true, ESTENSIONE, FILTRO, std::string(FILTRO)});
-    if (nome && !nome->empty()) diErrore(s, SalvaProgetto(s, *nome));
+    if (!nome || nome->empty()) return Esito::Annullato;
+    return EsitoScrittura(s, *nome, SalvaProgetto(s, *nome));
 }
 
 // Each language item tells its message in its own language and is good for one press. The new language shows at the
@@ -38,31 +37,47 @@ void dopoLingua(Sessione &s, std::string_view voce, std::string_view messaggio) 
     s.utente.Box(messaggio);
 }
 
-void mnuItalian_Click(Sessione &s, int) {
+Esito mnuItalian_Click(Sessione &s, int) {
+    const std::string nome = Dizionario::NomeFile(LINGUA);
     std::error_code ec;
-    std::filesystem::remove(Dizionario::NomeFile(LINGUA), ec);
+    std::filesystem::remove(nome, ec);
+    if (ec) return EsitoScrittura(s, nome, TraVirgolette(nome) + ": " + ec.message());
     dopoLingua(s, "mnuItalian", "Riavviare Ombrelia!!");
+    return Esito::conFile(nome);
 }
 
-void cambiaLingua(Sessione &s, std::string_view lingua, std::string_view voce, std::string_view messaggio) {
-    if (const auto sorgente = TrovaDato(Dizionario::NomeFile(lingua)))
-        if (const auto contenuto = LeggiFile(sorgente->string(), FILE_MASSIMO))
-            diErrore(s, ScriviFile(Dizionario::NomeFile(LINGUA), *contenuto));
+Esito cambiaLingua(Sessione &s, std::string_view lingua, std::string_view voce, std::string_view messaggio) {
+    const std::string cercato = Dizionario::NomeFile(lingua), nome = Dizionario::NomeFile(LINGUA);
+    const auto sorgente = TrovaDato(cercato);
+    if (sorgente) {
+        std::string errore;
+        const auto contenuto = LeggiFile(sorgente->string(), FILE_MASSIMO, &errore);
+        if (!contenuto) return EsitoScrittura(s, sorgente->string(), errore);
+        if (Esito e = EsitoScrittura(s, nome, ScriviFile(nome, *contenuto)); !e) return e;
+    }
     dopoLingua(s, voce, messaggio);
+    if (sorgente) return Esito::conFile(nome);
+    return Esito::fallito(cercato, s.Traduci("Non trovo il file ") + cercato + ": " + LuoghiDati(), false);
 }
 
 constexpr Gestore GESTORI[] = {
     {"MDIForm1", "mnuApri", Evento::Clic, mnuApri_Click},
     {"MDIForm1", "mnuSalva", Evento::Clic, mnuSalva_Click},
-    {"MDIForm1", "cmdSave", Evento::Clic, [](Sessione &s, int) { diErrore(s, ScriviDefault(s)); }},
+    {"MDIForm1", "cmdSave", Evento::Clic, [](Sessione &s, int) { return EsitoScrittura(s, std::string(Parametri::NOME_FILE), ScriviDefault(s)); }},
     {"MDIForm1", "mnuItalian", Evento::Clic, mnuItalian_Click},
     {"MDIForm1", "mnuFrancais", Evento::Clic,
-     [](Sessione &s, int) { cambiaLingua(s, "FranceseC2008", "mnuFrancais", "Il faut sortir avant d'exécuter Ombrelia!!"); }},
+     [](Sessione &s, int) { return cambiaLingua(s, "FranceseC2008", "mnuFrancais", "Il faut sortir avant d'exécuter Ombrelia!!"); }},
     {"MDIForm1", "mnuInglese", Evento::Clic,
-     [](Sessione &s, int) { cambiaLingua(s, "IngleseC2008", "mnuInglese", "You must restart Ombrelia!!"); }},
+     [](Sessione &s, int) { return cambiaLingua(s, "IngleseC2008", "mnuInglese", "You must restart Ombrelia!!"); }},
 };
 
 }  // namespace
+
+Esito EsitoScrittura(Sessione &s, const std::string &nome, const std::optional<std::string> &errore) {
+    if (!errore) return Esito::conFile(nome);
+    s.utente.Box(*errore);
+    return Esito::fallito(nome, *errore, true);
+}
 
 std::span<const Gestore> GestoriFile() { return GESTORI; }
 

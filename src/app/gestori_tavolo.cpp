@@ -10,8 +10,6 @@ namespace ombrelia::app {
 
 namespace {
 
-
-
 void mostraPannello(Sessione &s, std::string_view pannello, bool visibile) { s.stato(pannello).visibile = visibile; }
 
 double numero(const std::string &testo, double altrimenti) {
@@ -29,13 +27,13 @@ std::string nomeDxf() {
     return nome;
 }
 
-void cmdDxf_Click(Sessione &s, int) {
-    // Whatever comes back gets the ending; there is no cancel branch.
-    const std::string nome = s.utente.Input("Nome del file DXF", "Export to DXF", nomeDxf()) + ".dxf";
+Esito cmdDxf_Click(Sessione &s, int) {
+    const auto nome = s.utente.NomeDxf("Nome del file DXF", "Export to DXF", nomeDxf());
+    if (!nome || nome->empty()) return Esito::Annullato;
     s.utente.Puntatore(true);
-    const auto errore = ScriviFile(nome, DXF_Generate(s.tavolo));
+    const auto errore = ScriviFile(*nome, DXF_Generate(s.tavolo));
     s.utente.Puntatore(false);
-    if (errore) s.utente.Box(*errore);
+    return EsitoScrittura(s, *nome, errore);
 }
 
 void cmdAssi_Click(Sessione &s, int) {
@@ -73,12 +71,12 @@ void cmdPOk_Click(Sessione &s, int) {
     mostraPannello(s, "Tavolo1.picPrint", false);
 }
 // A cancelled box does nothing.
-void cmdSave_Click(Sessione &s, int) {
+Esito cmdSave_Click(Sessione &s, int) {
     const auto nome = s.utente.File({true, "bmp", "*.bmp", "Image.bmp"});
-    if (!nome || nome->empty() || !s.suImmagine) return;
-    const std::string immagine = s.suImmagine(s);
-    if (immagine.empty()) return;
-    if (const auto errore = ScriviFile(*nome, immagine)) s.utente.Box(*errore);
+    if (!nome || nome->empty()) return Esito::Annullato;
+    const std::string immagine = s.suImmagine ? s.suImmagine(s) : std::string();
+    if (immagine.empty()) return Esito::fallito(*nome, s.Traduci("Nessuna immagine da scrivere in ") + *nome, false);
+    return EsitoScrittura(s, *nome, ScriviFile(*nome, immagine));
 }
 
 constexpr Gestore GESTORI[] = {

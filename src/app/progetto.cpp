@@ -172,17 +172,18 @@ void ApplicaProgetto(Sessione &s, std::string testo) {
         s.Messaggio(s.Traduci("Il foglio è vuoto: altezza o larghezza 0"));
 }
 
-bool ApriProgetto(Sessione &s, const std::string &NomeFile) {
+Esito ApriProgetto(Sessione &s, const std::string &NomeFile) {
     std::optional<std::string> testo = LeggiProgetto(NomeFile);
     if (!testo) {
-        s.utente.Box(s.Traduci("File non riconosciuto!"));
-        return false;
+        const std::string motivo = s.Traduci("File non riconosciuto!");
+        s.utente.Box(motivo);
+        return Esito::fallito(NomeFile, motivo, true);
     }
     ApplicaProgetto(s, std::move(*testo));
     // Buttons are not in the file: the one that the inclination rules follows the plane just opened.
     s.stato("cmdEqui").abilitato = Val(s.in.txtInc) == 0;
     s.titolo(FOGLIO) = std::filesystem::path(NomeFile).filename().string();
-    return true;
+    return Esito::conFile(NomeFile);
 }
 
 bool ChiudiTavolo(Sessione &s) {

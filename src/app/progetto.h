@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 
+#include "app/esito.h"
 #include "persist/salvataggio.h"
 #include "sessione/sessione.h"
 
@@ -22,9 +23,9 @@ void ApplicaControlli(Sessione &s, const TestoProgetto &testo);
 
 // Applies the text of a project: the four numbers of the sheet (a missing one is 0), then the controls.
 void ApplicaProgetto(Sessione &s, std::string testo);
-// Reads a project and applies it; the sheet's form then bears the file's title. False for a file that is missing, empty
-// or unreadable: the user is told and nothing changes.
-bool ApriProgetto(Sessione &s, const std::string &NomeFile);
+// Reads a project and applies it; the sheet's form then bears the file's title. Fallito for a file that is missing,
+// empty or unreadable: the user is told and nothing changes.
+Esito ApriProgetto(Sessione &s, const std::string &NomeFile);
 
 // Closing the sheet's form, with its question when a project is open. False when the user says No.
 bool ChiudiTavolo(Sessione &s);

@@ -2,21 +2,40 @@
 #include "core/percorsi.h"
 
 #include <system_error>
+#include <vector>
 
 namespace ombrelia {
 
-std::optional<std::filesystem::path> TrovaDato(std::string_view nome) {
-    std::error_code errore;
-    const auto c_e = [&](const std::filesystem::path &p) { return std::filesystem::is_regular_file(p, errore); };
-    if (const std::filesystem::path qui(nome); c_e(qui)) return qui;
+namespace fs = std::filesystem;
 
-    const std::filesystem::path programma = std::filesystem::read_symlink("/proc/self/exe", errore);
-    if (programma.empty()) return {};
-    const std::filesystem::path casa = programma.parent_path();
-    for (const auto &cartella : {casa, casa.parent_path() / "data", casa.parent_path() / "share" / "ombrelia"}) {
-        if (c_e(cartella / nome)) return cartella / nome;
-    }
+namespace {
+
+// The folders of the data, first the current one.
+std::vector<fs::path> cartelle() {
+    std::error_code errore;
+    const fs::path programma = fs::read_symlink("/proc/self/exe", errore);
+    if (programma.empty()) return {{}};
+    const fs::path casa = programma.parent_path();
+    return {{}, casa, casa.parent_path() / "data", casa.parent_path() / "share" / "ombrelia"};
+}
+
+}  // namespace
+
+std::optional<fs::path> TrovaDato(std::string_view nome) {
+    std::error_code errore;
+    for (const fs::path &cartella : cartelle())
+        if (const fs::path p = cartella / nome; fs::is_regular_file(p, errore)) return p;
     return {};
+}
+
+std::string LuoghiDati() {
+    std::error_code errore;
+    std::string testo;
+    for (const fs::path &cartella : cartelle()) {
+        if (!testo.empty()) testo += ", ";
+        testo += (cartella.empty() ? fs::current_path(errore) : cartella).string();
+    }
+    return testo;
 }
 
 }  // namespace ombrelia

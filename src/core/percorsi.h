@@ -3,6 +3,7 @@
 
 #include <filesystem>
 #include <optional>
+#include <string>
 #include <string_view>
 
 namespace ombrelia {
@@ -10,5 +11,8 @@ namespace ombrelia {
 // A data file by its bare name: in the current directory, else beside the program, else in the folder data or
 // share/ombrelia next to the program's own. Nothing when it is in none of them.
 [[nodiscard]] std::optional<std::filesystem::path> TrovaDato(std::string_view nome);
+
+// The folders that TrovaDato looks in, for whoever tells that a file is missing: "a, b, c".
+[[nodiscard]] std::string LuoghiDati();
 
 }  // namespace ombrelia

@@ -38,7 +38,7 @@ bool Finestra::lasciaAndare() {
 void Finestra::apri(const QString &percorso) {
     if (!lasciaAndare()) return;
     bool aperto = false;
-    ponte_.fai(NESSUN_CONTROLLO, [&] { aperto = app::ApriProgetto(s_, percorso.toStdString()); });
+    ponte_.fai(NESSUN_CONTROLLO, [&] { aperto = static_cast<bool>(app::ApriProgetto(s_, percorso.toStdString())); });
     if (!aperto) return;
     ricorda(percorso);
     salvato_ = app::ScriviProgetto(s_);

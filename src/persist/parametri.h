@@ -13,6 +13,8 @@ namespace ombrelia {
 // empty one.
 class Parametri {
 public:
+    static constexpr std::string_view NOME_FILE = "Ombrelia.dat";  // in the current folder
+
     // The path that the next load or write uses.
     [[nodiscard]] const std::string &NomeFile() const { return nomeFile_; }
     void NomeFile(std::string nome) { nomeFile_ = std::move(nome); }
@@ -37,7 +39,7 @@ private:
     void carica();
     [[nodiscard]] Riga *trova(std::string_view Key);
 
-    std::string nomeFile_ = "Ombrelia.dat";
+    std::string nomeFile_{NOME_FILE};
     std::vector<Riga> righe_;  // none means not yet loaded
     std::optional<std::string> illeggibile_;
 };

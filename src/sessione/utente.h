@@ -27,6 +27,11 @@ public:
     virtual std::string Input(std::string_view domanda, std::string_view titolo, std::string_view proposta) = 0;
     // Nothing when the user cancels.
     virtual std::optional<std::string> File(const RichiestaFile &richiesta) = 0;
+    // The whole name of a DXF to write. As asked here, in an input box, whatever comes back gets the ending and there is no
+    // cancelling; a window with file boxes of its own asks there. Nothing when the user cancels.
+    virtual std::optional<std::string> NomeDxf(std::string_view domanda, std::string_view titolo, std::string_view proposta) {
+        return Input(domanda, titolo, proposta) + ".dxf";
+    }
     virtual void Beep() = 0;
     // A form opens, its load having run, or closes.
     virtual void Modulo(std::string_view, bool) {}

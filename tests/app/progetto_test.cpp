@@ -51,6 +51,7 @@ TEST_F(ProgettoTest, SavingOpeningAndSavingAgainGivesTheSameBytes) {
     for (int giro = 0; giro < 20; ++giro) {
         Banco prima, poi;
         for (const Controllo &c : ControlliDi("MDIForm1")) {
+            if (c.nostro) continue;  // files hold a later control only where it differs from its start
             StatoControllo &stato = prima.s.stato(IdDi(c));
             if (c.classe == Classe::Testo) prima.s.testo(IdDi(c)) = TESTI[caso() % std::size(TESTI)];
             if (c.classe == Classe::Casella) prima.s.valore(IdDi(c)) = static_cast<int>(caso() % 3);

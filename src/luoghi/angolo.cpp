@@ -11,9 +11,9 @@ namespace {
 
 // The zone's meridian goes beyond the half turn where a zone of 13 or 14 hours is written as such.
 constexpr CampoAngolo CAMPI[] = {
-    {"txtLAT", Verso::NordSud, -90, 90},      {"txtLonG", Verso::OvestEst, -180, 180}, {"txtMeridiano", Verso::OvestEst, -210, 210},
-    {"txtDec", Verso::OvestEst, -180, 180},   {"txtInc", Verso::Nudo, -180, 180},      {"txtDelta", Verso::NordSud, -90, 90},
-    {"txtQlat", Verso::NordSud, -90, 90},     {"txtQlon", Verso::OvestEst, -180, 180}, {"txtAO", Verso::Nudo, -180, 180},
+    {"txtLAT", Verso::NordSud, -90, 90},    {"txtLonG", Verso::OvestEst, -180, 180}, {"txtMeridiano", Verso::OvestEst, -210, 210},
+    {"txtDec", Verso::OvestEst, -180, 180}, {"txtInc", Verso::Nudo, -180, 180},      {"txtDelta", Verso::NordSud, -90, 90},
+    {"txtQlat", Verso::NordSud, -90, 90},   {"txtQlon", Verso::OvestEst, -180, 180}, {"txtAO", Verso::Nudo, -180, 180},
 };
 
 constexpr std::size_t TESTO_MASSIMO = 64;  // characters of an angle
@@ -32,14 +32,16 @@ constexpr Ragione RAGIONI[] = {
     {Intoppo::FuoriCampo, "Angolo fuori dal campo dei valori"_it, "the angle is out of range"},
 };
 
-// Signs that stand for degrees, minutes and seconds become D, M, Q; letters are small, so that the seconds' "s" and South's stay apart.
+// Signs that stand for degrees, minutes and seconds become D, M, Q; letters are small, so that the seconds' "s" and South's stay
+// apart.
 struct Segno {
     std::string_view scritto;
     char vale;
 };
 constexpr Segno SEGNI[] = {
-    {"''", 'Q'}, {"°", 'D'}, {"º", 'D'}, {"˚", 'D'}, {"′", 'M'}, {"’", 'M'}, {"'", 'M'}, {"´", 'M'}, {"″", 'Q'}, {"”", 'Q'}, {"\"", 'Q'},
-    {"“", 'Q'}, {"\xC2\xA0", ' '}, {"\xE2\x80\xAF", ' '}, {"\t", ' '}, {"−", '-'}, {"–", '-'}, {",", '.'},
+    {"''", 'Q'}, {"°", 'D'}, {"º", 'D'}, {"˚", 'D'},  {"′", 'M'}, {"’", 'M'},        {"'", 'M'},
+    {"´", 'M'},  {"″", 'Q'}, {"”", 'Q'}, {"\"", 'Q'}, {"“", 'Q'}, {"\xC2\xA0", ' '}, {"\xE2\x80\xAF", ' '},
+    {"\t", ' '}, {"−", '-'}, {"–", '-'}, {",", '.'},
 };
 
 std::string semplice(std::string_view testo) {
@@ -95,12 +97,17 @@ constexpr int SENZA_LETTERA = 2;
 // The sign that a wind's letter gives; 0 for a letter of another field.
 int segnoDi(char c, Verso verso) {
     switch (c) {
-        case 'n': return verso == Verso::NordSud ? 1 : 0;
-        case 's': return verso == Verso::NordSud ? -1 : 0;
+        case 'n':
+            return verso == Verso::NordSud ? 1 : 0;
+        case 's':
+            return verso == Verso::NordSud ? -1 : 0;
         case 'w':
-        case 'o': return verso == Verso::OvestEst ? 1 : 0;
-        case 'e': return verso == Verso::OvestEst ? -1 : 0;
-        default: return SENZA_LETTERA;
+        case 'o':
+            return verso == Verso::OvestEst ? 1 : 0;
+        case 'e':
+            return verso == Verso::OvestEst ? -1 : 0;
+        default:
+            return SENZA_LETTERA;
     }
 }
 
@@ -178,8 +185,9 @@ std::string DueForme(double gradi, Verso verso) {
     const double decimi = std::round(std::abs(gradi) * 36000);
     const double g = std::floor(decimi / 36000), p = std::floor(std::fmod(decimi, 36000) / 600), s = std::fmod(decimi, 600) / 10;
     const bool intero = s == std::floor(s);
-    std::string t = TestoNumero(std::round(gradi * 1e6) / 1e6) + "° = " + (gradi < 0 && verso == Verso::Nudo && decimi > 0 ? "-" : "") +
-                    Formato(g, "0") + "°" + Formato(p, "00") + "'" + Formato(s, intero ? "00" : "00.0") + "\"";
+    std::string t = TestoNumero(std::round(gradi * 1e6) / 1e6) +
+                    "° = " + (gradi < 0 && verso == Verso::Nudo && decimi > 0 ? "-" : "") + Formato(g, "0") + "°" +
+                    Formato(p, "00") + "'" + Formato(s, intero ? "00" : "00.0") + "\"";
     if (decimi == 0 || verso == Verso::Nudo) return t;
     return t + (verso == Verso::NordSud ? (gradi < 0 ? " S" : " N") : (gradi < 0 ? " E" : " W"));
 }

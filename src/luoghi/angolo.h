@@ -1,5 +1,5 @@
-// Angles as people write them: decimal degrees, degrees with minutes and seconds, letters for the four winds. One parser for every
-// field of an angle.
+// Angles as people write them: decimal degrees, degrees with minutes and seconds, letters for the four winds. One parser for
+// every field of an angle.
 #pragma once
 
 #include <string>
@@ -9,9 +9,9 @@ namespace ombrelia::luoghi {
 
 // Which letters an angle takes, and what is positive.
 enum class Verso {
-    Nudo,       // no letters
-    NordSud,    // N and S, North positive
-    OvestEst,   // W (or O, as in ovest and ouest) and E, West positive
+    Nudo,      // no letters
+    NordSud,   // N and S, North positive
+    OvestEst,  // W (or O, as in ovest and ouest) and E, West positive
 };
 
 // A field that holds an angle: its range in degrees, both ends included.
@@ -28,13 +28,14 @@ enum class Intoppo { Nessuno, Vuoto, NonSiLegge, Sessanta, Decimali, SegnoELette
 
 struct AngoloLetto {
     Intoppo intoppo = Intoppo::Vuoto;
-    double gradi = 0;     // in the field's sign
-    std::string testo;    // what the field is to hold: a plain decimal number; a plain number stays as it was typed
+    double gradi = 0;   // in the field's sign
+    std::string testo;  // what the field is to hold: a plain decimal number; a plain number stays as it was typed
     [[nodiscard]] bool buono() const { return intoppo == Intoppo::Nessuno; }
 };
 
-// Reads "45°04'13\"N", "45 4 13", "7.6869E", "7,6869 E", "E 7 41.2", "-7.6869", "45d4m13s". Degrees may be followed by minutes, these by
-// seconds; only the last of them has decimals, and below 60 they must be. A sign or a letter, not both. Never fails otherwise.
+// Reads "45°04'13\"N", "45 4 13", "7.6869E", "7,6869 E", "E 7 41.2", "-7.6869", "45d4m13s". Degrees may be followed by minutes,
+// these by seconds; only the last of them has decimals, and below 60 they must be. A sign or a letter, not both. Never fails
+// otherwise.
 [[nodiscard]] AngoloLetto LeggiAngolo(std::string_view testo, const CampoAngolo &campo);
 
 // Both forms of what was understood: "45.070278° = 45°04'13\" N". Seconds are rounded to tenths where they are not whole.

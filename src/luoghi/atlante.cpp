@@ -55,6 +55,14 @@ std::string maiuscole(std::string_view t) {
 
 }  // namespace
 
+std::string_view NomeChiesto(const Luogo &luogo, std::string_view chiesto) {
+    const std::string piano = Appiana(chiesto.substr(0, chiesto.rfind(',')));
+    if (Appiana(luogo.nome) == piano) return luogo.nome;
+    for (const std::string_view altro : dividi(luogo.altri, '|'))
+        if (!altro.empty() && Appiana(altro) == piano) return altro;
+    return luogo.nome;
+}
+
 double Distanza(const Luogo &a, double latitudine, double longitudine) {
     double dl = std::fmod(std::abs(a.longitudine - longitudine), 360);
     dl = std::min(dl, 360 - dl);
@@ -86,11 +94,13 @@ Atlante::Atlante(std::string tabella) : tabella_(std::move(tabella)) {
         if (l.meridiano - l.longitudine < -180) l.meridiano += 360;
         luoghi_.push_back(l);
     }
-    std::stable_sort(luoghi_.begin(), luoghi_.end(), [](const Luogo &a, const Luogo &b) { return a.popolazione > b.popolazione; });
+    std::stable_sort(luoghi_.begin(), luoghi_.end(),
+                     [](const Luogo &a, const Luogo &b) { return a.popolazione > b.popolazione; });
     const auto aggiungi = [&](std::string_view nome, std::size_t luogo) {
         const std::string piano = Appiana(nome);
         if (piano.empty()) return;
-        indice_.push_back({static_cast<std::uint32_t>(chiavi_.size()), static_cast<std::uint32_t>(piano.size()), static_cast<std::uint32_t>(luogo)});
+        indice_.push_back({static_cast<std::uint32_t>(chiavi_.size()), static_cast<std::uint32_t>(piano.size()),
+                           static_cast<std::uint32_t>(luogo)});
         chiavi_ += piano;
     };
     for (std::size_t i = 0; i < luoghi_.size(); ++i) {
@@ -141,7 +151,8 @@ std::vector<std::uint32_t> Atlante::simili(const Domanda &d, Somiglianza come) c
         if (va(c.luogo, d)) trovati.push_back(c.luogo);
     };
     if (come == Somiglianza::Uguale || come == Somiglianza::Inizio) {
-        const auto da = std::lower_bound(indice_.begin(), indice_.end(), d.nome, [&](const Chiave &c, const std::string &n) { return testo(c) < n; });
+        const auto da = std::lower_bound(indice_.begin(), indice_.end(), d.nome,
+                                         [&](const Chiave &c, const std::string &n) { return testo(c) < n; });
         for (auto i = da; i != indice_.end() && testo(*i).starts_with(d.nome); ++i)
             if (come == Somiglianza::Inizio || i->lunga == d.nome.size()) prendi(*i);
             else break;  // the name itself sorts before what it begins
@@ -198,8 +209,9 @@ Scelta Atlante::Scegli(std::string_view nome, std::string_view paese) const {
     s.tra = std::move(t.luoghi);
     if (!s.omonimi) return s;
     const Luogo &primo = *s.tra.front();
-    const auto altro = std::find_if(s.tra.begin() + 1, s.tra.end(),
-                                    [&](const Luogo *l) { return Distanza(*l, primo.latitudine, primo.longitudine) > STESSO_POSTO; });
+    const auto altro = std::find_if(s.tra.begin() + 1, s.tra.end(), [&](const Luogo *l) {
+        return Distanza(*l, primo.latitudine, primo.longitudine) > STESSO_POSTO;
+    });
     if (altro == s.tra.end() || primo.popolazione >= MOLTO_PIU_NOTO * (*altro)->popolazione) {
         s.luogo = &primo;
         s.tra.clear();

@@ -32,9 +32,9 @@ struct Trovati {
 
 // What a name stands for: one place, or those it may mean.
 struct Scelta {
-    const Luogo *luogo = nullptr;        // null: none, or several
-    std::vector<const Luogo *> tra;      // then: the namesakes, or what sounds alike
-    bool omonimi = false;                // tra has the very name
+    const Luogo *luogo = nullptr;    // null: none, or several
+    std::vector<const Luogo *> tra;  // then: the namesakes, or what sounds alike
+    bool omonimi = false;            // tra has the very name
 };
 
 // Holds the table; its places live as long as it does. Not copied.
@@ -57,7 +57,8 @@ public:
     [[nodiscard]] Trovati Cerca(std::string_view nome, std::string_view paese = {}, std::size_t quanti = 50) const;
 
     // For a search box, at every key: places that have the name, then those that begin with it, then those with a word that does.
-    [[nodiscard]] std::vector<const Luogo *> Suggerisci(std::string_view inizio, std::size_t quanti = 12, std::string_view paese = {}) const;
+    [[nodiscard]] std::vector<const Luogo *> Suggerisci(std::string_view inizio, std::size_t quanti = 12,
+                                                        std::string_view paese = {}) const;
 
     // One place for a name, or none. It is one when it alone has the name, or has ten times the people of the next namesake;
     // namesakes within a quarter of a degree are parts of it and don't count.
@@ -80,10 +81,13 @@ private:
     [[nodiscard]] std::vector<const Luogo *> mostra(std::vector<std::uint32_t> indici, std::size_t quanti) const;
 
     std::string tabella_;
-    std::vector<Luogo> luoghi_;     // the most populous first
-    std::string chiavi_;            // flattened names, one after the other
-    std::vector<Chiave> indice_;    // in the order of the names
+    std::vector<Luogo> luoghi_;   // the most populous first
+    std::string chiavi_;          // flattened names, one after the other
+    std::vector<Chiave> indice_;  // in the order of the names
 };
+
+// The place's name as it was asked for: the one of its names that the search takes for that, else the gazetteer's.
+[[nodiscard]] std::string_view NomeChiesto(const Luogo &luogo, std::string_view chiesto);
 
 // Degrees of arc between two places, plane near them: for telling near from far.
 [[nodiscard]] double Distanza(const Luogo &a, double latitudine, double longitudine);

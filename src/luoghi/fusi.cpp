@@ -55,7 +55,8 @@ bool testata(Lettore &l, Testata &t) {
     if (!l.file.substr(l.i).starts_with("TZif")) return false;
     l.salta(20);
     t = {l.numero(4), l.numero(4), l.numero(4), l.numero(4), l.numero(4), l.numero(4)};
-    return l.buono && t.passi < 50000 && t.tipi > 0 && t.tipi < 256 && t.ut < 256 && t.std < 256 && t.leap < 5000 && t.lettere < 5000;
+    return l.buono && t.passi < 50000 && t.tipi > 0 && t.tipi < 256 && t.ut < 256 && t.std < 256 && t.leap < 5000 &&
+           t.lettere < 5000;
 }
 
 std::size_t lunghezza(const Testata &t, std::size_t istante) {
@@ -111,7 +112,8 @@ std::int64_t Secondi(const Orario &o) {
 Orario DaSecondi(std::int64_t t) {
     const std::int64_t g = intero(t, GIORNO), s = t - g * GIORNO;
     const std::int64_t z = g + 719468, era = intero(z, 146097), ge = z - era * 146097;
-    const std::int64_t ae = (ge - ge / 1460 + ge / 36524 - ge / 146096) / 365, ga = ge - (365 * ae + ae / 4 - ae / 100), mp = (5 * ga + 2) / 153;
+    const std::int64_t ae = (ge - ge / 1460 + ge / 36524 - ge / 146096) / 365, ga = ge - (365 * ae + ae / 4 - ae / 100),
+                       mp = (5 * ga + 2) / 153;
     Orario o;
     o.mese = static_cast<int>(mp < 10 ? mp + 3 : mp - 9);
     o.giorno = static_cast<int>(ga - (153 * mp + 2) / 5 + 1);
@@ -124,10 +126,12 @@ std::optional<Fuso> Fuso::Leggi(std::string_view nome) {
     // A zone's name is a path below the folder: nothing else may come of it.
     if (nome.empty() || nome.size() > 64 || nome.front() == '/' || nome.find("..") != std::string_view::npos) return {};
     for (const char c : nome)
-        if (!((c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || std::string_view("/_+-").find(c) != std::string_view::npos))
+        if (!((c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') ||
+              std::string_view("/_+-").find(c) != std::string_view::npos))
             return {};
     const char *cartella = std::getenv("TZDIR");
-    const auto file = LeggiFile(std::string(cartella && *cartella ? cartella : "/usr/share/zoneinfo") + "/" + std::string(nome), FILE_MASSIMO);
+    const auto file =
+        LeggiFile(std::string(cartella && *cartella ? cartella : "/usr/share/zoneinfo") + "/" + std::string(nome), FILE_MASSIMO);
     return file ? DaTesto(*file) : std::nullopt;
 }
 
@@ -145,7 +149,8 @@ Fuso Fuso::LeggiOppure(std::string_view nome, int minuti) {
 std::optional<Fuso> Fuso::DaTesto(std::string_view file) {
     Lettore l{file};
     Testata t;
-    if (!testata(l, t) || file[4] < '2') return {};  // files of one part have 32-bit instants and no rule: none is made so any more
+    if (!testata(l, t) || file[4] < '2')
+        return {};  // files of one part have 32-bit instants and no rule: none is made so any more
     l.salta(lunghezza(t, 4));
     if (!l.buono || !testata(l, t)) return {};
     const std::size_t fine = lunghezza(t, 8);
@@ -160,7 +165,8 @@ std::optional<Fuso> Fuso::DaTesto(std::string_view file) {
     std::vector<int> scarti;
     for (std::uint64_t k = 0; k < t.tipi; ++k) {
         const int s = static_cast<int>(static_cast<std::uint32_t>(l.numero(4)));
-        l.salta(2);  // whether summer time, as the file has it: some count winter as a summer time that goes back; and the letters
+        l.salta(
+            2);  // whether summer time, as the file has it: some count winter as a summer time that goes back; and the letters
         if (s < -SCARTO_MASSIMO || s > SCARTO_MASSIMO) return {};
         scarti.push_back(s);
     }
@@ -195,7 +201,9 @@ bool Fuso::leggiRegola(std::string_view t, Regola &r) {
         if (!segno(t, ',')) return false;
         if (segno(t, 'M')) {
             g->tipo = 'M';
-            if (!cifre(t, 12, g->mese) || !segno(t, '.') || !cifre(t, 5, g->settimana) || !segno(t, '.') || !cifre(t, 6, g->giorno)) return false;
+            if (!cifre(t, 12, g->mese) || !segno(t, '.') || !cifre(t, 5, g->settimana) || !segno(t, '.') ||
+                !cifre(t, 6, g->giorno))
+                return false;
             if (g->mese < 1 || g->settimana < 1) return false;
         } else {
             g->tipo = segno(t, 'J') ? 'J' : '0';

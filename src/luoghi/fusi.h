@@ -1,5 +1,5 @@
-// Time zones with their rules of summer time, out of the system's zone files (TZif, /usr/share/zoneinfo). Instants are seconds UT from
-// 1970-01-01; offsets are seconds East of Greenwich, as zone files have them, and not in the sign of the program's fields.
+// Time zones with their rules of summer time, out of the system's zone files (TZif, /usr/share/zoneinfo). Instants are seconds UT
+// from 1970-01-01; offsets are seconds East of Greenwich, as zone files have them, and not in the sign of the program's fields.
 #pragma once
 
 #include <cstdint>
@@ -30,13 +30,17 @@ struct OraDelFuso {
 struct Civile {
     std::int64_t ut = 0;
     OraDelFuso ora;
-    enum { Una, Doppia, Saltata } quale = Una;  // an hour that comes twice: the first of the two; one that is jumped over: as if it were not
+    enum {
+        Una,
+        Doppia,
+        Saltata
+    } quale = Una;  // an hour that comes twice: the first of the two; one that is jumped over: as if it were not
 };
 
 class Fuso {
 public:
-    // A zone by its name, as "Europe/Rome"; nothing when the system has no such file or it can't be read. The folder is TZDIR's, if that
-    // is set.
+    // A zone by its name, as "Europe/Rome"; nothing when the system has no such file or it can't be read. The folder is TZDIR's,
+    // if that is set.
     [[nodiscard]] static std::optional<Fuso> Leggi(std::string_view nome);
     // The bytes of a zone file: its 64-bit part and the rule at its end. Nothing for what is no such file, however broken.
     [[nodiscard]] static std::optional<Fuso> DaTesto(std::string_view file);

@@ -44,7 +44,8 @@ std::string_view piana(std::uint32_t c, std::string_view scritta, std::string &u
         uno.assign(1, !lettera ? ' ' : static_cast<char>(c >= 'A' && c <= 'Z' ? c + 32 : c));
         return uno;
     }
-    if ((c >= 0x300 && c <= 0x36F) || (c >= 0x2018 && c <= 0x201B) || c == 0x2BB || c == 0x2BC || c == 0x2B9 || c == 0xB4) return "";
+    if ((c >= 0x300 && c <= 0x36F) || (c >= 0x2018 && c <= 0x201B) || c == 0x2BB || c == 0x2BC || c == 0x2B9 || c == 0xB4)
+        return "";
     if ((c >= 0x2000 && c <= 0x206F) || c == 0xA0 || c == 0xB7) return " ";
     char l = '-';
     if (c >= 0xC0 && c < 0x250) l = LATINE[c - 0xC0];
@@ -52,12 +53,19 @@ std::string_view piana(std::uint32_t c, std::string_view scritta, std::string &u
     else if (c == 0x259) l = 'e';  // small ə, outside both tables
     else return scritta;
     switch (l) {
-        case 'A': return "ae";
-        case 'O': return "oe";
-        case 'S': return "ss";
-        case 'T': return "th";
-        case '-': return scritta;
-        default: uno.assign(1, l); return uno;
+        case 'A':
+            return "ae";
+        case 'O':
+            return "oe";
+        case 'S':
+            return "ss";
+        case 'T':
+            return "th";
+        case '-':
+            return scritta;
+        default:
+            uno.assign(1, l);
+            return uno;
     }
 }
 

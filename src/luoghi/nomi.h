@@ -7,7 +7,8 @@
 namespace ombrelia::luoghi {
 
 // A name flattened: Latin letters without their marks, small; apostrophes and points dropped, all other signs one blank between
-// words; "St" at the beginning is "saint". Letters of other scripts stay as they are. "Köln" and "KOLN" give "koln", "Xi’an" "xian".
+// words; "St" at the beginning is "saint". Letters of other scripts stay as they are. "Köln" and "KOLN" give "koln", "Xi’an"
+// "xian".
 [[nodiscard]] std::string Appiana(std::string_view nome);
 
 // The same with "ae", "oe", "ue" as a German writes ä, ö, ü: "koeln" gives "koln".

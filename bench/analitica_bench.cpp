@@ -7,7 +7,7 @@
 #include "analytic/analitica.h"
 #include "comuni.h"
 #include "core/conteggio.h"
-#include "sessione/proiezione.h"
+#include "gnomonica/proiezione.h"
 
 using namespace ombrelia;
 

@@ -8,7 +8,7 @@
 #include "comuni.h"
 #include "core/conteggio.h"
 #include "plot/dxf.h"
-#include "sessione/proiezione.h"
+#include "gnomonica/proiezione.h"
 
 namespace {
 

@@ -2,7 +2,7 @@
 #include "analytic/analitica.h"
 #include "analytic/conica.h"
 #include "core/conteggio.h"
-#include "sessione/proiezione.h"
+#include "gnomonica/proiezione.h"
 
 namespace ombrelia::analytic {
 

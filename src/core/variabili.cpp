@@ -7,7 +7,7 @@ std::span<const NomeVariabile> NomiVariabili() {
     using V = Variabili;
     static constexpr NomeVariabile NOMI[] = {
         {"lat", &V::lat}, {"latR", &V::latR}, {"dec", &V::dec}, {"decR", &V::decR}, {"inc", &V::inc}, {"incR", &V::incR},
-        {"lon", &V::lon}, {"lonCopia", &V::lonCopia}, {"lonPiu15", &V::lonPiu15}, {"gn", &V::gn},
+        {"lon", &V::lon}, {"lonCopia", &V::lonCopia}, {"lonPiu15", &V::lonPiu15}, {"meridiano", &V::meridiano}, {"gn", &V::gn},
         {"x0", &V::x0}, {"y0", &V::y0}, {"x1", &V::x1}, {"y1", &V::y1},
         {"xEq", &V::xEq}, {"yEq", &V::yEq}, {"xSus", &V::xSus}, {"ySus", &V::ySus},
         {"yOriz", &V::yOriz}, {"fraz", &V::fraz}, {"deltaOpz", &V::deltaOpz}, {"passo", &V::passo},

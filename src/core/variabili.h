@@ -15,7 +15,9 @@ struct Variabili {
     Reale lat, latR;               // latitude; latR is absolute after LeggiParametri, signed where an engine says so
     Reale dec, decR;               // gnomonic declination of the plane
     Reale inc, incR;               // zenith inclination: 0 a wall, 90 a horizontal plane
-    Reale lon, lonCopia, lonPiu15; // longitude; as typed; longitude + 15
+    Reale lon, lonCopia;           // longitude; as typed
+    Reale meridiano = -15;         // of the zone
+    Reale lonPiu15;                // longitude less the zone's meridian: longitude + 15 in central Europe
     Reale gn;                      // ortostilo
     Reale x0, y0, x1, y1;          // frame lines as typed; x1, y1 scaled once a frame was drawn
     Reale xEq, yEq, xSus, ySus;    // auxiliary lines of the analytic engine

@@ -1,33 +1,24 @@
 // A run of the direct engine from its fields to the caption.
 #include "direct/diretta.h"
 
-#include "direct/sbarramento.h"
+#include "direct/corsa.h"
 #include "glyphs/zodiaco.h"
+#include "gnomonica/almucantarat.h"
+#include "gnomonica/longitudine.h"
+#include "gnomonica/originale.h"
 #include "sessione/limiti.h"
 
 namespace ombrelia::direct {
 
 namespace {
 
-bool troppoFitto(Sessione &s) {
-    const DialInputs &in = s.in;
-    const Valore letta = Val(in.TxtFraz);
-    const Valore frazione = letta == 0 ? Valore(1) : letta;
-    const auto punti = static_cast<double>(Anno().size());
-    const bool ore = in.ck_Italiche == 1 || in.ck_babiloniche == 1;
-    if (ore && TroppoFitto(s, {GiroOre(s, Val(in.TxtInizio), Val(in.TxtFine), frazione, punti)})) return true;
-    if (in.ckTemp == 1 && TroppoFitto(s, {GiroOre(s, 0, 12, frazione, punti)})) return true;
-    const Conteggio anno(-23.45, 23.45, Val(in.txtDensity) * 10);
-    // At most eleven altitudes, morning and afternoon.
-    return in.ckAlt == 1 && TroppoFitto(s, {{"txtDensity", in.txtDensity, anno, 22}});
-}
-
 // Noon altitude at a solstice, degrees. The two near-equal declinations in one formula are meant.
 Valore altezzaMezzogiorno(Valore latR, double primo, double secondo) {
     return ArcSin(sin(latR) * sin(PI * primo / 180.0) + cos(latR) * cos(PI * secondo / 180.0)) * 180 / PI;
 }
 
-void didascalia(Sessione &s, Valore seno, Valore q) {
+void didascalia(Corsa &c, Valore seno, Valore q) {
+    Sessione &s = c.s;
     const Variabili &v = s.v;
     const std::string_view misura = TestoUnita(s);
     const Reale estate = altezzaMezzogiorno(v.latR, 23.445, 23.45);
@@ -49,24 +40,32 @@ void didascalia(Sessione &s, Valore seno, Valore q) {
         {"Quibla = "_it, Tronca5(q), " °"},
         {"Altezza del sole alle 12 d'estate = "_it, Tronca5(estate), " °"},
         {"Altezza del sole alle 12 d'inverno = "_it, Tronca5(inverno), " °"},
-        {"Costante locale = "_it, 4 * (v.lonCopia + 15), " p"},
     };
     s.tavolo.ForeColor = QB(15);
     s.Dati(s.Traduci("DATI QUADRANTE "));
     for (const auto &riga : righe) s.Dati(Frase(s.Traduci(riga.etichetta)) << riga.valore << riga.coda);
-    // A southern site has its sign back by now, but a run that cmdRun mirrored reads a northern latitude.
-    if (v.latR < 0 || v.segnoLat == -1) s.Dati(s.Traduci("Per ottenere le ore italiche cliccare babiloniche e viceversa"));
+    Frase costante(s.Traduci("Costante locale = "_it));
+    costante << CostanteLocale(v) << " p";
+    if (AltroMeridiano(v)) costante << s.Traduci(", dal meridiano "_it) << v.meridiano << " °";
+    s.Dati(costante);
+    // A southern site has its sign back by now, but a run that cmdRun mirrored reads a northern latitude. True lines need
+    // no exchange.
+    if ((v.latR < 0 || v.segnoLat == -1) && s.in.ckCorretta != 1)
+        s.Dati(s.Traduci("Per ottenere le ore italiche cliccare babiloniche e viceversa"));
 }
 
-void rettaOrizzonte(Sessione &s) {
-    const Pretendi pretendi(s.tavolo, Specie::Orizzonte);
-    const double l = s.tavolo.ShiftX();
-    s.tavolo.xLine(-l, -s.v.yOriz, l, -s.v.yOriz, QB(14));
+void rettaOrizzonte(Corsa &c, const LineeAttese &linee) {
+    const Valore y = c.s.v.yOriz;
+    const double l = c.s.tavolo.ShiftX();
+    const Pretendi pretendi(c.s.tavolo, Specie::Orizzonte);
+    c.s.tavolo.xLine(-l, -y, l, -y, linee[0].colore);
 }
 
-void lineeCornice(Sessione &s, const Cornice &c) {
+void lineeCornice(Corsa &corsa) {
+    Sessione &s = corsa.s;
     Tavolo &t = s.tavolo;
     Variabili &v = s.v;
+    const Cornice &c = corsa.cornice;
     const double l = t.ShiftX(), h = t.ShiftY();
     t.xLine(-l, -c.yMax, l, -c.yMax, QB(12));
     t.xLine(-l, -c.yMin, l, -c.yMin, QB(4));
@@ -74,40 +73,133 @@ void lineeCornice(Sessione &s, const Cornice &c) {
     t.xLine(c.xMax, -h, c.xMax, 2.0 * h, QB(4));
     v.x1 = c.xMin;
     v.y1 = c.yMax;
-    TracciaCornice(s);
+    TracciaCornice(s, corsa.letto);
     s.Dati(Frase() << c.xMin / v.unita, c.xMin, 0);
     s.Dati(Frase() << c.xMax / v.unita, c.xMax, 0);
     s.Dati(Frase() << c.yMax / v.unita, 0, -c.yMax);
     s.Dati(Frase() << c.yMin / v.unita, 0, -c.yMin);
 }
 
+// --- the table of features ------------------------------------------------------------------------------------------
+
+void cornice(Corsa &c) { TracciaCornice(c.s, c.letto); }
+
+// One line, with no counter of its own.
+template <int colore>
+void unaLinea(const Corsa &, LineeAttese &linee) {
+    linee.push_back({0, 0, "", QB(colore)});
+}
+
+// The signs read the fields once more; the horizon is the field's from here on, unscaled, and the plane what was typed.
+void zodiaco(Corsa &c, const LineeAttese &) {
+    DisegnaZodiaco(c.s);
+    c.rifaiPiano();
+}
+
+void almucantarat(Corsa &c, const LineeAttese &linee) {
+    TracciaAlmucantarat(c.s, c.letto, c.cornice, linee);
+    c.rifaiPiano();
+}
+
+using In = DialInputs;
+using Riga = Caratteristica<Corsa>;
+
+constexpr Riga CARATTERISTICHE[] = {
+    {&In::chkOreAstronomiche, Specie::Ora, "true hours, halves and quarters", LineeOrarie, TracciaRetteOrarie, nullptr, cornice},
+    {&In::Ck_DayLightCurves, Specie::Diurna, "days of solstice, signs and choice", LineeDiurne, TracciaLineeDiurne, nullptr, cornice},
+    {&In::ck_Equinoziale, Specie::Equinoziale, "the equinoctial",
+     [](const Corsa &, LineeAttese &l) { l.push_back({0, 0, "equinox", QB(9)}); }, TracciaEquinoziale},
+    {&In::ck_Italiche, Specie::Italica, "hours from sunset", LineeItaliche, TracciaOreItaliche},
+    {&In::ck_babiloniche, Specie::Babilonica, "hours from sunrise", LineeBabiloniche, TracciaOreBabiloniche},
+    {&In::ckTemp, Specie::Temporaria, "twelfths of the day", LineeTemporarie, TracciaOreTemporarie},
+    {&In::ck_Sustilare, Specie::OraSustilare, "hour line of the substyle",
+     [](const Corsa &, LineeAttese &l) { l.push_back({0, 0, "substyle hour", QB(9)}); }, TracciaSustilare},
+    {&In::ck_Triangolo, Specie::Stilo, "triangle of the polar style",
+     [](const Corsa &, LineeAttese &l) {
+         l.push_back({0, 0, "polar style", QB(9)});
+         l.push_back({0, 0, "pillar", QB(13)});
+         l.push_back({0, 0, "substyle", QB(14)});
+     },
+     TracciaStiloPolare},
+    {&In::ck_Triangolo, Specie::Mezzogiorno, "line of greatest slope through the centre", unaLinea<8>, TracciaVerticaleCentro},
+    {&In::ckZodiac, Specie::Nessuna, "signs of the zodiac", nullptr, zodiaco},
+    {&In::ckAlt, Specie::Almucantarat, "equal altitudes", [](const Corsa &c, LineeAttese &l) { LineeAlmucantarat(c.letto, l); },
+     almucantarat},
+    {&In::ck_Lemniscate, Specie::Analemma, "mean noon of the zone", LineeLemniscata, TracciaLemniscata, nullptr, PreparaLemniscata},
+    {&In::ckAsr, Specie::Asr, "afternoon prayer", [](const Corsa &, LineeAttese &l) { l.push_back({0, 1, "", QB(7)}); }, TracciaAsr},
+};
+
+// After the Qibla and the centre.
+constexpr Riga ORIZZONTE[] = {
+    {&In::ck_Orizzonte, Specie::Orizzonte, "the horizon", unaLinea<14>, rettaOrizzonte,
+     [](const Corsa &c) { return !c.orizzontale; }},
+};
+// After the caption the horizon comes once more, on a level plane too.
+constexpr Riga ORIZZONTE_DI_NUOVO[] = {
+    {&In::ck_Orizzonte, Specie::Orizzonte, "the horizon again", unaLinea<14>, rettaOrizzonte},
+};
+// Behind the frame; the lines appear once a request.
+constexpr Riga ULTIME[] = {
+    {&In::ckAz, Specie::Azimut, "equal azimuths", LineeAzimutali, TracciaRetteAzimutali,
+     [](const Corsa &c) { return c.s.v.latR != 0; }, [](Corsa &c) { c.s.in.ckAz = 0; }},
+};
+
+// Bearing in every run; curve and texts with CkQibla set, the curve only off the equator. Gives the caption's bearing.
+Reale qibla(Corsa &c) {
+    Sessione &s = c.s;
+    Qibla qibla = CalcolaQibla(c);
+    const bool chiesta = s.in.CkQibla == 1;
+    const LineaAttesa curva{0, 0, "Quibla", QB(10)};
+    const bool fatta = s.corretta({Motore::Diretta, Specie::Qibla, Specie::Nessuna, {&curva, chiesta ? 1U : 0U}, &qibla.q});
+    if (chiesta) {
+        if (!fatta && s.v.latR != 0) TracciaQibla(c, qibla.B);
+        TestiQibla(c, qibla.q);
+    }
+    return qibla.q;
+}
+
 }  // namespace
+
+bool TroppoFitta(Sessione &s) {
+    const DialInputs &in = s.in;
+    const Lettura letto(in);
+    const Valore frazione = letto.fraz == 0 ? Valore(1) : letto.fraz;
+    const auto punti = static_cast<double>(Anno().size());
+    const bool ore = in.ck_Italiche == 1 || in.ck_babiloniche == 1;
+    if (ore && TroppoFitto(s, {GiroOre(s, letto.inizio, letto.fine, frazione, punti)})) return true;
+    if (in.ckTemp == 1 && TroppoFitto(s, {GiroOre(s, 0, 12, frazione, punti)})) return true;
+    const Conteggio anno(-OBLIQUITA_2345, OBLIQUITA_2345, letto.passo * 10);
+    // At most eleven altitudes, morning and afternoon.
+    return in.ckAlt == 1 && TroppoFitto(s, {{"txtDensity", in.txtDensity, anno, 22}});
+}
 
 void I_Graf_diretta(Sessione &s) {
     Variabili &v = s.v;
-    DialInputs &in = s.in;
     Tavolo &t = s.tavolo;
     if (v.flagVerticale == 1 && Abs(v.inc_o) == 90) {
         s.utente.Box(s.Traduci("Funzione disabilitata"));
         return;
     }
     s.Messaggio("I_Graf_diretta per ogni tipo di os comunque orientato ");
-    if (Sgn(Val(in.txtLAT)) == -1) return;
-    if (troppoFitto(s)) return;
+    Corsa c(s);
+    if (Sgn(c.letto.lat) == -1) return;
+    if (TroppoFitta(s)) return;
 
-    const Cornice cornice = LeggiCornice(s);
-    LeggiParametri(s);
-    v.segnoLat2 = v.latR == 0 ? Valore(1) : Sgn(v.latR);
+    RinfrescaOriginale(s, c.letto);
+    v.unita = c.letto.unita;
+    LeggiParametri(s, c.letto);
+    v.segnoLat2 = SegnoLatitudine(v.latR);
     s.utente.Puntatore(true);
 
     // The original dial answers here and below, not the fields as they now stand.
-    const bool orizzontale = Abs(v.iz_o) == PI / 2.0;
-    if (orizzontale) {
+    c.orizzontale = Abs(v.iz_o) == PI / 2.0;
+    if (c.orizzontale) {
         v.decR = 0;
         s.Scrivi(&DialInputs::txtDec, "0");
+        c.letto.dec = 0;
     }
-    // Sine of the assostilo's elevation over the plane.
-    const Reale seno = sin(v.latR) * sin(v.incR) - cos(v.latR) * cos(v.incR) * cos(v.decR);
+    c.rifaiPiano();
+    const Reale seno = c.piano->senStilo();
     v.rapportoBase = v.inc_o == 90 ? 2.0 : 3.33333;
     if (t.ShiftX() == 0 && t.ShiftY() == 0) {
         t.ShiftX(t.QuadranteL() / 2.0);
@@ -115,7 +207,7 @@ void I_Graf_diretta(Sessione &s) {
     }
     v.origineX = t.ShiftX();
     v.origineY = t.ShiftY();
-    if (in.ckAssi == 1) {
+    if (s.in.ckAssi == 1) {
         t.xLine(-t.ShiftX(), 0, t.ShiftX(), 0, QB(15));
         t.xLine(0, -2 * t.ShiftY(), 0, 2 * t.ShiftY(), QB(15));
     }
@@ -127,42 +219,30 @@ void I_Graf_diretta(Sessione &s) {
         v.yOriz = -1;
     }
 
-    if (in.chkOreAstronomiche == 1) TracciaRetteOrarie(s);
-    if (in.Ck_DayLightCurves == 1) TracciaLineeDiurne(s);
-    if (in.ck_Equinoziale == 1) TracciaEquinoziale(s);
-    if (in.ck_Italiche == 1) TracciaOreItaliche(s);
-    if (in.ck_babiloniche == 1) TracciaOreBabiloniche(s);
-    if (in.ckTemp == 1) TracciaOreTemporarie(s);
-    if (in.ck_Sustilare == 1) TracciaSustilare(s);
-    if (in.ck_Triangolo == 1) TracciaStiloPolare(s);
-    if (in.ckZodiac == 1) DisegnaZodiaco(s);
-    if (in.ckAlt == 1) TracciaAlmucantarat(s);
-    if (in.ck_Lemniscate == 1) {
-        if (v.segnoLat == -1) TracciaLemniscataSud(s);
-        else TracciaLemniscata(s);
-    }
-    if (in.ckAsr == 1) TracciaAsr(s, cornice, orizzontale);
+    Percorri(c, Motore::Diretta, CARATTERISTICHE);
 
-    // The figures and the caption start from the fields again; the latitude keeps its sign from here on.
-    v.latR = PI * Val(in.txtLAT) / 180.0;
+    // The figures and the caption start from the fields again; the latitude keeps its sign from here on, a level plane
+    // its declination of 0.
+    v.latR = PI * c.letto.lat / 180.0;
     t.Dati("");
-    v.gn = Val(in.TxtStilo);
-    v.lonCopia = Val(in.txtLonG);
-    v.incR = PI * Val(in.txtInc) / 180;
+    v.gn = c.letto.gn;
+    v.lonCopia = c.letto.lon;
+    v.incR = PI * c.letto.inc / 180;
+    c.rifaiPiano();
 
-    const Qibla qibla = TracciaQibla(s, cornice, orizzontale);
+    const Reale q = qibla(c);
 
-    const Reale polo = sin(v.latR) * sin(v.incR) - cos(v.latR) * cos(v.incR) * cos(v.decR);
+    // The centre, left in the unit of the fields.
+    const Reale polo = c.piano->senStilo();
     if (polo != 0) {
-        const Valore z = (PI / 2.0) - v.incR;
-        v.xCentro = (v.gn / polo) * cos(v.latR) * sin(v.decR);
-        v.yCentro = (-v.gn / polo) * (sin(v.latR) * sin(z) + cos(v.latR) * cos(z) * cos(v.decR));
+        v.xCentro = (v.gn / polo) * c.piano->cphi * c.piano->sg;
+        v.yCentro = (-v.gn / polo) * c.piano->ordinataCentro();
     }
-    if (!orizzontale && in.ck_Orizzonte == 1) rettaOrizzonte(s);
-    didascalia(s, seno, qibla.q);
-    if (in.ck_Orizzonte == 1) rettaOrizzonte(s);
-    lineeCornice(s, cornice);
-    TracciaRetteAzimutali(s);
+    Percorri(c, Motore::Diretta, ORIZZONTE);
+    didascalia(c, seno, q);
+    Percorri(c, Motore::Diretta, ORIZZONTE_DI_NUOVO);
+    lineeCornice(c);
+    Percorri(c, Motore::Diretta, ULTIME);
     s.utente.Puntatore(false);
 }
 

@@ -1,87 +1,89 @@
 // Day lines and the equinoctial of the direct engine: sweeps of the hour angle at a fixed declination.
-#include "direct/diretta.h"
-#include "direct/sbarramento.h"
+#include "direct/corsa.h"
 
 namespace ombrelia::direct {
 
 namespace {
 
-// -120 to 120 by 0.1 degrees. No time correction: a day line is the same in every zone; diffLong shifts it for an
-// equivalent dial.
-std::vector<SenCos> giornata(Valore diffLong) {
-    std::vector<SenCos> t;
-    t.reserve(2401);
-    for (const double A : Conteggio(-120, 120, 0.1)) t.emplace_back(PI * A / 180 + diffLong);
-    return t;
-}
+// A day line beside its claim. The offsets of a thousandth from the claim are meant.
+struct Diurna {
+    double delta, dichiarata;
+    bool intermedia;  // only with ckFunzione
+    int lato;         // of the branch kept: 1 beyond the equinoctial, -1 this side of it
+    bool forzato;     // kept whatever the side where the substyle lies level; the last has no such case, as meant
+    Colore colore;
+    std::string_view strato;
+};
+constexpr Diurna DIURNE[] = {
+    {-OBLIQUITA, -OBLIQUITA, false, 1, true, QB(14), "delta -23.445°"},
+    {-20.001, -DELTA_SEGNI, true, 1, true, QB(13), "delta -20°"},
+    {20.001, DELTA_SEGNI, true, -1, true, QB(13), "delta 20°"},
+    {-11.501, -DELTA_SEGNI_VICINI, true, 1, true, QB(11), "delta -11.5°"},
+    {11.501, DELTA_SEGNI_VICINI, true, -1, false, QB(11), "delta 11.5°"},
+};
+constexpr std::string_view STRATO_OPZIONALE = "Delta opt";
 
 }  // namespace
 
-void TracciaLineeDiurne(Sessione &s) {
-    Variabili &v = s.v;
-    const Cornice cornice = LeggiCornice(s);
-    TracciaCornice(s);
+void LineeDiurne(const Corsa &c, LineeAttese &linee) {
+    const bool intermedie = c.s.in.ckFunzione == 1;
+    const Reale verso = c.s.v.segnoLat;
+    for (const Diurna &d : DIURNE)
+        if (!d.intermedia || intermedie) linee.push_back({d.delta, (d.dichiarata * verso).v, d.strato, d.colore});
+    // A whole ten-thousandth more than asked for: meant.
+    const Valore opzionale = c.letto.delta * verso * 1.0001;
+    linee.push_back({opzionale.v, c.letto.delta.v, STRATO_OPZIONALE, QB(9)});
+}
 
+void TracciaLineeDiurne(Corsa &c, const LineeAttese &linee) {
+    Sessione &s = c.s;
+    Variabili &v = s.v;
+    const Piano &p = *c.piano;
     // The half-plane beyond the equinoctial, to tell the branches of the conics: the substyle's angle S, the elevation
     // Hs of the style, and (a, b) where the substyle meets the equinoctial.
-    const Valore i = v.incR, g = v.decR, phi = v.latR;
-    const Reale E = tan(phi) * cos(i) + cos(g) * sin(i);
-    const Reale tanS = sin(g) / E;
+    const Reale E = p.divisoreSustilare();
+    const Reale tanS = p.sg / E;
     const Reale S = Atn(tanS);
-    const Reale Hs = ArcSin(sin(phi) * sin(i) - cos(phi) * cos(i) * cos(g));
+    const Reale Hs = ArcSin(p.senStilo());
     const Reale a = -v.gn * tan(Hs) * sin(S) * v.unita;
     const Reale b = v.gn * tan(Hs) * cos(S) * v.unita;
 
-    const Valore richiesta = Val(s.in.txtDelta), opzionale = richiesta * v.segnoLat * 1.0001;
-    const bool intermedie = s.in.ckFunzione == 1;
-    struct Linea {
-        Valore delta;
-        Valore dichiarata;  // declination that the maker asked for, degrees
-        bool si;
-        int lato;     // of the branch kept: 1 W > 0, -1 W < 0, 0 none
-        bool forzato; // W counts as lato when E = 0; the last two lines have no such case, as meant
-        Colore colore;
-        std::string_view strato;
-    };
-    // The offsets of a thousandth and the factor 1.0001 are meant.
-    const Linea linee[] = {
-        {-23.445, -23.445 * v.segnoLat, true, 1, true, QB(14), "delta -23.445°"},
-        {-20.001, -20 * v.segnoLat, intermedie, 1, true, QB(13), "delta -20°"},
-        {20.001, 20 * v.segnoLat, intermedie, -1, true, QB(13), "delta 20°"},
-        {-11.501, -11.5 * v.segnoLat, intermedie, 1, true, QB(11), "delta -11.5°"},
-        {11.501, 11.5 * v.segnoLat, intermedie, -1, false, QB(11), "delta 11.5°"},
-        {opzionale, richiesta, true, opzionale < 0 ? 1 : opzionale > 0 ? -1 : 0, false, QB(9), "Delta opt"},
-    };
-    const Sbarramento passa(cornice, v);
+    const Sbarramento passa(c.cornice, v);
     const Proiezione proietta(v);
-    const std::vector<SenCos> ore = giornata(v.diffLong);
+    const std::vector<SenCos> &ore = c.giorno.con(v.diffLong);
     Reale x, y;
-    for (const Linea &linea : linee) {
-        if (!linea.si) continue;
-        v.deltaOpz = linea.delta;
+    for (const LineaAttesa &l : linee) {
+        const Valore delta = l.parametro;
+        int lato = delta < 0 ? 1 : delta > 0 ? -1 : 0;
+        bool forza = false;
+        for (const Diurna &d : DIURNE) {
+            if (d.strato != l.strato) continue;
+            lato = d.lato;
+            forza = d.forzato && E == 0;
+        }
+        v.deltaOpz = delta;
         const double tanD = tan(PI * v.deltaOpz / 180).v;
-        const bool forza = linea.forzato && E == 0;
-        const Pretendi pretendi(s.tavolo, Specie::Diurna, linea.dichiarata.v);
-        Catena catena(s.tavolo, linea.strato);
+        const Pretendi pretendi(s.tavolo, Specie::Diurna, l.valore);
+        Catena catena(s.tavolo, l.strato);
         for (const SenCos &t : ore) {
             proietta(t, tanD, x, y);
             const Valore W = y - tanS * (x - a) - b;
-            const bool lato = forza || (linea.lato > 0 ? W > 0 : linea.lato < 0 && W < 0);
-            catena.punto(x, y, lato && passa(x, y), linea.colore);
+            catena.punto(x, y, (forza || (lato > 0 ? W > 0 : lato < 0 && W < 0)) && passa(x, y), l.colore);
         }
     }
 }
 
-void TracciaEquinoziale(Sessione &s) {
-    const Cornice cornice = LeggiCornice(s);
-    const Sbarramento passa(cornice, s.v);
-    const Proiezione proietta(s.v);
-    const Pretendi pretendi(s.tavolo, Specie::Equinoziale);
-    Catena catena(s.tavolo, "equinox");
-    Reale x, y;
-    for (const SenCos &t : giornata(s.v.diffLong)) {
-        proietta.equinozio(t, x, y);
-        catena.punto(x, y, passa(x, y), QB(9));
+void TracciaEquinoziale(Corsa &c, const LineeAttese &linee) {
+    const Sbarramento passa(c.cornice, c.s.v);
+    const Proiezione proietta(c.s.v);
+    for (const LineaAttesa &l : linee) {
+        const Pretendi pretendi(c.s.tavolo, Specie::Equinoziale);
+        Catena catena(c.s.tavolo, l.strato);
+        Reale x, y;
+        for (const SenCos &t : c.giorno.con(c.s.v.diffLong)) {
+            proietta.equinozio(t, x, y);
+            catena.punto(x, y, passa(x, y), l.colore);
+        }
     }
 }
 

@@ -1,7 +1,7 @@
 // A place of the Earth as the Sun of a plane: the one computation that the outlines and the cities share.
 #pragma once
 
-#include "sessione/proiezione.h"
+#include "gnomonica/proiezione.h"
 #include "sessione/sessione.h"
 
 namespace ombrelia {

@@ -2,7 +2,7 @@
 #include <functional>
 
 #include "reports/rapporti.h"
-#include "sessione/proiezione.h"
+#include "gnomonica/proiezione.h"
 
 namespace ombrelia::reports {
 

@@ -45,61 +45,67 @@ std::string &Sessione::titolo(std::string_view modulo) {
     return titoli.at(static_cast<std::size_t>(i - moduli.begin()));
 }
 
-void LeggiParametri(Sessione &s) {
+void LeggiParametri(Sessione &s, const Lettura &letto) {
     Variabili &v = s.v;
-    const DialInputs &in = s.in;
-    v.lat = Val(in.txtLAT);
+    v.lat = letto.lat;
     v.latR = Abs(PI * v.lat / 180);
-    v.dec = Val(in.txtDec);
-    v.lon = Val(in.txtLonG);
+    v.dec = letto.dec;
+    v.lon = letto.lon;
     v.lonCopia = v.lon;
     v.decR = PI * v.dec / 180;
-    v.gn = Val(in.TxtStilo);
-    v.x0 = Val(in.txtX0);
-    v.y0 = Val(in.txtY0);
-    v.x1 = Val(in.txtX1);
-    v.y1 = Val(in.txtY1);
-    v.xEq = Val(in.txtEqx);
-    v.yEq = Val(in.txtEqy);
-    v.xSus = Val(in.txtSusx);
-    v.ySus = Val(in.txtSusy);
-    v.inc = Val(in.txtInc);
-    v.incR = (Val(in.txtInc) * PI) / 180.0;
-    v.yOriz = Val(in.txtOriz);
-    v.fraz = Val(in.TxtFraz);
-    v.deltaOpz = Val(in.txtDelta);
-    v.passo = Val(in.txtDensity);
-    v.limMin = Val(in.txtMinus);
-    v.limMax = Val(in.txtMax);
-    v.oraFuso = in.ck_Etna == 1 ? 1 : 0;
+    v.gn = letto.gn;
+    v.x0 = letto.x0;
+    v.y0 = letto.y0;
+    v.x1 = letto.x1;
+    v.y1 = letto.y1;
+    v.xEq = letto.xEq;
+    v.yEq = letto.yEq;
+    v.xSus = letto.xSus;
+    v.ySus = letto.ySus;
+    v.inc = letto.inc;
+    v.incR = (letto.inc * PI) / 180.0;
+    v.yOriz = letto.oriz;
+    v.fraz = letto.fraz;
+    v.deltaOpz = letto.delta;
+    v.passo = letto.passo;
+    v.limMin = letto.limMin;
+    v.limMax = letto.limMax;
+    v.oraFuso = letto.fuso ? 1 : 0;
+    v.meridiano = letto.meridiano;
     v.letture = v.letture + 1;
-    if (v.letture == 1) {
-        v.lat_o = v.latR;
-        v.dec_o = v.decR;
-        v.iz_o = v.incR;
-        v.lon_o = v.lonCopia;
-        v.inc_o = v.inc;
-        v.diffLong = 0;
-    }
-    v.lonPiu15 = v.lon + 15;
+    if (v.letture == 1) FissaOriginale(v);
+    v.lonPiu15 = v.lon - v.meridiano;
 }
 
-Cornice LeggiCornice(Sessione &s) {
-    Reale &unita = s.v.unita;
-    unita = s.in.ChCentimetro == 1 ? 0.001 : 1.0;
+void FissaOriginale(Variabili &v) {
+    v.lat_o = v.latR;
+    v.dec_o = v.decR;
+    v.iz_o = v.incR;
+    v.lon_o = v.lonCopia;
+    v.inc_o = v.inc;
+    v.diffLong = 0;
+}
+
+Cornice CorniceDi(const Lettura &letto) {
     Cornice c;
-    c.xMin = Val(s.in.txtX0) * unita;
-    c.xMax = Val(s.in.txtX1) * unita;
-    c.yMax = Val(s.in.txtY0) * unita;
-    c.yMin = Val(s.in.txtY1) * unita;
+    c.xMin = letto.x0 * letto.unita;
+    c.xMax = letto.x1 * letto.unita;
+    c.yMax = letto.y0 * letto.unita;
+    c.yMin = letto.y1 * letto.unita;
     return c;
 }
 
-void TracciaCornice(Sessione &s) {
+Cornice LeggiCornice(Sessione &s) {
+    const Lettura letto(s.in);
+    s.v.unita = letto.unita;
+    return CorniceDi(letto);
+}
+
+void TracciaCornice(Sessione &s, const Lettura &letto) {
     Variabili &v = s.v;
-    v.x1 = Val(s.in.txtX0) * v.unita;
-    v.y1 = Val(s.in.txtY0) * v.unita;
-    s.tavolo.xBox(v.x1, -v.y1, Val(s.in.txtX1) * v.unita, -Val(s.in.txtY1) * v.unita, QB(15), true, "Cornice");
+    v.x1 = letto.x0 * v.unita;
+    v.y1 = letto.y0 * v.unita;
+    s.tavolo.xBox(v.x1, -v.y1, letto.x1 * v.unita, -letto.y1 * v.unita, QB(15), true, "Cornice");
 }
 
 std::string_view TestoUnita(const Sessione &s) { return s.in.ChCentimetro == 1 ? " mm" : " m"; }

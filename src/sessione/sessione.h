@@ -14,6 +14,8 @@
 #include "core/variabili.h"
 #include "lang/dizionario.h"
 #include "plot/tavolo.h"
+#include "sessione/correzione.h"
+#include "sessione/lettura.h"
 #include "sessione/mondo.h"
 #include "sessione/rapporto.h"
 #include "sessione/utente.h"
@@ -46,6 +48,8 @@ struct Sessione {
     std::vector<StatoControllo> stati;  // one a row of the table of controls
     std::vector<std::string> titoli;    // captions of the forms, one a row of the table of forms
 
+    // Draws true lines in place of an engine's own while ckCorretta is set; absent where nobody does.
+    Correzione suCorretta;
     // Change handlers of fields that an engine rewrites; set by the application above.
     std::function<void(Sessione &, std::string DialInputs::*)> suCambio;
     // What needs a toolkit; absent without one. The sheet to the printer, whole or its selected tiles; the sheet's picture
@@ -53,6 +57,8 @@ struct Sessione {
     std::function<void(Sessione &, bool aree)> suStampa;
     std::function<std::string(Sessione &)> suImmagine;
 
+    // Whether somebody else drew these lines, true ones, in place of the engine's.
+    [[nodiscard]] bool corretta(const Attesa &attesa) { return in.ckCorretta == 1 && suCorretta && suCorretta(*this, attesa); }
     [[nodiscard]] std::string Traduci(std::string_view testo) const { return dizionario.Traduci(testo); }
     void Messaggio(std::string_view testo) { tavolo.Messaggio(testo); }
     // A caption line at the running text cursor; left out when a number in it has no value.
@@ -76,17 +82,24 @@ struct Sessione {
 
 // The common reading of the fields into the shared variables; every engine starts with it. The first call since start
 // also fixes the original dial. A field whose number overflows keeps its variable as it was.
-void LeggiParametri(Sessione &s);
+void LeggiParametri(Sessione &s, const Lettura &letto);
+inline void LeggiParametri(Sessione &s) { LeggiParametri(s, Lettura(s.in)); }
 
-// Unit factor and frame, as every drawing routine reads them at its start: scaled limits, y upward.
+// The plane as just read becomes the original dial.
+void FissaOriginale(Variabili &v);
+
+// The frame of a drawing: scaled limits, y upward.
 struct Cornice {
     Reale xMin, xMax, yMin, yMax;
     // Strictly inside.
     [[nodiscard]] bool contiene(Valore x, Valore y) const { return xMin < x && x < xMax && yMin < y && y < yMax; }
 };
+[[nodiscard]] Cornice CorniceDi(const Lettura &letto);
+// Reads it from the fields and leaves unita.
 Cornice LeggiCornice(Sessione &s);
-// The frame of a drawing, drawn; leaves its corner in x1 and y1.
-void TracciaCornice(Sessione &s);
+// The frame, drawn by the unit in force; leaves its corner in x1 and y1.
+void TracciaCornice(Sessione &s, const Lettura &letto);
+inline void TracciaCornice(Sessione &s) { TracciaCornice(s, Lettura(s.in)); }
 
 // Text of the unit of length in force: " m" or " mm".
 [[nodiscard]] std::string_view TestoUnita(const Sessione &s);

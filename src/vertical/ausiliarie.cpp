@@ -1,6 +1,7 @@
 // What a dial of the vertical engine carries beyond hours and days: substyle, horizon, azimuth lines, prayer curves.
 #include "core/conteggio.h"
-#include "direct/sbarramento.h"
+#include "gnomonica/catena.h"
+#include "gnomonica/spazzate.h"
 #include "vertical/piana.h"
 #include "vertical/sfera.h"
 
@@ -64,14 +65,14 @@ void TracciaAzimutali(Sessione &s) {
         beta = Atn(senLat * tan(PI * a / 180));
         const Valore senBeta = sin(beta);
         const Pretendi pretendi(s.tavolo, Specie::Azimut, v.latR < 0 ? a - (a < 0 ? -180 : 180) : a);
-        for (const direct::Declinazione &d : direct::Anno()) {
+        for (const Declinazione &d : Anno()) {
             ht = ArcSin(d.tanD * senBeta / tanLat);
             Hr = beta - ht;
             proietta.perParete(SenCos(Hr), d.tanD, x, y);
             if (!(y > limite) && cornice.contiene(x, y)) s.tavolo.xPset(x, -y, QB(6));
         }
     }
-    v.deltaOpz = direct::Anno().back().d;
+    v.deltaOpz = Anno().back().d;
 }
 
 void TracciaAsr(Sessione &s) {

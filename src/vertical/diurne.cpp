@@ -1,7 +1,8 @@
 // Day lines and equinoctial of the vertical engine: sweeps of the hour angle by whole degrees at a fixed declination.
 #include <span>
 
-#include "direct/sbarramento.h"
+#include "gnomonica/catena.h"
+#include "gnomonica/spazzate.h"
 #include "vertical/piana.h"
 #include "vertical/sfera.h"
 
@@ -87,7 +88,7 @@ void traccia(Sessione &s, const Diurna &d, Valore delta, Valore dichiarata) {
     const Sfera::Giorno giorno = sfera.giorno(v.deltaOpz.numero());
     const Orizzonte orizzonte(v);
     const Pretendi pretendi(s.tavolo, Specie::Diurna, dichiarata.v);
-    direct::Catena catena(s.tavolo, d.strato);
+    Catena catena(s.tavolo, d.strato);
     Reale x, y;
     double H = -static_cast<double>(d.mezzo);
     for (const Orario &ora : giri().subspan(360 - d.mezzo, 2 * d.mezzo + 1)) {
@@ -140,7 +141,7 @@ void TracciaEquinoziale(Sessione &s) {
     const Sfera::Giorno giorno = sfera.giorno(0);
     const Orizzonte orizzonte(v);
     const Pretendi pretendi(s.tavolo, Specie::Equinoziale);
-    direct::Catena catena(s.tavolo, "21 III or 23 IX Eq");
+    Catena catena(s.tavolo, "21 III or 23 IX Eq");
     Reale x, y;
     for (const Orario &ora : giri()) {
         if (sfera.denominatore(ora, giorno) == 0) sfera.A = Sfera::segno(ora.Hr) * PI / 2;

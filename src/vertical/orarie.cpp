@@ -1,6 +1,7 @@
 // Hour lines of the vertical engine, traced through the year so that they end at the solstices, and the places of the
 // numerals on them.
-#include "direct/sbarramento.h"
+#include "gnomonica/catena.h"
+#include "gnomonica/spazzate.h"
 #include "glyphs/numeri.h"
 #include "vertical/piana.h"
 #include "vertical/sfera.h"
@@ -40,7 +41,7 @@ void TracciaOreAstro(Sessione &s) {
     Reale x, y;
     for (const Famiglia &f : famiglie) {
         if (!f.si) continue;
-        direct::Catena catena(s.tavolo, f.strato);
+        Catena catena(s.tavolo, f.strato);
         for (const double H : Conteggio(f.inizio, 180 + verso, f.passo)) {
             const Colore colore = !f.ore ? f.colore : H == 0 ? QB(12) : std::fabs(H) == 90 ? QB(9) : f.colore;
             const Orario ora = OraOrologio(v, H);

@@ -1,7 +1,7 @@
 // A run of the vertical engine from its fields to the caption.
 #include "vertical/piana.h"
 
-#include "direct/diretta.h"
+#include "gnomonica/almucantarat.h"
 #include "sessione/limiti.h"
 #include "vertical/sfera.h"
 
@@ -175,7 +175,12 @@ void Piana_Esegui(Sessione &s) {
     if (in.ck_Triangolo == 1) TracciaTriangoloStilo(s);
     // ckZodiac has no step of its own: the signs come with the lemniscate.
     if (in.CkQibla == 1) TracciaQibla(s);
-    if (in.ckAlt == 1) direct::TracciaAlmucantarat(s);
+    if (in.ckAlt == 1) {
+        const Lettura letto(in);
+        LineeAttese linee;
+        LineeAlmucantarat(letto, linee);
+        TracciaAlmucantarat(s, letto, CorniceDi(letto), linee);
+    }
     if (in.ckAz == 1) TracciaAzimutali(s);
     if (in.ck_Orizzonte == 1) {
         const Pretendi pretendi(t, Specie::Orizzonte);

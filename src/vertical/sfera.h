@@ -4,7 +4,7 @@
 
 #include "core/angoli.h"
 #include "core/variabili.h"
-#include "sessione/proiezione.h"
+#include "gnomonica/proiezione.h"
 
 namespace ombrelia::vertical {
 

@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "analytic/quadranti.h"
-#include "sessione/proiezione.h"
+#include "gnomonica/proiezione.h"
 
 namespace ombrelia {
 namespace {

@@ -5,7 +5,7 @@
 #include <set>
 
 #include "comuni/prova.h"
-#include "sessione/proiezione.h"
+#include "gnomonica/proiezione.h"
 
 namespace ombrelia {
 namespace {

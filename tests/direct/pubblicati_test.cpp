@@ -4,7 +4,7 @@
 #include <cstdio>
 
 #include "comuni/prova.h"
-#include "sessione/proiezione.h"
+#include "gnomonica/proiezione.h"
 
 namespace ombrelia {
 namespace {

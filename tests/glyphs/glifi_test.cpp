@@ -8,7 +8,7 @@
 #include "comuni/prova.h"
 #include "glyphs/numeri.h"
 #include "glyphs/zodiaco.h"
-#include "sessione/proiezione.h"
+#include "gnomonica/proiezione.h"
 
 namespace ombrelia {
 namespace {

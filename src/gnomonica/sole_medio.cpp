@@ -1,5 +1,5 @@
 // The Sun's series in its mean longitude.
-#include "sessione/proiezione.h"
+#include "gnomonica/proiezione.h"
 
 namespace ombrelia {
 

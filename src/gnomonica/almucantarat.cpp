@@ -1,0 +1,56 @@
+// Almucantars.
+#include "gnomonica/almucantarat.h"
+
+#include "core/conteggio.h"
+#include "gnomonica/declinazioni.h"
+#include "gnomonica/proiezione.h"
+
+namespace ombrelia {
+
+void LineeAlmucantarat(const Lettura &letto, LineeAttese &linee) {
+    const Reale hMax = (90 - letto.lat) + OBLIQUITA;
+    for (const double h : Conteggio(10, hMax, 10)) linee.push_back({h, h, "", QB(4)});
+}
+
+void TracciaAlmucantarat(Sessione &s, const Lettura &letto, const Cornice &cornice, const LineeAttese &linee) {
+    Variabili &v = s.v;
+    v.latR = PI * letto.lat / 180.0;
+    v.gn = letto.gn;
+    v.incR = PI * letto.inc / 180;
+    const bool orizzontale = Abs(letto.inc) == 90;
+    if (orizzontale) v.decR = 0;
+    const Reale limite = v.gn * tan(v.incR);
+    const bool nord = v.latR >= 0;
+
+    struct Campione {
+        double tanD, senTermine, cosTermine;
+    };
+    std::vector<Campione> anno;
+    const Valore senLat = sin(v.latR), cosLat = cos(v.latR);
+    for (const double d : Conteggio(-OBLIQUITA_2345, OBLIQUITA_2345, letto.passo * 10)) {
+        const double D = PI * d / 180;
+        v.deltaOpz = d;
+        anno.push_back({std::tan(D), senLat.v * std::sin(D), cosLat.v * std::cos(D)});
+    }
+    const Proiezione proietta(v);
+    Reale c, t, x, y;
+    for (const bool mattina : {true, false}) {
+        for (const LineaAttesa &l : linee) {
+            const Pretendi pretendi(s.tavolo, Specie::Almucantarat, l.valore);
+            const double senH = std::sin(PI * l.parametro / 180);
+            for (const Campione &a : anno) {
+                c = (Valore(senH) - a.senTermine) / a.cosTermine;
+                if (Abs(c) > 1) continue;
+                t = mattina ? -ArcCos(c) : ArcCos(c);
+                proietta(SenCos(t), a.tanD, x, y);
+                if (!cornice.contiene(x, y)) continue;
+                if (nord && y <= limite) s.tavolo.xPset(x, -y, l.colore);
+                if (!nord && y >= limite) s.tavolo.xPset(-x, y, l.colore);
+                // On a horizontal plane every point of the frame is plotted once more.
+                if (orizzontale) s.tavolo.xPset(x, -y, l.colore);
+            }
+        }
+    }
+}
+
+}  // namespace ombrelia

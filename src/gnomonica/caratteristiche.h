@@ -1,0 +1,41 @@
+// The table of features: a run of an engine is the walk of one. A new line is a routine and a row.
+#pragma once
+
+#include <vector>
+
+#include "sessione/sessione.h"
+
+namespace ombrelia {
+
+using LineeAttese = std::vector<LineaAttesa>;
+
+// Corsa is an engine's run: it has the session as s, and what was read and computed for the run.
+template <typename Corsa>
+struct Caratteristica {
+    int DialInputs::*casella;      // its box; none: in every run
+    Specie specie;                 // what its lines claim
+    std::string_view significato;  // what it shows
+    // Its lines, as counter, claim, layer and colour, in the order of drawing; null where one pass draws none that counts.
+    void (*linee)(const Corsa &, LineeAttese &);
+    // Draws them. Each line claims as its row of linee says.
+    void (*traccia)(Corsa &, const LineeAttese &);
+    bool (*guardia)(const Corsa &) = nullptr;  // beside the box
+    void (*contorno)(Corsa &) = nullptr;       // frame and values left behind, whoever draws the lines
+    Specie di = Specie::Nessuna;               // of labels: of which lines
+};
+
+template <typename Corsa, std::size_t N>
+void Percorri(Corsa &c, Motore motore, const Caratteristica<Corsa> (&tavola)[N]) {
+    Sessione &s = c.s;
+    LineeAttese linee;
+    for (const Caratteristica<Corsa> &r : tavola) {
+        if (r.casella && s.in.*r.casella != 1) continue;
+        if (r.guardia && !r.guardia(c)) continue;
+        if (r.contorno) r.contorno(c);
+        linee.clear();
+        if (r.linee) r.linee(c, linee);
+        if (!s.corretta({motore, r.specie, r.di, linee})) r.traccia(c, linee);
+    }
+}
+
+}  // namespace ombrelia

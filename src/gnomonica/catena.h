@@ -1,0 +1,47 @@
+// A line as chords: the test that lets one pass and the chain that joins them.
+#pragma once
+
+#include "plot/tavolo.h"
+#include "sessione/sessione.h"
+
+namespace ombrelia {
+
+// The chord test of planes at any slope, made on the newer point alone: this side of the plane's horizon and strictly
+// inside the frame. yOriz is the horizon's ordinate, metres, y upward; from a level plane on (incR, radians) the other
+// side is kept.
+class Sbarramento {
+public:
+    Sbarramento(const Cornice &cornice, const Variabili &v) : cornice_(cornice), yOriz_(v.yOriz), sotto_(v.incR < PI / 2.0) {}
+    [[nodiscard]] bool orizzonte(Valore y) const { return sotto_ ? y <= yOriz_ : y >= yOriz_; }
+    [[nodiscard]] bool operator()(Valore x, Valore y) const { return orizzonte(y) && cornice_.contiene(x, y); }
+
+private:
+    const Cornice &cornice_;
+    Reale yOriz_;
+    bool sotto_;
+};
+
+// A line as a chain of chords, each from the newer point to the one before.
+class Catena {
+public:
+    Catena(Tavolo &tavolo, std::string_view strato) : tavolo_(tavolo), strato_(tavolo.nome(strato)) {}
+    // The next point, y upward; the chord to it is drawn when passa says so.
+    void punto(Reale x, Reale y, bool passa, Colore colore) {
+        if (iniziata_ && passa) tavolo_.xLine(x, -y, x_, -y_, colore, strato_);
+        x_ = x;
+        y_ = y;
+        iniziata_ = true;
+    }
+    void fine() { iniziata_ = false; }
+    // The point before, 0 before the first.
+    [[nodiscard]] Reale xPrima() const { return x_; }
+    [[nodiscard]] Reale yPrima() const { return y_; }
+
+private:
+    Tavolo &tavolo_;
+    IdNome strato_;
+    Reale x_, y_;
+    bool iniziata_ = false;
+};
+
+}  // namespace ombrelia

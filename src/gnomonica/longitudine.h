@@ -1,0 +1,21 @@
+// Where time and place part: the zone's meridian and the site's. Degrees, West positive, unless said.
+#pragma once
+
+#include "core/angoli.h"
+#include "core/variabili.h"
+
+namespace ombrelia {
+
+// From the zone's meridian to the site: at 0 clock noon, less the equation of time, is the site's noon.
+inline Valore DalMeridiano(Valore lon, Valore meridiano) { return lon - meridiano; }
+// Leaves it for the longitude that the shared variables hold.
+inline void LasciaDalMeridiano(Variabili &v) { v.lonPiu15 = DalMeridiano(v.lon, v.meridiano); }
+// The same as an angle of time, radians.
+inline Valore CorrezioneLongitudine(const Variabili &v) { return PI * v.lonPiu15 / 180; }
+
+// "Costante locale", minutes of time: from lonCopia, the longitude as typed.
+inline Valore CostanteLocale(const Variabili &v) { return 4 * (v.lonCopia - v.meridiano); }
+// Whether the zone is another than the one at start; captions then name its meridian.
+inline bool AltroMeridiano(const Variabili &v) { return v.meridiano != -15; }
+
+}  // namespace ombrelia

@@ -1,0 +1,41 @@
+// The sweeps that lines share, as tables made once a process: what a table holds has the bits that each point's own
+// computing would have.
+#pragma once
+
+#include <span>
+#include <vector>
+
+#include "core/conteggio.h"
+#include "gnomonica/declinazioni.h"
+#include "gnomonica/proiezione.h"
+
+namespace ombrelia {
+
+// A declination of a sweep, degrees, and its tangent.
+struct Declinazione {
+    double d, tanD;
+};
+// -OBLIQUITA to OBLIQUITA by 0.05 degrees: the year as hour lines, seasonal hours, Asr and azimuth lines take it.
+[[nodiscard]] const std::vector<Declinazione> &Anno();
+// The same sine and cosine as those of the year's declinations, in its order.
+[[nodiscard]] const std::vector<SenCos> &AnnoSenCos();
+
+// Hour angles of a day line: -120 to 120 by 0.1 degrees, shifted by scarto (radians). No time correction: a day line is
+// the same in every zone.
+class GiornoDiOre {
+public:
+    [[nodiscard]] const std::vector<SenCos> &con(Valore scarto);
+
+private:
+    std::vector<SenCos> ore_;
+    double scarto_ = 0;
+};
+
+// The Sun of the figure of mean noon: -80 to 280 degrees of mean longitude by a tenth of a day. tanD is the tangent of
+// its declination, Et the equation of time as hour angle, radians.
+struct Mezzodi {
+    double tanD, Et;
+};
+[[nodiscard]] const std::vector<Mezzodi> &AnnoMedio();
+
+}  // namespace ombrelia

@@ -1,0 +1,39 @@
+// Segments found by their place.
+#pragma once
+
+#include "officina/disegno.h"
+
+namespace ombrelia::officina {
+
+class Griglia {
+public:
+    explicit Griglia(const Riquadro &campo);
+
+    void aggiungi(P2 a, P2 b);
+    // Intervals of the segment a-b, in parts of it from 0 to 1, that lie within the distance (mm) of a segment that is
+    // kept here; they join those that stand in parti, merged and in order.
+    void coperto(P2 a, P2 b, double distanza, std::vector<std::pair<double, double>> &parti) const;
+    // Distance (mm) of a point from the nearest segment, looked for as far as fino; beyond it, infinity.
+    [[nodiscard]] double distanza(P2 p, double fino) const;
+
+private:
+    struct Segmento {
+        P2 a, b;
+    };
+    template <class F>
+    void celle(P2 a, P2 b, double margine, F &&f) const;
+    [[nodiscard]] int colonna(double x) const;
+    [[nodiscard]] int riga(double y) const;
+
+    double x0_, y0_, lato_;
+    int nx_, ny_;
+    std::vector<std::vector<std::uint32_t>> celle_;
+    std::vector<Segmento> segmenti_;
+    mutable std::vector<std::uint32_t> visto_;
+    mutable std::uint32_t giro_ = 0;
+};
+
+// Distance (mm) of a point from a segment.
+[[nodiscard]] double Distanza(P2 p, P2 a, P2 b);
+
+}  // namespace ombrelia::officina

@@ -17,6 +17,8 @@ usage: ombrelia COMMAND ...
   draw      a dial from fields to files
   cut       a dial as paths for a plotter, laser or mill
   report    the numbers of a dial as text, CSV or HTML
+  read      what a point of the dial says: hours, dates, the Sun that casts its shadow there
+  shadow    where the shadow falls at a moment, or through a day
   sun       the Sun over a place, and the declination of a wall from one reading or several
   batch     performs an action script: a user's actions, one a line
 
@@ -112,6 +114,44 @@ examples:
 reports:
 )";
 
+constexpr std::string_view READ = R"(usage: ombrelia read [--project FILE] [--set FIELD=TEXT]... [--check BOX]... [--date DATE] [--] X Y
+
+What a point of the dial says when the shadow of the gnomon's tip lies on it. X and Y are millimetres from the gnomon's foot, right
+and up, on the dial as it is mounted. Prints one name=value a line:
+
+  lit             yes; night: the Sun would be down; never: no Sun has that declination
+  true_hour       true time of the site, hours
+  hour_angle, declination, altitude, azimuth
+                  of the Sun, degrees; the azimuth from South, West positive; the hour angle negative before noon
+  italic, babylonian, temporary
+                  hours since sunset, since sunrise, twelfths of the day; none where the Sun doesn't rise or set
+  dates           the days of the year on which it falls there, of DATE's year or this one
+  mm_per_minute, mm_per_day
+                  how fast the shadow moves there, the second on the first of the dates
+
+example:
+  ombrelia read --set txtLAT=45.07 --set txtDec=18 --set txtInc=0 --set TxtStilo=0.2 -- -35 -180
+)";
+
+constexpr std::string_view SHADOW = R"(usage: ombrelia shadow [options of draw] [--date DATE] --time TIME [--zone ZONE | --utc]
+       ombrelia shadow [options of draw] [--date DATE] [--zone ZONE | --utc] --day [--step MINUTES] [--animate] [FILE.svg]
+
+Where the shadow of the gnomon's tip falls, with the Sun of that date. Prints lit, x and y (mm from the foot, right and up, on the
+dial as it is mounted), altitude, azimuth, hour_angle, declination (degrees), equation_of_time (minutes, apparent less mean), true_hour.
+
+  --date DATE      year-month-day; today without it
+  --time TIME      hours:minutes or hours:minutes:seconds of the zone
+  --zone ZONE      hours East of Greenwich, as in +2 or -3:30; without it the zone of txtMeridiano, with no summer time
+  --utc            the time is universal time
+  --day            the whole day as CSV; a FILE.svg behind draws the dial with the path of the shadow
+  --step MINUTES   10 without it
+  --animate        the shadow moves through the day in FILE.svg
+
+examples:
+  ombrelia shadow --project examples/parete_torino.omb --date 2026-06-21 --time 10:40 --zone +2
+  ombrelia shadow --project examples/parete_torino.omb --date 2026-06-21 --day --animate giorno.svg > giorno.csv
+)";
+
 constexpr std::string_view SUN = R"(usage: ombrelia sun --date DATE --time TIME --lat LAT --lon LON --zone ZONE [--angle ANGLE] [--dst]
        ombrelia sun --readings FILE --lat LAT --lon LON
 
@@ -139,6 +179,8 @@ examples:
 std::string Aiuto(std::string_view comando) {
     if (comando == "batch") return std::string(BATCH);
     if (comando == "report") return std::string(REPORT) + NomiRapporti();
+    if (comando == "read") return std::string(READ);
+    if (comando == "shadow") return std::string(SHADOW);
     if (comando == "sun") return std::string(SUN);
     if (comando == "cut") {
         std::string t(CUT);

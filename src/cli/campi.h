@@ -14,12 +14,15 @@ struct Campi {
     std::string progetto;
     std::vector<std::pair<std::string, std::string>> testi;
     std::vector<std::string> caselle;
+    std::string luogo, paese;
 
-    // Whether an option is one of these: --project FILE, --set FIELD=TEXT, --check BOX. All take one argument.
+    // Whether an option is one of these: --project FILE, --place NAME, --country XX, --set FIELD=TEXT, --check BOX. All take one
+    // argument.
     [[nodiscard]] static bool Opzione(std::string_view opzione);
     // Takes one of them. Gives an empty text or what is wrong with it.
     [[nodiscard]] std::string Prendi(std::string_view opzione, const std::string &valore);
-    // Opens the project, then gives fields and boxes in their order. Empty, or what could not be done.
+    // Opens the project, sets the place, then gives fields and boxes in their order. Angles may be written as people do: the field gets
+    // a plain number. Empty, or what could not be done.
     [[nodiscard]] std::string Applica(Sessione &s) const;
 };
 

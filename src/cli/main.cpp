@@ -8,6 +8,8 @@
 #include "cli/batch.h"
 #include "cli/cut.h"
 #include "cli/draw.h"
+#include "cli/ombre.h"
+#include "cli/place.h"
 #include "cli/report.h"
 #include "cli/sun.h"
 #ifdef OMBRELIA_CON_QT
@@ -20,7 +22,9 @@ struct Comando {
     std::string_view nome;
     int (*esegui)(int argc, char **argv);
 };
-constexpr Comando COMANDI[] = {{"batch", ombrelia::cli::Batch}, {"cut", ombrelia::cli::Cut}, {"draw", ombrelia::cli::Draw}, {"report", ombrelia::cli::Report}, {"sun", ombrelia::cli::Sun}};
+constexpr Comando COMANDI[] = {
+    {"batch", ombrelia::cli::Batch},   {"cut", ombrelia::cli::Cut}, {"draw", ombrelia::cli::Draw}, {"report", ombrelia::cli::Report}, {"read", ombrelia::cli::Read},
+    {"shadow", ombrelia::cli::Shadow}, {"sun", ombrelia::cli::Sun},   {"place", ombrelia::cli::Place}};
 
 // The window, when this build has one: by name, or with no command where there is a display.
 bool apreFinestra(std::string_view primo, int argc, char **argv, int &esito) {

@@ -19,6 +19,7 @@ usage: ombrelia COMMAND ...
   report    the numbers of a dial as text, CSV or HTML
   read      what a point of the dial says: hours, dates, the Sun that casts its shadow there
   shadow    where the shadow falls at a moment, or through a day
+  place     towns by name: latitude, longitude, meridian of the zone
   sun       the Sun over a place, and the declination of a wall from one reading or several
   batch     performs an action script: a user's actions, one a line
 
@@ -33,6 +34,7 @@ constexpr std::string_view DRAW = R"(usage: ombrelia draw [--project FILE] [--se
 Draws a dial and writes it, once for each FILE, in the form of its ending.
 
   --project FILE     a project file; fields and boxes given beside it come after it
+  --place NAME       a town: sets txtLAT, txtLonG and txtMeridiano; --country XX tells namesakes apart (ombrelia place --help)
   --set FIELD=TEXT   a field of the main window: txtLAT, txtDec (West +), txtLonG (West +), txtInc (0 wall, 90 horizontal),
                      TxtStilo, txtX0 txtX1 txtY0 txtY1 (the frame), TxtFraz ...
   --check BOX        a feature: chkOreAstronomiche, Ck_DayLightCurves, ck_Equinoziale, ck_Italiche, ck_babiloniche, ckTemp,
@@ -153,6 +155,7 @@ examples:
 )";
 
 constexpr std::string_view SUN = R"(usage: ombrelia sun --date DATE --time TIME --lat LAT --lon LON --zone ZONE [--angle ANGLE] [--dst]
+       ombrelia sun --date DATE --time TIME --place NAME [--country XX] [--clock] [--angle ANGLE]
        ombrelia sun --readings FILE --lat LAT --lon LON
 
 The Sun over a place at a moment: azimuth, altitude, declination, equation of time, noon, sunrise and sunset; and the gnomonic
@@ -165,13 +168,38 @@ declination of a wall out of one angle measured on it. The report is in the lang
   --zone ZONE      hours of the zone, West positive: Italy is -1; for noon, sunrise and sunset
   --angle ANGLE    angle measured on the wall, degrees; left out it is 0, and the wall's declination is the Sun's azimuth
   --dst            noon, sunrise and sunset in summer time
+  --place NAME     a town in place of --lat, --lon, --zone and --dst: its zone knows the date's summer time (ombrelia place --help)
+  --country XX     the town's country, where several have the name
+  --clock          the time is what a clock in that town shows, not UT; so in a file of readings too
   --readings FILE  several readings of one wall, one a line: date, time (UT) and angle; # begins a comment. Gives the
                    declination of each, mean, standard deviation and the reading that stands out
 
 examples:
   ombrelia sun --date 2026-06-21 --time 9:40 --lat 45.07 --lon -7.68 --zone -1 --angle -25.4 --dst
+  ombrelia sun --date 2026-06-21 --time 11:40 --place Torino --clock --angle -25.4
   printf '%s\n' '2026-06-21 9:40 -25.4' '2026-06-21 10:10 -14.2' '2026-06-21 10:40 0.3' > muro.txt
   ombrelia sun --readings muro.txt --lat 45.07 --lon -7.68
+)";
+
+constexpr std::string_view PLACE = R"(usage: ombrelia place NAME [--country XX] [--json]
+
+Towns of that name, one a line, the most populous first: name, country (with the state in the United States), latitude, longitude
+and meridian of the zone's standard time in degrees, North and West positive, and the zone.
+
+  NAME             in the town's tongue, Italian, French, English, German or Spanish; capitals and marks don't matter, and
+                   "Springfield, MO" or "Torino, IT" names state or country. Where no town has the name, those that begin with it
+                   are listed, else those with a word that begins so, else those that differ by one letter
+  --country XX     two letters: only towns of that country
+  --json           an array of objects: name, country, latitude, longitude, meridian, zone, population
+
+Towns with more than 5,000 people; coordinates, names and populations are GeoNames' (CC BY 4.0). The exit status is 1 when there is none.
+
+A command that takes --place NAME (draw, report, sun ...) needs one town: it is the one that alone has the name, or has ten times the
+people of the next namesake; namesakes within a quarter of a degree don't count. Otherwise the towns are listed and the status is 2.
+
+examples:
+  ombrelia place torino
+  ombrelia draw --place Köln --set txtInc=0 --check chkOreAstronomiche muro.svg
 )";
 
 }  // namespace
@@ -187,6 +215,7 @@ std::string Aiuto(std::string_view comando) {
         for (const auto &f : officina::FormatiMacchina()) t += "  ." + std::string(f.estensione) + "   " + std::string(f.descrizione) + "\n";
         return t;
     }
+    if (comando == "place") return std::string(PLACE);
     if (comando != "draw") return std::string(GENERALE);
     std::string t(DRAW);
     for (const Formato &f : Formati()) t += "  ." + std::string(f.estensione) + "   " + std::string(f.descrizione) + "\n";

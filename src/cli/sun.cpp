@@ -7,8 +7,10 @@
 #include <cstdio>
 
 #include "app/lingua.h"
+#include "cli/place.h"
 #include "core/file.h"
 #include "core/testo.h"
+#include "luoghi/fusi.h"
 #include "sun/letture.h"
 
 namespace ombrelia::cli {
@@ -21,8 +23,9 @@ using sun::DatiDeclinazione;
 
 struct Richiesta {
     DatiDeclinazione dati;
-    std::string letture;
-    std::vector<std::string_view> date;  // options that were given
+    std::string letture, luogo, paese;
+    const luoghi::Luogo *posto = nullptr;  // of --place
+    std::vector<std::string_view> date;    // options that were given
     [[nodiscard]] bool data(std::string_view opzione) const { return std::find(date.begin(), date.end(), opzione) != date.end(); }
 };
 
@@ -43,7 +46,20 @@ constexpr std::array<Opzione, 5> NECESSARIE{{
 }};
 constexpr Opzione ANGOLO{"--angle", "degrees, as in -12.5", false,
                          [](std::string_view t, DatiDeclinazione &d) { return sun::LeggiNumero(t, -180, 180, d.angolo); }};
-constexpr std::string_view LETTURE = "--readings", ESTATE = "--dst";
+constexpr std::string_view LETTURE = "--readings", ESTATE = "--dst", LUOGO = "--place", PAESE = "--country", OROLOGIO = "--clock";
+
+// Options beside those of the tables: what their argument is, nothing for a switch.
+struct Altra {
+    std::string_view nome, argomento;
+    std::string Richiesta::*dove;
+};
+constexpr std::array<Altra, 5> ALTRE{{
+    {LETTURE, "a file", &Richiesta::letture},
+    {LUOGO, "a name, as in Torino", &Richiesta::luogo},
+    {PAESE, "two letters, as in IT", &Richiesta::paese},
+    {ESTATE, "", nullptr},
+    {OROLOGIO, "", nullptr},
+}};
 
 int rifiuta(const std::string &motivo) {
     std::fprintf(stderr, "ombrelia sun: %s\n", motivo.c_str());
@@ -56,30 +72,78 @@ const Opzione *opzione(std::string_view nome) {
     return nome == ANGOLO.nome ? &ANGOLO : nullptr;
 }
 
+// Whether the place says what an option would.
+bool daLuogo(std::string_view o) { return o == "--lat" || o == "--lon" || o == "--zone" || o == ESTATE; }
+
 std::string leggi(int argc, char **argv, Richiesta &r) {
     for (int i = 0; i < argc; ++i) {
         const std::string_view a = argv[i];
         const Opzione *o = opzione(a);
-        if (a == ESTATE) r.dati.dst = true;
-        else if (!o && a != LETTURE) return "unknown option " + std::string(a) + "; see ombrelia sun --help";
+        const auto altra = std::find_if(ALTRE.begin(), ALTRE.end(), [a](const Altra &x) { return x.nome == a; });
+        if (!o && altra == ALTRE.end()) return "unknown option " + std::string(a) + "; see ombrelia sun --help";
         if (r.data(a)) return std::string(a) + " stands twice";
         r.date.push_back(a);
-        if (a == ESTATE) continue;
-        if (i + 1 >= argc) return std::string(a) + " needs " + std::string(o ? o->cosa : "a file");
+        if (!o && !altra->dove) continue;
+        if (i + 1 >= argc) return std::string(a) + " needs " + std::string(o ? o->cosa : altra->argomento);
         const std::string valore = argv[++i];
-        if (!o) r.letture = valore;
+        if (!o) r.*altra->dove = valore;
         else if (const std::string e = o->leggi(valore, r.dati); !e.empty()) return std::string(a) + ": " + e;
     }
-    const bool molte = r.data(LETTURE);
+    r.dati.dst = r.data(ESTATE);
+    const bool molte = r.data(LETTURE), luogo = r.data(LUOGO);
     for (const Opzione &o : NECESSARIE)
-        if ((!molte || o.perLetture) && !r.data(o.nome)) return std::string(o.nome) + " is missing: " + std::string(o.cosa);
+        if ((!molte || o.perLetture) && !r.data(o.nome) && !(luogo && daLuogo(o.nome)))
+            return std::string(o.nome) + " is missing: " + std::string(o.cosa);
     if (molte)
         for (const std::string_view n : {NECESSARIE[0].nome, NECESSARIE[1].nome, ANGOLO.nome})
             if (r.data(n)) return std::string(n) + ": the file of --readings says that for each reading";
+    for (const std::string_view n : r.date)
+        if (luogo && daLuogo(n)) return std::string(n) + ": the place of --place says that";
+    for (const std::string_view n : {PAESE, OROLOGIO})
+        if (!luogo && r.data(n)) return std::string(n) + " goes with --place";
+    std::string errore;
+    if (luogo && (r.posto = TrovaLuogo(r.luogo, r.paese, errore)))
+        r.dati.lat = r.posto->latitudine, r.dati.lon = r.posto->longitudine;
+    return errore;
+}
+
+int interoDi(Valore v) { return static_cast<int>(v.v); }
+
+// Zone and summer time of the place at the moment of the data; with orologio their time is the place's clock's and becomes UT.
+std::string alFuso(const luoghi::Fuso &fuso, bool orologio, DatiDeclinazione &d) {
+    const luoghi::Orario scritto{interoDi(d.anno), interoDi(d.mese),   interoDi(d.giorno),
+                                 interoDi(d.ore),  interoDi(d.minuti), interoDi(d.secondi)};
+    luoghi::OraDelFuso ora;
+    if (orologio) {
+        const luoghi::Civile c = fuso.InCivile(scritto);
+        if (c.quale == luoghi::Civile::Saltata) return "the clock there jumps over that time";
+        ora = c.ora;
+        const luoghi::Orario ut = luoghi::DaSecondi(c.ut);
+        d.anno = static_cast<double>(ut.anno), d.mese = ut.mese, d.giorno = ut.giorno;
+        d.ore = ut.ore, d.minuti = ut.minuti, d.secondi = ut.secondi;
+    } else {
+        ora = fuso.InUT(luoghi::Secondi(scritto));
+    }
+    // The sums put summer time one hour ahead of the zone: so the zone is what makes the clock right.
+    d.dst = ora.estate;
+    d.fuso = (ora.estate ? 1 : 0) - ora.scarto / 3600.0;
     return {};
 }
 
-int singola(const DatiDeclinazione &dati) {
+luoghi::Fuso fusoDi(const luoghi::Luogo &l) {
+    luoghi::Fuso f = luoghi::Fuso::LeggiOppure(l.fuso, l.base);
+    if (!f.conRegole()) std::fprintf(stderr, "ombrelia sun: no zone data on this system: standard time all year\n");
+    return f;
+}
+
+int singola(const Richiesta &r) {
+    DatiDeclinazione dati = r.dati;
+    if (r.posto) {
+        if (const std::string e = alFuso(fusoDi(*r.posto), r.data(OROLOGIO), dati); !e.empty()) return rifiuta(e);
+        std::fprintf(stderr, "ombrelia sun: %s, %s: %s, clock %s hours West of Greenwich%s\n", std::string(r.posto->nome).c_str(),
+                     std::string(r.posto->paese).c_str(), std::string(r.posto->fuso).c_str(),
+                     TestoNumero(dati.fuso.v - (dati.dst ? 1 : 0)).c_str(), dati.dst ? ", summer time" : "");
+    }
     Dizionario dizionario;
     dizionario.CaricaDizionario(app::LINGUA);
     const sun::EsitoDeclinazione e = sun::Declinazione(dati, dizionario);
@@ -100,9 +164,17 @@ int molte(const Richiesta &r) {
     std::string errore;
     auto contenuto = LeggiFile(r.letture, LETTURE_MASSIME, &errore);
     if (!contenuto) return rifiuta("--readings: " + errore);
-    const auto letture = sun::LeggiLetture(DaFile(std::move(*contenuto)), r.dati, errore);
+    auto letture = sun::LeggiLetture(DaFile(std::move(*contenuto)), r.dati, errore);
     if (!errore.empty()) return rifiuta(r.letture + ":" + errore);
-    if (letture.empty()) return rifiuta(r.letture + ": no reading; write lines of date, time and angle, as in 2026-06-21 9:40 -12.5");
+    if (letture.empty())
+        return rifiuta(r.letture + ": no reading; write lines of date, time and angle, as in 2026-06-21 9:40 -12.5");
+
+    if (r.data(OROLOGIO)) {
+        const luoghi::Fuso fuso = fusoDi(*r.posto);
+        for (sun::Lettura &l : letture)
+            if (const std::string e = alFuso(fuso, true, l.dati); !e.empty())
+                return rifiuta(r.letture + ":" + std::to_string(l.riga) + ": " + e);
+    }
 
     std::vector<sun::EsitoDeclinazione> esiti;
     std::vector<double> declinazioni;
@@ -128,8 +200,8 @@ int molte(const Richiesta &r) {
     if (letture.size() > 1) {
         t += "standard deviation  " + gradi(m.scarto) + ", of their mean " +
              Formato(m.scarto / std::sqrt(static_cast<double>(letture.size())), "0.000") + "\n";
-        t += "stands out          " + r.letture + ":" + std::to_string(letture[m.lontana].riga) + ": " + letture[m.lontana].testo + ", " +
-             Formato(m.distanze[m.lontana], "0.000") + " from the mean of the others: ";
+        t += "stands out          " + r.letture + ":" + std::to_string(letture[m.lontana].riga) + ": " +
+             letture[m.lontana].testo + ", " + Formato(m.distanze[m.lontana], "0.000") + " from the mean of the others: ";
         if (m.stona) t += "measure it again\n";
         else t += letture.size() < 3 ? "two readings can't tell which\n" : "no more than chance\n";
     }
@@ -142,7 +214,7 @@ int molte(const Richiesta &r) {
 int Sun(int argc, char **argv) {
     Richiesta r;
     if (const std::string e = leggi(argc, argv, r); !e.empty()) return rifiuta(e);
-    return r.data(LETTURE) ? molte(r) : singola(r.dati);
+    return r.data(LETTURE) ? molte(r) : singola(r);
 }
 
 }  // namespace ombrelia::cli

@@ -160,7 +160,8 @@ AngoloLetto LeggiAngolo(std::string_view testo, const CampoAngolo &campo) {
             continue;
         }
         const std::size_t a = i + cifre(std::string_view(t).substr(i));
-        if (a == i || quante == 3) return intoppo(Intoppo::NonSiLegge);
+        if (a == i || quante == 3 || (i > 0 && (t[i - 1] == '.' || cifre(t.substr(i - 1, 1)) > 0)))
+            return intoppo(Intoppo::NonSiLegge);
         if (decimali) return intoppo(Intoppo::Decimali);
         parti[quante] = Val(std::string_view(t).substr(i, a - i)).v;
         decimali = t.find('.', i) < a;

@@ -19,16 +19,20 @@ constexpr std::string_view LATINE_ESTESE =
     "iiiioooooooooooooooooooooooouuuuuuuuuuuuuuyyyyyyyy------";
 static_assert(LATINE.size() == 0x250 - 0xC0 && LATINE_ESTESE.size() == 0x100);
 
-// The next character of UTF-8; a byte that begins none stands for itself.
+// The next character of UTF-8; a byte that begins none is none.
 std::uint32_t prossimo(std::string_view t, std::size_t &i) {
     const auto b = [&](std::size_t k) { return i + k < t.size() ? static_cast<unsigned char>(t[i + k]) : 0U; };
     const std::uint32_t primo = b(0);
+    if (primo >= 0x80 && primo < 0xC0) {
+        ++i;
+        return 0xFFFD;
+    }
     const std::size_t n = primo >= 0xF0 ? 4 : primo >= 0xE0 ? 3 : primo >= 0xC0 ? 2 : 1;
     std::uint32_t c = n == 1 ? primo : primo & (0xFFU >> (n + 1));
     for (std::size_t k = 1; k < n; ++k) {
         if ((b(k) & 0xC0U) != 0x80U) {
             ++i;
-            return primo;
+            return 0xFFFD;
         }
         c = c << 6U | (b(k) & 0x3FU);
     }

@@ -40,15 +40,29 @@ const std::vector<SenCos> &GiornoDiOre::con(Valore scarto) {
     return ore_;
 }
 
+namespace {
+
+std::vector<Mezzodi> mezzodi(const Conteggio &gradi) {
+    std::vector<Mezzodi> a;
+    for (const double m : gradi) {
+        const SoleMedio sole = SoleAllaLongitudine(PI * m / 180);
+        a.push_back({m, std::tan(sole.D), std::sin(sole.D), std::cos(sole.D), sole.Et});
+    }
+    return a;
+}
+
+}  // namespace
+
 const std::vector<Mezzodi> &AnnoMedio() {
-    static const std::vector<Mezzodi> anno = [] {
-        std::vector<Mezzodi> a;
-        for (const double m : Conteggio(-80, 280, (360.0 / 365.2422) * 0.1)) {
-            const SoleMedio sole = SoleAllaLongitudine(PI * m / 180);
-            a.push_back({std::tan(sole.D), sole.Et});
-        }
-        return a;
-    }();
+    static const std::vector<Mezzodi> anno = mezzodi({-80, 280, (360.0 / 365.2422) * 0.1});
+    return anno;
+}
+const std::vector<Mezzodi> &AnnoMedioGiorni() {
+    static const std::vector<Mezzodi> anno = mezzodi({-80, 360, 360 / 365.2422});
+    return anno;
+}
+const std::vector<Mezzodi> &AnnoMedioGiorniAlterni() {
+    static const std::vector<Mezzodi> anno = mezzodi({-80, 360, 2 * (360 / 365.2422)});
     return anno;
 }
 

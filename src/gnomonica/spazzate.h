@@ -31,11 +31,15 @@ private:
     double scarto_ = 0;
 };
 
-// The Sun of the figure of mean noon: -80 to 280 degrees of mean longitude by a tenth of a day. tanD is the tangent of
-// its declination, Et the equation of time as hour angle, radians.
+// The Sun at a mean noon: its mean longitude from the spring equinox in degrees, functions of its declination, and the
+// equation of time as hour angle, radians.
 struct Mezzodi {
-    double tanD, Et;
+    double gradi, tanD, senD, cosD, Et;
 };
+// -80 to 280 degrees by a tenth of a day.
 [[nodiscard]] const std::vector<Mezzodi> &AnnoMedio();
+// -80 to 360 degrees by a day, and by two days.
+[[nodiscard]] const std::vector<Mezzodi> &AnnoMedioGiorni();
+[[nodiscard]] const std::vector<Mezzodi> &AnnoMedioGiorniAlterni();
 
 }  // namespace ombrelia

@@ -1,117 +1,111 @@
 // What a dial of the vertical engine carries beyond hours and days: substyle, horizon, azimuth lines, prayer curves.
-#include "core/conteggio.h"
-#include "gnomonica/catena.h"
 #include "gnomonica/spazzate.h"
-#include "vertical/piana.h"
-#include "vertical/sfera.h"
+#include "vertical/corsa.h"
 
 namespace ombrelia::vertical {
 
-namespace {
-
-// The plane as the azimuth and prayer lines read it: once more from the fields.
-void rileggiPiano(Sessione &s) {
-    Variabili &v = s.v;
-    v.lat = Val(s.in.txtLAT);
+void RileggiPiano(Corsa &c) {
+    Variabili &v = c.s.v;
+    v.lat = c.letto.lat;
     v.latR = PI * v.lat / 180;
-    v.decGradi = Val(s.in.txtDec);
+    v.decGradi = c.letto.dec;
     v.decR = PI * v.decGradi / 180;
-    v.inc = Val(s.in.txtInc);
+    v.inc = c.letto.inc;
     v.incR = PI * v.inc / 180;
-    v.gn = Val(s.in.TxtStilo);
+    v.gn = c.letto.gn;
     PiegaDeclinazione(v);
 }
 
-}  // namespace
-
-void TracciaSustilare(Sessione &s) {
-    Variabili &v = s.v;
-    const Cornice cornice = LeggiCornice(s);
-    const Reale ps = v.latR == 0 ? Valore(PI / 2) : Arco2(tan(v.decR), sin(v.latR));
+void TracciaSustilare(Corsa &c, const LineeAttese &linee) {
+    Variabili &v = c.s.v;
+    const Reale ps = OraSustilareMuro(v.latR, v.decR);
     const Orario ora(ps);
     Sfera sfera(v);
-    const Pretendi pretendi(s.tavolo, Specie::OraSustilare);
+    const Pretendi pretendi(c.s.tavolo, Specie::OraSustilare);
     Reale x, y;
-    for (const double d : Conteggio(-23.445, 23.445, 0.999 * v.passo)) {
+    for (const double d : Conteggio(-OBLIQUITA, OBLIQUITA, 0.999 * v.passo)) {
         v.deltaOpz = d;
         const Sfera::Giorno giorno = sfera.giorno(d);
         sfera.A = Arco2(ora.sen, sfera.denominatore(ora, giorno));
         sfera.altezza(ora, giorno);
         sfera.punto(x, y);
-        if (cornice.contiene(x, y)) s.tavolo.xPset(x, -y, QB(9));
+        if (c.cornice.contiene(x, y)) c.s.tavolo.xPset(x, -y, linee[0].colore);
     }
 }
 
-void TracciaOrizzonte(Sessione &s) {
-    Variabili &v = s.v;
-    (void)LeggiCornice(s);
+void PreparaOrizzonte(Corsa &c) {
+    Variabili &v = c.s.v;
     if (v.iz_o < PI / 2) v.yOriz = OrdinataOrizzonte(v, Sgn(v.latR));
-    s.Scrivi(&DialInputs::txtOriz, TestoNumero(v.yOriz.numero()));
-    const Pretendi pretendi(s.tavolo, Specie::Orizzonte);
-    const double l = s.tavolo.ShiftX();
-    s.tavolo.xLine(-l, -v.yOriz, l, -v.yOriz, QB(2));
+    c.s.Scrivi(&DialInputs::txtOriz, TestoNumero(v.yOriz.numero()));
+}
+void TracciaOrizzonte(Corsa &c, const LineeAttese &linee) {
+    const Valore y = c.s.v.yOriz;
+    const double l = c.s.tavolo.ShiftX();
+    const Pretendi pretendi(c.s.tavolo, Specie::Orizzonte);
+    c.s.tavolo.xLine(-l, -y, l, -y, linee[0].colore);
 }
 
-void TracciaAzimutali(Sessione &s) {
+void LineeAzimutali(const Corsa &c, LineeAttese &linee) {
+    const bool sud = c.s.v.latR < 0;  // whose swept half of the plane looks north
+    for (const double a : Conteggio(-90, 90, 15)) linee.push_back({a, !sud ? a : a < 0 ? a + 180 : a - 180, "", QB(6)});
+}
+void TracciaAzimutali(Corsa &c, const LineeAttese &linee) {
+    Sessione &s = c.s;
     Variabili &v = s.v;
-    const Cornice cornice = LeggiCornice(s);
-    rileggiPiano(s);
     if (v.latR == 0) return;
     const Reale limite = tan(v.incR) * v.gn;  // unscaled, as meant
     const Proiezione proietta(v);
     const Valore senLat = sin(v.latR), tanLat = tan(v.latR);
     Reale beta, ht, Hr, x, y;
-    for (const double a : Conteggio(-90, 90, 15)) {
-        beta = Atn(senLat * tan(PI * a / 180));
+    for (const LineaAttesa &l : linee) {
+        beta = Atn(senLat * tan(PI * l.parametro / 180));
         const Valore senBeta = sin(beta);
-        const Pretendi pretendi(s.tavolo, Specie::Azimut, v.latR < 0 ? a - (a < 0 ? -180 : 180) : a);
+        const Pretendi pretendi(s.tavolo, Specie::Azimut, l.valore);
         for (const Declinazione &d : Anno()) {
             ht = ArcSin(d.tanD * senBeta / tanLat);
             Hr = beta - ht;
             proietta.perParete(SenCos(Hr), d.tanD, x, y);
-            if (!(y > limite) && cornice.contiene(x, y)) s.tavolo.xPset(x, -y, QB(6));
+            if (!(y > limite) && c.cornice.contiene(x, y)) s.tavolo.xPset(x, -y, l.colore);
         }
     }
-    v.deltaOpz = Anno().back().d;
+    v.deltaOpz = Anno().back().d;  // left: the end of the sweep
 }
 
-void TracciaAsr(Sessione &s) {
+void TracciaAsr(Corsa &c, const LineeAttese &linee) {
+    Sessione &s = c.s;
     Variabili &v = s.v;
-    const Cornice cornice = LeggiCornice(s);
-    rileggiPiano(s);
     v.x0 = -v.gn * sin(v.decR) * cos(v.incR);
     v.y0 = -v.gn * cos(v.decR) * cos(v.incR);
     v.yOriz = v.gn * sin(v.incR) / cos(v.incR);  // unscaled, as meant
-    const Valore segno = v.latR == 0 ? Valore(1) : Sgn(v.latR);
+    const Valore segno = SegnoLatitudine(v.latR);
     const bool nord = v.latR >= 0, orientale = Abs(v.decGradi) == 90;
     const Proiezione proietta(v);
     const Valore senLat = sin(v.latR), cosLat = cos(v.latR);
-    const Pretendi pretendi(s.tavolo, Specie::Asr, 1);
-    constexpr Colore VERDE = Rgb(0, 193, 97);
+    const Colore colore = linee[0].colore;
+    const Pretendi pretendi(s.tavolo, Specie::Asr, linee[0].valore);
     Reale hA, Hr, x, y;
-    for (const double d : Conteggio(-23.45, 23.45, 0.05)) {
+    for (const double d : Conteggio(-OBLIQUITA_2345, OBLIQUITA_2345, 0.05)) {
         v.deltaOpz = d;
         const double dr = PI * d / 180;
         // Altitude at which a shadow is as long as its rod and the noon shadow together.
         hA = Atn(1 / (1 + tan(segno * (v.latR - dr))));
         Hr = segno * ArcCos((sin(hA) - senLat * std::sin(dr)) / (cosLat * std::cos(dr)));
         proietta.perParete(SenCos(Hr), std::tan(dr), x, y);
-        const bool dentro = cornice.contiene(x, y);
-        if (nord && y <= v.yOriz && dentro) s.tavolo.xPset(x, -y, VERDE);
-        if (!nord && y >= v.yOriz && dentro) s.tavolo.xPset(-x, y, VERDE);
+        const bool dentro = c.cornice.contiene(x, y);
+        if (nord && y <= v.yOriz && dentro) s.tavolo.xPset(x, -y, colore);
+        if (!nord && y >= v.yOriz && dentro) s.tavolo.xPset(-x, y, colore);
         // On a plane that faces East or West every point comes once more, whatever the frame.
-        if (orientale) s.tavolo.xPset(x * segno, -y * segno, VERDE);
+        if (orientale) s.tavolo.xPset(x * segno, -y * segno, colore);
     }
 }
 
 // The curve was once plotted in a second pass of another colour, of which nothing was to be seen; there is one pass.
-void TracciaQibla(Sessione &s) {
+void TracciaQibla(Corsa &c, const LineeAttese &) {
+    Sessione &s = c.s;
     Variabili &v = s.v;
-    const Cornice cornice = LeggiCornice(s);
-    rileggiPiano(s);
-    v.lonCopia = Val(s.in.txtLonG);
-    const Valore qLat = PI * Val(s.in.txtQlat) / 180;
-    const Valore qd = PI * (Val(s.in.txtQlon) - v.lonCopia) / 180;
+    v.lonCopia = c.letto.lon;
+    const Valore qLat = PI * c.letto.qLat / 180;
+    const Valore qd = PI * (c.letto.qLon - v.lonCopia) / 180;
     const Reale tq = sin(qd) / (sin(v.latR) * cos(qd) - cos(v.latR) * tan(qLat));
     const Reale beta = Atn(sin(v.latR) * tq);
     const Reale limite = tan(v.incR) * v.gn;  // unscaled, as meant
@@ -120,7 +114,7 @@ void TracciaQibla(Sessione &s) {
     const Valore senBeta = sin(beta), tanLat = tan(v.latR);
     const Pretendi pretendi(s.tavolo, Specie::Qibla);
     Reale seno, ht, Hr, x, y;
-    for (const double d : Conteggio(-23.445, 23.445, 0.005)) {
+    for (const double d : Conteggio(-OBLIQUITA, OBLIQUITA, 0.005)) {
         v.deltaOpz = d;
         const double tanD = std::tan(PI * d / 180);
         seno = equatore ? Valore(tanD) : tanD * senBeta / tanLat;
@@ -130,7 +124,7 @@ void TracciaQibla(Sessione &s) {
             Hr = (beta - ht) * v.segnoLatPiana;
         }
         proietta.perParete(SenCos(Hr), tanD, x, y);
-        if (!cornice.contiene(x, y)) continue;
+        if (!c.cornice.contiene(x, y)) continue;
         if (orientale) s.tavolo.xPset(x, -y, QB(10));
         if (nord && y <= limite) s.tavolo.xPset(x, -y, QB(12));
         if (!nord && y >= limite) s.tavolo.xPset(-x, y, QB(13));

@@ -2,9 +2,7 @@
 #include <span>
 
 #include "gnomonica/catena.h"
-#include "gnomonica/spazzate.h"
-#include "vertical/piana.h"
-#include "vertical/sfera.h"
+#include "vertical/corsa.h"
 
 namespace ombrelia::vertical {
 
@@ -30,12 +28,15 @@ struct Diurna {
     std::size_t mezzo;  // hour angles from -mezzo to mezzo, degrees
 };
 // The declinations are not symmetrical, the horizon's sign and the sweeps are not alike: meant.
-constexpr Diurna DICEMBRE{-23.445, -23.445, QB(12), "Solstizio dicembre", false, true, 360};
-constexpr Diurna D_20XI{-20.005, -20, QB(13), "20 XI or 20 I", true, false, 360};
-constexpr Diurna D_20II{-11.5, -11.5, QB(11), "20 II or 20 X", true, true, 180};
-constexpr Diurna D_20IV{11.5, 11.5, QB(11), "20 IV or 20 VIII", true, true, 180};
-constexpr Diurna D_20V{20, 20, QB(13), "20 V or 20 VII", true, true, 360};
-constexpr Diurna GIUGNO{23.45, 23.445, QB(12), "Solstizio giugno", false, false, 360};
+// In the order of drawing.
+constexpr Diurna DIURNE[] = {
+    {-23.445, -23.445, QB(12), "Solstizio dicembre", false, true, 360},
+    {-20.005, -20, QB(13), "20 XI or 20 I", true, false, 360},
+    {-11.5, -11.5, QB(11), "20 II or 20 X", true, true, 180},
+    {11.5, 11.5, QB(11), "20 IV or 20 VIII", true, true, 180},
+    {20, 20, QB(13), "20 V or 20 VII", true, true, 360},
+    {23.45, 23.445, QB(12), "Solstizio giugno", false, false, 360},
+};
 constexpr Diurna OPZIONALE{0, 0, QB(14), "Diurna opzionale", false, true, 360};
 
 // The two hour angles, degrees, between which the Sun stands before the plane on the day of declination dr (radians),
@@ -44,8 +45,8 @@ struct Limiti {
     Reale primo, secondo;
 };
 Limiti limitiDelGiorno(Variabili &v, Valore dr) {
-    const Reale sustilare = Sustilare(v);
-    v.altStilo = ArcSin(cos(v.decR) * cos(v.latR));
+    const Reale sustilare = SustilareMuroIntera(v.latR, v.decR);
+    v.altStilo = StiloMuro(v.latR, v.decR);
     Reale pPiede, semiArco;
     pPiede = Atn(tan(sustilare) / sin(v.altStilo));
     if (Sgn(sin(sustilare)) != Sgn(sin(pPiede))) pPiede = pPiede > 0 ? pPiede - PI : pPiede + PI;
@@ -76,72 +77,57 @@ Limiti limitiDelGiorno(Variabili &v, Valore dr) {
 // Chords only between points of one side of the plumb line through the foot.
 bool stessoLato(Reale x, Reale xPrima) { return Sgn(x) == Sgn(xPrima); }
 
-void traccia(Sessione &s, const Diurna &d, Valore delta, Valore dichiarata) {
+void traccia(Corsa &c, const Diurna &d, const LineaAttesa &l) {
+    Sessione &s = c.s;
     Variabili &v = s.v;
-    const Cornice cornice = LeggiCornice(s);
     v.yOriz = OrdinataOrizzonte(v, d.conSegno ? Sgn(v.latR) : 1);
-    v.deltaOpz = delta;
+    v.deltaOpz = l.parametro;
     const Limiti limiti = limitiDelGiorno(v, PI * v.deltaOpz / 180);
     const double da = Int(limiti.primo).v, a = Int(limiti.secondo).v;
 
     Sfera sfera(v);
     const Sfera::Giorno giorno = sfera.giorno(v.deltaOpz.numero());
     const Orizzonte orizzonte(v);
-    const Pretendi pretendi(s.tavolo, Specie::Diurna, dichiarata.v);
-    Catena catena(s.tavolo, d.strato);
+    const Pretendi pretendi(s.tavolo, Specie::Diurna, l.valore);
+    Catena catena(s.tavolo, l.strato);
     Reale x, y;
     double H = -static_cast<double>(d.mezzo);
     for (const Orario &ora : giri().subspan(360 - d.mezzo, 2 * d.mezzo + 1)) {
         sfera.puntoOra(ora, giorno, x, y);
         const bool passa = orizzonte.passa(y, catena.yPrima()) && da < H && H < a && stessoLato(x, catena.xPrima());
-        catena.punto(x, y, passa && cornice.contiene(x, y), d.colore);
+        catena.punto(x, y, passa && c.cornice.contiene(x, y), l.colore);
         H += 1;
     }
 }
 
-void traccia(Sessione &s, const Diurna &d) {
-    if (!d.intermedia || s.in.ckFunzione != 1) traccia(s, d, d.delta, d.dichiarata);
-}
-
 }  // namespace
 
-void TracciaDiurnaSolstizioDicembre(Sessione &s) {
-    traccia(s, DICEMBRE);
-    TracciaDiurna20XI(s);
+void LineeDiurne(const Corsa &c, LineeAttese &linee) {
+    for (const Diurna &d : DIURNE)
+        if (!d.intermedia || c.s.in.ckFunzione != 1) linee.push_back({d.delta, d.dichiarata, d.strato, d.colore});
 }
-void TracciaDiurna20XI(Sessione &s) {
-    traccia(s, D_20XI);
-    TracciaDiurna20II(s);
+void LineaOpzionale(const Corsa &c, LineeAttese &linee) {
+    linee.push_back({c.letto.delta.v, c.letto.delta.v, OPZIONALE.strato, OPZIONALE.colore});
 }
-void TracciaDiurna20II(Sessione &s) {
-    traccia(s, D_20II);
-    TracciaDiurna20IV(s);
-}
-void TracciaDiurna20IV(Sessione &s) {
-    traccia(s, D_20IV);
-    TracciaDiurna20V(s);
-}
-void TracciaDiurna20V(Sessione &s) {
-    traccia(s, D_20V);
-    TracciaDiurnaSolstizioGiugno(s);
-}
-void TracciaDiurnaSolstizioGiugno(Sessione &s) { traccia(s, GIUGNO); }
-
-void TracciaDiurnaOpzionale(Sessione &s) {
-    const Valore richiesta = Val(s.in.txtDelta);
-    if (s.in.ckRomani != 1 && s.in.ckArabi != 1) traccia(s, OPZIONALE, richiesta, richiesta);
+void TracciaDiurne(Corsa &c, const LineeAttese &linee) {
+    for (const LineaAttesa &l : linee) {
+        const Diurna *d = &OPZIONALE;
+        for (const Diurna &fissa : DIURNE)
+            if (fissa.strato == l.strato) d = &fissa;
+        traccia(c, *d, l);
+    }
 }
 
-void TracciaEquinoziale(Sessione &s) {
-    Variabili &v = s.v;
-    const Cornice cornice = LeggiCornice(s);
-    v.yOriz = OrdinataOrizzonte(v, Sgn(v.latR));
+void PreparaEquinoziale(Corsa &c) { c.s.v.yOriz = OrdinataOrizzonte(c.s.v, Sgn(c.s.v.latR)); }
+
+void TracciaEquinoziale(Corsa &c, const LineeAttese &linee) {
+    Variabili &v = c.s.v;
     v.deltaOpz = 0;
     Sfera sfera(v);
     const Sfera::Giorno giorno = sfera.giorno(0);
     const Orizzonte orizzonte(v);
-    const Pretendi pretendi(s.tavolo, Specie::Equinoziale);
-    Catena catena(s.tavolo, "21 III or 23 IX Eq");
+    const Pretendi pretendi(c.s.tavolo, Specie::Equinoziale);
+    Catena catena(c.s.tavolo, linee[0].strato);
     Reale x, y;
     for (const Orario &ora : giri()) {
         if (sfera.denominatore(ora, giorno) == 0) sfera.A = Sfera::segno(ora.Hr) * PI / 2;
@@ -153,19 +139,17 @@ void TracciaEquinoziale(Sessione &s) {
         else sfera.altezza(ora, giorno);
         sfera.punto(x, y);
         const bool passa = orizzonte.passa(y, catena.yPrima()) && stessoLato(x, catena.xPrima());
-        catena.punto(x, y, passa && cornice.contiene(x, y), QB(9));
+        catena.punto(x, y, passa && c.cornice.contiene(x, y), linee[0].colore);
     }
 }
 
-void PuntiEquinozialeDecZero(Sessione &s) {
-    Variabili &v = s.v;
-    const Cornice cornice = LeggiCornice(s);
-    v.yOriz = OrdinataOrizzonte(v, Sgn(v.latR));
+void PuntiEquinozialeDecZero(Corsa &c, const LineeAttese &linee) {
+    const Variabili &v = c.s.v;
     Sfera sfera(v);
     const Sfera::Giorno giorno = sfera.giorno(0);
     const Valore cosLat = cos(v.latR);
     const bool equatore = v.latR == 0;
-    const Pretendi pretendi(s.tavolo, Specie::Equinoziale);
+    const Pretendi pretendi(c.s.tavolo, Specie::Equinoziale);
     Reale x, y;
     for (const double a : Conteggio(-90, 90, 10 * v.passo)) {
         const Orario ora(PI * a / 180);
@@ -180,7 +164,7 @@ void PuntiEquinozialeDecZero(Sessione &s) {
         const Valore A = sfera.A - v.decR;
         x = v.unita * tan(A) * v.gn;
         y = v.unita * tan(sfera.h) * v.gn / cos(A);
-        if (y < v.yOriz && cornice.contiene(x, y)) s.tavolo.xPset(x, -y, QB(9));
+        if (y < v.yOriz && c.cornice.contiene(x, y)) c.s.tavolo.xPset(x, -y, linee[0].colore);
     }
 }
 

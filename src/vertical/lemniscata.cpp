@@ -1,12 +1,9 @@
 // The lemniscate of the vertical engine, a mean noon of the zone meridian through a year of days, and what ckFunzione
-// adds to it: the day marks, the zodiac and the straight noon line.
+// adds to it: the day marks and the straight noon line.
 #include <array>
-#include <optional>
 
-#include "core/conteggio.h"
-#include "glyphs/zodiaco.h"
-#include "vertical/piana.h"
-#include "vertical/sfera.h"
+#include "gnomonica/longitudine.h"
+#include "vertical/corsa.h"
 
 namespace ombrelia::vertical {
 
@@ -19,97 +16,85 @@ double segnoPiano(const Variabili &v) { return v.incR2 == PI / 2 ? -1 : 1; }
 struct Tacche {
     double delta, Emax, Emin;
 };
-
-void traccia(Sessione &s, const Tacche &t) {
-    Variabili &v = s.v;
-    const Cornice cornice = LeggiCornice(s);
-    v.deltaOpz = t.delta;
-    const Valore HrMax = t.Emax * 15 * PI / (60.0 * 180) - v.corrLong;
-    const Valore HrMin = t.Emin * 15 * PI / (60.0 * 180) - v.corrLong;
-    constexpr int PARTI = 4;
-    const Valore parte = (HrMax - HrMin) / PARTI;
-    const Pretendi pretendi(s.tavolo, Specie::Diurna, t.delta);
-
-    Sfera sfera(v);
-    const Sfera::Giorno giorno = sfera.giorno(t.delta);
-    Reale Hr = HrMin, x, y, xPrima, yPrima;
-    bool dentroPrima = false;
-    for (int i = 0; i <= PARTI; ++i) {
-        sfera.puntoOra(Orario(Hr), giorno, x, y);
-        // The horizon is the one that the lemniscate left.
-        const bool dentro = y < v.yOriz && cornice.contiene(x, y);
-        if (dentro && dentroPrima) s.tavolo.xLine(xPrima, -yPrima, x, -y, QB(14));
-        xPrima = x;
-        yPrima = y;
-        dentroPrima = dentro;
-        Hr = Hr + parte;
-    }
-}
+constexpr Tacche TACCHE[] = {
+    {-DELTA_SEGNI, 14, -10.98},      {-DELTA_SEGNI_VICINI, 15.65, -13.85}, {0, 7.3666, -7.28},
+    {DELTA_SEGNI_VICINI, 1.0666, -2.466}, {DELTA_SEGNI, 3.58, -6.25},
+};
 
 }  // namespace
 
-void TracciaLemniscata(Sessione &s) {
-    Variabili &v = s.v;
-    const Cornice cornice = LeggiCornice(s);
-    const double segno = segnoPiano(v);
-    v.yOriz = OrdinataOrizzonte(v, segno);
+void PreparaLemniscata(Corsa &c) {
+    Variabili &v = c.s.v;
+    v.yOriz = OrdinataOrizzonte(v, segnoPiano(v));
     if (v.flagTrasformato != 1 && v.flagVerticale == 1) v.lon = v.lonEq;
-    v.lonPiu15 = v.lon + 15;
-    v.corrLong = PI * v.lonPiu15 / 180;  // whatever oraFuso says
-    v.y0 = tan(v.altStilo) * v.gn;
+    LasciaDalMeridiano(v);
+    v.corrLong = CorrezioneLongitudine(v);  // whatever oraFuso says
+    v.y0 = DistanzaEquinoziale(v.gn, v.altStilo);
+}
 
+void TracciaLemniscata(Corsa &c, const LineeAttese &linee) {
+    const Variabili &v = c.s.v;
+    const double segno = segnoPiano(v);
     constexpr int GIORNI = 440;
     std::array<Reale, GIORNI + 1> x, y;
-    const IdNome strato = s.tavolo.nome("Lemniscata");
+    const IdNome strato = c.s.tavolo.nome(linee[0].strato);
     const Valore cosLat = cos(v.latR), senLatA = sin(v.latR * segno), senLat = segno * sin(v.latR);
     Sfera sfera(v);
-    std::optional<Pretendi> pretendi(std::in_place, s.tavolo, Specie::Analemma, 12);
-    for (const double d : Conteggio(-80, 360, 360 / 365.2422)) {
-        const SoleMedio sole = SoleAllaLongitudine(PI * d / 180);
-        const Orario ora(sole.Et - v.corrLong);
-        const double cosD = std::cos(sole.D);
-        sfera.A = Atn(Valore(segno * ora.sen) / (senLatA * ora.cos - cosLat * std::tan(sole.D)));
+    const Pretendi pretendi(c.s.tavolo, Specie::Analemma, linee[0].valore);
+    for (const Mezzodi &m : AnnoMedioGiorni()) {
+        const Orario ora(m.Et - v.corrLong);
+        sfera.A = Atn(Valore(segno * ora.sen) / (senLatA * ora.cos - cosLat * m.tanD));
         if (sfera.quadranteErrato(ora)) sfera.mendaMuro();
-        sfera.h = ArcSin(cosLat * cosD * ora.cos + senLat * std::sin(sole.D));
+        sfera.h = ArcSin(cosLat * m.cosD * ora.cos + senLat * m.senD);
         // The day, a half to the even one: where two samples share it the later stands.
-        const auto k = static_cast<std::size_t>(std::nearbyint(d + 80));
+        const auto k = static_cast<std::size_t>(std::nearbyint(m.gradi + 80));
         sfera.punto(x[k], y[k]);
-        if (k == 0 || !(y[k] < v.yOriz) || Sgn(x[k]) != Sgn(x[k - 1]) || !cornice.contiene(x[k], y[k])) continue;
-        s.tavolo.xLine(x[k], -y[k], x[k - 1], -y[k - 1], QB(13), strato);
+        if (k == 0 || !(y[k] < v.yOriz) || Sgn(x[k]) != Sgn(x[k - 1]) || !c.cornice.contiene(x[k], y[k])) continue;
+        c.s.tavolo.xLine(x[k], -y[k], x[k - 1], -y[k - 1], linee[0].colore, strato);
     }
-    pretendi.reset();  // the marks claim for themselves
-    if (s.in.ckFunzione == 1) TaccheMeno20(s);
 }
 
-void TaccheMeno20(Sessione &s) {
-    traccia(s, {-20, 14, -10.98});
-    TaccheMeno115(s);
+void LineeTacche(const Corsa &, LineeAttese &linee) {
+    for (const Tacche &t : TACCHE) linee.push_back({t.delta, t.delta, "", QB(14)});
 }
-void TaccheMeno115(Sessione &s) {
-    traccia(s, {-11.5, 15.65, -13.85});
-    TaccheEquinozio(s);
-}
-void TaccheEquinozio(Sessione &s) {
-    traccia(s, {0, 7.3666, -7.28});
-    TacchePiu115(s);
-}
-void TacchePiu115(Sessione &s) {
-    traccia(s, {11.5, 1.0666, -2.466});
-    TacchePiu20(s);
-}
-void TacchePiu20(Sessione &s) {
-    traccia(s, {20, 3.58, -6.25});
-    if (s.in.ckZodiac == 1) DisegnaZodiaco(s);
-    RettaMezzogiorno(s);
+void TracciaTacche(Corsa &c, const LineeAttese &linee) {
+    Variabili &v = c.s.v;
+    for (std::size_t n = 0; n < linee.size(); ++n) {
+        const Tacche &t = TACCHE[n];
+        v.deltaOpz = t.delta;
+        const Valore HrMax = t.Emax * 15 * PI / (60.0 * 180) - v.corrLong;
+        const Valore HrMin = t.Emin * 15 * PI / (60.0 * 180) - v.corrLong;
+        constexpr int PARTI = 4;
+        const Valore parte = (HrMax - HrMin) / PARTI;
+        const Pretendi pretendi(c.s.tavolo, Specie::Diurna, linee[n].valore);
+
+        Sfera sfera(v);
+        const Sfera::Giorno giorno = sfera.giorno(t.delta);
+        Reale Hr = HrMin, x, y, xPrima, yPrima;
+        bool dentroPrima = false;
+        for (int i = 0; i <= PARTI; ++i) {
+            sfera.puntoOra(Orario(Hr), giorno, x, y);
+            // The horizon is the one that the lemniscate left.
+            const bool dentro = y < v.yOriz && c.cornice.contiene(x, y);
+            if (dentro && dentroPrima) c.s.tavolo.xLine(xPrima, -yPrima, x, -y, linee[n].colore);
+            xPrima = x;
+            yPrima = y;
+            dentroPrima = dentro;
+            Hr = Hr + parte;
+        }
+    }
 }
 
-void RettaMezzogiorno(Sessione &s) {
-    Variabili &v = s.v;
-    (void)LeggiCornice(s);
-    const Reale L0 = v.unita * Val(s.in.TxtStilo);
-    v.oraFuso = s.in.ck_Etna == 1 ? 1 : 0;
+// Fields once more: the zodiac before it may have read them its own way.
+void PreparaMezzogiorno(Corsa &c) {
+    Variabili &v = c.s.v;
+    const Reale L0 = v.unita * c.letto.gn;
+    v.oraFuso = c.letto.fuso ? 1 : 0;
     v.yOriz = segnoPiano(v) * v.unita * tan(v.iz_o) * L0;  // unita twice: meant
-    v.lon = Val(s.in.txtLonG);
+    v.lon = c.letto.lon;
+}
+void RettaMezzogiorno(Corsa &c, const LineeAttese &linee) {
+    Variabili &v = c.s.v;
     const Orario ora(PI * (v.oraFuso * 180 * v.angOraLong / PI) / 180);
     Sfera sfera(v);
     const auto punto = [&](double delta, Reale &x, Reale &y) {
@@ -117,11 +102,11 @@ void RettaMezzogiorno(Sessione &s) {
         sfera.puntoMuro(ora, sfera.giorno(delta), x, y);
     };
     Reale x2, y2;
-    punto(23.445, v.x1, v.y1);
-    punto(-23.445, x2, y2);
-    const Pretendi pretendi(s.tavolo, Specie::Mezzogiorno);
+    punto(OBLIQUITA, v.x1, v.y1);
+    punto(-OBLIQUITA, x2, y2);
+    const Pretendi pretendi(c.s.tavolo, Specie::Mezzogiorno);
     // A wall's points lie below its horizon, so this seldom passes: meant.
-    if (v.yOriz <= y2) s.tavolo.xLine(v.x1, -v.y1, x2, -y2, QB(12));
+    if (v.yOriz <= y2) c.s.tavolo.xLine(v.x1, -v.y1, x2, -y2, linee[0].colore);
 }
 
 }  // namespace ombrelia::vertical

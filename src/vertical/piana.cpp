@@ -1,41 +1,24 @@
 // A run of the vertical engine from its fields to the caption.
 #include "vertical/piana.h"
 
+#include "glyphs/zodiaco.h"
 #include "gnomonica/almucantarat.h"
+#include "gnomonica/originale.h"
 #include "sessione/limiti.h"
-#include "vertical/sfera.h"
+#include "vertical/corsa.h"
 
 namespace ombrelia::vertical {
 
 namespace {
-
-bool troppoFitto(Sessione &s) {
-    const DialInputs &in = s.in;
-    Reale passo = s.v.passo, fraz = s.v.fraz;
-    passo = Val(in.txtDensity);
-    fraz = Val(in.TxtFraz);
-    if (fraz == 0) fraz = 1;
-    const auto denso = [&](const Conteggio &giro, double volte = 1) {
-        return TroppoFitto(s, {{"txtDensity", in.txtDensity, giro, volte}});
-    };
-    const Conteggio anno(-23.44, 23.44, 10 * passo);
-    const double punti = std::min(anno.passi(), static_cast<double>(PUNTI_LINEA));
-    const auto ore = [&](int casella, int quante) {
-        return casella == 1 && (denso(anno) || TroppoFitto(s, {{"TxtFraz", in.TxtFraz, Conteggio(0, quante, 1 / fraz), punti}}));
-    };
-    return (s.v.inc_o != 90 && (ore(in.ck_Italiche, 18) || ore(in.ck_babiloniche, 18))) || ore(in.ckTemp, 12) ||
-           (in.ck_Equinoziale == 1 && Val(in.txtDec) == 0 && denso({-90, 90, 10 * passo})) ||
-           (in.ck_Sustilare == 1 && denso({-23.445, 23.445, 0.999 * passo})) ||
-           // At most eleven altitudes, morning and afternoon.
-           (in.ckAlt == 1 && denso({-23.45, 23.45, Val(in.txtDensity) * 10}, 22));
-}
 
 // Noon altitude at a solstice, degrees. The two near-equal declinations in one formula are meant.
 Valore altezzaMezzogiorno(Valore latR, double primo, double secondo) {
     return 180 * ArcSin(sin(latR) * sin(PI * primo / 180) + cos(latR) * cos(PI * secondo / 180)) / PI;
 }
 
-void lineeLimite(Sessione &s, const Cornice &c) {
+void lineeLimite(Corsa &corsa) {
+    Sessione &s = corsa.s;
+    const Cornice &c = corsa.cornice;
     Tavolo &t = s.tavolo;
     const Variabili &v = s.v;
     const Valore l = v.semiL, h = v.semiH;
@@ -44,7 +27,7 @@ void lineeLimite(Sessione &s, const Cornice &c) {
     // Upward half as far as downward, unlike the axes: meant.
     t.xLine(c.xMin, -h, c.xMin, 2 * h, QB(12));
     t.xLine(c.xMax, -h, c.xMax, 2 * h, QB(4));
-    TracciaCornice(s);
+    TracciaCornice(s, corsa.letto);
     s.Dati(Frase() << c.xMin / v.unita, c.xMin, 0);
     s.Dati(Frase() << c.xMax / v.unita, c.xMax, 0);
     s.Dati(Frase() << c.yMax / v.unita, 0, -c.yMax);
@@ -80,122 +63,177 @@ void didascalia(Sessione &s, Valore c2) {
     for (const auto &riga : righe) s.Dati(Frase(s.Traduci(riga.etichetta)) << riga.valore << riga.coda);
 }
 
-}  // namespace
-
-void LeggiParametriPiana(Sessione &s) {
-    Variabili &v = s.v;
-    const DialInputs &in = s.in;
-    v.lat = Val(in.txtLAT);
+// The engine's own reading of the fields. letture is not raised: the original dial stays open until a common reading.
+void leggiParametriPiana(Corsa &c) {
+    Variabili &v = c.s.v;
+    const Lettura &letto = c.letto;
+    v.lat = letto.lat;
     v.latR = PI * v.lat / 180;
-    v.dec = Val(in.txtDec);
+    v.dec = letto.dec;
     v.decR = PI * v.dec / 180;
-    v.inc = Val(in.txtInc);
+    v.inc = letto.inc;
     v.incR = PI * v.inc / 180;
-    v.segnoLatPiana = v.latR == 0 ? Valore(1) : Sgn(v.latR);
+    v.segnoLatPiana = SegnoLatitudine(v.latR);
     if (v.letture == 0) {
         v.lat_o = v.latR;
         v.dec_o = v.decR;
         v.iz_o = v.incR;
     }
     // The lemniscate follows the site from the first press on.
-    v.lon = Val(in.txtLonG);
-    v.lonCopia = Val(in.txtLonG);
-    v.segnoLon = Val(in.txtLonG) < 0 ? 1 : -1;
-    v.lonAssoluta = Abs(Val(in.txtLonG));
-    v.angOraLong = PI * (15 - v.segnoLatPiana * v.segnoLon * v.lonAssoluta) / 180;
-    v.decGradi = Val(in.txtDec);
+    v.lon = letto.lon;
+    v.lonCopia = letto.lon;
+    v.meridiano = letto.meridiano;
+    v.segnoLon = letto.lon < 0 ? 1 : -1;
+    v.lonAssoluta = Abs(letto.lon);
+    v.angOraLong = PI * (-v.meridiano - v.segnoLatPiana * v.segnoLon * v.lonAssoluta) / 180;
+    v.decGradi = letto.dec;
     v.declinSessag = v.decGradi;
     v.decR = PI * v.declinSessag / 180;
-    v.gradiPasso = 15 / Val(in.TxtFraz);
-    v.passo = Val(in.txtDensity);
-    v.gn = Val(in.TxtStilo);
+    v.gradiPasso = 15 / letto.fraz;
+    v.passo = letto.passo;
+    v.gn = letto.gn;
 }
 
-void CalcolaCentroPiana(Sessione &s) {
-    Variabili &v = s.v;
+// Leaves xCentro, yCentro: metres, y upward; untouched where the plane has no centre.
+void calcolaCentroPiana(Variabili &v) {
     const Valore c = -cos(v.latR) * cos(v.decR);
     if (c == 0) return;
     v.xCentro = v.unita * sin(v.decR) * cos(v.latR) * v.gn / c;
     v.yCentro = v.unita * sin(v.latR) * -v.gn / c;
 }
 
-void Piana_Esegui(Sessione &s) {
-    if (troppoFitto(s)) return;
-    Variabili &v = s.v;
+// --- the table of features ------------------------------------------------------------------------------------------
+
+using In = DialInputs;
+using Riga = Caratteristica<Corsa>;
+
+template <int colore>
+void unaLinea(const Corsa &, LineeAttese &linee) {
+    linee.push_back({0, 0, "", QB(colore)});
+}
+bool conRomani(const Corsa &c) { return c.s.in.ckRomani == 1; }
+bool conArabi(const Corsa &c) { return c.s.in.ckArabi == 1; }
+bool senzaCifre(const Corsa &c) { return !conRomani(c) && !conArabi(c); }
+bool nonOrizzontale(const Corsa &c) { return !(c.s.v.inc_o == 90); }
+bool conEtichette(const Corsa &c) { return nonOrizzontale(c) && !conRomani(c); }
+bool piena(const Corsa &c) { return c.s.in.ckFunzione == 1; }
+
+constexpr Riga CARATTERISTICHE[] = {
+    {&In::chkOreAstronomiche, Specie::Ora, "true hours, halves and quarters", LineeOre, TracciaOreAstro, nullptr, PreparaOre},
+    // The routine looks at ckRomani alone: with both boxes set the Roman numerals come twice.
+    {&In::chkOreAstronomiche, Specie::Etichetta, "Roman numerals", LineeNumeri, PosizionaNumeriOrari, conRomani, PreparaNumeri,
+     Specie::Ora},
+    {&In::chkOreAstronomiche, Specie::Etichetta, "Arabic numerals", LineeNumeri, PosizionaNumeriOrari, conArabi, PreparaNumeri,
+     Specie::Ora},
+    {&In::Ck_DayLightCurves, Specie::Diurna, "days of solstice and signs", LineeDiurne, TracciaDiurne},
+    {&In::Ck_DayLightCurves, Specie::Diurna, "the day of choice", LineaOpzionale, TracciaDiurne, senzaCifre},
+    {&In::ck_Italiche, Specie::Italica, "hours from sunset", LineeItaliche, TracciaItaliche, nonOrizzontale, PreparaItaliche},
+    {&In::ck_Italiche, Specie::Etichetta, "their numbers", NumeriItaliche, EtichetteItaliche, conEtichette, PreparaEtichette,
+     Specie::Italica},
+    {&In::ck_babiloniche, Specie::Babilonica, "hours from sunrise", LineeBabiloniche, TracciaBabiloniche, nonOrizzontale,
+     PreparaStagionali},
+    {&In::ck_babiloniche, Specie::Etichetta, "their numbers", NumeriBabiloniche, EtichetteBabiloniche, conEtichette,
+     PreparaEtichette, Specie::Babilonica},
+    {&In::ckTemp, Specie::Temporaria, "twelfths of the day", LineeTemporarie, TracciaTemporarie, nullptr, PreparaStagionali},
+    {&In::ckTemp, Specie::Etichetta, "their numbers", NumeriTemporarie, EtichetteTemporarie,
+     [](const Corsa &c) { return c.s.in.ck_Italiche != 1 && c.s.in.ck_babiloniche != 1 && !conRomani(c); }, nullptr,
+     Specie::Temporaria},
+    {&In::ck_Equinoziale, Specie::Equinoziale, "the equinoctial of a wall that declines",
+     [](const Corsa &, LineeAttese &l) { l.push_back({0, 0, "21 III or 23 IX Eq", QB(9)}); }, TracciaEquinoziale,
+     [](const Corsa &c) { return !(c.s.v.declinSessag == 0); }, PreparaEquinoziale},
+    {&In::ck_Equinoziale, Specie::Equinoziale, "the equinoctial of one that does not", unaLinea<9>, PuntiEquinozialeDecZero,
+     [](const Corsa &c) { return c.s.v.declinSessag == 0; }, PreparaEquinoziale},
+    {&In::ck_Orizzonte, Specie::Orizzonte, "the horizon", unaLinea<2>, TracciaOrizzonte, nullptr, PreparaOrizzonte},
+    {&In::ck_Lemniscate, Specie::Analemma, "mean noon of the zone",
+     [](const Corsa &, LineeAttese &l) { l.push_back({0, 12, "Lemniscata", QB(13)}); }, TracciaLemniscata, nullptr,
+     PreparaLemniscata},
+    {&In::ck_Lemniscate, Specie::Diurna, "day marks across it", LineeTacche, TracciaTacche, piena},
+    // ckZodiac has no step of its own: the signs come with the lemniscate.
+    {&In::ck_Lemniscate, Specie::Nessuna, "signs of the zodiac", nullptr, [](Corsa &c, const LineeAttese &) { DisegnaZodiaco(c.s); },
+     [](const Corsa &c) { return piena(c) && c.s.in.ckZodiac == 1; }},
+    {&In::ck_Lemniscate, Specie::Mezzogiorno, "the noon line", unaLinea<12>, RettaMezzogiorno, piena, PreparaMezzogiorno},
+    {&In::ck_Sustilare, Specie::OraSustilare, "hour line of the substyle", unaLinea<9>, TracciaSustilare},
+    {&In::ck_Triangolo, Specie::Stilo, "triangle of the polar style", LineeTriangolo, TracciaTriangoloStilo},
+    {&In::ck_Triangolo, Specie::Nessuna, "its measures", nullptr, TestiTriangolo},
+    {&In::CkQibla, Specie::Qibla, "bearing of the Qibla", unaLinea<12>, TracciaQibla, nullptr, RileggiPiano},
+    {&In::ckAlt, Specie::Almucantarat, "equal altitudes", [](const Corsa &c, LineeAttese &l) { LineeAlmucantarat(c.letto, l); },
+     [](Corsa &c, const LineeAttese &l) { TracciaAlmucantarat(c.s, c.letto, c.cornice, l); }},
+    {&In::ckAz, Specie::Azimut, "equal azimuths", LineeAzimutali, TracciaAzimutali, nullptr, RileggiPiano},
+};
+
+constexpr Riga ORIZZONTE_DI_NUOVO[] = {
+    {&In::ck_Orizzonte, Specie::Orizzonte, "the horizon again", unaLinea<14>,
+     [](Corsa &c, const LineeAttese &linee) {
+         const Variabili &v = c.s.v;
+         const Pretendi pretendi(c.s.tavolo, Specie::Orizzonte);
+         c.s.tavolo.xLine(-v.semiL, -v.yOriz, v.semiL, -v.yOriz, linee[0].colore);
+     }},
+};
+
+// After the caption.
+constexpr Riga ULTIME[] = {
+    {&In::ckAsr, Specie::Asr, "afternoon prayer",
+     [](const Corsa &, LineeAttese &l) { l.push_back({0, 1, "", Rgb(0, 193, 97)}); }, TracciaAsr, nullptr, RileggiPiano},
+};
+
+}  // namespace
+
+bool TroppoFitta(Sessione &s) {
     const DialInputs &in = s.in;
+    const Lettura letto(in);
+    Reale passo = s.v.passo, fraz = s.v.fraz;
+    passo = letto.passo;
+    fraz = letto.fraz;
+    if (fraz == 0) fraz = 1;
+    const auto denso = [&](const Conteggio &giro, double volte = 1) {
+        return TroppoFitto(s, {{"txtDensity", in.txtDensity, giro, volte}});
+    };
+    const Conteggio anno(-OBLIQUITA_2344, OBLIQUITA_2344, 10 * passo);
+    const double punti = std::min(anno.passi(), static_cast<double>(PUNTI_LINEA));
+    const auto ore = [&](int casella, int quante) {
+        return casella == 1 && (denso(anno) || TroppoFitto(s, {{"TxtFraz", in.TxtFraz, Conteggio(0, quante, 1 / fraz), punti}}));
+    };
+    return (s.v.inc_o != 90 && (ore(in.ck_Italiche, 18) || ore(in.ck_babiloniche, 18))) || ore(in.ckTemp, 12) ||
+           (in.ck_Equinoziale == 1 && letto.dec == 0 && denso({-90, 90, 10 * passo})) ||
+           (in.ck_Sustilare == 1 && denso({-OBLIQUITA, OBLIQUITA, 0.999 * passo})) ||
+           // At most eleven altitudes, morning and afternoon.
+           (in.ckAlt == 1 && denso({-OBLIQUITA_2345, OBLIQUITA_2345, letto.passo * 10}, 22));
+}
+
+void Piana_Esegui(Sessione &s) {
+    if (TroppoFitta(s)) return;
+    Variabili &v = s.v;
     Tavolo &t = s.tavolo;
+    Corsa c(s);
+    RinfrescaOriginale(s, c.letto);
     if (v.flagVerticale == 0) v.diffLong = 0;
-    (void)LeggiCornice(s);
+    v.unita = c.letto.unita;
     s.utente.Puntatore(true);
     s.Messaggio("Piana _Esegui: Vertical dial by spherical trigonometry ");
-    LeggiParametriPiana(s);
+    leggiParametriPiana(c);
     const Reale c2 = cos(v.decR) * cos(v.latR);
     v.altStilo = Abs(c2) < 1 ? ArcSin(c2) : Valore(PI / 2);
     v.semiL = t.ShiftX();
     v.semiH = t.ShiftY();
-    if (in.ckAssi == 1) {
+    if (s.in.ckAssi == 1) {
         t.xLine(-v.semiL, 0, v.semiL, 0, QB(15));
         t.xLine(0, -2 * v.semiH, 0, 2 * v.semiH, QB(15));
     }
-    v.gn = Val(in.TxtStilo);
-    CalcolaCentroPiana(s);
+    v.gn = c.letto.gn;
+    calcolaCentroPiana(v);
 
-    if (in.chkOreAstronomiche == 1) {
-        TracciaOreAstro(s);
-        // The routine looks at ckRomani alone: with both boxes set the Roman numerals come twice.
-        if (in.ckRomani == 1) PosizionaNumeriOrari(s);
-        if (in.ckArabi == 1) PosizionaNumeriOrari(s);
-    }
-    if (in.Ck_DayLightCurves == 1) {
-        TracciaDiurnaSolstizioDicembre(s);
-        TracciaDiurnaOpzionale(s);
-    }
-    bool italicheFatte = false;
-    if (in.ck_Italiche == 1) {
-        TracciaItaliche(s);
-        italicheFatte = true;
-        if (in.ckRomani != 1) EtichetteItaliche(s);
-    }
-    if (in.ck_babiloniche == 1) {
-        TracciaBabiloniche(s);
-        italicheFatte = true;
-        if (in.ckRomani != 1) EtichetteBabiloniche(s);
-    }
-    if (in.ckTemp == 1) {
-        TracciaTemporarie(s);
-        if (!italicheFatte && in.ckRomani != 1) EtichetteTemporarie(s);
-    }
-    if (in.ck_Equinoziale == 1) {
-        if (v.declinSessag == 0) PuntiEquinozialeDecZero(s);
-        else TracciaEquinoziale(s);
-    }
-    if (in.ck_Orizzonte == 1) TracciaOrizzonte(s);
-    if (in.ck_Lemniscate == 1) TracciaLemniscata(s);
-    if (in.ck_Sustilare == 1) TracciaSustilare(s);
-    if (in.ck_Triangolo == 1) TracciaTriangoloStilo(s);
-    // ckZodiac has no step of its own: the signs come with the lemniscate.
-    if (in.CkQibla == 1) TracciaQibla(s);
-    if (in.ckAlt == 1) {
-        const Lettura letto(in);
-        LineeAttese linee;
-        LineeAlmucantarat(letto, linee);
-        TracciaAlmucantarat(s, letto, CorniceDi(letto), linee);
-    }
-    if (in.ckAz == 1) TracciaAzimutali(s);
-    if (in.ck_Orizzonte == 1) {
-        const Pretendi pretendi(t, Specie::Orizzonte);
-        t.xLine(-v.semiL, -v.yOriz, v.semiL, -v.yOriz, QB(14));
-        s.Scrivi(&DialInputs::txtOriz, TestoNumero(v.yOriz.numero()));
-    }
-    lineeLimite(s, LeggiCornice(s));
+    Percorri(c, Motore::Verticale, CARATTERISTICHE);
+    Percorri(c, Motore::Verticale, ORIZZONTE_DI_NUOVO);
+    if (s.in.ck_Orizzonte == 1) s.Scrivi(&DialInputs::txtOriz, TestoNumero(v.yOriz.numero()));
+    lineeLimite(c);
     s.utente.Puntatore(false);
 
     // The centre of the caption, without unita.
-    const Reale sustilare = Sustilare(v);
+    const Reale sustilare = SustilareMuroIntera(v.latR, v.decR);
     v.xCentro = sin(sustilare) * v.gn / tan(v.altStilo);
     v.yCentro = cos(sustilare) * -v.gn / tan(v.altStilo);
     didascalia(s, c2);
-    if (in.ckAsr == 1) TracciaAsr(s);
+    Percorri(c, Motore::Verticale, ULTIME);
 }
 
 }  // namespace ombrelia::vertical

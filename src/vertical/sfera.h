@@ -4,7 +4,8 @@
 
 #include "core/angoli.h"
 #include "core/variabili.h"
-#include "gnomonica/proiezione.h"
+#include "gnomonica/spazzate.h"
+#include "gnomonica/stilo.h"
 
 namespace ombrelia::vertical {
 
@@ -118,9 +119,6 @@ private:
     double yOriz_;
     bool sotto_;
 };
-
-// Angle of the substyle, 0..CERCHIO from the vertical.
-inline Reale Sustilare(const Variabili &v) { return v.latR == 0 ? Valore(PI / 2) : Arco2(sin(v.decR), tan(v.latR)); }
 
 // Folds decGradi as a southern latitude works the plane; a northern one keeps it.
 inline void PiegaDeclinazione(Variabili &v) {

@@ -1,10 +1,7 @@
 // Italic, Babylonian and temporary hours of the vertical engine, and the numbers along the summer solstice.
-#include "vertical/piana.h"
-
 #include <algorithm>
 
-#include "core/conteggio.h"
-#include "vertical/sfera.h"
+#include "vertical/corsa.h"
 
 namespace ombrelia::vertical {
 
@@ -14,22 +11,22 @@ namespace {
 Valore cosenoArco(Valore latR, double tanD) { return -tan(latR) * tanD; }
 Valore semiArco(Valore c) { return PI / 2 - Atn(c / Sqr(1 - c * c)); }
 
-// A declination of the year on which the Sun rises, with its half day arc.
-struct Giornata : Sfera::Giorno {
-    double H0;
-};
-
 // The year by steps of 10 * passo degrees, as far as a line has room; leaves its last declination in deltaOpz.
-std::vector<Giornata> anno(Variabili &v, const Sfera &sfera) {
-    std::vector<Giornata> giorni;
-    for (const double d : Conteggio(-23.44, 23.44, 10 * v.passo)) {
-        v.deltaOpz = d;
-        if (giorni.size() == PUNTI_LINEA) continue;
-        const double dr = PI * d / 180, tanD = std::tan(dr);
-        const Valore c = cosenoArco(v.latR, tanD);
-        if (Abs(c) < 1) giorni.push_back({sfera.giorno(tanD, std::sin(dr), std::cos(dr)), semiArco(c).v});
+const std::vector<Giornata> &annoDi(Corsa &c, const Sfera &sfera) {
+    Variabili &v = c.s.v;
+    if (c.anno.empty()) {
+        for (const double d : Conteggio(-OBLIQUITA_2344, OBLIQUITA_2344, 10 * v.passo)) {
+            c.ultima = d;
+            if (c.anno.size() == PUNTI_LINEA) continue;
+            const double dr = PI * d / 180, tanD = std::tan(dr);
+            const Valore cosH0 = cosenoArco(v.latR, tanD);
+            if (Abs(cosH0) < 1) c.anno.push_back({sfera.giorno(tanD, std::sin(dr), std::cos(dr)), semiArco(cosH0).v});
+        }
+        // A step that takes none leaves none.
+        if (c.anno.empty() && c.ultima == 0) return c.anno;
     }
-    return giorni;
+    v.deltaOpz = c.ultima;
+    return c.anno;
 }
 
 // These hours compare the angles themselves, not their sines.
@@ -52,25 +49,21 @@ struct Posto {
     }
 };
 
-// The lines n of a count; angolo gives the hour angle from n and H0. A point behind the plane is counted but not stored,
-// so the next chord joins what an earlier line of this call left in its place, or the foot of the ortostilo: meant.
+// angolo gives the hour angle from the hour and H0. A point behind the plane is counted but not stored, so the next chord
+// joins what an earlier line of this call left in its place, or the foot of the ortostilo: meant.
 template <typename Angolo>
-void tracciaOre(Sessione &s, Valore da, Valore a, Specie specie, std::string_view strato, Colore colore, Angolo angolo) {
-    Variabili &v = s.v;
-    const Cornice cornice = LeggiCornice(s);
-    v.fraz = Val(s.in.TxtFraz);
-    if (v.fraz == 0) v.fraz = 1;
-    Sfera sfera(v);
-    std::vector<Giornata> giorni;
-    std::vector<Posto> posti;
+void tracciaOre(Corsa &c, const LineeAttese &linee, Specie specie, std::string_view strato, Angolo angolo) {
+    Sessione &s = c.s;
+    const Cornice &cornice = c.cornice;
     const IdNome id = s.tavolo.nome(strato);
+    if (linee.empty()) return;
+    Sfera sfera(s.v);
+    const std::vector<Giornata> &giorni = annoDi(c, sfera);
+    std::vector<Posto> posti(giorni.size() + 1);
     double seno = 0;  // of the last altitude that did not fault
-    for (const double n : Conteggio(da, a, 1 / v.fraz)) {
-        if (posti.empty()) {
-            giorni = anno(v, sfera);
-            posti.resize(giorni.size() + 1);
-        }
-        const Pretendi pretendi(s.tavolo, specie, n);
+    for (const LineaAttesa &l : linee) {
+        const double n = l.parametro;
+        const Pretendi pretendi(s.tavolo, specie, l.valore);
         std::size_t i = 0;
         for (const Giornata &g : giorni) {
             const Orario ora(angolo(n, g.H0));
@@ -91,88 +84,108 @@ void tracciaOre(Sessione &s, Valore da, Valore a, Specie specie, std::string_vie
             if (p.y > 0 || !cornice.contiene(p.x, p.y)) continue;
             Posto &prima = posti[i - 1];
             prima.completa(sfera);
-            s.tavolo.xLine(p.x, -p.y, prima.x, -prima.y, colore, id);
+            s.tavolo.xLine(p.x, -p.y, prima.x, -prima.y, l.colore, id);
         }
     }
 }
 
-// The numbers n of a row, where their lines meet the summer solstice.
-struct Etichetta {
-    std::string_view testo;
-    int n;
-};
-template <std::size_t N, typename Angolo>
-void etichette(Sessione &s, const Etichetta (&righe)[N], Colore colore, Angolo angolo) {
+// The numbers where their lines meet the summer solstice.
+template <typename Angolo>
+void etichette(Corsa &c, const LineeAttese &linee, Angolo angolo) {
+    Sessione &s = c.s;
     Variabili &v = s.v;
-    const Cornice cornice = LeggiCornice(s);
     const Colore prima = s.tavolo.ForeColor;
-    s.tavolo.ForeColor = colore;
-    v.deltaOpz = 23.445;
+    s.tavolo.ForeColor = linee[0].colore;
+    v.deltaOpz = OBLIQUITA;
     Sfera sfera(v);
     const Sfera::Giorno giorno = sfera.giorno(v.deltaOpz.numero());
-    const Valore c = cosenoArco(v.latR, tan(PI * v.deltaOpz / 180).v);
-    if (Abs(c) < 1) {
-        const Valore H0 = semiArco(c);
+    const Valore cosH0 = cosenoArco(v.latR, tan(PI * v.deltaOpz / 180).v);
+    if (Abs(cosH0) < 1) {
+        const Valore H0 = semiArco(cosH0);
         Reale x, y;
-        for (const Etichetta &e : righe) {
-            const Orario ora(angolo(e.n, H0));
+        for (const LineaAttesa &l : linee) {
+            const Orario ora(angolo(l.parametro, H0));
             azimut(sfera, ora, giorno);
             sfera.altezza(ora, giorno);
             if (!sfera.davanti()) continue;
             sfera.punto(x, y);
-            if (!(y > 0) && cornice.contiene(x, y)) s.tavolo.Dati(e.testo, x, -y);
+            if (!(y > 0) && c.cornice.contiene(x, y)) s.tavolo.Dati(l.strato, x, -y);
         }
     }
     s.tavolo.ForeColor = prima;
 }
 
+struct Numero {
+    std::string_view testo;
+    int n;
+};
+template <std::size_t N>
+void numeri(const Numero (&righe)[N], Colore colore, LineeAttese &linee) {
+    for (const Numero &r : righe) linee.push_back({static_cast<double>(r.n), static_cast<double>(r.n), r.testo, colore});
+}
+
 // Texts in the order in which they are written.
-constexpr Etichetta ITALICHE[] = {{" 12 ", 12}, {" 11 ", 11}, {" 13 ", 13}, {" 14 ", 14}, {" 15 ", 15}, {" 16 ", 16}, {" 17 ", 17},
+constexpr Numero ITALICHE[] = {{" 12 ", 12}, {" 11 ", 11}, {" 13 ", 13}, {" 14 ", 14}, {" 15 ", 15}, {" 16 ", 16}, {" 17 ", 17},
                                   {" 18 ", 18}, {" 19 ", 19}, {" 20 ", 20}, {" 21 ", 21}, {" 22 ", 22}, {" 23 ", 23}};
-constexpr Etichetta BABILONICHE[] = {{" 0 ", 0},   {" 1 ", 1},   {" 2 ", 2},   {" 3 ", 3},   {" 4 ", 4},   {" 5 ", 5},
+constexpr Numero BABILONICHE[] = {{" 0 ", 0},   {" 1 ", 1},   {" 2 ", 2},   {" 3 ", 3},   {" 4 ", 4},   {" 5 ", 5},
                                      {" 6 ", 6},   {" 7 ", 7},   {" 8 ", 8},   {" 9 ", 9},   {" 10 ", 10}, {" 11 ", 11},
                                      {" 12 ", 12}, {" 13 ", 13}, {" 14 ", 14}, {" 15 ", 15}};
-constexpr Etichetta TEMPORARIE[] = {{"1", 1}, {"2", 2}, {"3", 3}, {"4", 4},   {"5", 5},  {"6", 6},
+constexpr Numero TEMPORARIE[] = {{"1", 1}, {"2", 2}, {"3", 3}, {"4", 4},   {"5", 5},  {"6", 6},
                                     {"7", 7}, {"8", 8}, {"9", 9}, {"10", 10}, {"11", 11}};
 
-void orizzonteEtichette(Variabili &v) { v.yOriz = OrdinataOrizzonte(v, v.iz_o < PI / 2 ? 1 : -1); }
+// The hours of the steeples begin half an hour after sunset.
+bool campanili(const Corsa &c) { return c.s.in.ckFunzione == 1; }
+
+void conta(const Corsa &c, double da, double a, std::string_view strato, Colore colore, LineeAttese &linee) {
+    for (const double n : Conteggio(da, a, 1 / c.s.v.fraz)) linee.push_back({n, n, strato, colore});
+}
 
 }  // namespace
 
-void TracciaItaliche(Sessione &s) {
-    if (s.v.inc_o == 90) return;
-    // The hours of the steeples begin half an hour after sunset.
-    const bool campanili = s.in.ckFunzione == 1;
-    if (campanili) s.Messaggio(s.Traduci("Steeple Italic Hours"));
-    const double scarto = campanili ? 0.5 : 0;
-    tracciaOre(s, 6 + scarto, 24 + scarto, Specie::Italica, "Ita", Rgb(255, 128, 128), [](double n, double H0) { return H0 + PI * n / 12 - 2 * PI; });
+void PreparaStagionali(Corsa &c) {
+    Variabili &v = c.s.v;
+    v.fraz = c.letto.fraz;
+    if (v.fraz == 0) v.fraz = 1;
+}
+void PreparaItaliche(Corsa &c) {
+    if (campanili(c)) c.s.Messaggio(c.s.Traduci("Steeple Italic Hours"));
+    PreparaStagionali(c);
 }
 
-void TracciaBabiloniche(Sessione &s) {
-    if (s.v.inc_o == 90) return;
-    tracciaOre(s, 0, 18, Specie::Babilonica, "Bab", QB(11), [](double n, double H0) { return PI * n / 12 - H0; });
+void LineeItaliche(const Corsa &c, LineeAttese &linee) {
+    const double scarto = campanili(c) ? 0.5 : 0;
+    conta(c, 6 + scarto, 24 + scarto, "Ita", Rgb(255, 128, 128), linee);
+}
+void LineeBabiloniche(const Corsa &c, LineeAttese &linee) { conta(c, 0, 18, "Bab", QB(11), linee); }
+void LineeTemporarie(const Corsa &c, LineeAttese &linee) { conta(c, 0, 12, "Temp", QB(6), linee); }
+
+void TracciaItaliche(Corsa &c, const LineeAttese &linee) {
+    tracciaOre(c, linee, Specie::Italica, "Ita", [](double n, double H0) { return H0 + PI * n / 12 - 2 * PI; });
+}
+void TracciaBabiloniche(Corsa &c, const LineeAttese &linee) {
+    tracciaOre(c, linee, Specie::Babilonica, "Bab", [](double n, double H0) { return PI * n / 12 - H0; });
+}
+void TracciaTemporarie(Corsa &c, const LineeAttese &linee) {
+    tracciaOre(c, linee, Specie::Temporaria, "Temp", [](double n, double H0) { return (n / 6 - 1) * H0; });
 }
 
-void TracciaTemporarie(Sessione &s) {
-    tracciaOre(s, 0, 12, Specie::Temporaria, "Temp", QB(6), [](double n, double H0) { return (n / 6 - 1) * H0; });
+void PreparaEtichette(Corsa &c) {
+    Variabili &v = c.s.v;
+    v.yOriz = OrdinataOrizzonte(v, v.iz_o < PI / 2 ? 1 : -1);
 }
 
-void EtichetteItaliche(Sessione &s) {
-    if (s.v.inc_o == 90) return;
-    (void)LeggiCornice(s);
-    orizzonteEtichette(s.v);
-    etichette(s, ITALICHE, s.tavolo.ForeColor, [&v = s.v](int n, Valore H0) { return v.diffLong + H0 + PI * n / 12 - 2 * PI; });
-}
+void NumeriItaliche(const Corsa &c, LineeAttese &linee) { numeri(ITALICHE, c.s.tavolo.ForeColor, linee); }
+void NumeriBabiloniche(const Corsa &, LineeAttese &linee) { numeri(BABILONICHE, QB(13), linee); }
+void NumeriTemporarie(const Corsa &, LineeAttese &linee) { numeri(TEMPORARIE, QB(6), linee); }
 
-void EtichetteBabiloniche(Sessione &s) {
-    if (s.v.inc_o == 90) return;
-    (void)LeggiCornice(s);
-    orizzonteEtichette(s.v);
-    etichette(s, BABILONICHE, QB(13), [&v = s.v](int n, Valore H0) { return v.diffLong + PI * n / 12 - H0; });
+void EtichetteItaliche(Corsa &c, const LineeAttese &linee) {
+    etichette(c, linee, [&v = c.s.v](double n, Valore H0) { return v.diffLong + H0 + PI * n / 12 - 2 * PI; });
 }
-
-void EtichetteTemporarie(Sessione &s) {
-    etichette(s, TEMPORARIE, QB(6), [&v = s.v](int n, Valore H0) { return v.diffLong + (Valore(n) / 6 - 1) * H0; });
+void EtichetteBabiloniche(Corsa &c, const LineeAttese &linee) {
+    etichette(c, linee, [&v = c.s.v](double n, Valore H0) { return v.diffLong + PI * n / 12 - H0; });
+}
+void EtichetteTemporarie(Corsa &c, const LineeAttese &linee) {
+    etichette(c, linee, [&v = c.s.v](double n, Valore H0) { return v.diffLong + (Valore(n) / 6 - 1) * H0; });
 }
 
 }  // namespace ombrelia::vertical

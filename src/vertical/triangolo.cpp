@@ -2,84 +2,111 @@
 // triangle under it, and the measures as text.
 #include <optional>
 
-#include "vertical/piana.h"
-#include "vertical/sfera.h"
+#include "vertical/corsa.h"
 
 namespace ombrelia::vertical {
 
 namespace {
 
-struct Punto {
+struct Vertice {
     Reale x, y;  // scaled, y upward
 };
 
-}  // namespace
+// New root of the style, foot of its false ortostilo, centre of the dial, tip of the gnomon folded into the plane.
+struct Triangolo {
+    Reale lunghezza;  // whole length on the substyle
+    Reale ortoFalso;
+    Vertice P, Q, F, G;
+};
 
-void TracciaTriangoloStilo(Sessione &s) {
-    Variabili &v = s.v;
-    Tavolo &t = s.tavolo;
-    (void)LeggiCornice(s);
+// Leaves the elevation of the style, negative here on a wall that looks south (the caption's centre follows it), and
+// segStiloSus.
+Triangolo calcola(Corsa &c) {
+    Variabili &v = c.s.v;
     const Valore segnoDecLocale = v.decR == 0 ? Valore(1) : Sgn(v.decR);
-    const Valore segnoLatLocale = v.latR == 0 ? Valore(1) : Sgn(v.latR);
-    const Reale allungo = v.unita * Val(s.in.txtSUBSTYLE);
-    const Reale sust = Sustilare(v);
-    // Here the elevation is negative on a wall that looks south; the caption's centre follows it.
+    const Valore segnoLatLocale = SegnoLatitudine(v.latR);
+    const Reale allungo = v.unita * Val(c.s.in.txtSUBSTYLE);
+    const Reale sust = SustilareMuroIntera(v.latR, v.decR);
     Reale &g = v.altStilo;
     g = ArcSin(-cos(v.latR) * cos(v.decR));
-
     v.segStiloSus = v.unita * Abs(v.gn / tan(g));
-    const Reale Lu = allungo + v.segStiloSus;  // the whole length on the substyle
-    const Reale ortoFalso = tan(g) * Lu;
 
-    // New root of the style, foot of its false ortostilo, centre of the dial, tip of the gnomon folded into the plane.
-    Punto P, Q, F, G;
-    P.x = sin(sust) * allungo;
-    P.y = cos(sust) * -allungo;
-    Q.x = P.x + cos(sust) * tan(g) * Lu * segnoDecLocale;
-    Q.y = P.y + sin(sust) * tan(g) * Lu * segnoDecLocale;
-    F.x = segnoLatLocale * v.unita * tan(v.decR) * -v.gn;
-    F.y = segnoLatLocale * v.unita * tan(v.latR) * v.gn / cos(v.decR);
+    Triangolo t;
+    t.lunghezza = allungo + v.segStiloSus;
+    t.ortoFalso = tan(g) * t.lunghezza;
+    t.P.x = sin(sust) * allungo;
+    t.P.y = cos(sust) * -allungo;
+    t.Q.x = t.P.x + cos(sust) * tan(g) * t.lunghezza * segnoDecLocale;
+    t.Q.y = t.P.y + sin(sust) * tan(g) * t.lunghezza * segnoDecLocale;
+    t.F.x = segnoLatLocale * v.unita * tan(v.decR) * -v.gn;
+    t.F.y = segnoLatLocale * v.unita * tan(v.latR) * v.gn / cos(v.decR);
+    const Valore gnVerso = v.gn * -segnoDecLocale;
+    t.G.x = segnoLatLocale * v.unita * cos(sust) * gnVerso;
+    t.G.y = segnoLatLocale * v.unita * sin(sust) * gnVerso;
+    return t;
+}
 
-    const auto cerchio = [&](const Punto &p, int divisore, Colore colore) {
+enum { IPOTENUSA_L, FALSO, CATETO_L, IPOTENUSA, CATETO, MEZZOGIORNO, ORTOSTILO };
+
+}  // namespace
+
+void LineeTriangolo(const Corsa &, LineeAttese &linee) {
+    for (const auto &[strato, colore] : std::initializer_list<std::pair<std::string_view, int>>{{"IPOTENUSA_L", 9},
+                                                                                                {"FALSO ortostilo", 9},
+                                                                                                {"CATETO_L", 9},
+                                                                                                {"Ipotenusa", 9},
+                                                                                                {"Cateto", 14},
+                                                                                                {"Mezzogiorno", 8},
+                                                                                                {"Ortostilo", 13}})
+        linee.push_back({0, 0, strato, QB(colore)});
+}
+
+void TracciaTriangoloStilo(Corsa &c, const LineeAttese &linee) {
+    const Variabili &v = c.s.v;
+    Tavolo &t = c.s.tavolo;
+    const auto [lunghezza, ortoFalso, P, Q, F, G] = calcola(c);
+    const auto cerchio = [&](const Vertice &p, int divisore, Colore colore) {
         t.xCircle(p.x, -p.y, v.unita * v.gn / divisore, colore);
     };
-    const auto linea = [&](const Punto &a, const Punto &b, Colore colore, std::string_view strato) {
-        t.xLine(a.x, -a.y, b.x, -b.y, colore, strato);
+    const auto linea = [&](const Vertice &a, const Vertice &b, int n) {
+        const LineaAttesa &l = linee[static_cast<std::size_t>(n)];
+        t.xLine(a.x, -a.y, b.x, -b.y, l.colore, l.strato);
     };
-    const Punto origine;
+    const Vertice origine;
     std::optional<Pretendi> pretendi(std::in_place, t, Specie::Stilo);
     cerchio(P, 10, QB(15));
     cerchio(Q, 10, QB(12));
-    linea(F, Q, QB(9), "IPOTENUSA_L");
-    linea(P, Q, QB(9), "FALSO ortostilo");
-    linea(origine, P, QB(9), "CATETO_L");
-
-    const Valore gnVerso = v.gn * -segnoDecLocale;
-    G.x = segnoLatLocale * v.unita * cos(sust) * gnVerso;
-    G.y = segnoLatLocale * v.unita * sin(sust) * gnVerso;
-    for (int volta = 0; volta < (s.in.ckFunzione == 1 ? 1 : 2); ++volta) {
+    linea(F, Q, IPOTENUSA_L);
+    linea(P, Q, FALSO);
+    linea(origine, P, CATETO_L);
+    for (int volta = 0; volta < (c.s.in.ckFunzione == 1 ? 1 : 2); ++volta) {
         t.xPset(F.x, -F.y, QB(12));
         t.xPset(G.x, -G.y, QB(12));
-        linea(G, F, QB(9), "Ipotenusa");
-        linea(F, origine, QB(14), "Cateto");
+        linea(G, F, IPOTENUSA);
+        linea(F, origine, CATETO);
     }
     cerchio(F, 10, QB(12));
     pretendi.emplace(t, Specie::Mezzogiorno);
-    t.xLine(F.x, -F.y, F.x, 2 * t.ShiftY(), QB(8), "Mezzogiorno");
+    t.xLine(F.x, -F.y, F.x, 2 * t.ShiftY(), linee[MEZZOGIORNO].colore, linee[MEZZOGIORNO].strato);
     pretendi.emplace(t, Specie::Stilo);
-    linea(G, origine, QB(13), "Ortostilo");
+    linea(G, origine, ORTOSTILO);
     cerchio(F, 100, QB(12));
-    pretendi.reset();
+}
 
+void TestiTriangolo(Corsa &c, const LineeAttese &) {
+    Sessione &s = c.s;
+    const Triangolo t = calcola(c);
+    const Variabili &v = s.v;
+    const Valore g = v.altStilo;
     s.Dati("");
     s.Dati(s.Traduci("TRIANGOLO dello STILO LUNGO"));
-    const auto riga = [&](std::string_view etichetta, Valore lunghezza, const Punto &p) {
+    const auto riga = [&](std::string_view etichetta, Valore lunghezza, const Vertice &p) {
         s.Dati(Frase(s.Traduci(etichetta)) << Abs(Tronca5(lunghezza)) / v.unita << ", " << s.Traduci("coordinate x, y ")
                                            << Tronca5(p.x / v.unita) << ", " << Tronca5(p.y / v.unita));
     };
-    riga("Falso ortostilo = "_it, ortoFalso, P);
-    riga("assostilo = "_it, Lu / cos(g), Q);
-    riga("cateto sottostilo = "_it, ortoFalso / tan(g), F);
+    riga("Falso ortostilo = "_it, t.ortoFalso, t.P);
+    riga("assostilo = "_it, t.lunghezza / cos(g), t.Q);
+    riga("cateto sottostilo = "_it, t.ortoFalso / tan(g), t.F);
 }
 
 }  // namespace ombrelia::vertical

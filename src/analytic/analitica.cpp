@@ -1,6 +1,8 @@
 // A run of the analytic engine from its fields to the frame, and the fundamental angles and points.
 #include "analytic/analitica.h"
 
+#include "analytic/corsa.h"
+#include "gnomonica/originale.h"
 #include "sessione/limiti.h"
 
 namespace ombrelia::analytic {
@@ -23,6 +25,46 @@ bool troppoFitto(Sessione &s) {
                                        {"txtDensity", in.txtDensity, Conteggio(-1, 1, passo / 10), 13}});
 }
 
+// --- the table of features ------------------------------------------------------------------------------------------
+
+using In = DialInputs;
+using Riga = Caratteristica<Corsa>;
+
+template <int colore>
+void unaLinea(const Corsa &, LineeAttese &linee) {
+    linee.push_back({0, 0, "", QB(colore)});
+}
+// A wall that has a centre within reach.
+bool conCentro(const Corsa &c) {
+    const Variabili &v = c.s.v;
+    return !((v.lat == 0 && v.dec == 0) || Abs(v.dec) == 90);
+}
+
+constexpr Riga CARATTERISTICHE[] = {
+    // The hour lines alone scale gn: without them a dial in millimetres is drawn with gn as typed. Meant.
+    {&In::chkOreAstronomiche, Specie::Ora, "true hours and their parts", LineeOre, TracciaOreAstronomiche, nullptr, PreparaOre},
+    {nullptr, Specie::Mezzogiorno, "vertical through the centre", LineeCentro, TracciaCentro, nullptr, CalcolaCentroAnalitico},
+    {nullptr, Specie::Diurna, "the day of choice", LineaScelta, TracciaLineaDiurnaScelta, nullptr, PreparaDiurne},
+    {&In::Ck_DayLightCurves, Specie::Diurna, "days of solstices and signs", LineeDiurne, TracciaLineeDiurneAnalitiche, nullptr,
+     PreparaDiurne},
+    {&In::ck_Sustilare, Specie::Sustilare, "the substyle", unaLinea<14>, TracciaSustilareAnalitica},
+    {&In::ck_Equinoziale, Specie::Equinoziale, "the equinoctial", unaLinea<10>, TracciaEquinozialeAnalitica},
+    {nullptr, Specie::Stilo, "triangle of the style, laid flat",
+     [](const Corsa &, LineeAttese &l) {
+         l.push_back({0, 0, "", QB(9)});
+         l.push_back({0, 0, "", QB(12)});
+     },
+     TracciaTriangoloAnalitico, conCentro},
+    {nullptr, Specie::Orizzonte, "horizontal through the foot", unaLinea<14>, TracciaOrizzontale, conCentro},
+    {nullptr, Specie::Nessuna, "solstices on the horizon, as text", nullptr, CalcolaSolstiziOrizzonte},
+    {&In::ck_Italiche, Specie::Italica, "hours from sunset", LineeItaliche, TracciaItalicheAnalitiche, nullptr, PreparaTangenti},
+    {&In::ck_babiloniche, Specie::Babilonica, "hours from sunrise", LineeBabiloniche, TracciaBabilonicheAnalitiche, nullptr,
+     PreparaTangenti},
+    {&In::ck_Lemniscate, Specie::Analemma, "mean noon of the zone",
+     [](const Corsa &, LineeAttese &l) { l.push_back({0, 12, "", QB(12)}); }, TracciaLemniscataAnalitica, nullptr,
+     PreparaLemniscata},
+};
+
 }  // namespace
 
 void EseguiGraficaAnalitica(Sessione &s) {
@@ -34,6 +76,8 @@ void EseguiGraficaAnalitica(Sessione &s) {
         s.Messaggio("Grafica Analitica non è abilitata a lavorare a latitudini australi ");
         return;
     }
+    Corsa c(s);
+    RinfrescaOriginale(s, c.letto);
     if (troppoFitto(s)) return;
     s.utente.Puntatore(true);
     v.semiL = t.ShiftX();
@@ -44,19 +88,8 @@ void EseguiGraficaAnalitica(Sessione &s) {
     }
     v.unita = in.ChCentimetro == 1 ? 0.001 : 1.0;
     CalcolaAngoliAnalitici(s);
-    // The hour lines alone scale gn: without them a dial in millimetres is drawn with gn as typed. Meant.
-    if (in.chkOreAstronomiche == 1) TracciaOreAstronomiche(s);
-    CalcolaCentroAnalitico(s);
-    TracciaLineaDiurnaScelta(s);
-    if (in.Ck_DayLightCurves == 1) TracciaLineeDiurneAnalitiche(s);
-    if (in.ck_Sustilare == 1) TracciaSustilareAnalitica(s);
-    if (in.ck_Equinoziale == 1) TracciaEquinozialeAnalitica(s);
-    TracciaTriangoloAnalitico(s);
-    CalcolaSolstiziOrizzonte(s);
-    if (in.ck_Italiche == 1) TracciaItalicheAnalitiche(s);
-    if (in.ck_babiloniche == 1) TracciaBabilonicheAnalitiche(s);
-    if (in.ck_Lemniscate == 1) TracciaLemniscataAnalitica(s);
-    TracciaCornice(s);
+    Percorri(c, Motore::Analitica, CARATTERISTICHE);
+    TracciaCornice(s, c.letto);
     s.utente.Puntatore(false);
 }
 
@@ -64,27 +97,34 @@ void CalcolaAngoliAnalitici(Sessione &s) {
     Variabili &v = s.v;
     LeggiParametri(s);
     const Valore segno = v.decR == 0 ? Valore(1) : Sgn(v.decR);
-    const Valore c = cos(v.decR) * cos(v.latR);
     if (v.lat == 0) {
         v.angSustilare = (PI / 2) * segno;
-        v.altStilo = PI / 2 - Abs(v.decR);
+        v.altStilo = StiloMuroEquatore(v.decR);
         v.angoloOra = (PI / 2) * v.segnoDec;  // the sign that the run before left: meant
     } else {
-        v.angSustilare = Atn(sin(v.decR) / tan(v.latR));
-        v.altStilo = Atn(c / Sqr(1 - c * c));
+        v.angSustilare = SustilareMuro(v.latR, v.decR);
+        v.altStilo = StiloMuro(v.latR, v.decR);
         v.angoloOra = -Atn(tan(v.angSustilare) / sin(v.altStilo));
     }
 }
 
-void CalcolaCentroAnalitico(Sessione &s) {
-    Variabili &v = s.v;
+void CalcolaCentroAnalitico(Corsa &c) {
+    Variabili &v = c.s.v;
+    v.xCentroNeg = 0;
+    v.yCentroNeg = 0;
     if (v.dec == 180) v.angSustilare = 0;
     if (Abs(v.dec) == 90) return;
     v.segStiloSus = v.gn / tan(v.altStilo);
     v.xCentro = -v.segStiloSus * sin(v.angSustilare);
     v.yCentro = v.segStiloSus * cos(v.angSustilare);
-    const Pretendi pretendi(s.tavolo, Specie::Mezzogiorno);
-    s.tavolo.xLine(v.xCentro, -v.semiH, v.xCentro, v.semiH, QB(4));
+}
+void LineeCentro(const Corsa &c, LineeAttese &linee) {
+    if (!(Abs(c.s.v.dec) == 90)) linee.push_back({0, 0, "", QB(4)});
+}
+void TracciaCentro(Corsa &c, const LineeAttese &linee) {
+    const Variabili &v = c.s.v;
+    const Pretendi pretendi(c.s.tavolo, Specie::Mezzogiorno);
+    for (const LineaAttesa &l : linee) c.s.tavolo.xLine(v.xCentro, -v.semiH, v.xCentro, v.semiH, l.colore);
 }
 
 }  // namespace ombrelia::analytic

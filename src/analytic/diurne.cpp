@@ -1,9 +1,10 @@
 // Day lines of the analytic engine, point by point from their conics, and the solstices on the horizon.
 #include <array>
 
-#include "analytic/analitica.h"
 #include "analytic/conica.h"
+#include "analytic/corsa.h"
 #include "core/conteggio.h"
+#include "gnomonica/declinazioni.h"
 
 namespace ombrelia::analytic {
 
@@ -91,31 +92,43 @@ bool paralleloAlPolo(const Variabili &v) { return v.dec == 0 || Abs(v.dec) == 18
 
 }  // namespace
 
-void TracciaLineaDiurnaScelta(Sessione &s) {
-    Variabili &v = s.v;
-    v.y0 = v.gn * tan(v.altStilo);
+void PreparaDiurne(Corsa &c) { c.s.v.y0 = DistanzaEquinoziale(c.s.v.gn, c.s.v.altStilo); }
+
+// One conic holds a declination and its opposite.
+void LineaScelta(const Corsa &c, LineeAttese &linee) {
+    const double delta = c.s.v.deltaOpz.numero();
+    for (const double d : {delta, -delta}) linee.push_back({d, d, "", QB(9)});
+}
+void TracciaLineaDiurnaScelta(Corsa &c, const LineeAttese &) {
+    const Variabili &v = c.s.v;
+    Tavolo &tavolo = c.s.tavolo;
     Reale m;  // stays 0 on the equinox, whose cotangent faults
     m = QuadratoCotangente(v.deltaOpz);
     if (v.lat != 0) {
         Diurna linea(v, m, v.deltaOpz.numero(), 9);
-        for (const double x : Conteggio(-1, 1, v.passo)) linea.punto(s.tavolo, x);
+        for (const double x : Conteggio(-1, 1, v.passo)) linea.punto(tavolo, x);
     } else if (!paralleloAlPolo(v)) {
         const Equatore equatore(v);
         DiurnaEquatore linea(v, m, v.deltaOpz.numero(), 9);
         for (const double x : Equatore::ascisse())
-            if (equatore.esiste(linea, x)) linea.punti(s.tavolo, x);
+            if (equatore.esiste(linea, x)) linea.punti(tavolo, x);
     }
 }
 
-void TracciaLineeDiurneAnalitiche(Sessione &s) {
-    Variabili &v = s.v;
-    v.y0 = v.gn * tan(v.altStilo);
+void LineeDiurne(const Corsa &, LineeAttese &linee) {
+    const std::pair<double, int> coppie[] = {{OBLIQUITA, 15}, {DELTA_SEGNI, 14}, {DELTA_SEGNI_VICINI, 13}};
+    for (const auto &[delta, colore] : coppie)
+        for (const double d : {delta, -delta}) linee.push_back({d, d, "", QB(colore)});
+}
+void TracciaLineeDiurneAnalitiche(Corsa &c, const LineeAttese &) {
+    const Variabili &v = c.s.v;
+    Tavolo &tavolo = c.s.tavolo;
     // Not the 23.445 of the horizon: meant.
     const Valore m2345 = QuadratoCotangente(23.45), m20 = QuadratoCotangente(20), m115 = QuadratoCotangente(11.5);
     if (v.lat != 0) {
         std::array linee{Diurna(v, m2345, 23.445, 15), Diurna(v, m20, 20, 14), Diurna(v, m115, 11.5, 13)};
         for (const double x : Conteggio(-1, 1, v.passo))
-            for (Diurna &linea : linee) linea.punto(s.tavolo, x);
+            for (Diurna &linea : linee) linea.punto(tavolo, x);
     } else if (!paralleloAlPolo(v)) {
         const Equatore equatore(v);
         DiurnaEquatore d2345(v, m2345, 23.445, 2), d20(v, m20, 20, 3), d115(v, m115, 11.5, 4);
@@ -123,35 +136,35 @@ void TracciaLineeDiurneAnalitiche(Sessione &s) {
             // Each line only where those nearer the equinox exist; the innermost is drawn first.
             if (!equatore.esiste(d115, x)) continue;
             if (equatore.esiste(d20, x)) {
-                if (equatore.esiste(d2345, x)) d2345.punti(s.tavolo, x);
-                d20.punti(s.tavolo, x);
+                if (equatore.esiste(d2345, x)) d2345.punti(tavolo, x);
+                d20.punti(tavolo, x);
             }
-            d115.punti(s.tavolo, x);
+            d115.punti(tavolo, x);
         }
     }
 }
 
-void CalcolaSolstiziOrizzonte(Sessione &s) {
+void CalcolaSolstiziOrizzonte(Corsa &c, const LineeAttese &) {
+    Sessione &s = c.s;
     Variabili &v = s.v;
-    const Reale L = Val(s.in.txtOriz);  // as typed, unscaled: meant
-    v.segnoDec = v.dec == 0 ? Valore(1) : Sgn(v.decR);
+    const Reale L = c.letto.oriz;  // as typed, unscaled: meant
+    v.segnoDec = SegnoDeclinazione(v.dec, v.decR);
     Reale xa, xb;
     if (v.lat == 0) {
         v.angSustilare = (PI / 2) * v.segnoDec;
-        v.altStilo = PI / 2 - Abs(v.decR);
+        v.altStilo = StiloMuroEquatore(v.decR);
         v.angoloOra = (PI / 2) * v.segnoDec;
     } else {
-        const Valore cl = cos(v.latR), cd = cos(v.decR);
-        v.angSustilare = Atn(sin(v.decR) / tan(v.latR));
-        v.altStilo = Atn(cl * cd / Sqr(1 - cd * cd * (cl * cl)));
+        v.angSustilare = SustilareMuro(v.latR, v.decR);
+        v.altStilo = StiloMuroQuadrati(v.latR, v.decR);
     }
     if (v.lat == 0 && v.dec == 0) {
-        xa = v.gn / tan(Radianti(23.445));
-        xb = -v.gn / tan(Radianti(23.445));
+        xa = v.gn / tan(Radianti(OBLIQUITA));
+        xb = -v.gn / tan(Radianti(OBLIQUITA));
     } else {
-        v.y0 = v.gn * tan(v.altStilo);
+        v.y0 = DistanzaEquinoziale(v.gn, v.altStilo);
         Conica k;
-        k.calcola(QuadratoCotangente(23.445), v.altStilo, v.gn);
+        k.calcola(QuadratoCotangente(OBLIQUITA), v.altStilo, v.gn);
         const Radici x = AscisseConica(k, v.angSustilare, v.y0, L);
         if (x.reali) {
             xa = x.piu;

@@ -73,7 +73,7 @@ void TrasformaInVerticaleEquivalente(Sessione &s) {
     }
     const Reale orizzonte = Tronca5(v.gn * tan(v.incR2));
     scriviPiano(s, gradi5(sl * f1), gradi5(d1), TestoNumero(orizzonte.numero()));
-    const Reale longitudine = (s.in.ck_Etna == 0 ? Valore(-15) : Valore(v.lonCopia)) - v.diffLong * 180 / PI;
+    const Reale longitudine = (s.in.ck_Etna == 0 ? v.meridiano : v.lonCopia) - v.diffLong * 180 / PI;
     s.Scrivi(&DialInputs::txtLonG, TestoNumero(longitudine.numero()));
     v.lonEq = v.lonCopia - v.diffLong * 180 / PI;
     s.in.ck_Etna = 1;

@@ -1,7 +1,5 @@
 // Straight figures of the analytic engine: hour lines, substyle, equinoctial and the style triangle laid flat.
-#include <optional>
-
-#include "analytic/analitica.h"
+#include "analytic/corsa.h"
 #include "core/conteggio.h"
 
 namespace ombrelia::analytic {
@@ -11,13 +9,14 @@ namespace {
 constexpr int SPESSORE = 1;
 
 // West and east walls at the equator, where the hour lines are parallel: each between the two solstices.
-void oreParallele(Sessione &s, const Cornice &limiti, IdNome strato) {
-    Variabili &v = s.v;
+void oreParallele(Corsa &c, IdNome strato) {
+    Variabili &v = c.s.v;
+    const Cornice &limiti = c.cornice;
     const Valore tanSolstizio = tan(Radianti(23.45));  // not the 23.445 of the horizon: meant
     const Valore m2 = 1 / (tanSolstizio * tanSolstizio), radice = Sqr(m2);
     Reale x2, y2;
     for (const double h : Conteggio(-75, 75, 15 / v.fraz)) {
-        const Pretendi pretendi(s.tavolo, Specie::Ora, 12 + h / 15);
+        const Pretendi pretendi(c.s.tavolo, Specie::Ora, 12 + h / 15);
         const Valore r = h * PI / 180;
         v.x1 = v.gn / (radice * cos(r));
         x2 = -v.gn / (radice * cos(r));
@@ -25,29 +24,37 @@ void oreParallele(Sessione &s, const Cornice &limiti, IdNome strato) {
         y2 = -Sqr(m2 * (x2 * x2) - v.gn * v.gn);
         // One limit an end: meant.
         if (v.x1 > limiti.xMin && x2 < limiti.xMax && v.y1 < limiti.yMax && y2 > limiti.yMin)
-            s.tavolo.xLine(v.x1, -v.y1, x2, -y2, QB(14), strato, SPESSORE);
+            c.s.tavolo.xLine(v.x1, -v.y1, x2, -y2, QB(14), strato, SPESSORE);
     }
 }
 
 }  // namespace
 
-void TracciaOreAstronomiche(Sessione &s) {
-    Variabili &v = s.v;
-    const Cornice limiti = LeggiCornice(s);
-    LeggiParametri(s);
+// Fields once more, and gn scaled.
+void PreparaOre(Corsa &c) {
+    Variabili &v = c.s.v;
+    v.unita = c.letto.unita;
+    LeggiParametri(c.s, c.letto);
     v.gn = v.gn * v.unita;
-    v.lonPiu15 = 15 + v.lon;
+    LasciaDalMeridiano(v);
     v.corrLong = (v.lonPiu15 * PI / 180) * v.oraFuso;
-    v.segnoDec = v.dec == 0 ? Valore(1) : Sgn(v.decR);
-    v.y0 = v.gn * tan(v.altStilo);
+    v.segnoDec = SegnoDeclinazione(v.dec, v.decR);
+    v.y0 = DistanzaEquinoziale(v.gn, v.altStilo);
+}
 
-    const IdNome strato = s.tavolo.nome("Ore_astro");
+void LineeOre(const Corsa &c, LineeAttese &linee) {
+    for (const double h : Conteggio(-90, 90, 15 / c.s.v.fraz)) linee.push_back({h, 12 + h / 15, "Ore_astro", QB(h == 0 ? 12 : 15)});
+}
+
+void TracciaOreAstronomiche(Corsa &c, const LineeAttese &linee) {
+    Variabili &v = c.s.v;
+    const IdNome strato = c.s.tavolo.nome("Ore_astro");
     const Valore r = -v.angSustilare, cr = cos(r), sr = sin(r);
     const Valore sinE = sin(v.altStilo), obliqua = v.gn / cos(v.altStilo), t0 = v.angoloOra - v.corrLong;
     Reale a, b, k, m, x2;
-    for (const double h : Conteggio(-90, 90, 15 / v.fraz)) {
-        const Pretendi pretendi(s.tavolo, Specie::Ora, 12 + h / 15);
-        const Valore tanT = tan(t0 + h * PI / 180);
+    for (const LineaAttesa &l : linee) {
+        const Pretendi pretendi(c.s.tavolo, Specie::Ora, l.valore);
+        const Valore tanT = tan(t0 + l.parametro * PI / 180);
         a = sinE * tanT;
         b = obliqua * tanT;
         k = (b - v.y0 * a) / (cr + sr * a);  // abscissa at y = 0
@@ -55,54 +62,54 @@ void TracciaOreAstronomiche(Sessione &s) {
         v.y1 = 2;
         v.x1 = -m * 2 + k;
         x2 = m * 2 + k;
-        s.tavolo.xLine(v.x1, -2, x2, 2, QB(h == 0 ? 12 : 15), strato, SPESSORE);
+        c.s.tavolo.xLine(v.x1, -2, x2, 2, l.colore, strato, SPESSORE);
         v.xEq = 0.8;
     }
-    if (v.lat == 0 && Abs(v.dec) == 90) oreParallele(s, limiti, strato);
+    if (v.lat == 0 && Abs(v.dec) == 90) oreParallele(c, strato);
 }
 
-void TracciaSustilareAnalitica(Sessione &s) {
-    const Variabili &v = s.v;
+void TracciaSustilareAnalitica(Corsa &c, const LineeAttese &linee) {
+    const Variabili &v = c.s.v;
     if (v.angSustilare == 0) return;
     const Valore t = tan(v.angSustilare);
-    const Pretendi pretendi(s.tavolo, Specie::Sustilare);
-    for (const double i : Conteggio(-1, 1, 0.002)) s.tavolo.xPset(i, i / t, QB(14), SENZA_STRATO);
+    const Pretendi pretendi(c.s.tavolo, Specie::Sustilare);
+    for (const double i : Conteggio(-1, 1, 0.002)) c.s.tavolo.xPset(i, i / t, linee[0].colore, SENZA_STRATO);
 }
 
-void TracciaEquinozialeAnalitica(Sessione &s) {
-    const Variabili &v = s.v;
-    const Pretendi pretendi(s.tavolo, Specie::Equinoziale);
+void TracciaEquinozialeAnalitica(Corsa &c, const LineeAttese &linee) {
+    const Variabili &v = c.s.v;
+    const Pretendi pretendi(c.s.tavolo, Specie::Equinoziale);
     if (v.lat > 0) {
         const Valore t = tan(v.angSustilare), q = v.y0 / cos(v.angSustilare);
         Reale y;
         for (const double x : Conteggio(-3, 3, 0.001)) {
             y = x * t - q;
-            s.tavolo.xPset(x, -y, QB(10), SENZA_STRATO);
+            c.s.tavolo.xPset(x, -y, linee[0].colore, SENZA_STRATO);
         }
     }
     if (v.lat == 0 && sin(v.angSustilare) != 0) {
         const Valore x = v.y0 / sin(v.angSustilare);
-        s.tavolo.xLine(x, 0, x, 1, QB(10));  // one unit long: meant
+        c.s.tavolo.xLine(x, 0, x, 1, linee[0].colore);  // one unit long: meant
     }
 }
 
-void TracciaTriangoloAnalitico(Sessione &s) {
-    Variabili &v = s.v;
-    Tavolo &tavolo = s.tavolo;
-    v.xCentroNeg = 0;
-    v.yCentroNeg = 0;
-    if ((v.lat == 0 && v.dec == 0) || Abs(v.dec) == 90) return;
+void TracciaTriangoloAnalitico(Corsa &c, const LineeAttese &linee) {
+    const Variabili &v = c.s.v;
+    Tavolo &tavolo = c.s.tavolo;
     // T, the tip laid flat: on the line from C at altStilo from the substyle, and square to the substyle at G.
     Reale xT, yT;
     const Valore a = tan(v.altStilo - v.angSustilare), t = tan(v.angSustilare);
     xT = (v.yCentroNeg - v.yCentro - t * v.xCentroNeg) / (1 / a - t) + v.xCentro / (1 - a * t);
     yT = (xT - v.xCentro) / a + v.yCentro;
-    std::optional<Pretendi> pretendi(std::in_place, tavolo, Specie::Stilo);
-    if (Abs(v.yCentro) < 3) tavolo.xLine(xT, -yT, v.xCentro, -v.yCentro, QB(9));
-    tavolo.xLine(xT, -yT, v.xCentroNeg, -v.yCentroNeg, QB(12));
+    const Pretendi pretendi(tavolo, Specie::Stilo);
+    if (Abs(v.yCentro) < 3) tavolo.xLine(xT, -yT, v.xCentro, -v.yCentro, linee[0].colore);
+    tavolo.xLine(xT, -yT, v.xCentroNeg, -v.yCentroNeg, linee[1].colore);
     tavolo.xPset(v.xCentroNeg, -v.yCentroNeg, QB(15), SENZA_STRATO);
-    pretendi.emplace(tavolo, Specie::Orizzonte);
-    tavolo.xLine(-v.semiL, -v.yCentroNeg, v.semiL, -v.yCentroNeg, QB(14));
+}
+void TracciaOrizzontale(Corsa &c, const LineeAttese &linee) {
+    const Variabili &v = c.s.v;
+    const Pretendi pretendi(c.s.tavolo, Specie::Orizzonte);
+    c.s.tavolo.xLine(-v.semiL, -v.yCentroNeg, v.semiL, -v.yCentroNeg, linee[0].colore);
 }
 
 }  // namespace ombrelia::analytic

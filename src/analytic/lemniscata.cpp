@@ -1,35 +1,31 @@
 // The analemma of the analytic engine: each day's conic met with the hour line of its mean noon.
-#include "analytic/analitica.h"
 #include "analytic/conica.h"
-#include "core/conteggio.h"
-#include "gnomonica/proiezione.h"
+#include "analytic/corsa.h"
+#include "gnomonica/spazzate.h"
 
 namespace ombrelia::analytic {
 
-namespace {
-
-// Every second day from 80 degrees before the equinox to a year after it.
-Conteggio giorni() { return {-80, 360, 2 * (360 / 365.2422)}; }
-
-}  // namespace
-
-void TracciaLemniscataAnalitica(Sessione &s) {
-    Variabili &v = s.v;
+void PreparaLemniscata(Corsa &c) {
+    Variabili &v = c.s.v;
     if (v.flagVerticale == 1) v.lon = v.lonEq;
-    v.y0 = v.gn * tan(v.altStilo);
-    v.lonPiu15 = 15 + v.lon;
+    v.y0 = DistanzaEquinoziale(v.gn, v.altStilo);
+    LasciaDalMeridiano(v);
     v.corrLong = v.lonPiu15 * PI / 180;
-    const Pretendi pretendi(s.tavolo, Specie::Analemma, 12);
+}
+
+void TracciaLemniscataAnalitica(Corsa &c, const LineeAttese &linee) {
+    const Variabili &v = c.s.v;
+    Tavolo &tavolo = c.s.tavolo;
+    const Pretendi pretendi(tavolo, Specie::Analemma, linee[0].valore);
 
     if (v.latR != 0 && v.dec == 0) {
         // Due south the latitude is left out of the formula: meant.
         Reale x, y;
-        for (const double l : giorni()) {
-            const SoleMedio sole = SoleAllaLongitudine(PI * l / 180);
-            const Valore tanQ = tan(-v.corrLong + sole.Et);
-            y = -v.gn / (tan(sole.D) * Sqr(tanQ * tanQ + 1));
+        for (const Mezzodi &m : AnnoMedioGiorniAlterni()) {
+            const Valore tanQ = tan(-v.corrLong + m.Et);
+            y = -v.gn / (m.tanD * Sqr(tanQ * tanQ + 1));
             x = -tanQ * y;
-            s.tavolo.xPset(-x, -y, QB(6), SENZA_STRATO);
+            tavolo.xPset(-x, -y, QB(6), SENZA_STRATO);
         }
         return;
     }
@@ -42,9 +38,8 @@ void TracciaLemniscataAnalitica(Sessione &s) {
     Conica k;
     Reale m, r, h, p2, p1, p0, x, y, z;
     r = v.gn / (se * ce);  // from P to the centre
-    for (const double l : giorni()) {
-        const SoleMedio sole = SoleAllaLongitudine(PI * l / 180);
-        const Valore tanD = tan(sole.D), hh = t0 + sole.Et;
+    for (const Mezzodi &mezzodi : AnnoMedioGiorniAlterni()) {
+        const Valore tanD = mezzodi.tanD, hh = t0 + mezzodi.Et;
         m = 1 / (tanD * tanD);
         h = obliqua * tan(hh);
         k.calcola(m, v.altStilo, v.gn);
@@ -61,7 +56,7 @@ void TracciaLemniscataAnalitica(Sessione &s) {
         const Valore u = h * (1 - z / r);
         x = u * cs - z * ss + v.y0 * ss;
         y = u * ss + z * cs - v.y0 * cs;
-        s.tavolo.xPset(x, -y, QB(12), SENZA_STRATO);
+        tavolo.xPset(x, -y, linee[0].colore, SENZA_STRATO);
     }
 }
 

@@ -1,21 +1,24 @@
 // Italic and Babylonian hour lines: tangents to the conic of the declination at which the Sun neither rises nor sets, and
 // that conic.
-#include "analytic/analitica.h"
 #include "analytic/conica.h"
+#include "analytic/corsa.h"
 #include "core/conteggio.h"
 
 namespace ombrelia::analytic {
 
 namespace {
 
-// verso is the sign before the root of the tangent's slope: -1 from sunset, 1 from sunrise. ora is the hour, so counted,
-// of noon at the equinox.
-void traccia(Sessione &s, Specie specie, double verso, double ora) {
-    Variabili &v = s.v;
-    Tavolo &tavolo = s.tavolo;
-    if (v.lat_o == 0) return;
-    v.latR = v.lat_o;  // stays so: meant
-    v.y0 = v.gn * tan(v.altStilo);
+// ora is the hour, so counted, of noon at the equinox.
+void conta(const Corsa &c, double ora, LineeAttese &linee) {
+    if (c.s.v.lat_o == 0) return;
+    for (const double a : Conteggio(-90, 90, 15)) linee.push_back({a, ora + a / 15, "", QB(15)});
+}
+
+// verso is the sign before the root of the tangent's slope: -1 from sunset, 1 from sunrise.
+void traccia(Corsa &c, const LineeAttese &linee, Specie specie, double verso) {
+    const Variabili &v = c.s.v;
+    Tavolo &tavolo = c.s.tavolo;
+    if (linee.empty()) return;
     const Valore seno = sin(v.latR);
     Reale phi;  // stays 0 at the pole, whose arc sine faults
     phi = Atn(seno / Sqr(1 - seno * seno));
@@ -41,19 +44,27 @@ void traccia(Sessione &s, Specie specie, double verso, double ora) {
 
     const Valore obliqua = v.gn / cos(v.altStilo), t0 = v.angoloOra + v.diffLong;
     Reale h, g;
-    for (const double a : Conteggio(-90, 90, 15)) {
-        h = obliqua * tan(t0 + a * PI / 180);
+    for (const LineaAttesa &l : linee) {
+        h = obliqua * tan(t0 + l.parametro * PI / 180);
         const Valore hh = h * h, RR = R * R, QQ = Q * Q;
         g = (-2 * R * Q * h + verso * (2 * Sqr(RR * QQ * hh + R * P * QQ - 4 * R * (P * P) - 4 * RR * P * hh))) / (QQ - 4 * P - 4 * R * hh);
         const Valore pendenza = g, piede = h;
-        const Pretendi pretendi(tavolo, specie, ora + a / 15);
-        for (const double u : Conteggio(-1, 1, v.passo / 10)) punto(u, pendenza * (u - piede), QB(15));
+        const Pretendi pretendi(tavolo, specie, l.valore);
+        for (const double u : Conteggio(-1, 1, v.passo / 10)) punto(u, pendenza * (u - piede), l.colore);
     }
 }
 
 }  // namespace
 
-void TracciaItalicheAnalitiche(Sessione &s) { traccia(s, Specie::Italica, -1, 18); }
-void TracciaBabilonicheAnalitiche(Sessione &s) { traccia(s, Specie::Babilonica, 1, 6); }
+void PreparaTangenti(Corsa &c) {
+    Variabili &v = c.s.v;
+    if (v.lat_o == 0) return;
+    v.latR = v.lat_o;  // stays so: meant
+    v.y0 = DistanzaEquinoziale(v.gn, v.altStilo);
+}
+void LineeItaliche(const Corsa &c, LineeAttese &linee) { conta(c, 18, linee); }
+void LineeBabiloniche(const Corsa &c, LineeAttese &linee) { conta(c, 6, linee); }
+void TracciaItalicheAnalitiche(Corsa &c, const LineeAttese &linee) { traccia(c, linee, Specie::Italica, -1); }
+void TracciaBabilonicheAnalitiche(Corsa &c, const LineeAttese &linee) { traccia(c, linee, Specie::Babilonica, 1); }
 
 }  // namespace ombrelia::analytic

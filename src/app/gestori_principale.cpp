@@ -84,6 +84,8 @@ void cmdRun(Sessione &s) {
     leggiLatitudine(s);
     const Reale lat = Val(s.in.txtLAT);
     if (lat < 0) {
+        // A run that is refused leaves the South as it is typed.
+        if (direct::TroppoFitta(s)) return;
         // A southern dial is the northern one of the mirrored latitude; the user mirrors the drawing.
         s.utente.Box(s.Traduci("A grafico ottenuto usare il tasto InvertX"));
         s.Scrivi(&DialInputs::txtLAT, TestoNumero((-lat).v));

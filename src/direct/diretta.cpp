@@ -46,7 +46,8 @@ void didascalia(Corsa &c, Valore seno, Valore q) {
     for (const auto &riga : righe) s.Dati(Frase(s.Traduci(riga.etichetta)) << riga.valore << riga.coda);
     Frase costante(s.Traduci("Costante locale = "_it));
     costante << CostanteLocale(v) << " p";
-    if (AltroMeridiano(v)) costante << s.Traduci(", dal meridiano "_it) << v.meridiano << " °";
+    // A constant that does not count from the start's zone names its meridian.
+    if (AltroMeridiano(v)) costante << " (" << s.Traduci("longitudine = "_it) << v.meridiano << " °)";
     s.Dati(costante);
     // A southern site has its sign back by now, but a run that cmdRun mirrored reads a northern latitude. True lines need
     // no exchange.

@@ -7,6 +7,7 @@
 #include "core/conteggio.h"
 #include "glyphs/punto_parete.h"
 #include "glyphs/tratti.h"
+#include "gnomonica/longitudine.h"
 
 namespace ombrelia {
 
@@ -56,14 +57,17 @@ std::string inLettere(int ora) {
 
 void posiziona(Sessione &s, bool romani) {
     Variabili &v = s.v;
-    if (!(Val(s.in.txtInc) == 0) || v.unita == 0) return;
-    v.oraFuso = s.in.ck_Etna == 1 ? 1 : 0;
-    v.decGradi = Val(s.in.txtDec);
-    v.angOraLong = 15 - Abs(Val(s.in.txtLonG));  // degrees, where the vertical engine keeps radians: meant
+    const Lettura letto(s.in);
+    if (!(letto.inc == 0) || v.unita == 0) return;
+    v.oraFuso = letto.fuso ? 1 : 0;
+    v.decGradi = letto.dec;
+    v.meridiano = letto.meridiano;
+    // Degrees, where the vertical engine keeps radians, and east of 15 West alone: meant. Other zones count as they must.
+    v.angOraLong = AltroMeridiano(v) ? DalMeridiano(letto.lon, v.meridiano) : 15 - Abs(letto.lon);
     PuntoParete p;
     Reale D, H;
     for (const double V : Conteggio(-90, 90, 15)) {
-        v.deltaOpz = Val(s.in.txtDelta);
+        v.deltaOpz = letto.delta;
         D = PI * v.deltaOpz / 180;
         H = PI * (V - v.angOraLong * v.oraFuso) / 180;
         p.azimut(v, H, D);

@@ -4,6 +4,7 @@
 #include "core/conteggio.h"
 #include "glyphs/punto_parete.h"
 #include "glyphs/tratti.h"
+#include "gnomonica/longitudine.h"
 
 namespace ombrelia {
 
@@ -23,8 +24,8 @@ Valore entroUnGiro(Valore angolo) {
 // The longitude's part of both routines: of the equivalent dial where there is one, and whatever oraFuso says.
 void correggiLongitudine(Variabili &v) {
     if (v.flagVerticale == 1) v.lon = v.lonEq;
-    v.lonPiu15 = 15 + v.lon;
-    v.corrLong = PI * v.lonPiu15 / 180;
+    LasciaDalMeridiano(v);
+    v.corrLong = CorrezioneLongitudine(v);
 }
 
 // The point at hour angle H on the day line of deltaOpz.

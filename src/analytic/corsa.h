@@ -1,0 +1,48 @@
+// One run of the analytic engine and the routines of its features.
+#pragma once
+
+#include "analytic/analitica.h"
+#include "gnomonica/caratteristiche.h"
+#include "gnomonica/longitudine.h"
+#include "gnomonica/stilo.h"
+
+namespace ombrelia::analytic {
+
+struct Corsa {
+    explicit Corsa(Sessione &sessione) : s(sessione), letto(sessione.in), cornice(CorniceDi(letto)) {}
+
+    Sessione &s;
+    const Lettura letto;
+    const Cornice cornice;
+};
+
+// What each feature leaves in the shared variables whoever draws it (Prepara, Calcola), its lines, and their drawing; see
+// the table in analitica.cpp. gn and unita are taken as they stand; only the hour lines read the fields, and leave gn
+// scaled.
+void PreparaOre(Corsa &c);
+void LineeOre(const Corsa &c, LineeAttese &linee);
+void TracciaOreAstronomiche(Corsa &c, const LineeAttese &linee);
+// Centre of the dial in the unit of gn, and the vertical through it; at |dec| = 90 the centre stays what it was.
+void CalcolaCentroAnalitico(Corsa &c);
+void LineeCentro(const Corsa &c, LineeAttese &linee);
+void TracciaCentro(Corsa &c, const LineeAttese &linee);
+// Leaves in y0 the distance from foot to equinoctial.
+void PreparaDiurne(Corsa &c);
+void LineaScelta(const Corsa &c, LineeAttese &linee);  // of deltaOpz
+void TracciaLineaDiurnaScelta(Corsa &c, const LineeAttese &linee);
+void LineeDiurne(const Corsa &c, LineeAttese &linee);
+void TracciaLineeDiurneAnalitiche(Corsa &c, const LineeAttese &linee);
+void TracciaSustilareAnalitica(Corsa &c, const LineeAttese &linee);
+void TracciaEquinozialeAnalitica(Corsa &c, const LineeAttese &linee);
+void TracciaTriangoloAnalitico(Corsa &c, const LineeAttese &linee);
+void TracciaOrizzontale(Corsa &c, const LineeAttese &linee);
+void CalcolaSolstiziOrizzonte(Corsa &c, const LineeAttese &linee);  // meeting points of solstices and horizon, as text
+void PreparaTangenti(Corsa &c);
+void LineeItaliche(const Corsa &c, LineeAttese &linee);
+void LineeBabiloniche(const Corsa &c, LineeAttese &linee);
+void TracciaItalicheAnalitiche(Corsa &c, const LineeAttese &linee);
+void TracciaBabilonicheAnalitiche(Corsa &c, const LineeAttese &linee);
+void PreparaLemniscata(Corsa &c);
+void TracciaLemniscataAnalitica(Corsa &c, const LineeAttese &linee);
+
+}  // namespace ombrelia::analytic

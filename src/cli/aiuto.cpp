@@ -29,17 +29,28 @@ A declining wall in one line:
   ombrelia draw --set txtLAT=45.07 --set txtDec=18 --set txtInc=0 --check chkOreAstronomiche --check Ck_DayLightCurves muro.dxf
 )";
 
+constexpr std::string_view GUI = R"(usage: ombrelia gui [--run] [PROJECT]
+
+Opens the window, with PROJECT when it is named.
+
+  --run         draws at once
+  --version     tells the version and opens nothing
+)";
+
 constexpr std::string_view DRAW = R"(usage: ombrelia draw [--project FILE] [--set FIELD=TEXT]... [--check BOX]... [--engine ENGINE] [--sheet L H X Y] FILE...
 
-Draws a dial and writes it, once for each FILE, in the form of its ending.
+Draws a dial and writes it, once for each FILE, in the form of its ending. For each it tells what the file holds, a picture's scale
+and size, and what of the drawing the form has no place for.
 
   --project FILE     a project file; fields and boxes given beside it come after it
   --place NAME       a town: sets txtLAT, txtLonG and txtMeridiano; --country XX tells namesakes apart (ombrelia place --help)
   --set FIELD=TEXT   a field of the main window: txtLAT, txtDec (West +), txtLonG (West +), txtInc (0 wall, 90 horizontal),
                      TxtStilo, txtX0 txtX1 txtY0 txtY1 (the frame), TxtFraz ...
+                     A number may have a comma for its point; what is no number, or out of its field's range, is refused
   --check BOX        a feature: chkOreAstronomiche, Ck_DayLightCurves, ck_Equinoziale, ck_Italiche, ck_babiloniche, ckTemp,
                      ck_Lemniscate, ck_Triangolo, ck_Sustilare, ckAlt, ckAz, ckAsr, CkQibla, ck_Orizzonte, ckAssi ...
                      ChCentimetro: lengths are millimetres; ck_Etna: true time of the zone; ckFunzione: intermediate lines
+  --corrected        true lines in place of those that are not (the box ckCorretta)
   --engine ENGINE    auto (as the run button decides), direct, vertical or analytic (walls only)
   --sheet L H X Y    width, height and origin of the sheet in metres; without it the project's, or fitted to the frame
 
@@ -205,6 +216,7 @@ examples:
 }  // namespace
 
 std::string Aiuto(std::string_view comando) {
+    if (comando == "gui") return std::string(GUI);
     if (comando == "batch") return std::string(BATCH);
     if (comando == "report") return std::string(REPORT) + NomiRapporti();
     if (comando == "read") return std::string(READ);

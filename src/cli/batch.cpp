@@ -2,7 +2,9 @@
 #include "cli/batch.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <cstdio>
+#include <cstring>
 #include <vector>
 
 #include "app/comandi.h"
@@ -17,6 +19,7 @@ namespace ombrelia::cli {
 namespace {
 
 constexpr std::size_t SCRIPT_MASSIMO = 64U << 20;
+constexpr std::string_view BOM = "\xEF\xBB\xBF";
 
 // One run of a script. An action that can't be done throws its reason.
 struct Rifiuto {
@@ -233,6 +236,7 @@ void Esecuzione::value(std::string_view resto) {
 }  // namespace
 
 int EseguiAzioni(std::string_view script, const std::string &nome) {
+    if (script.starts_with(BOM)) script.remove_prefix(BOM.size());
     Esecuzione esecuzione;
     std::size_t numero = 0;
     while (!script.empty()) {
@@ -258,10 +262,13 @@ int Batch(int argc, char **argv) {
     std::string script, errore;
     if (nome == "-") {
         char pezzo[65536];
-        for (std::size_t n; (n = std::fread(pezzo, 1, sizeof pezzo, stdin)) > 0 && script.size() < SCRIPT_MASSIMO;) script.append(pezzo, n);
+        for (std::size_t n; (n = std::fread(pezzo, 1, sizeof pezzo, stdin)) > 0 && script.size() <= SCRIPT_MASSIMO;) script.append(pezzo, n);
+        if (std::ferror(stdin)) errore = std::string("standard input: ") + std::strerror(errno);
+        else if (script.size() > SCRIPT_MASSIMO) errore = "more than " + std::to_string(SCRIPT_MASSIMO) + " bytes";
     } else if (auto letto = LeggiFile(nome, SCRIPT_MASSIMO, &errore)) {
         script = std::move(*letto);
-    } else {
+    }
+    if (!errore.empty()) {
         std::fprintf(stderr, "%s:0: %s\n", nome.c_str(), errore.c_str());
         return 2;
     }

@@ -1,6 +1,9 @@
 // Fields and boxes from options.
 #include "cli/campi.h"
 
+#include <algorithm>
+#include <limits>
+
 #include "app/comandi.h"
 #include "app/progetto.h"
 #include "cli/place.h"
@@ -9,51 +12,67 @@
 
 namespace ombrelia::cli {
 
-bool Campi::Opzione(std::string_view opzione) { 
-    return opzione == "--set" || opzione == "--check" || opzione == "--project" || opzione == "--place" || opzione == "--country";
-}
-
-std::string Campi::Prendi(std::string_view opzione, const std::string &valore) {
-    if (opzione == "--project") {
-        progetto = valore;
-    } else if (opzione == "--place") {
-        luogo = valore;
-    } else if (opzione == "--country") {
-        paese = valore;
-    } else if (opzione == "--check") {
-        caselle.push_back(valore);
-    } else {
-        const std::size_t uguale = valore.find('=');
-        if (uguale == std::string::npos) return "--set " + valore + ": write FIELD=TEXT, as in --set txtLAT=45.7";
-        testi.emplace_back(valore.substr(0, uguale), valore.substr(uguale + 1));
-    }
-    return {};
-}
-
 namespace {
 
-// A field's text out of what was written: angles become plain numbers.
-std::string comeNumero(const std::string &nome, std::string &testo) {
-    const luoghi::CampoAngolo *campo = luoghi::TrovaCampoAngolo(nome);
-    if (!campo) return {};
-    const luoghi::AngoloLetto letto = luoghi::LeggiAngolo(testo, *campo);
+std::string motivo(const app::Esito &e, const std::string &nome) {
+    if (e == app::Esito::Disabilitato) return nome + " is disabled: it works on walls only (txtInc must read 0)";
+    return e ? std::string() : nome + " can't take that";
+}
+
+std::string leggiAngolo(const luoghi::CampoAngolo &campo, std::string &testo) {
+    const luoghi::AngoloLetto letto = luoghi::LeggiAngolo(testo, campo);
     if (letto.buono()) {
         testo = letto.testo;
         return {};
     }
-    std::string e = "--set " + nome + "=" + testo.substr(0, 80) + ": " + std::string(luoghi::MotivoInglese(letto.intoppo));
-    if (letto.intoppo == luoghi::Intoppo::FuoriCampo) e += ": it goes from " + TestoNumero(campo->da) + " to " + TestoNumero(campo->a);
+    std::string e = testo.substr(0, 80) + ": " + std::string(luoghi::MotivoInglese(letto.intoppo));
+    if (letto.intoppo == luoghi::Intoppo::FuoriCampo) e += ": it goes from " + TestoNumero(campo.da) + " to " + TestoNumero(campo.a);
     return e;
+}
+
+// What a field gets out of what was written.
+std::string leggiCampo(const Controllo &riga, std::string &testo) {
+    if (riga.classe == Classe::Testo && riga.testo)
+        if (const luoghi::CampoAngolo *angolo = luoghi::TrovaCampoAngolo(riga.nome)) return leggiAngolo(*angolo, testo);
+    if (testo.find('"') != std::string::npos) return testo + ": a field can't hold a double quote";
+    // The filter of the map is the one box of the window that holds no number.
+    if (riga.classe != Classe::Testo || !riga.testo || riga.testo == &DialInputs::Filtertxt) return {};
+    constexpr double TUTTO = std::numeric_limits<double>::max();
+    double n = 0;
+    if (std::string e = LeggiNumero(testo, -TUTTO, TUTTO, n); !e.empty()) return e;
+    std::replace(testo.begin(), testo.end(), ',', '.');
+    return {};
 }
 
 }  // namespace
 
+void Campi::opzioni(Opzioni &o) {
+    o.righe.push_back(Testo("--project", "a project file", progetto));
+    o.righe.push_back(Testo("--place", "a town, as in Torino", luogo));
+    o.righe.push_back(Testo("--country", "two letters, as in IT", paese));
+    o.righe.push_back({"--set", 1, "FIELD=TEXT, as in txtLAT=45.7",
+                       [this](const Valori &v) -> std::string {
+                           const std::size_t uguale = v[0].find('=');
+                           if (uguale == std::string::npos) return v[0] + ": write FIELD=TEXT, as in --set txtLAT=45.7";
+                           testi.emplace_back(v[0].substr(0, uguale), v[0].substr(uguale + 1));
+                           return {};
+                       },
+                       true});
+    o.righe.push_back({"--check", 1, "a box, as in ck_Italiche",
+                       [this](const Valori &v) {
+                           caselle.push_back(v[0]);
+                           return std::string();
+                       },
+                       true});
+    o.righe.push_back({"--corrected", 0, {}, [this](const Valori &) {
+                           caselle.emplace_back("ckCorretta");
+                           return std::string();
+                       }});
+}
+
 std::string Campi::Applica(Sessione &s) const {
+    s.originaleFresco = true;
     if (!progetto.empty() && !app::ApriProgetto(s, progetto)) return progetto + ": no project file, or unreadable";
-    const auto motivo = [](app::Esito e, const std::string &nome) -> std::string {
-        if (e == app::Esito::Disabilitato) return nome + " is disabled: it works on walls only (txtInc must read 0)";
-        return e == app::Esito::Impossibile ? nome + " can't take that" : std::string();
-    };
     if (luogo.empty() && !paese.empty()) return "--country goes with --place";
     if (!luogo.empty()) {
         std::string errore;
@@ -63,11 +82,11 @@ std::string Campi::Applica(Sessione &s) const {
         for (const auto &[nome, gradi] : campi)
             if (std::string e = motivo(app::Imposta(s, TrovaControllo(nome), TestoNumero(gradi)), nome); !e.empty()) return e;
     }
-    for (const auto &[nome, scritto] : testi) {
+    for (auto [nome, testo] : testi) {
         const IdControllo id = TrovaControllo(nome);
         if (id == NESSUN_CONTROLLO) return "unknown field " + nome;
-        std::string testo = scritto;
-        if (std::string e = comeNumero(nome, testo); !e.empty()) return e;
+        if (const std::string e = leggiCampo(TavolaControlli()[static_cast<std::size_t>(id)], testo); !e.empty())
+            return "--set " + nome + "=" + e;
         if (std::string e = motivo(app::Imposta(s, id, testo), nome); !e.empty()) return e;
     }
     for (const std::string &nome : caselle) {

@@ -1,11 +1,12 @@
-// The dial that a command is asked for: fields and boxes from its options, or a project file.
+// The fields of a dial that a command is asked for, out of its options or a project file. Every command that takes a dial takes
+// these rows; cli/disegno.h adds those of a drawing and draws it.
 #pragma once
 
 #include <string>
-#include <string_view>
 #include <utility>
 #include <vector>
 
+#include "cli/opzioni.h"
 #include "sessione/sessione.h"
 
 namespace ombrelia::cli {
@@ -16,13 +17,12 @@ struct Campi {
     std::vector<std::string> caselle;
     std::string luogo, paese;
 
-    // Whether an option is one of these: --project FILE, --place NAME, --country XX, --set FIELD=TEXT, --check BOX. All take one
-    // argument.
-    [[nodiscard]] static bool Opzione(std::string_view opzione);
-    // Takes one of them. Gives an empty text or what is wrong with it.
-    [[nodiscard]] std::string Prendi(std::string_view opzione, const std::string &valore);
-    // Opens the project, sets the place, then gives fields and boxes in their order. Angles may be written as people do: the field gets
-    // a plain number. Empty, or what could not be done.
+    // Adds --project FILE, --place NAME, --country XX, --set FIELD=TEXT, --check BOX and --corrected. The rows keep what they take
+    // in this object.
+    void opzioni(Opzioni &o);
+    // Opens the project, sets the place, then gives fields and boxes in their order; from then on a run is of its fields. Angles
+    // may be written as people do, and a number may have a comma for its point: the field gets a plain number. Empty, or what could
+    // not be done: no number, one out of its field's range, and a double quote, which would cut the project there, are refused.
     [[nodiscard]] std::string Applica(Sessione &s) const;
 };
 

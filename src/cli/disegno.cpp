@@ -1,53 +1,78 @@
-// The options of a drawing.
+// Drawing a dial from options.
 #include "cli/disegno.h"
+
+#include <algorithm>
 
 #include "app/comandi.h"
 
 namespace ombrelia::cli {
 
-bool Numero(const std::string &testo, double &n) {
-    const std::size_t cifra = testo.find_first_of("0123456789");
-    const Valore v = Val(testo);
-    n = v.v;
-    return v.esiste() && cifra != std::string::npos && testo.find_first_not_of("+-.0123456789eE") == std::string::npos;
+namespace {
+
+constexpr double POLLICE = 25.4, UNITA_AL_POLLICE = 1440;
+
+struct NomeCarta {
+    std::string_view nome;
+    double larghezza, altezza;  // device units
+};
+constexpr NomeCarta CARTE[] = {{"a4", 11906, 16838}, {"a3", 16838, 23811}, {"letter", 12240, 15840}};
+
+std::string leggiMotore(const std::string &nome, std::string &motore) {
+    for (const char *m : {"auto", "direct", "vertical", "analytic"})
+        if (nome == m) return motore = nome, std::string();
+    return nome + ": it is auto, direct, vertical or analytic";
 }
 
+std::string leggiFoglio(const Valori &v, std::array<double, 4> &foglio) {
+    constexpr const char *NOMI[] = {"L", "H", "X", "Y"};
+    constexpr double LATO = Tavolo::LATO_MASSIMO;
+    for (std::size_t i = 0; i < 4; ++i)
+        if (const std::string e = LeggiNumero(v[i], i < 2 ? 0 : -LATO, LATO, foglio[i]); !e.empty())
+            return std::string(NOMI[i]) + " " + e;
+    return foglio[0] > 0 && foglio[1] > 0 ? std::string() : "is a sheet without an area: L and H are metres above 0";
+}
+
+}  // namespace
+
+std::string LeggiCarta(std::string_view testo, Carta &carta) {
+    for (const NomeCarta &c : CARTE)
+        if (UguaglianzaSenzaCaso(testo, c.nome)) return carta = {c.larghezza, c.altezza}, std::string();
+    const std::size_t per = std::min(testo.find_first_of("xX"), testo.size());
+    double l = 0, h = 0;
+    // From a card to the largest sheet.
+    constexpr double MINIMO = 50, MASSIMO = Tavolo::LATO_MASSIMO * 1000;
+    if (per < testo.size() && LeggiNumero(testo.substr(0, per), MINIMO, MASSIMO, l).empty() &&
+        LeggiNumero(testo.substr(per + 1), MINIMO, MASSIMO, h).empty())
+        return carta = {l / POLLICE * UNITA_AL_POLLICE, h / POLLICE * UNITA_AL_POLLICE}, std::string();
+    return std::string(testo) + ": it is a4, a3, letter, or WxH in millimetres from 50 up, as in 210x297";
+}
+
+void Disegno::opzioni(Opzioni &o) {
+    campi.opzioni(o);
+    o.righe.push_back({"--engine", 1, "an engine", [this](const Valori &v) { return leggiMotore(v[0], motore); }});
+    o.righe.push_back(
+        {"--sheet", 4, "four numbers: L H X Y", [this](const Valori &v) { return leggiFoglio(v, foglio.emplace()); }});
+    o.righe.push_back(
+        {"--paper", 1, "a4, a3, letter or WxH", [this](const Valori &v) { return LeggiCarta(v[0], carta.emplace()); }});
+}
+
+SessioneDiComando::SessioneDiComando(const Carta &carta) : s(console, carta.larghezza, carta.altezza) { app::Avvia(s); }
+
 bool Disegno::Prendi(int argc, char **argv, int &i, std::string &errore) {
-    const std::string a = argv[i];
-    if (!Campi::Opzione(a) && a != "--engine" && a != "--sheet") return false;
-    const int argomenti = a == "--sheet" ? 4 : 1;
-    if (i + argomenti >= argc) {
-        errore = a + " needs " + (argomenti == 4 ? "four numbers: L H X Y" : "an argument");
-        return true;
-    }
-    const std::string valore = argv[++i];
-    if (Campi::Opzione(a)) {
-        errore = campi.Prendi(a, valore);
-    } else if (a == "--engine") {
-        if (valore != "auto" && valore != "direct" && valore != "vertical" && valore != "analytic")
-            errore = "unknown engine " + valore + ": it is auto, direct, vertical or analytic";
-        motore = valore;
-    } else {
-        for (int k = 0; k < 4 && errore.empty(); ++k) {
-            double n = 0;
-            if (!Numero(argv[i + k], n)) errore = std::string("--sheet: no number: ") + argv[i + k];
-            foglio.push_back(n);
-        }
-        i += 3;
-    }
-    return true;
+    Opzioni o;
+    opzioni(o);
+    return o.prendi(argc, argv, i, date_, errore);
 }
 
 std::string Disegno::Applica(Sessione &s) const {
-    s.originaleFresco = true;
     if (std::string e = campi.Applica(s); !e.empty()) return e;
     if (motore == "vertical") s.in.CkUNI = 1;
     if (motore == "direct") s.in.CkUNI = 0;
-    if (foglio.size() == 4) {
-        s.tavolo.QuadranteL(foglio[0]);
-        s.tavolo.QuadranteH(foglio[1]);
-        s.tavolo.ShiftX(foglio[2]);
-        s.tavolo.ShiftY(foglio[3]);
+    if (foglio) {
+        s.tavolo.QuadranteL((*foglio)[0]);
+        s.tavolo.QuadranteH((*foglio)[1]);
+        s.tavolo.ShiftX((*foglio)[2]);
+        s.tavolo.ShiftY((*foglio)[3]);
     } else if (campi.progetto.empty() && !app::Adatta(s)) {
         return "the frame " + s.in.txtX0 + ".." + s.in.txtX1 + " by " + s.in.txtY1 + ".." + s.in.txtY0 +
                " fits no sheet: txtX0 < txtX1, txtY1 < txtY0, within 15 m";
@@ -56,17 +81,17 @@ std::string Disegno::Applica(Sessione &s) const {
 }
 
 std::string Disegno::Esegui(Sessione &s) const {
-    const std::string bottone = motore == "analytic" ? "cmdEqui" : "cmdRun";
-    if (motore == "vertical" && Val(s.in.txtInc) != 0)
-        return "txtInc reads " + s.in.txtInc + ": the vertical engine draws walls only";
-    if (motore == "analytic" && Val(s.in.txtInc) != 0)
+    const bool parete = Val(s.in.txtInc) == 0;
+    if (motore == "vertical" && !parete) return "txtInc reads " + s.in.txtInc + ": the vertical engine draws walls only";
+    if (motore == "analytic" && !parete)
         return "txtInc reads " + s.in.txtInc + ": the analytic engine draws walls only; use cmdTrasforma first";
+    const std::string_view bottone = motore == "analytic" ? "cmdEqui" : "cmdRun";
     const bool australe = Val(s.in.txtLAT) < 0;
-    const app::Esito esito = app::Premi(s, TrovaControllo(bottone));
-    if (esito == app::Esito::Disabilitato) return bottone + " is disabled: it works on walls only (txtInc must read 0)";
-    if (esito == app::Esito::Impossibile) return bottone + " can't take that";
+    const app::Esito e = app::Premi(s, TrovaControllo(bottone));
+    if (e == app::Esito::Disabilitato) return std::string(bottone) + " is disabled: it works on walls only (txtInc must read 0)";
+    if (!e) return e.motivo.empty() ? "the run was refused" : e.motivo;
     if (s.tavolo.lista().Ordine.empty()) return "nothing was drawn, and nothing is written";
-    // A southern dial is drawn as its mirror image; a user at the window would now press the same button.
+    // A user at the window would now press the same button.
     if (australe) s.tavolo.cmdInvX();
     return {};
 }

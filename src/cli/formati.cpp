@@ -30,12 +30,12 @@ constexpr auto png = pdf, bmp = pdf;
 #endif
 
 constexpr Formato FORMATI[] = {
-    {"dxf", "drawing for CAD and cutters, millimetres", [](Sessione &s, std::string &) { return DXF_Generate(s.tavolo); }},
+    {"dxf", "drawing for CAD and cutters, millimetres", [](Sessione &s, std::string &) { return DXF_Generate(s.tavolo); }, false},
     {"svg", "drawing at true scale, one group a layer", [](Sessione &s, std::string &) { return SVG_Generate(s.tavolo); }},
     {"txt", "the display list as text", [](Sessione &s, std::string &) { return ListaTesto(s.tavolo.lista()); }},
     {"pdf", "one page at true scale", pdf},
-    {"png", "picture at the sheet's scale, 150 dots an inch", png},
-    {"bmp", "the same picture without compression", bmp},
+    {"png", "picture at the sheet's scale, 150 dots an inch", png, true, true},
+    {"bmp", "the same picture without compression", bmp, true, true},
 };
 
 }  // namespace

@@ -14,6 +14,8 @@ struct Formato {
     std::string_view descrizione;
     // The whole file; errore tells why there is none.
     std::string (*scrivi)(Sessione &s, std::string &errore);
+    bool conTesti = true;   // else the form has no place for the drawing's texts
+    bool immagine = false;  // a picture, at the sheet's scale
 };
 
 [[nodiscard]] std::span<const Formato> Formati();

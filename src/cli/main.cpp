@@ -1,4 +1,10 @@
 // The program without a window: picks the command.
+#if defined(__unix__) || defined(__APPLE__)
+#include <fcntl.h>
+#define OMBRELIA_POSIX 1
+#endif
+
+#include <csignal>
 #include <cstdio>
 #include <new>
 #include <string>
@@ -49,15 +55,22 @@ bool apreFinestra(std::string_view primo, int argc, char **argv, int &esito) {
 
 bool chiedeAiuto(std::string_view a) { return a == "--help" || a == "-h" || a == "help"; }
 
-}  // namespace
-
-int main(int argc, char **argv) {
+// Runs the command that is asked for; gives the exit status.
+int esegui(int argc, char **argv) {
     const std::string_view primo = argc > 1 ? argv[1] : "";
-    if (primo == "--version") {
+    if (primo == "--version" || (primo == "gui" && argc > 2 && std::string_view(argv[2]) == "--version")) {
         std::puts("ombrelia " OMBRELIA_VERSIONE);
         return 0;
     }
+    const bool aiuto = argc > 2 && chiedeAiuto(argv[2]);
+    if (primo == "gui" && aiuto) {
+        std::fputs(ombrelia::cli::Aiuto(primo).c_str(), stdout);
+        return 0;
+    }
     if (int esito = 0; apreFinestra(primo, argc, argv, esito)) return esito;
+#ifdef OMBRELIA_POSIX
+    std::signal(SIGPIPE, SIG_IGN);  // a reader that goes away is lost output, which is told
+#endif
     if (primo.empty() || chiedeAiuto(primo)) {
         std::fputs(ombrelia::cli::Aiuto(argc > 2 ? argv[2] : "").c_str(), stdout);
         return primo.empty() ? 2 : 0;
@@ -78,4 +91,24 @@ int main(int argc, char **argv) {
     }
     std::fprintf(stderr, "ombrelia: unknown command %.*s; see ombrelia --help\n", static_cast<int>(primo.size()), primo.data());
     return 2;
+}
+
+// A stream that is not there is one that fails: no file opened later takes its place.
+void chiudiMancanti() {
+#ifdef OMBRELIA_POSIX
+    for (int fd = 0; fd < 3; ++fd)
+        if (::fcntl(fd, F_GETFD) < 0) ::open("/dev/null", fd == 0 ? O_WRONLY : O_RDONLY);
+#endif
+}
+
+}  // namespace
+
+int main(int argc, char **argv) {
+    chiudiMancanti();
+    const int esito = esegui(argc, argv);
+    // What was said and got lost was not said.
+    const bool persa = std::ferror(stdout) != 0;
+    if (std::fflush(stdout) == 0 && !persa) return esito;
+    std::fputs("ombrelia: standard output: not all could be written\n", stderr);
+    return esito == 0 ? 2 : esito;
 }

@@ -6,8 +6,7 @@
 #include <vector>
 
 #include "app/comandi.h"
-#include "cli/campi.h"
-#include "cli/console.h"
+#include "cli/disegno.h"
 #include "cli/formati.h"
 #include "reports/rapporti.h"
 
@@ -38,11 +37,6 @@ const std::vector<Voce> &voci() {
     return tutte;
 }
 
-int rifiuta(const std::string &motivo) {
-    std::fprintf(stderr, "ombrelia report: %s\n", motivo.c_str());
-    return 2;
-}
-
 struct Richiesta {
     const Voce *voce = nullptr;
     Campi campi;
@@ -51,31 +45,31 @@ struct Richiesta {
     bool stampa = false;
 };
 
+std::string scegli(const std::string &nome, Richiesta &r) {
+    if (r.voce) return "one report at a time: " + std::string(r.voce->nome) + " or " + nome;
+    for (const Voce &v : voci())
+        if (v.nome == nome) r.voce = &v;
+    return r.voce ? std::string() : "unknown report " + nome + "; they are:\n" + NomiRapporti();
+}
+
+struct Forma {
+    std::string_view opzione;
+    std::string (*scrivi)(const Rapporto &);
+};
+constexpr Forma FORME[] = {{"--text", reports::RapportoTesto}, {"--csv", reports::RapportoCsv}, {"--html", reports::RapportoHtml}};
+
 std::string leggi(int argc, char **argv, Richiesta &r) {
-    for (int i = 0; i < argc; ++i) {
-        const std::string a = argv[i];
-        if (a == "--text") {
-            r.forma = reports::RapportoTesto;
-        } else if (a == "--csv") {
-            r.forma = reports::RapportoCsv;
-        } else if (a == "--html") {
-            r.forma = reports::RapportoHtml;
-        } else if (a == "--print") {
-            r.stampa = true;
-        } else if (Campi::Opzione(a) || a == "-o" || a == "--out") {
-            if (++i >= argc) return a + " needs an argument";
-            if (!Campi::Opzione(a)) r.uscita = argv[i];
-            else if (std::string e = r.campi.Prendi(a, argv[i]); !e.empty()) return e;
-        } else if (a.starts_with("-") && a != "-") {
-            return "unknown option " + a + "; see ombrelia report --help";
-        } else if (r.voce) {
-            return "one report at a time: " + std::string(r.voce->nome) + " or " + a;
-        } else {
-            for (const Voce &v : voci())
-                if (v.nome == a) r.voce = &v;
-            if (!r.voce) return "unknown report " + a + "; they are:\n" + NomiRapporti();
-        }
-    }
+    Opzioni o{.comando = "report", .righe = {}, .parola = [&r](const std::string &p) { return scegli(p, r); }};
+    r.campi.opzioni(o);
+    for (const Forma &f : FORME)
+        o.righe.push_back({f.opzione, 0, {}, [&r, &f](const Valori &) {
+                               r.forma = f.scrivi;
+                               return std::string();
+                           }});
+    o.righe.push_back(Bandiera("--print", r.stampa));
+    o.righe.push_back(Testo("-o", "a file", r.uscita));
+    o.righe.push_back(Testo("--out", "a file", r.uscita));
+    if (std::string e = o.leggi(argc, argv); !e.empty()) return e;
     return r.voce ? std::string() : "no report named; they are:\n" + NomiRapporti();
 }
 
@@ -102,11 +96,11 @@ std::string NomiRapporti() {
 }
 
 int Report(int argc, char **argv) {
+    const auto rifiuta = [](const std::string &motivo) { return Rifiuta("report", motivo); };
     Richiesta r;
     if (const std::string e = leggi(argc, argv, r); !e.empty()) return rifiuta(e);
-    Console console(stderr);
-    Sessione s(console);
-    app::Avvia(s);
+    SessioneDiComando comando;
+    Sessione &s = comando.s;
     if (const std::string e = r.campi.Applica(s); !e.empty()) return rifiuta(e);
     if (r.voce->ckFunzione >= 0) s.in.ckFunzione = r.voce->ckFunzione;
     for (const std::string_view nome : r.voce->premi)

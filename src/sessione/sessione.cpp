@@ -5,7 +5,8 @@
 
 namespace ombrelia {
 
-Sessione::Sessione(Utente &chi) : in(InputsIniziali()), utente(chi) {
+Sessione::Sessione(Utente &chi, double larghezzaPagina, double altezzaPagina)
+    : in(InputsIniziali()), tavolo(larghezzaPagina, altezzaPagina), utente(chi) {
     const auto tavola = TavolaControlli();
     stati.resize(tavola.size());
     for (std::size_t i = 0; i < tavola.size(); ++i) {

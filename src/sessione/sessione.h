@@ -31,7 +31,8 @@ struct StatoControllo {
 };
 
 struct Sessione {
-    explicit Sessione(Utente &chi);
+    // The page of the tiles, in device units: A4 upright where nobody knows better.
+    explicit Sessione(Utente &chi, double larghezzaPagina = 11906, double altezzaPagina = 16838);
     Sessione(const Sessione &) = delete;
     Sessione &operator=(const Sessione &) = delete;
 

@@ -38,7 +38,7 @@ std::string Scritto(std::string_view campo) {
             t += static_cast<char>(std::stoi(std::string(campo.substr(i + 1, 2)), nullptr, 16));
             i += 2;
         } else {
-            constexpr std::string_view DOPO = "rntsp", SONO = "\r\n\t |";
+            constexpr std::string_view DOPO = "rntsp\\", SONO = "\r\n\t |\\";
             t += SONO.at(DOPO.find(campo[i]));
         }
     }

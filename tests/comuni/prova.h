@@ -90,7 +90,7 @@ public:
 std::vector<std::vector<std::string>> Tabella(std::string_view nome);
 // What a field lists; an empty field lists nothing.
 std::vector<std::string> Divisi(std::string_view testo, char con);
-// A field of a table with its escapes undone: \r, \n, \t, \s for a blank, \p for a bar, \xHH for a byte.
+// A field of a table with its escapes undone: \r, \n, \t, \s for a blank, \p for a bar, \\, \xHH for a byte.
 std::string Scritto(std::string_view campo);
 
 }  // namespace ombrelia::prova

@@ -86,7 +86,7 @@ std::string Campi::Applica(Sessione &s) const {
         const IdControllo id = TrovaControllo(nome);
         if (id == NESSUN_CONTROLLO) return "unknown field " + nome;
         if (const std::string e = leggiCampo(TavolaControlli()[static_cast<std::size_t>(id)], testo); !e.empty())
-            return "--set " + nome + "=" + e;
+            return "--set " + nome + ": " + e;
         if (std::string e = motivo(app::Imposta(s, id, testo), nome); !e.empty()) return e;
     }
     for (const std::string &nome : caselle) {

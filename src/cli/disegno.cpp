@@ -28,7 +28,7 @@ std::string leggiFoglio(const Valori &v, std::array<double, 4> &foglio) {
     constexpr double LATO = Tavolo::LATO_MASSIMO;
     for (std::size_t i = 0; i < 4; ++i)
         if (const std::string e = LeggiNumero(v[i], i < 2 ? 0 : -LATO, LATO, foglio[i]); !e.empty())
-            return std::string(NOMI[i]) + " " + e;
+            return std::string(NOMI[i]) + ": " + e;
     return foglio[0] > 0 && foglio[1] > 0 ? std::string() : "is a sheet without an area: L and H are metres above 0";
 }
 

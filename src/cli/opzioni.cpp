@@ -67,11 +67,11 @@ std::string LeggiNumero(std::string_view testo, double da, double a, double &num
         if (k < t.size() && (t[k] == '+' || t[k] == '-')) ++k;
         forma = (t[i] == 'e' || t[i] == 'E') && k < t.size() && t.find_first_not_of("0123456789", k) == std::string::npos;
     }
-    if (!forma) return "is no number: " + std::string(testo);
+    if (!forma) return std::string(testo) + " is no number";
     const Valore v = Val(t);
     if (!(v >= da && v <= a)) {
-        const std::string fuori = "is out of range: " + std::string(testo);
-        return v.esiste() ? fuori + " is not within " + TestoNumero(da) + ".." + TestoNumero(a) : fuori;
+        const std::string fuori = std::string(testo) + " is out of range";
+        return v.esiste() ? fuori + ": it goes from " + TestoNumero(da) + " to " + TestoNumero(a) : fuori;
     }
     numero = v.v;
     return {};

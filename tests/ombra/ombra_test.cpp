@@ -9,7 +9,7 @@
 
 #include "comuni/prova.h"
 #include "ombra/sole.h"
-#include "sessione/proiezione.h"
+#include "gnomonica/proiezione.h"
 
 namespace ombrelia::ombra {
 namespace {

@@ -145,6 +145,8 @@ constexpr Controllo RIGHE_PRINCIPALE[] = {
     Nostro(Etichetta("lblMeridiano", "Meridiano del fuso O +, E -")),
     Nostro(Testo("txtMeridiano", &In::txtMeridiano, "-15", "longitudine del meridiano dell'ora civile: -15 per l'Europa centrale", Filtro::Tasti)),
     Nostro(Casella("ckCorretta", &In::ckCorretta, "Geometria corretta", "traccia le linee vere, punto per punto, dal modello dell'ombra")),
+    Nostro(Etichetta("lblAnno", "Anno")),
+    Nostro(Testo("txtAnno", &In::txtAnno, "", "anno del Sole che la lemniscata vera segue; vuoto: l'anno in corso", Filtro::Tasti)),
     Nostro(Casella("ckEtichette", &In::ckEtichette, "Etichette", "scrive su ogni linea il suo numero, la data o i gradi")),
 
     // The window's own furniture.

@@ -20,6 +20,8 @@ struct DialInputs {
     std::string txtWest, txtEAST, Filtertxt;
     // The zone's meridian, degrees West positive.
     std::string txtMeridiano;
+    // The year whose Sun the true analemma follows; empty: the present one.
+    std::string txtAnno;
 
     int ck_Etna = 0, ChCentimetro = 0, CkUNI = 0, ckFunzione = 0;
     int chkOreAstronomiche = 0, Ck_DayLightCurves = 0, ck_Equinoziale = 0, ck_Italiche = 0, ck_babiloniche = 0, ckTemp = 0;

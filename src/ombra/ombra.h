@@ -89,6 +89,9 @@ public:
     [[nodiscard]] const Vettore &normale() const { return n_; }
     [[nodiscard]] const Vettore &zenit() const { return zenit_; }
     [[nodiscard]] const Vettore &sud() const { return sud_; }
+    // Axes of the plane, to the right and upward as one faces it.
+    [[nodiscard]] const Vettore &destra() const { return x_; }
+    [[nodiscard]] const Vettore &alto() const { return y_; }
 
 private:
     Quadrante q_;

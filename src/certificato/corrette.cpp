@@ -1,0 +1,391 @@
+// Each kind of line as a path of the Sun.
+#include "certificato/corrette.h"
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+
+#include "certificato/vero.h"
+#include "core/angoli.h"
+#include "gnomonica/declinazioni.h"
+#include "ombra/sole.h"
+
+namespace ombrelia {
+
+using ombra::Punto;
+using ombra::Vettore;
+
+namespace {
+
+constexpr double RAD = ombra::RADIANTI, MEZZO_GIRO = std::numbers::pi, ORA = 15 * RAD;
+constexpr double SOLSTIZIO = OBLIQUITA * RAD;
+// The Sun of a line on the horizon itself stands a tenth of a second of arc above it.
+constexpr double ORLO = 5e-7;
+
+double numero(const std::string &testo) {
+    const Valore v = Val(testo);
+    return v.esiste() ? v.v : 0;
+}
+
+// What one feature is drawn with.
+struct Disegno {
+    Sessione &s;
+    const Attesa &attesa;
+    Scena scena;
+    bool fuso;    // hours are the zone's
+    bool punti;   // the engine would draw dots
+
+    [[nodiscard]] Tratto tratto(const LineaAttesa &l) const { return {l.colore, l.strato, punti}; }
+    void percorso(const LineaAttesa &l, Specie specie, double valore, const Percorso &p, double da, double a, int passi, bool annua) const {
+        const Pretendi pretendi(s.tavolo, specie, valore);
+        Traccia(s.tavolo, scena, p, da, a, passi, tratto(l), annua);
+    }
+    // Along the year at an hour angle that follows the declination; none where there is none.
+    template <typename Angolo>
+    void lungoLAnno(const LineaAttesa &l, Specie specie, double valore, Angolo angolo) const {
+        percorso(l, specie, valore, [&angolo](double delta) -> std::optional<Vettore> {
+            const std::optional<double> t = angolo(delta);
+            if (!t) return {};
+            return ombra::Piano::sole(*t, delta);
+        }, -SOLSTIZIO, SOLSTIZIO, 48, false);
+    }
+    // Along a vertical circle, by altitude.
+    void lungoIlVerticale(const LineaAttesa &l, Specie specie, double valore, double azimut) const {
+        const ombra::Piano &piano = scena.piano();
+        const Vettore verso = std::cos(azimut) * piano.sud() + std::sin(azimut) * Vettore{0, 1, 0};
+        percorso(l, specie, valore, [&](double h) -> std::optional<Vettore> { return std::cos(h) * verso + std::sin(h) * piano.zenit(); },
+                 0, MEZZO_GIRO / 2, 48, true);
+    }
+};
+
+// --- hours -----------------------------------------------------------------------------------------------------------
+
+void ore(const Disegno &d) {
+    std::vector<double> fatte;
+    for (const LineaAttesa &l : d.attesa.linee) {
+        // Quarters and halves come after the hours and run over them; so does midnight seen from its other side.
+        const double ora = std::fmod(l.valore + 24, 24);
+        const auto stessa = [&](double f) { return std::fabs(f - ora) < 1e-9; };
+        if (std::any_of(fatte.begin(), fatte.end(), stessa)) continue;
+        fatte.push_back(ora);
+        const double t = d.scena.angolo(ora, d.fuso);
+        d.lungoLAnno(l, Specie::Ora, l.valore, [t](double) -> std::optional<double> { return t; });
+    }
+}
+
+std::optional<double> daTramonto(double latitudine, double delta, double ore) {
+    const auto h0 = ombra::semiarco(latitudine, delta);
+    if (!h0 || !(*h0 > 2 * ORLO) || ore < -1e-9 || ore * ORA > 2 * *h0 + 1e-9) return {};
+    return std::clamp(*h0 - ore * ORA, -*h0 + ORLO, *h0 - ORLO);
+}
+
+void stagionale(const Disegno &d, const LineaAttesa &l, double k) {
+    const double lat = d.scena.latitudine();
+    switch (d.attesa.specie) {
+        case Specie::Italica:
+            d.lungoLAnno(l, Specie::Italica, k, [=](double delta) { return daTramonto(lat, delta, 24 - k); });
+            break;
+        case Specie::Babilonica:
+            d.lungoLAnno(l, Specie::Babilonica, k, [=](double delta) -> std::optional<double> {
+                const auto t = daTramonto(lat, delta, k);
+                return t ? std::optional(-*t) : t;
+            });
+            break;
+        default:
+            d.lungoLAnno(l, Specie::Temporaria, k, [=](double delta) -> std::optional<double> {
+                const auto h0 = ombra::semiarco(lat, delta);
+                if (!h0 || !(*h0 > 2 * ORLO)) return {};
+                return std::clamp(*h0 * (k / 6 - 1), -*h0 + ORLO, *h0 - ORLO);
+            });
+    }
+}
+
+// The hours that the longest day has beyond those an engine draws, unless the user chose his own first and last hour.
+std::vector<double> oreMancanti(const Disegno &d) {
+    const bool italiche = d.attesa.specie == Specie::Italica;
+    const DialInputs &in = d.s.in;
+    const bool scelte = d.attesa.motore == Motore::Diretta &&
+                        (numero(in.TxtInizio) != (italiche ? 13 : 0) || numero(in.TxtFine) != (italiche ? 24 : 12));
+    const auto &linee = d.attesa.linee;
+    std::vector<double> mancanti;
+    if (scelte || linee.size() < 2) return mancanti;
+    const double passo = linee[1].valore - linee[0].valore;
+    const double lunghezza = 2 * d.scena.semiarcoMassimo() / ORA;
+    if (!(passo > 1e-3)) return mancanti;
+    if (italiche)
+        for (double k = linee.front().valore - passo; k >= 24 - lunghezza - 1e-9; k -= passo) mancanti.push_back(k);
+    else
+        for (double k = linee.back().valore + passo; k <= lunghezza + 1e-9; k += passo) mancanti.push_back(k);
+    return mancanti;
+}
+
+void giorno(const Disegno &d, const LineaAttesa &l, Specie specie, double gradi) {
+    const double delta = gradi * RAD;
+    if (std::fabs(gradi) > OBLIQUITA + 0.005) return;  // no Sun there
+    d.percorso(l, specie, gradi, [delta](double t) -> std::optional<Vettore> { return ombra::Piano::sole(t, delta); }, -MEZZO_GIRO,
+               MEZZO_GIRO, 96, false);
+}
+
+void stagionali(const Disegno &d) {
+    for (const LineaAttesa &l : d.attesa.linee) stagionale(d, l, l.valore);
+    if (d.attesa.specie == Specie::Temporaria || d.attesa.linee.empty()) return;
+    for (const double k : oreMancanti(d)) stagionale(d, d.attesa.linee.front(), k);
+}
+
+// --- days ------------------------------------------------------------------------------------------------------------
+
+void giorni(const Disegno &d) {
+    std::vector<double> fatti;
+    const DialInputs &in = d.s.in;
+    if (d.attesa.specie == Specie::Diurna && in.ck_Equinoziale == 1) fatti.push_back(0);
+    for (const LineaAttesa &l : d.attesa.linee) {
+        // A southern run of the direct engine would draw each on the layer of the opposite one, but for the chosen day.
+        const bool opposta = d.attesa.motore == Motore::Diretta && d.scena.posa().australe && l.strato.starts_with("delta ");
+        const double gradi = opposta ? -l.valore : l.valore;
+        const auto stesso = [&](double f) { return std::fabs(f - gradi) < 0.002; };
+        if (std::any_of(fatti.begin(), fatti.end(), stesso)) continue;
+        fatti.push_back(gradi);
+        giorno(d, l, gradi == 0 ? Specie::Equinoziale : Specie::Diurna, gradi);
+    }
+}
+
+// --- altitudes, azimuths, prayer -------------------------------------------------------------------------------------
+
+void almucantarat(const Disegno &d) {
+    const ombra::Piano &piano = d.scena.piano();
+    std::vector<double> fatte;
+    for (const LineaAttesa &l : d.attesa.linee) {
+        if (std::find(fatte.begin(), fatte.end(), l.valore) != fatte.end()) continue;  // morning and afternoon are one
+        fatte.push_back(l.valore);
+        const double h = l.valore * RAD;
+        d.percorso(l, Specie::Almucantarat, l.valore, [&piano, h](double a) -> std::optional<Vettore> {
+            return std::sin(h) * piano.zenit() + std::cos(h) * (std::cos(a) * piano.sud() + std::sin(a) * Vettore{0, 1, 0});
+        }, -MEZZO_GIRO, MEZZO_GIRO, 96, true);
+    }
+}
+
+void asr(const Disegno &d, const LineaAttesa &l) {
+    const double lat = d.scena.latitudine();
+    d.lungoLAnno(l, Specie::Asr, 1, [lat](double delta) -> std::optional<double> {
+        const double distanza = std::fabs(lat - delta);
+        if (!(distanza < MEZZO_GIRO / 2)) return {};
+        const double h = std::atan2(1, 1 + std::tan(distanza));
+        const double c = (std::sin(h) - std::sin(lat) * std::sin(delta)) / (std::cos(lat) * std::cos(delta));
+        if (!(std::fabs(c) <= 1)) return {};
+        return std::acos(c);
+    });
+}
+
+// Bearing of a place from another, radians from South, West positive: the great circle's.
+double rilevamento(double lat, double lon, double latMeta, double lonMeta) {
+    const double l = lon - lonMeta;  // eastward
+    return std::atan2(-std::sin(l) * std::cos(latMeta), std::sin(lat) * std::cos(latMeta) * std::cos(l) - std::cos(lat) * std::sin(latMeta));
+}
+
+void qibla(const Disegno &d) {
+    const Posa &p = d.scena.posa();
+    const double q = rilevamento(p.quadrante.latitudine, p.longitudine, numero(d.s.in.txtQlat) * RAD, numero(d.s.in.txtQlon) * RAD);
+    if (d.attesa.rilevamento) *d.attesa.rilevamento = q * ombra::GRADI;
+    if (d.attesa.linee.empty()) return;
+    d.lungoIlVerticale(d.attesa.linee.back(), Specie::Qibla, 0, q);
+}
+
+// --- mean time -------------------------------------------------------------------------------------------------------
+
+// The Sun at the same hour of mean time in the zone, through the days of a year.
+class TempoMedio {
+public:
+    TempoMedio(const Disegno &d, double ora)
+        : longitudine_(d.scena.posa().longitudine), ora_(ora) {
+        int anno = static_cast<int>(numero(d.s.in.txtAnno));
+        if (anno < 1 || anno > 9999) anno = d.s.rapporti.orologio().tm_year + 1900;
+        inizio_ = ombra::giornoGiuliano({anno, 1, 1}) + (ora - d.scena.posa().fuso()) / 24;
+        fuso_ = d.scena.posa().meridiano;
+    }
+    // Days from the year's first; hour angle and declination.
+    [[nodiscard]] std::pair<double, double> sole(double giorno) const {
+        const ombra::Sole sole = ombra::soleDi(inizio_ + giorno);
+        return {(ora_ - 12) * ORA + sole.equazione / 4 * RAD - (longitudine_ - fuso_), sole.delta};
+    }
+
+private:
+    double longitudine_, ora_, inizio_ = 0, fuso_ = 0;
+};
+constexpr double GIORNI_DELL_ANNO = 365.2422;
+
+void lemniscata(const Disegno &d) {
+    for (const LineaAttesa &l : d.attesa.linee) {
+        const TempoMedio medio(d, l.valore);
+        d.percorso(l, Specie::Analemma, l.valore, [&medio](double giorno) -> std::optional<Vettore> {
+            const auto [t, delta] = medio.sole(giorno);
+            return ombra::Piano::sole(t, delta);
+        }, 0, GIORNI_DELL_ANNO, 122, false);
+    }
+}
+
+// --- figures ---------------------------------------------------------------------------------------------------------
+
+// Hour angle of the plane's own meridian: where the style's shadow falls on the substyle.
+std::optional<double> oraSustilare(const ombra::Piano &piano) {
+    const Vettore &n = piano.normale();
+    if (std::hypot(n.m, n.w) < 1e-9) return {};  // the style stands square to the plane
+    return std::atan2(n.w, n.m);
+}
+
+void mezzogiorno(const Disegno &d) {
+    const bool traLeOre = d.s.in.chkOreAstronomiche == 1 && (!d.fuso || d.scena.posa().longitudine == d.scena.posa().meridiano);
+    if (traLeOre) return;
+    for (const LineaAttesa &l : d.attesa.linee)
+        d.lungoLAnno(l, Specie::Mezzogiorno, 0, [](double) -> std::optional<double> { return 0; });
+}
+
+void sustilare(const Disegno &d) {
+    const auto t = oraSustilare(d.scena.piano());
+    if (!t) return;
+    for (const LineaAttesa &l : d.attesa.linee) d.lungoLAnno(l, d.attesa.specie, 0, [&](double) { return t; });
+}
+
+void orizzonte(const Disegno &d) {
+    const ombra::Retta r = d.scena.piano().orizzonte();
+    if ((r.a == 0 && r.b == 0) || d.attesa.linee.empty()) return;
+    const LineaAttesa &l = d.attesa.linee.front();
+    const double lunga = std::hypot(d.scena.xMax - d.scena.xMin, d.scena.yMax - d.scena.yMin) + std::hypot(d.scena.xMin, d.scena.yMin) + std::fabs(r.c);
+    const Punto a{r.a * r.c - r.b * lunga, r.b * r.c + r.a * lunga}, b{r.a * r.c + r.b * lunga, r.b * r.c - r.a * lunga};
+    const Pretendi pretendi(d.s.tavolo, Specie::Orizzonte);
+    TracciaSegmento(d.s.tavolo, d.scena, d.scena.nellaLista(a), d.scena.nellaLista(b), d.tratto(l));
+}
+
+// Where an angle of a label stands: on the summer solstice of the site, in front of the plane and by day.
+void etichette(const Disegno &d) {
+    const double lat = d.scena.latitudine(), delta = SOLSTIZIO;
+    const auto h0 = ombra::semiarco(lat, delta);
+    if (!h0) return;
+    const Colore prima = d.s.tavolo.ForeColor;
+    for (const LineaAttesa &l : d.attesa.linee) {
+        const double k = l.valore;
+        const double t = d.attesa.di == Specie::Italica ? *h0 - (24 - k) * ORA : d.attesa.di == Specie::Babilonica ? k * ORA - *h0 : *h0 * (k / 6 - 1);
+        const Vettore sole = ombra::Piano::sole(std::clamp(t, -*h0 + ORLO, *h0 - ORLO), delta);
+        if (std::fabs(t) > *h0 + ORLO || !d.scena.visibile(sole)) continue;
+        const auto p = d.scena.punto(sole);
+        if (!p) continue;
+        d.s.tavolo.ForeColor = l.colore;
+        d.s.tavolo.Dati(l.strato, p->x, -p->y);
+    }
+    d.s.tavolo.ForeColor = prima;
+}
+
+// The triangle of gnomon, substyle and polar style, folded into the plane about the substyle: the gnomon square to it.
+// Lines: style, gnomon, substyle where the engine has it.
+void triangolo(const Disegno &d) {
+    constexpr double LONTANO = 100;  // metres: a centre beyond is not drawn
+    const ombra::Piano &piano = d.scena.piano();
+    const double g = d.scena.posa().quadrante.gnomone;
+    const double px = piano.destra().p, py = piano.alto().p, l = std::hypot(px, py);
+    // To the right of the foot as drawn; straight to the right where the style stands square to the plane.
+    Punto punta = d.scena.nellaLista(l > 1e-12 ? Punto{-py / l * g, px / l * g} : Punto{g, 0});
+    if (punta.x < 0) punta = {-punta.x, -punta.y};
+    Tavolo &t = d.s.tavolo;
+    const auto &linee = d.attesa.linee;
+    const Pretendi pretendi(t, Specie::Stilo);
+    const auto segmento = [&](std::size_t i, const Punto &a, const Punto &b) {
+        if (i < linee.size()) TracciaSegmento(t, d.scena, a, b, {linee[i].colore, linee[i].strato}, true);
+    };
+    const auto c = piano.centro();
+    const bool vicino = c && std::hypot(c->x, c->y) < LONTANO;
+    const Punto centro = vicino ? d.scena.nellaLista(*c) : Punto{}, piede;
+    if (d.attesa.motore == Motore::Diretta) {
+        if (vicino) t.xPset(centro.x, -centro.y, QB(12));
+        t.xPset(punta.x, -punta.y, QB(12));
+    } else {
+        t.xPset(0, 0, QB(15));
+    }
+    if (vicino) segmento(0, punta, centro);
+    segmento(1, punta, piede);
+    if (vicino && l > 1e-12) segmento(2, centro, piede);
+}
+
+// The stretch of a day line between the two branches of the analemma.
+void tacche(const Disegno &d) {
+    for (const LineaAttesa &l : d.attesa.linee) {
+        if (l.valore == 0 && d.s.in.ck_Equinoziale == 1) continue;
+        const double delta = l.valore * RAD;
+        const TempoMedio medio(d, 12);
+        std::vector<double> angoli;
+        auto prima = medio.sole(0);
+        for (int i = 1; i <= 366; ++i) {
+            const auto ora = medio.sole(i);
+            if ((prima.second < delta) != (ora.second < delta)) {
+                const double k = (delta - prima.second) / (ora.second - prima.second);
+                angoli.push_back(prima.first + k * (ora.first - prima.first));
+            }
+            prima = ora;
+        }
+        if (angoli.size() < 2) continue;
+        d.percorso(l, l.valore == 0 ? Specie::Equinoziale : Specie::Diurna, l.valore,
+                   [delta](double t) -> std::optional<Vettore> { return ombra::Piano::sole(t, delta); }, std::min(angoli[0], angoli[1]),
+                   std::max(angoli[0], angoli[1]), 8, false);
+    }
+}
+
+// Which features the engines draw as dots.
+bool aPunti(const Sessione &s, const Attesa &a) {
+    switch (a.specie) {
+        case Specie::Almucantarat:
+        case Specie::Azimut:
+        case Specie::Asr:
+            return true;
+        case Specie::Qibla:
+            return a.motore != Motore::Diretta || std::fabs(numero(s.in.txtInc)) != 90;
+        case Specie::OraSustilare:
+            return a.motore == Motore::Verticale;
+        case Specie::Equinoziale:
+            return a.motore == Motore::Analitica || (a.motore == Motore::Verticale && numero(s.in.txtDec) == 0);
+        case Specie::Diurna:
+        case Specie::Italica:
+        case Specie::Babilonica:
+        case Specie::Analemma:
+        case Specie::Sustilare:
+            return a.motore == Motore::Analitica;
+        default:
+            return false;
+    }
+}
+
+}  // namespace
+
+bool TracciaVera(Sessione &s, const Attesa &attesa) {
+    const Disegno d{s, attesa, Scena(s), s.in.ck_Etna == 1, aPunti(s, attesa)};
+    if (attesa.specie == Specie::Qibla) {
+        qibla(d);
+        return true;
+    }
+    if (attesa.specie == Specie::Nessuna || (attesa.specie == Specie::Etichetta && attesa.di == Specie::Ora)) return false;
+    if (attesa.specie == Specie::Stilo && attesa.motore == Motore::Verticale) return false;  // true as it is
+    if (!d.scena.esiste()) return true;
+    switch (attesa.specie) {
+        case Specie::Ora: ore(d); break;
+        case Specie::Diurna: attesa.di == Specie::Analemma ? tacche(d) : giorni(d); break;
+        case Specie::Equinoziale: giorni(d); break;
+        case Specie::Italica:
+        case Specie::Babilonica:
+        case Specie::Temporaria: stagionali(d); break;
+        case Specie::Almucantarat: almucantarat(d); break;
+        case Specie::Azimut:
+            for (const LineaAttesa &l : attesa.linee) d.lungoIlVerticale(l, Specie::Azimut, l.valore, l.valore * RAD);
+            break;
+        case Specie::Asr:
+            if (!attesa.linee.empty()) asr(d, attesa.linee.front());
+            break;
+        case Specie::Analemma: lemniscata(d); break;
+        case Specie::Mezzogiorno: mezzogiorno(d); break;
+        case Specie::OraSustilare:
+        case Specie::Sustilare: sustilare(d); break;
+        case Specie::Orizzonte: orizzonte(d); break;
+        case Specie::Stilo: triangolo(d); break;
+        case Specie::Etichetta: etichette(d); break;
+        default: return false;
+    }
+    return true;
+}
+
+}  // namespace ombrelia

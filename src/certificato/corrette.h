@@ -1,0 +1,13 @@
+// The true lines that stand in for an engine's own where "Geometria corretta" is on.
+#pragma once
+
+#include "sessione/correzione.h"
+#include "sessione/sessione.h"
+
+namespace ombrelia {
+
+// Draws the true lines of a feature on the layers and in the colours that the engine would use, from the shadow by
+// vectors alone. False for a feature that is left to the engine.
+bool TracciaVera(Sessione &s, const Attesa &attesa);
+
+}  // namespace ombrelia

@@ -7,7 +7,6 @@
 
 #include "certificato/vero.h"
 #include "core/angoli.h"
-#include "gnomonica/declinazioni.h"
 #include "ombra/sole.h"
 
 namespace ombrelia {
@@ -18,7 +17,7 @@ using ombra::Vettore;
 namespace {
 
 constexpr double RAD = ombra::RADIANTI, MEZZO_GIRO = std::numbers::pi, ORA = 15 * RAD;
-constexpr double SOLSTIZIO = OBLIQUITA * RAD;
+constexpr double SOLSTIZIO = SOLSTIZIO_GRADI * RAD;
 // The Sun of a line on the horizon itself stands a tenth of a second of arc above it.
 constexpr double ORLO = 5e-7;
 
@@ -121,7 +120,7 @@ std::vector<double> oreMancanti(const Disegno &d) {
 
 void giorno(const Disegno &d, const LineaAttesa &l, Specie specie, double gradi) {
     const double delta = gradi * RAD;
-    if (std::fabs(gradi) > OBLIQUITA + 0.005) return;  // no Sun there
+    if (std::fabs(gradi) > SOLSTIZIO_GRADI + 0.005) return;  // no Sun there
     d.percorso(l, specie, gradi, [delta](double t) -> std::optional<Vettore> { return ombra::Piano::sole(t, delta); }, -MEZZO_GIRO,
                MEZZO_GIRO, 96, false);
 }

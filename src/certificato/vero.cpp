@@ -5,7 +5,6 @@
 #include <cmath>
 
 #include "core/angoli.h"
-#include "gnomonica/declinazioni.h"
 
 namespace ombrelia {
 
@@ -46,7 +45,7 @@ double Scena::angolo(double ora, bool fuso) const {
 }
 
 double Scena::semiarcoMassimo() const {
-    const double delta = std::copysign(OBLIQUITA * ombra::RADIANTI, latitudine());
+    const double delta = std::copysign(SOLSTIZIO_GRADI * ombra::RADIANTI, latitudine());
     return ombra::semiarco(latitudine(), delta).value_or(ombra::GRADI * ombra::RADIANTI * std::numbers::pi);
 }
 
@@ -60,7 +59,7 @@ namespace {
 
 // The sine of a Sun against a face; not below 0 where it is visible.
 double seno(const Scena &scena, std::size_t faccia, const Vettore &s) {
-    static const double SEN_MAX = std::sin(OBLIQUITA * ombra::RADIANTI);
+    static const double SEN_MAX = std::sin(SOLSTIZIO_GRADI * ombra::RADIANTI);
     const double q = scena.facce()[faccia] * s;
     return faccia < 2 ? q - MARGINE : faccia < 6 ? q : q + SEN_MAX;
 }

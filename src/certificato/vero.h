@@ -14,6 +14,9 @@
 
 namespace ombrelia {
 
+// The Sun's greatest declination as this program's dials draw it, degrees.
+inline constexpr double SOLSTIZIO_GRADI = 23.445;
+
 // Where a shadow may fall and be drawn: by day, before the plane, inside the frame. Its frame is the list's with y upward:
 // metres, x turned round for a southern dial.
 class Scena {

@@ -7,6 +7,7 @@
 #include "app/azioni.h"
 #include "app/lingua.h"
 #include "app/parametri_default.h"
+#include "certificato/corrette.h"
 
 namespace ombrelia::app {
 
@@ -62,6 +63,7 @@ void scegliOpzione(Sessione &s, IdControllo id) {
 }  // namespace
 
 void Avvia(Sessione &s) {
+    s.suCorretta = TracciaVera;
     s.suCambio = [](Sessione &qui, std::string DialInputs::*campo) {
         const IdControllo id = rigaDi(campo);
         if (id != NESSUN_CONTROLLO) avvisa(qui, id, Evento::Cambio);

@@ -241,16 +241,12 @@ void Traccia(Tavolo &t, const Scena &scena, const Percorso &percorso, double da,
     };
     Passata passata(t, scena, percorso, tratto);
     // Neighbouring visible stretches are one.
-    std::optional<double> aperto;
-    for (std::size_t i = 0; i + 1 < tagli.size(); ++i) {
-        const bool si = tagli[i] < tagli[i + 1] && visibile((tagli[i] + tagli[i + 1]) / 2);
-        if (si && !aperto) aperto = tagli[i];
-        if (!si && aperto && tagli[i] < tagli[i + 1]) {
-            passata.traccia(*aperto, tagli[i]);
-            aperto.reset();
-        }
+    for (std::size_t i = 0; i + 1 < tagli.size();) {
+        std::size_t j = i;
+        while (j + 1 < tagli.size() && (tagli[j] == tagli[j + 1] || visibile((tagli[j] + tagli[j + 1]) / 2))) ++j;
+        if (tagli[i] < tagli[j]) passata.traccia(tagli[i], tagli[j]);
+        i = j + 1;
     }
-    if (aperto) passata.traccia(*aperto, a);
 }
 
 void TracciaSegmento(Tavolo &t, const Scena &scena, Punto a, Punto b, const Tratto &tratto, bool intero) {

@@ -142,7 +142,7 @@ constexpr Riga ORIZZONTE_DI_NUOVO[] = {
 // Behind the frame; the lines appear once a request.
 constexpr Riga ULTIME[] = {
     {&In::ckAz, Specie::Azimut, "equal azimuths", LineeAzimutali, TracciaRetteAzimutali,
-     [](const Corsa &c) { return c.s.v.latR != 0; }, [](Corsa &c) { c.s.in.ckAz = 0; }},
+     [](const Corsa &c) { return c.s.v.latR != 0 || c.s.in.ckCorretta == 1; }, [](Corsa &c) { c.s.in.ckAz = 0; }},
 };
 
 // Bearing in every run; curve and texts with CkQibla set, the curve only off the equator. Gives the caption's bearing.

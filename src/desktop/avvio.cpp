@@ -3,6 +3,7 @@
 
 #include <QApplication>
 #include <QTimer>
+#include <clocale>
 
 #include "desktop/finestra.h"
 #include "desktop/stile.h"
@@ -19,6 +20,7 @@ bool HaSchermo() {
 
 int ApriFinestra(int argc, char **argv) {
     QApplication a(argc, argv);
+    std::setlocale(LC_NUMERIC, "C");  // the toolkit took the user's
     QCoreApplication::setOrganizationName(QStringLiteral("Ombrelia"));
     QCoreApplication::setApplicationName(QStringLiteral("Ombrelia"));
     QGuiApplication::setDesktopFileName(QStringLiteral("ombrelia"));

@@ -15,15 +15,26 @@ namespace ombrelia::desktop {
 
 QString Q(std::string_view testo) { return QString::fromUtf8(testo.data(), static_cast<qsizetype>(testo.size())); }
 
-void DialoghiQt::avviso(QWidget *sopra, const QString &testo) { QMessageBox::information(sopra, QStringLiteral("Ombrelia"), testo); }
+namespace {
+
+// A box that shows its text as it stands: names of files and projects may hold marks.
+QMessageBox::StandardButton domanda(QWidget *sopra, QMessageBox::Icon icona, const QString &testo, QMessageBox::StandardButtons bottoni) {
+    QMessageBox b(icona, QStringLiteral("Ombrelia"), testo, bottoni, sopra);
+    b.setTextFormat(Qt::PlainText);
+    return static_cast<QMessageBox::StandardButton>(b.exec());
+}
+
+}  // namespace
+
+void DialoghiQt::avviso(QWidget *sopra, const QString &testo) { domanda(sopra, QMessageBox::Information, testo, QMessageBox::Ok); }
 
 bool DialoghiQt::siNo(QWidget *sopra, const QString &testo) {
-    return QMessageBox::question(sopra, QStringLiteral("Ombrelia"), testo) != QMessageBox::No;
+    return domanda(sopra, QMessageBox::Question, testo, QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes;
 }
 
 QString DialoghiQt::testo(QWidget *sopra, const QString &domanda, const QString &titolo, const QString &proposta) {
     bool dato = false;
-    const QString t = QInputDialog::getText(sopra, titolo, domanda, QLineEdit::Normal, proposta, &dato);
+    const QString t = QInputDialog::getText(sopra, titolo, Qt::mightBeRichText(domanda) ? domanda.toHtmlEscaped() : domanda, QLineEdit::Normal, proposta, &dato);
     return dato ? t : QString();
 }
 
@@ -42,7 +53,7 @@ std::optional<QString> DialoghiQt::file(QWidget *sopra, bool salva, const QStrin
 }
 
 Salvataggio DialoghiQt::salvaPrima(QWidget *sopra, const QString &testo) {
-    switch (QMessageBox::question(sopra, QStringLiteral("Ombrelia"), testo, QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, QMessageBox::Save)) {
+    switch (domanda(sopra, QMessageBox::Question, testo, QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel)) {
         case QMessageBox::Save: return Salvataggio::Salva;
         case QMessageBox::Discard: return Salvataggio::Scarta;
         default: return Salvataggio::Annulla;
@@ -76,7 +87,14 @@ std::optional<std::string> UtenteFinestra::File(const RichiestaFile &r) {
     if (proposta.isEmpty() || proposta.contains(QLatin1Char('*'))) proposta = Q(app::CartellaDisegni()) + QLatin1Char('/');
     const auto f = dialoghi_.file(sopra, r.salva, Q(r.estensione), Q(r.filtro), proposta);
     if (!f || f->isEmpty()) return {};
-    return ultimoFile = f->toStdString();
+    return f->toStdString();
+}
+
+// The overwrite question, the ending and the cancel button are the file box's.
+std::optional<std::string> UtenteFinestra::NomeDxf(std::string_view, std::string_view, std::string_view proposta) {
+    const auto f = dialoghi_.file(sopra, true, QStringLiteral("dxf"), QStringLiteral("*.dxf"), Q(proposta) + QStringLiteral(".dxf"));
+    if (!f || f->isEmpty()) return {};
+    return f->toStdString();
 }
 
 void UtenteFinestra::Puntatore(bool attesa) {

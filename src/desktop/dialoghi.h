@@ -50,12 +50,12 @@ public:
 
     QWidget *sopra = nullptr;  // the window over which boxes open
     std::function<void(std::string_view, bool)> suModulo;
-    std::string ultimoFile;  // the file box's last answer
 
     void Messaggio(std::string_view) override {}  // the status line is a control of the sheet
     bool Box(std::string_view testo, Domanda domanda) override;
     std::string Input(std::string_view domanda, std::string_view titolo, std::string_view proposta) override;
     std::optional<std::string> File(const RichiestaFile &richiesta) override;
+    std::optional<std::string> NomeDxf(std::string_view domanda, std::string_view titolo, std::string_view proposta) override;
     void Beep() override { dialoghi_.beep(); }
     void Modulo(std::string_view nome, bool aperto) override {
         if (suModulo) suModulo(nome, aperto);

@@ -89,16 +89,24 @@ void sole(QPainter &p, const QPointF &c, double r) {
     p.setBrush(Qt::NoBrush);
 }
 
-// Painted in the plane's own turn: declination 0 looks South, West is left of a map whose North is up.
+// South of the equator declination 0 looks North. The run of a southern dial leaves the latitude without its sign.
+bool meridionale(const Sessione &s) {
+    const Valore lat = Val(s.in.txtLAT);
+    return lat < 0 || (s.v.segnoLat == -1 && lat == -s.v.latGradi && lat > 0);
+}
+
+// Painted in the plane's own turn: declination 0 looks to the equator, West is left of a map whose North is up.
 void pianta(QPainter &p, const Sessione &s, const QColor &testo) {
     const double d = gradi(s.in.txtDec, 0);
+    const QString ovest = Q(s.Traduci("O (ovest)"_it)).left(1);
     QColor tenue = testo;
     tenue.setAlpha(90);
     p.setPen(penna(tenue, 0.8, Qt::DashLine));
     p.drawLine(QPointF(0, -34), QPointF(0, 36));
-    for (const auto &[dove, lettera] : {std::pair{QPointF(0, -42), "N"}, std::pair{QPointF(0, 43), "S"}, std::pair{QPointF(-48, 0), "O"}, std::pair{QPointF(48, 0), "E"}})
-        scritta(p, dove, QString::fromLatin1(lettera), tenue);
+    for (const auto &[dove, lettera] : {std::pair{QPointF(0, -42), QStringLiteral("N")}, std::pair{QPointF(0, 43), QStringLiteral("S")}, std::pair{QPointF(-48, 0), ovest}, std::pair{QPointF(48, 0), QStringLiteral("E")}})
+        scritta(p, dove, lettera, tenue);
     p.save();
+    if (meridionale(s)) p.scale(1, -1);
     p.rotate(d);
     muro(p, {-36, 0}, {36, 0}, 9);
     freccia(p, {0, 0}, {0, 32}, SOLE);

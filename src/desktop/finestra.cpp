@@ -4,13 +4,14 @@
 #include <QCheckBox>
 #include <QCloseEvent>
 #include <QDockWidget>
-#include <QMenuBar>
+#include <QFileInfo>
+#include <QRegularExpression>
 #include <QSettings>
-#include <QToolBar>
 #include <QVBoxLayout>
 #include <filesystem>
 
 #include "app/progetto.h"
+#include "desktop/lingua_finestra.h"
 #include "desktop/gruppi.h"
 #include "paint/file_disegno.h"
 
@@ -25,6 +26,7 @@ bool campo(IdControllo id) {
     return id != NESSUN_CONTROLLO && riga(id).modulo == "MDIForm1" && (riga(id).classe == Classe::Testo || riga(id).classe == Classe::Casella);
 }
 
+// Of the fields: what the live dial goes by.
 std::string impronta(const Sessione &s) {
     std::string t;
     for (const Controllo &c : TavolaControlli()) {
@@ -35,7 +37,16 @@ std::string impronta(const Sessione &s) {
     return t;
 }
 
-constexpr auto VIVO = "disegnaMentreScrivi", PULISCI = "pulisciPrima", GEOMETRIA = "geometria", STATO = "stato";
+// The boxes of the dial that are set but don't answer: they draw nothing. Gives what to put back.
+std::vector<std::pair<int DialInputs::*, int>> MascheraSpente(Sessione &s) {
+    std::vector<std::pair<int DialInputs::*, int>> tolte;
+    for (const Controllo &c : ControlliDi("MDIForm1"))
+        if (c.classe == Classe::Casella && c.casella && !s.stato(IdDi(c)).abilitato && s.in.*c.casella != 0)
+            tolte.emplace_back(c.casella, std::exchange(s.in.*c.casella, 0));
+    return tolte;
+}
+
+constexpr auto VIVO = "disegnaMentreScrivi", GEOMETRIA = "geometria", STATO = "stato";
 
 }  // namespace
 
@@ -45,7 +56,8 @@ Finestra::Finestra(Dialoghi &dialoghi) : dialoghi_(dialoghi), utente_(dialoghi),
     std::error_code nonImporta;
     std::filesystem::create_directories(app::CartellaDisegni(), nonImporta);
     app::Avvia(s_);
-    setWindowTitle(Q(s_.titolo("MDIForm1")));
+    s_.originaleFresco = true;
+    LinguaRicordata(s_);
 
     // Made in the order in which the eye, and so the Tab key, goes: commands, the dial, the sheet, the drawing.
     costruisciBarra();
@@ -64,6 +76,7 @@ Finestra::Finestra(Dialoghi &dialoghi) : dialoghi_(dialoghi), utente_(dialoghi),
 
     molo(ponte_.Traduci("Disegno"), "disegno", ColonnaDisegno(ponte_, this), Qt::RightDockWidgetArea);
     moduli_ = std::make_unique<Moduli>(ponte_, dialoghi_, this);
+    passi_ = std::make_unique<Passi>(s_, this, [this](bool rifai) { rimesso(rifai); });
     costruisciMenu();
 
     utente_.suModulo = [this](std::string_view nome, bool aperto) { moduli_->apri(nome, aperto); };
@@ -76,7 +89,9 @@ Finestra::Finestra(Dialoghi &dialoghi) : dialoghi_(dialoghi), utente_(dialoghi),
     };
     quadro_->suAdatta = [this] { adatta(); };
     ponte_.prima = [this](IdControllo id) { return prima(id); };
-    ponte_.dopo = [this](IdControllo id) { dopo(id); };
+    ponte_.dopo = [this](IdControllo id, const app::Esito &esito) { dopo(id, esito); };
+    ponte_.suMemoria = [this] { memoriaFinita(); };
+    ponte_.suVirgolette = [this] { messaggio(ponte_.Traduci("Le virgolette non entrano in un campo: chiuderebbero il file del progetto")); };
     vivo_ = std::make_unique<Vivo>(this, s_.dizionario, [this](Vivo::Esito &e) { disegnoVivo(e); });
 
     resize(1360, 860);
@@ -85,10 +100,12 @@ Finestra::Finestra(Dialoghi &dialoghi) : dialoghi_(dialoghi), utente_(dialoghi),
     restoreState(ricordi.value(QLatin1String(STATO)).toByteArray());
     vivoAcceso_->setChecked(ricordi.value(QLatin1String(VIVO), false).toBool());
     pulisciPrima_->setChecked(false);
-    salvato_ = app::ScriviProgetto(s_);
+    salvato_ = improntaProgetto();
     improntaCampi_ = impronta(s_);
     ponte_.sincronizza();
     quadro_->aggiorna();
+    passi_->aggiorna(false);
+    titolo();
     ponte_.widget("txtLAT")->setFocus(Qt::OtherFocusReason);
 }
 
@@ -101,91 +118,6 @@ QAction *Finestra::comando(const QString &testo, const QKeySequence &tasti, cons
     return a;
 }
 
-void Finestra::costruisciMenu() {
-    const auto voce = [this](QMenu *m, std::string_view nome, const QKeySequence &tasti = {}) {
-        QAction *a = ponte_.voce(nome, this);
-        a->setShortcut(tasti);
-        m->addAction(a);
-    };
-    const auto bottone = [this](std::string_view nome, const QKeySequence &tasti) {
-        QWidget *w = ponte_.widget(nome);
-        QAction *a = comando(Leggibile(s_.stato(nome).caption), tasti, [w] {
-            if (auto *b = qobject_cast<QAbstractButton *>(w)) b->click();
-        });
-        return a;
-    };
-    QMenu *file = menuBar()->addMenu(ponte_.Traduci("&File"));
-    voce(file, "mnuApri", QKeySequence::Open);
-    recenti_ = file->addMenu(ponte_.Traduci("Aperti di recente"));
-    connect(recenti_, &QMenu::aboutToShow, this, [this] { riempiRecenti(); });
-    voce(file, "mnuSalva", QKeySequence::Save);
-    file->addSeparator();
-    file->addAction(comando(ponte_.Traduci("Esporta PDF..."), QKeySequence(QStringLiteral("Ctrl+E")), [this] { esportaPdf(); }));
-    file->addAction(comando(ponte_.Traduci("Esporta disegno..."), QKeySequence(QStringLiteral("Ctrl+Shift+E")), [this] { esporta(); }));
-    file->addAction(bottone("Tavolo1.cmdStampa", QKeySequence::Print));
-    file->addSeparator();
-    voce(file, "mnuEsci", QKeySequence(QStringLiteral("Ctrl+Q")));
-
-    QMenu *quadrante = menuBar()->addMenu(ponte_.Traduci("&Quadrante"));
-    const std::pair<std::string_view, const char *> comandi[] = {
-        {"cmdRun", "F5"}, {"cmdEqui", "F6"}, {"cmdData", "F7"}, {"cmdTrasforma", "F8"}, {"Tavolo1.cmdPulisci", "Ctrl+L"}};
-    for (const auto &[nome, tasti] : comandi) quadrante->addAction(bottone(nome, QKeySequence(QString::fromLatin1(tasti))));
-    quadrante->addSeparator();
-    quadrante->addAction(comando(ponte_.Traduci("Adatta il foglio"), QKeySequence(QStringLiteral("Ctrl+T")), [this] { adatta(); }));
-    quadrante->addAction(comando(ponte_.Traduci("Disegna mentre scrivi"), QKeySequence(QStringLiteral("F9")), [this] { vivoAcceso_->toggle(); }));
-
-    QMenu *vedi = menuBar()->addMenu(ponte_.Traduci("&Vista"));
-    constexpr double PASSO = 1.25;
-    Foglio &f = quadro_->foglio();
-    vedi->addAction(comando(ponte_.Traduci("Ingrandisci"), QKeySequence::ZoomIn, [&f] { f.ingrandisci(PASSO); }));
-    vedi->addAction(comando(ponte_.Traduci("Rimpicciolisci"), QKeySequence::ZoomOut, [&f] { f.ingrandisci(1 / PASSO); }));
-    vedi->addAction(comando(ponte_.Traduci("Tutto il foglio"), QKeySequence(QStringLiteral("Ctrl+0")), [&f] { f.tutto(); }));
-    vedi->addAction(comando(ponte_.Traduci("Grandezza vera"), QKeySequence(QStringLiteral("Ctrl+1")), [&f] { f.vero(); }));
-    vedi->addSeparator();
-    for (QDockWidget *d : findChildren<QDockWidget *>()) vedi->addAction(d->toggleViewAction());
-
-    QMenu *strumenti = menuBar()->addMenu(ponte_.Traduci("&Strumenti"));
-    voce(strumenti, "mnuAusiliaria", QKeySequence(QStringLiteral("F2")));
-    QMenu *lingua = menuBar()->addMenu(ponte_.Traduci("&Lingua"));
-    for (const std::string_view nome : {"mnuItalian", "mnuFrancais", "mnuInglese"}) voce(lingua, nome);
-    QMenu *aiuto = menuBar()->addMenu(QStringLiteral("&?"));
-    voce(aiuto, "mnuAvviso", QKeySequence(QStringLiteral("F1")));
-    voce(aiuto, "M_about");
-}
-
-void Finestra::costruisciBarra() {
-    auto *barra = new QToolBar(ponte_.Traduci("Comandi"), this);
-    barra->setObjectName(QStringLiteral("barra"));
-    barra->setMovable(false);
-    QWidget *esegui = ponte_.crea("cmdRun", barra);
-    esegui->setProperty("principale", true);
-    barra->addWidget(esegui);
-    for (const std::string_view nome : {"cmdEqui", "cmdTrasforma", "cmdData"}) barra->addWidget(ponte_.crea(nome, barra));
-    barra->addSeparator();
-    auto *adattaFoglio = new QPushButton(ponte_.Traduci("Adatta"), barra);
-    adattaFoglio->setObjectName(QStringLiteral("Adatta"));
-    adattaFoglio->setToolTip(ponte_.Traduci("Foglio e origine intorno alle quattro rette, con un margine di 2 cm"));
-    connect(adattaFoglio, &QPushButton::clicked, this, [this] { adatta(); });
-    barra->addWidget(adattaFoglio);
-    const auto interruttore = [&](const QString &testo, const char *nome) {
-        auto *c = new QCheckBox(testo, barra);
-        c->setObjectName(QString::fromLatin1(nome));
-        barra->addWidget(c);
-        return c;
-    };
-    vivoAcceso_ = interruttore(ponte_.Traduci("Disegna mentre scrivi"), VIVO);
-    connect(vivoAcceso_, &QCheckBox::toggled, this, [this](bool acceso) {
-        if (acceso) chiediVivo();
-        else vivo_->ferma();
-    });
-    pulisciPrima_ = interruttore(ponte_.Traduci("Pulisci prima di Esegui"), PULISCI);
-    auto *molla = new QWidget(barra);
-    molla->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
-    barra->addWidget(molla);
-    barra->addWidget(ponte_.crea("cmdSave", barra));
-    addToolBar(barra);
-}
-
 void Finestra::molo(const QString &titolo, const char *nome, QWidget *contenuto, Qt::DockWidgetArea dove) {
     auto *d = new QDockWidget(titolo, this);
     d->setObjectName(QString::fromLatin1(nome));
@@ -194,38 +126,130 @@ void Finestra::molo(const QString &titolo, const char *nome, QWidget *contenuto,
     addDockWidget(dove, d);
 }
 
-// Before an action: what runs off the thread is given up, unsaved work is asked about, the sheet is wiped when wished.
+// Before an action: what runs off the thread is given up, unsaved work is asked about, and what the window does in its own
+// way is done here.
 bool Finestra::prima(IdControllo id) {
     if (!campo(id)) vivo_->ferma();
     if (id == NESSUN_CONTROLLO) return true;
-    const std::string_view nome = riga(id).nome;
-    if (nome == "mnuApri" && s_.titolo("frmTavolo").empty() && !lasciaAndare()) return false;
-    if (nome == "cmdRun" && pulisciPrima_->isChecked()) app::Premi(s_, TrovaControllo("Tavolo1.cmdPulisci"));
+    const std::string_view nome = riga(id).nome, modulo = riga(id).modulo;
+    if (nome == "mnuApri") return lasciaAndare();
+    if (nome == "mnuSalva" && !percorso_.isEmpty()) return salvaIn(percorso_), false;
+    if (nome == "cmdRun") primaDiEsegui();
+    if (nome == "cmdCalcola" && modulo == "frmDeclin") {
+        deltaPrima_ = s_.in.txtDelta;
+        aoPrima_ = s_.in.txtAO;
+    }
     return true;
 }
 
-void Finestra::dopo(IdControllo id) {
-    const std::string_view nome = id == NESSUN_CONTROLLO ? std::string_view() : riga(id).nome;
-    if (nome == "mnuApri" || nome == "mnuSalva") {
-        if (auto file = std::exchange(utente_.ultimoFile, {}); !file.empty()) {
-            ricorda(Q(file));
-            salvato_ = app::ScriviProgetto(s_);
-            if (nome == "mnuApri") quadro_->foglio().tutto();
-        }
+// With live drawing the button draws again what is there; the sheet is emptied so, or when the user wishes it. The drawing
+// is kept aside until the run has drawn.
+void Finestra::primaDiEsegui() {
+    inScorta_ = vivo_acceso() || pulisciPrima_->isChecked();
+    if (inScorta_) {
+        scorta_.Clear();
+        s_.tavolo.ScambiaDisegno(scorta_);
     }
-    const std::string &progetto = s_.titolo("frmTavolo");
-    setWindowTitle(progetto.empty() ? Q(s_.titolo("MDIForm1")) : Q(progetto) + QStringLiteral(" — ") + Q(s_.titolo("MDIForm1")));
+    mascherate_ = MascheraSpente(s_);
+}
+
+void Finestra::dopoEsegui() {
+    for (const auto &[casella, valore] : std::exchange(mascherate_, {})) s_.in.*casella = valore;
+    if (!std::exchange(inScorta_, false)) return;
+    if (s_.tavolo.lista().Ordine.empty()) s_.tavolo.ScambiaDisegno(scorta_);
+    scorta_.Clear();
+}
+
+void Finestra::dopo(IdControllo id, const app::Esito &esito) {
+    const std::string_view nome = id == NESSUN_CONTROLLO ? std::string_view() : riga(id).nome;
+    if (nome == "cmdRun") dopoEsegui();
+    if (esito == app::Esito::Fallito && !esito.detto && !esito.motivo.empty()) dialoghi_.avviso(this, Q(esito.motivo));
+    if (nome == "mnuApri" && esito) progettoNuovo(Q(esito.file));
+    if (nome == "mnuSalva" && esito) {
+        percorso_ = QFileInfo(Q(esito.file)).absoluteFilePath();
+        ricorda(percorso_);
+        salvato_ = improntaProgetto();
+    }
+    if (nome == "mnuItalian" || nome == "mnuFrancais" || nome == "mnuInglese") RicordaLingua(nome, esito);
+    if ((nome == "cmdDxf" || nome == "cmdSave") && esito && !esito.file.empty()) messaggio(ponte_.Traduci("Scritto") + QLatin1Char(' ') + Q(esito.file));
+    const bool segue = vivo_acceso();
     if (campo(id)) {
-        for (const char *figura : {"Picture2", "Picture3"}) ponte_.widget(figura)->update();
         const bool nuovo = impronta(s_) != improntaCampi_;
-        if (vivoAcceso_->isChecked() && nuovo) chiediVivo();
+        if (segue && nuovo) chiediVivo();
         else if (riga(id).classe == Classe::Casella) quadro_->foglio().cambiato();  // some boxes draw when they are set
     } else if (id == NESSUN_CONTROLLO || riga(id).classe != Classe::Testo) {
         quadro_->foglio().cambiato();
     }
     quadro_->aggiorna();
+    passi_->annota(id, id == NESSUN_CONTROLLO ? std::exchange(nomePasso_, {}) : NomeUmano(s_, id), segue && (campo(id) || nome == "cmdRun"));
+    titolo();
+    for (const char *figura : {"Picture2", "Picture3"}) ponte_.widget(figura)->update();
+    if (nome == "cmdCalcola" && riga(id).modulo == "frmDeclin") soleDelGiorno();
     if (nome == "M_about") moduli_->apri("frmAbout", true);
     if (nome == "mnuEsci") QMetaObject::invokeMethod(this, [this] { close(); }, Qt::QueuedConnection);
+}
+
+// The utility board's run leaves the day's Sun in two fields of the dial. The user is told, and may have them back.
+void Finestra::soleDelGiorno() {
+    std::vector<Quadro::Offerta> offerte;
+    if (s_.in.txtDelta != deltaPrima_ || s_.in.txtAO != aoPrima_)
+        offerte.push_back({ponte_.Traduci("rimetti") + QLatin1Char(' ') + Q(deltaPrima_) + QStringLiteral("°, ") + Q(aoPrima_) + QStringLiteral("°"), [this, d = deltaPrima_, a = aoPrima_] {
+                               nomePasso_ = ponte_.Traduci("Declinazione del Sole rimessa");
+                               ponte_.fai(NESSUN_CONTROLLO, [&] {
+                                   s_.Scrivi(&DialInputs::txtDelta, d);
+                                   s_.Scrivi(&DialInputs::txtAO, a);
+                               });
+                               if (vivo_acceso()) chiediVivo();
+                           }});
+    // The wall's declination is the number of the result's second line.
+    const QString riga2 = Q(s_.testo(TrovaControllo("frmDeclin.txtResult"))).section(QLatin1Char('\n'), 1, 1);
+    const auto trovato = QRegularExpression(QStringLiteral("-?\\d+\\.\\d+")).match(riga2);
+    if (trovato.hasMatch() && Val(s_.testo(TrovaControllo("frmDeclin.txtAngle"))) != 0)
+        offerte.push_back({ponte_.Traduci("usa come declinazione della parete") + QLatin1Char(' ') + trovato.captured() + QStringLiteral("°"), [this, d = trovato.captured().toStdString()] {
+                               nomePasso_ = ponte_.Traduci("Declinazione della parete");
+                               ponte_.fai(NESSUN_CONTROLLO, [&] { s_.Scrivi(&DialInputs::txtDec, d); });
+                               if (vivo_acceso()) chiediVivo();
+                           }});
+    if (offerte.empty()) return;
+    quadro_->offri(ponte_.Traduci("Il Sole di quel giorno sta ora nella linea diurna opzionale:") + QLatin1Char(' ') + Q(s_.in.txtDelta) + QStringLiteral("°."), std::move(offerte));
+}
+
+bool Finestra::vivo_acceso() const { return vivoAcceso_->isChecked(); }
+
+void Finestra::memoriaFinita() {
+    for (const auto &[casella, valore] : std::exchange(mascherate_, {})) s_.in.*casella = valore;
+    if (!passi_->rimettiDisegno()) {
+        s_.tavolo.MettiDisegno({});
+        if (inScorta_) s_.tavolo.ScambiaDisegno(scorta_);
+    }
+    inScorta_ = false;
+    dialoghi_.avviso(this, ponte_.Traduci("La memoria non basta per questo disegno: il quadrante resta com'era."));
+}
+
+void Finestra::rimesso(bool rifai) {
+    vivo_->ferma();
+    ponte_.sincronizza();
+    quadro_->foglio().cambiato();
+    quadro_->aggiorna();
+    titolo();
+    for (const char *figura : {"Picture2", "Picture3"}) ponte_.widget(figura)->update();
+    improntaCampi_ = impronta(s_);
+    if (rifai || vivo_acceso()) chiediVivo();
+}
+
+std::string Finestra::improntaProgetto() const {
+    std::string t = impronta(s_);
+    const Tavolo &f = s_.tavolo;
+    for (const double x : {f.QuadranteL(), f.QuadranteH(), f.ShiftX(), f.ShiftY()}) t += NumeroGenerale(x) + '\n';
+    return t;
+}
+
+bool Finestra::modificato() const { return improntaProgetto() != salvato_; }
+
+void Finestra::titolo() {
+    const QString file = percorso_.isEmpty() ? Q(s_.titolo("frmTavolo")) : QFileInfo(percorso_).fileName();
+    setWindowTitle((file.isEmpty() ? ponte_.Traduci("Senza nome") : file) + QStringLiteral("[*] — ") + Q(s_.titolo("MDIForm1")));
+    setWindowModified(modificato());
 }
 
 void Finestra::chiediVivo() {
@@ -238,7 +262,11 @@ void Finestra::disegnoVivo(Vivo::Esito &e) {
     Tavolo &t = s_.tavolo;
     t.ScambiaDisegno(*e.tavolo);
     t.ForeColor = e.tavolo->ForeColor;
+    const Variabili prima = s_.v;
     s_.v = e.v;
+    // What the live dial read is not the user's run.
+    for (Reale Variabili::*o : {&Variabili::letture, &Variabili::lat_o, &Variabili::dec_o, &Variabili::iz_o, &Variabili::lon_o, &Variabili::inc_o, &Variabili::diffLong})
+        s_.v.*o = prima.*o;
     if (t.ShiftX() != e.tavolo->ShiftX()) t.ShiftX(e.tavolo->ShiftX());
     if (t.ShiftY() != e.tavolo->ShiftY()) t.ShiftY(e.tavolo->ShiftY());
     if (t.QuadranteL() != e.tavolo->QuadranteL()) t.QuadranteL(e.tavolo->QuadranteL());
@@ -247,10 +275,12 @@ void Finestra::disegnoVivo(Vivo::Esito &e) {
     quadro_->foglio().cambiato(e.immagine, e.vista);
     ponte_.sincronizza();
     quadro_->aggiorna();
+    passi_->aggiorna(true);
 }
 
 void Finestra::adatta() {
     bool fatto = false;
+    nomePasso_ = ponte_.Traduci("Adatta il foglio");
     ponte_.fai(NESSUN_CONTROLLO, [&] { fatto = app::Adatta(s_); });
     if (!fatto) return messaggio(ponte_.Traduci("Le quattro rette non chiudono un foglio: controlla x0, x1, y0, y1"));
     quadro_->foglio().tutto();

@@ -6,6 +6,7 @@
 
 #include "desktop/dialoghi.h"
 #include "desktop/moduli.h"
+#include "desktop/passi.h"
 #include "desktop/ponte.h"
 #include "desktop/quadro.h"
 #include "desktop/vivo.h"
@@ -27,11 +28,17 @@ public:
     [[nodiscard]] Moduli &moduli() { return *moduli_; }
     [[nodiscard]] Vivo &vivo() { return *vivo_; }
 
+    [[nodiscard]] Passi &passi() { return *passi_; }
+
     // Opens a project; the user is told when it can't be.
     void apri(const QString &percorso);
+    // An empty dial, as the program starts with.
+    void nuovo();
     void esegui();
     // True when the fields or the sheet differ from what was opened or saved last.
-    [[nodiscard]] bool modificato();
+    [[nodiscard]] bool modificato() const;
+    // The open project's path; empty before it was saved.
+    [[nodiscard]] const QString &percorso() const { return percorso_; }
 
 protected:
     void closeEvent(QCloseEvent *e) override;
@@ -42,13 +49,29 @@ private:
     void molo(const QString &titolo, const char *nome, QWidget *contenuto, Qt::DockWidgetArea dove);
     QAction *comando(const QString &testo, const QKeySequence &tasti, const std::function<void()> &azione);
     bool prima(IdControllo id);
-    void dopo(IdControllo id);
+    void dopo(IdControllo id, const app::Esito &esito);
     void disegnoVivo(Vivo::Esito &e);
     void chiediVivo();
+    [[nodiscard]] bool vivo_acceso() const;
+    void primaDiEsegui();
+    void dopoEsegui();
+    void soleDelGiorno();
+    void memoriaFinita();
     void adatta();
+    // A step was taken back or done again.
+    void rimesso(bool rifai);
+    // What follows when the session holds another project: fields, sheet, language.
+    void progettoNuovo(const QString &percorso);
+    void titolo();
+    // Of what a project keeps: the closing question goes by it.
+    [[nodiscard]] std::string improntaProgetto() const;
     void stampa(bool aree);
     void esportaPdf();
     void esporta();
+    bool scrivi(const QString &file, const std::string &contenuto);
+    // Saves where the project lies; asks for a name when it has none, or when told to.
+    bool salva(bool conNome);
+    bool salvaIn(const QString &percorso);
     // Asks what is to become of unsaved work; false when the user wants to go on with it.
     bool lasciaAndare();
     void ricorda(const QString &percorso);
@@ -66,6 +89,13 @@ private:
     QMenu *recenti_ = nullptr;
     QCheckBox *vivoAcceso_ = nullptr, *pulisciPrima_ = nullptr;
     std::string salvato_, improntaCampi_;
+    QString percorso_;
+    QString nomePasso_;  // of the action in hand, when no control names it
+    std::unique_ptr<Passi> passi_;
+    Tavolo scorta_;      // the drawing that a run replaces, until the run has drawn
+    bool inScorta_ = false;
+    std::vector<std::pair<int DialInputs::*, int>> mascherate_;  // boxes that don't answer, set aside while a run lasts
+    std::string deltaPrima_, aoPrima_;
 };
 
 }  // namespace ombrelia::desktop

@@ -8,6 +8,7 @@
 #include "app/progetto.h"
 #include "core/file.h"
 #include "desktop/finestra.h"
+#include "desktop/lingua_finestra.h"
 #include "paint/documenti.h"
 #include "paint/file_disegno.h"
 #include "plot/dxf.h"
@@ -22,27 +23,77 @@ constexpr int RECENTI_MASSIMI = 8;
 
 }  // namespace
 
-bool Finestra::modificato() { return app::ScriviProgetto(s_) != salvato_; }
-
 bool Finestra::lasciaAndare() {
     if (!modificato()) return true;
-    switch (dialoghi_.salvaPrima(this, ponte_.Traduci("Il progetto è cambiato. Vuoi salvarlo?"))) {
+    const QString nome = percorso_.isEmpty() ? ponte_.Traduci("Senza nome") : QFileInfo(percorso_).fileName();
+    switch (dialoghi_.salvaPrima(this, nome + QStringLiteral(": ") + ponte_.Traduci("Il progetto è cambiato. Vuoi salvarlo?"))) {
         case Salvataggio::Annulla: return false;
         case Salvataggio::Scarta: return true;
         case Salvataggio::Salva: break;
     }
-    if (QAction *salva = findChild<QAction *>(QStringLiteral("mnuSalva"))) salva->trigger();
-    return !modificato();
+    return salva(false);
+}
+
+bool Finestra::salva(bool conNome) {
+    if (!conNome && !percorso_.isEmpty()) return salvaIn(percorso_);
+    const QString prima = std::exchange(percorso_, {});
+    const bool fatto = static_cast<bool>(ponte_.premi("mnuSalva"));
+    if (!fatto) percorso_ = prima;
+    titolo();
+    return fatto;
+}
+
+bool Finestra::salvaIn(const QString &percorso) {
+    if (const auto errore = app::SalvaProgetto(s_, percorso.toStdString())) return dialoghi_.avviso(this, Q(*errore)), false;
+    salvato_ = improntaProgetto();
+    titolo();
+    messaggio(ponte_.Traduci("Scritto") + QLatin1Char(' ') + percorso);
+    return true;
 }
 
 void Finestra::apri(const QString &percorso) {
     if (!lasciaAndare()) return;
-    bool aperto = false;
-    ponte_.fai(NESSUN_CONTROLLO, [&] { aperto = static_cast<bool>(app::ApriProgetto(s_, percorso.toStdString())); });
-    if (!aperto) return;
-    ricorda(percorso);
-    salvato_ = app::ScriviProgetto(s_);
+    nomePasso_ = ponte_.Traduci("Apri") + QLatin1Char(' ') + QFileInfo(percorso).fileName();
+    ponte_.fai(NESSUN_CONTROLLO, [&] {
+        const app::Esito aperto = app::ApriProgetto(s_, percorso.toStdString());
+        if (aperto) progettoNuovo(percorso);
+        return aperto;
+    });
+}
+
+void Finestra::progettoNuovo(const QString &percorso) {
+    Ritraduci(s_);
+    // A dial of its own: what an earlier one was turned into is no part of it.
+    for (Reale Variabili::*v : {&Variabili::flagVerticale, &Variabili::flagTrasformato, &Variabili::diffLong}) s_.v.*v = 0;
+    percorso_ = QFileInfo(percorso).absoluteFilePath();
+    ricorda(percorso_);
+    salvato_ = improntaProgetto();
+    ponte_.sincronizza();
     quadro_->foglio().tutto();
+    titolo();
+    if (vivo_acceso()) chiediVivo();
+}
+
+void Finestra::nuovo() {
+    if (!lasciaAndare()) return;
+    nomePasso_ = ponte_.Traduci("Nuovo");
+    ponte_.fai(NESSUN_CONTROLLO, [&] {
+        const Sessione vergine(utente_);
+        Tavolo &t = s_.tavolo;
+        s_.in = vergine.in;
+        s_.v = vergine.v;
+        for (std::size_t i = 0; i < s_.stati.size(); ++i) s_.stati[i].abilitato = true, s_.stati[i].visibile = vergine.stati[i].visibile;
+        t.Clear();
+        t.QuadranteL(vergine.tavolo.QuadranteL());
+        t.QuadranteH(vergine.tavolo.QuadranteH());
+        s_.titolo("frmTavolo").clear();
+        app::Avvia(s_);
+        Ritraduci(s_);
+        percorso_.clear();
+        salvato_ = improntaProgetto();
+    });
+    quadro_->foglio().tutto();
+    if (vivo_acceso()) chiediVivo();
 }
 
 void Finestra::ricorda(const QString &percorso) {
@@ -90,10 +141,9 @@ void Finestra::esportaPdf() {
         return true;
     });
     else pdf = paint::PdfFoglio(s_.tavolo, errore);
-    if (!errore.empty()) return dialoghi_.avviso(this, Q(errore));
+    if (!errore.empty()) return dialoghi_.avviso(this, ponte_.Traduci(errore));
     if (pdf.isEmpty()) return messaggio(ponte_.Traduci("Nessun file scritto"));
-    if (const auto e = ScriviFile(f->toStdString(), pdf.toStdString())) return dialoghi_.avviso(this, Q(*e));
-    messaggio(ponte_.Traduci("Scritto") + QLatin1Char(' ') + *f);
+    scrivi(*f, pdf.toStdString());
 }
 
 void Finestra::esporta() {
@@ -108,9 +158,14 @@ void Finestra::esporta() {
     else if (fine == QStringLiteral("bmp")) contenuto = paint::Bmp(s_.tavolo, errore);
     else if (fine == QStringLiteral("pdf")) contenuto = paint::Pdf(s_.tavolo, errore);
     else errore = f->toStdString() + ": svg, dxf, pdf, png, bmp";
-    if (errore.empty()) errore = ScriviFile(f->toStdString(), contenuto).value_or("");
-    if (!errore.empty()) return dialoghi_.avviso(this, Q(errore));
-    messaggio(ponte_.Traduci("Scritto") + QLatin1Char(' ') + *f);
+    if (!errore.empty()) return dialoghi_.avviso(this, ponte_.Traduci(errore));
+    scrivi(*f, contenuto);
+}
+
+bool Finestra::scrivi(const QString &file, const std::string &contenuto) {
+    if (const auto e = ScriviFile(file.toStdString(), contenuto)) return dialoghi_.avviso(this, Q(*e)), false;
+    messaggio(ponte_.Traduci("Scritto") + QLatin1Char(' ') + file);
+    return true;
 }
 
 }  // namespace ombrelia::desktop

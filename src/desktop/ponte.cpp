@@ -3,15 +3,19 @@
 
 #include <QCheckBox>
 #include <QClipboard>
+#include <QContextMenuEvent>
 #include <QGroupBox>
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QMenu>
+#include <QMimeData>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSignalBlocker>
 #include <stdexcept>
+#include <utility>
 
 #include "app/azioni.h"
 #include "desktop/dialoghi.h"
@@ -60,13 +64,26 @@ QString Leggibile(const std::string &caption) { return Q(caption).simplified().r
 
 QString Ponte::Traduci(std::string_view testo) const { return Q(s_.Traduci(testo)); }
 
-void Ponte::fai(IdControllo id, const std::function<void()> &azione) {
-    if (prima && !prima(id)) return sincronizza();
+QString SoloTesto(const QString &testo) { return Qt::mightBeRichText(testo) ? testo.toHtmlEscaped() : testo; }
+
+app::Esito Ponte::svolgi(IdControllo id, const std::function<app::Esito()> &azione) {
+    if (prima && !prima(id)) {
+        sincronizza();
+        return app::Esito::Annullato;
+    }
+    app::Esito esito;
     ++dentro_;
-    azione();
+    try {
+        esito = azione();
+    } catch (const std::bad_alloc &) {
+        s_.tavolo.dispositivo = nullptr;
+        if (suMemoria) suMemoria();
+        esito = app::Esito::Annullato;
+    }
     --dentro_;
     sincronizza();
-    if (dopo) dopo(id);
+    if (dopo) dopo(id, esito);
+    return esito;
 }
 
 QWidget *Ponte::widget(std::string_view nome) const {
@@ -76,9 +93,9 @@ QWidget *Ponte::widget(std::string_view nome) const {
     return nullptr;
 }
 
-void Ponte::premi(std::string_view nome) {
+app::Esito Ponte::premi(std::string_view nome) {
     const IdControllo id = cerca(nome);
-    fai(id, [&] { app::Premi(s_, id); });
+    return fai(id, [&] { return app::Premi(s_, id); });
 }
 
 void Ponte::adotta(std::string_view nome, QWidget *widget) {
@@ -92,7 +109,7 @@ QAction *Ponte::voce(std::string_view nome, QObject *genitore) {
     const IdControllo id = cerca(nome);
     auto *a = new QAction(genitore);
     a->setObjectName(nomeOggetto(riga(id)));
-    QObject::connect(a, &QAction::triggered, a, [this, id] { fai(id, [&] { app::Premi(s_, id); }); });
+    QObject::connect(a, &QAction::triggered, a, [this, id] { fai(id, [&] { return app::Premi(s_, id); }); });
     legami_.push_back({id, nullptr, a});
     mostra(legami_.back());
     return a;
@@ -111,7 +128,12 @@ QWidget *Ponte::crea(std::string_view nome, QWidget *genitore) {
             break;
         }
         case Classe::Pulsante: w = new QPushButton(genitore); break;
-        case Classe::Etichetta: w = new QLabel(genitore); break;
+        case Classe::Etichetta: {
+            auto *l = new QLabel(genitore);
+            l->setTextFormat(Qt::PlainText);
+            w = l;
+            break;
+        }
         case Classe::Elenco: w = new QComboBox(genitore); break;
         case Classe::Cornice: w = riga(id).caption.empty() ? new QWidget(genitore) : new QGroupBox(genitore); break;
         default: w = new QWidget(genitore); break;
@@ -124,7 +146,7 @@ QWidget *Ponte::crea(std::string_view nome, QWidget *genitore) {
 }
 
 void Ponte::collega(IdControllo id, QWidget *w) {
-    const auto premuto = [this, id] { fai(id, [&] { app::Premi(s_, id); }); };
+    const auto premuto = [this, id] { fai(id, [&] { return app::Premi(s_, id); }); };
     if (auto *b = qobject_cast<QAbstractButton *>(w)) {
         if (riga(id).classe == Classe::Casella)
             QObject::connect(b, &QAbstractButton::clicked, b, [this, id](bool su) { fai(id, [&] { app::Spunta(s_, id, su ? 1 : 0); }); });
@@ -164,7 +186,8 @@ void Ponte::mostra(const Legame &l) {
         secambia(b, Leggibile(stato.caption));
         if (riga(l.id).classe != Classe::Pulsante) {
             b->setCheckable(true);
-            b->setChecked(s_.valore(l.id) == 1);
+            // A box that does not answer draws nothing either: it shows so.
+            b->setChecked(s_.valore(l.id) == 1 && (stato.abilitato || !riga(l.id).casella));
         }
     } else if (auto *lab = qobject_cast<QLabel *>(w)) {
         if (riga(l.id).classe == Classe::Etichetta) secambia(lab, riga(l.id).pannello ? Q(app::Didascalia(s_, l.id)) : Leggibile(stato.caption));
@@ -174,7 +197,7 @@ void Ponte::mostra(const Legame &l) {
         const QString testo = Q(s_.testo(l.id)).replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
         if (p->toPlainText() != testo) p->setPlainText(testo);
     }
-    const QString aiuto = Q(stato.toolTip).trimmed();
+    const QString aiuto = SoloTesto(Q(stato.toolTip).trimmed());
     if (w->toolTip() != aiuto && !(aiuto.isEmpty() && riga(l.id).toolTip.empty())) w->setToolTip(aiuto);
     if (w->isEnabled() != stato.abilitato && riga(l.id).classe != Classe::Cornice) w->setEnabled(stato.abilitato);
     if (w->isHidden() == stato.visibile && (riga(l.id).classe != Classe::Altro)) w->setVisible(stato.visibile);
@@ -184,15 +207,36 @@ CampoTesto::CampoTesto(Ponte &ponte, IdControllo id, QWidget *genitore) : QLineE
     if (riga(id).filtro != Filtro::Nessuno) setInputMethodHints(Qt::ImhFormattedNumbersOnly);
 }
 
-void CampoTesto::filtrato(const QString &testo) {
+void CampoTesto::immetti(const QString &testo) {
+    if (isReadOnly()) return;
     QString tenuto;
     for (const QChar c : testo) {
         const char latino = c.toLatin1();
-        if (riga(id_).filtro == Filtro::Nessuno) tenuto += c;
-        else if (latino < ' ') ponte_.sessione().utente.Beep();  // no filter lets it pass
-        else if (const char k = app::FiltraTasto(ponte_.sessione(), id_, latino)) tenuto += QLatin1Char(k);
+        if (c == QLatin1Char('"')) {
+            ponte_.sessione().utente.Beep();
+            if (ponte_.suVirgolette) ponte_.suVirgolette();
+        } else if (riga(id_).filtro == Filtro::Nessuno) {
+            if (c.isPrint()) tenuto += c;
+        } else if (latino < ' ') {
+            ponte_.sessione().utente.Beep();  // no filter lets it pass
+        } else if (const char k = app::FiltraTasto(ponte_.sessione(), id_, latino)) {
+            tenuto += QLatin1Char(k);
+        }
     }
     if (!tenuto.isEmpty()) insert(tenuto);
+    ponte_.fai(id_, [this] { app::Cambia(ponte_.sessione(), id_, text().toStdString()); });
+}
+
+// The program's shortcuts are its own; the box would take some of them for moves of its cursor.
+bool CampoTesto::event(QEvent *e) {
+    if (e->type() == QEvent::ShortcutOverride) {
+        const auto *t = static_cast<QKeyEvent *>(e);
+        if (t->modifiers() == Qt::ControlModifier && (t->key() == Qt::Key_E || t->key() == Qt::Key_Z)) {
+            e->ignore();
+            return false;
+        }
+    }
+    return QLineEdit::event(e);
 }
 
 void CampoTesto::keyPressEvent(QKeyEvent *e) {
@@ -200,21 +244,51 @@ void CampoTesto::keyPressEvent(QKeyEvent *e) {
     const QString testo = incolla ? QGuiApplication::clipboard()->text().trimmed() : e->text();
     const bool stampabile = !testo.isEmpty() && testo.at(0).isPrint() && !(e->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier));
     if (!incolla && !stampabile) return QLineEdit::keyPressEvent(e);
-    if (isReadOnly()) return;
-    filtrato(testo);
-    ponte_.fai(id_, [this] { app::Cambia(ponte_.sessione(), id_, text().toStdString()); });
+    immetti(testo);
+    e->accept();
+}
+
+void CampoTesto::mousePressEvent(QMouseEvent *e) {
+    QLineEdit::mousePressEvent(e);
+    if (entrato_) selectAll();  // the press has set the cursor
+}
+
+void CampoTesto::mouseReleaseEvent(QMouseEvent *e) {
+    if (e->button() == Qt::MiddleButton && QGuiApplication::clipboard()->supportsSelection())
+        return immetti(QGuiApplication::clipboard()->text(QClipboard::Selection).trimmed());
+    QLineEdit::mouseReleaseEvent(e);
+    if (std::exchange(entrato_, false) && selectedText().size() < 2) selectAll();
+}
+
+void CampoTesto::contextMenuEvent(QContextMenuEvent *e) {
+    QMenu *menu = createStandardContextMenu();
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    if (auto *incolla = menu->findChild<QAction *>(QStringLiteral("edit-paste"))) {
+        incolla->disconnect();
+        connect(incolla, &QAction::triggered, this, [this] { immetti(QGuiApplication::clipboard()->text().trimmed()); });
+    }
+    menu->popup(e->globalPos());
+}
+
+void CampoTesto::dropEvent(QDropEvent *e) {
+    if (!e->mimeData()->hasText()) return;
+    setCursorPosition(cursorPositionAt(e->position().toPoint()));
+    immetti(e->mimeData()->text().trimmed());
+    e->setDropAction(Qt::CopyAction);
     e->accept();
 }
 
 void CampoTesto::focusInEvent(QFocusEvent *e) {
     QLineEdit::focusInEvent(e);
     if (e->reason() == Qt::PopupFocusReason || e->reason() == Qt::ActiveWindowFocusReason) return;
+    entrato_ = e->reason() == Qt::MouseFocusReason;
     app::Entra(ponte_.sessione(), id_);
     selectAll();
 }
 
 void CampoTesto::focusOutEvent(QFocusEvent *e) {
     QLineEdit::focusOutEvent(e);
+    entrato_ = false;
     if (e->reason() == Qt::PopupFocusReason || e->reason() == Qt::ActiveWindowFocusReason) return;
     ponte_.fai(id_, [this] { app::Lascia(ponte_.sessione(), id_); });
 }

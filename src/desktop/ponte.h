@@ -8,6 +8,7 @@
 #include <QWidget>
 #include <functional>
 #include <string_view>
+#include <type_traits>
 #include <vector>
 
 #include "app/comandi.h"
@@ -30,17 +31,28 @@ public:
 
     // Shows everything as the session has it.
     void sincronizza();
-    // Runs an action of the user on the session, then shows what became of it. id: the control, or NESSUN_CONTROLLO.
-    void fai(IdControllo id, const std::function<void()> &azione);
+    // Runs an action of the user on the session, then shows what became of it. id: the control, or NESSUN_CONTROLLO. The
+    // action may give its outcome. A want of memory in it is told, and ends the action alone.
+    template <class F>
+    app::Esito fai(IdControllo id, const F &azione) {
+        if constexpr (std::is_void_v<std::invoke_result_t<F>>)
+            return svolgi(id, [&] {
+                azione();
+                return app::Esito(app::Esito::Fatto);
+            });
+        else return svolgi(id, azione);
+    }
 
     // The widget made for a control; null when there is none.
     [[nodiscard]] QWidget *widget(std::string_view nome) const;
     // Presses a control as its user would.
-    void premi(std::string_view nome);
+    app::Esito premi(std::string_view nome);
 
     // Asked before each action, which false keeps from happening; told after it.
     std::function<bool(IdControllo)> prima;
-    std::function<void(IdControllo)> dopo;
+    std::function<void(IdControllo, const app::Esito &)> dopo;
+    std::function<void()> suMemoria;        // an action ran out of memory
+    std::function<void()> suVirgolette;     // a double quote was typed: it would end the project's text
 
     [[nodiscard]] Sessione &sessione() { return s_; }
     // Through the dictionary.
@@ -52,6 +64,7 @@ private:
         QWidget *widget;
         QAction *azione;
     };
+    app::Esito svolgi(IdControllo id, const std::function<app::Esito()> &azione);
     void collega(IdControllo id, QWidget *w);
     void mostra(const Legame &l);
 
@@ -60,24 +73,34 @@ private:
     int dentro_ = 0;
 };
 
-// A text box that passes its keys through the row's filter and tells when it is entered and left.
+// A text box that passes what is typed, pasted or dropped through the row's filter and tells when it is entered and left.
+// Entered by mouse or key, its whole text is selected.
 class CampoTesto final : public QLineEdit {
 public:
     CampoTesto(Ponte &ponte, IdControllo id, QWidget *genitore);
 
 protected:
+    bool event(QEvent *e) override;
+    void mousePressEvent(QMouseEvent *e) override;
+    void mouseReleaseEvent(QMouseEvent *e) override;
+    void contextMenuEvent(QContextMenuEvent *e) override;
+    void dropEvent(QDropEvent *e) override;
     void keyPressEvent(QKeyEvent *e) override;
     void focusInEvent(QFocusEvent *e) override;
     void focusOutEvent(QFocusEvent *e) override;
 
 private:
-    void filtrato(const QString &testo);
+    // Puts a text in as its keys would.
+    void immetti(const QString &testo);
 
     Ponte &ponte_;
     IdControllo id_;
+    bool entrato_ = false;  // by the press of the mouse in hand
 };
 
 // A caption as people read it: the blanks that pad it in the table are left out, accelerators are none.
 [[nodiscard]] QString Leggibile(const std::string &caption);
+// A tool tip that is shown as it stands, whatever marks it holds.
+[[nodiscard]] QString SoloTesto(const QString &testo);
 
 }  // namespace ombrelia::desktop

@@ -38,6 +38,23 @@ Quadro::Quadro(Ponte &ponte, QWidget *genitore) : QWidget(genitore), ponte_(pont
     ponte.adotta("Tavolo1.HScroll1", foglio_->horizontalScrollBar());
     ponte.adotta("Tavolo1.VScroll1", foglio_->verticalScrollBar());
     colonna->addWidget(foglio_, 1);
+    avviso_ = new QLabel(this);
+    avviso_->setObjectName(QStringLiteral("avvisoCornice"));
+    avviso_->setTextFormat(Qt::RichText);
+    avviso_->setWordWrap(true);
+    avviso_->setMinimumWidth(1);
+    avviso_->setContentsMargins(8, 3, 8, 3);
+    connect(avviso_, &QLabel::linkActivated, this, [this](const QString &quale) {
+        if (quale == QStringLiteral("a")) return suAdatta ? suAdatta() : void();
+        const auto n = static_cast<std::size_t>(quale.toInt());
+        if (n >= offerte_.size()) return;
+        const auto azione = offerte_[n].azione;
+        offerte_.clear();
+        detto_.clear();
+        azione();
+        mostraAvviso();
+    });
+    colonna->addWidget(avviso_);
     colonna->addWidget(piede());
     pannelli_ = {
         {pannello("PicAssi", {{"lblX", "txtX"}, {"lblY", "txtY"}, {"cmdAssiAgg", "cmdAssiChiudi"}}), findChild<QWidget *>("cmdAssi")},
@@ -48,7 +65,7 @@ Quadro::Quadro(Ponte &ponte, QWidget *genitore) : QWidget(genitore), ponte_(pont
         ponte_.fai(NESSUN_CONTROLLO, [&] { ponte_.sessione().tavolo.MouseDown(x, y); });
     };
     foglio_->suPosizione = [this](std::optional<QPointF> mm) {
-        posizione_->setText(mm ? QStringLiteral("x %1   y %2 mm").arg(mm->x(), 0, 'f', 1).arg(-mm->y(), 0, 'f', 1) : QString());
+        posizione_->setText(mm ? QStringLiteral("x %1   y %2 mm").arg(mm->x(), 0, 'f', 1).arg(mm->y(), 0, 'f', 1) : QString());
     };
 }
 
@@ -96,19 +113,13 @@ QWidget *Quadro::piede() {
     messaggio->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     messaggio->setMinimumWidth(60);
     fila->addWidget(messaggio, 1);
-    avviso_ = new QLabel(p);
-    avviso_->setObjectName(QStringLiteral("avvisoCornice"));
-    avviso_->setTextFormat(Qt::RichText);
-    avviso_->setMinimumWidth(1);
-    connect(avviso_, &QLabel::linkActivated, this, [this] {
-        if (suAdatta) suAdatta();
-    });
-    fila->addWidget(avviso_);
     posizione_ = new QLabel(p);
+    posizione_->setTextFormat(Qt::PlainText);
+    posizione_->setToolTip(ponte_.Traduci("Sotto il puntatore, millimetri: x verso destra, y verso il basso"));
     posizione_->setMinimumWidth(posizione_->fontMetrics().horizontalAdvance(QStringLiteral("x -00000.0   y -00000.0 mm")));
     posizione_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     fila->addWidget(posizione_);
-    for (const auto &[nome, aiuto] : {std::pair{"lblXYval", ponte_.Traduci("Ultimo punto premuto, millimetri")},
+    for (const auto &[nome, aiuto] : {std::pair{"lblXYval", ponte_.Traduci("Ultimo punto premuto, millimetri: x verso destra, y verso il basso")},
                                       std::pair{"lblDimVal", ponte_.Traduci("Foglio, metri")}, std::pair{"lblScala", ponte_.Traduci("Scala del foglio")}}) {
         fila->addWidget(riga(p));
         QWidget *w = ponte_.crea(intero(nome), p);
@@ -139,13 +150,33 @@ QWidget *Quadro::pannello(std::string_view cornice, std::initializer_list<std::i
     return p;
 }
 
+// Each below its button; those open together side by side.
 void Quadro::collocaPannelli() {
+    int libero = 4;
     for (const auto &[p, bottone] : pannelli_) {
+        if (p->isHidden()) continue;
         p->adjustSize();
         const QPoint sotto = bottone->mapTo(this, QPoint(0, bottone->height() + 8));
-        p->move(std::clamp(sotto.x(), 4, std::max(4, width() - p->width() - 24)), sotto.y());
+        const int x = std::max(libero, std::min(sotto.x(), width() - p->width() - 24));
+        p->move(x, sotto.y());
         p->raise();
+        libero = x + p->width() + 6;
     }
+}
+
+void Quadro::offri(const QString &testo, std::vector<Offerta> offerte) {
+    detto_ = testo;
+    offerte_ = std::move(offerte);
+    mostraAvviso();
+}
+
+void Quadro::mostraAvviso() {
+    const auto legame = [](const QString &dove, const QString &testo) { return QStringLiteral(" &nbsp;<a href=\"%1\">%2</a>").arg(dove, testo.toHtmlEscaped()); };
+    QString t = detto_.toHtmlEscaped();
+    for (std::size_t i = 0; i < offerte_.size(); ++i) t += legame(QString::number(i), offerte_[i].testo);
+    if (t.isEmpty() && corniceFuori()) t = ponte_.Traduci("La cornice esce dal foglio:").toHtmlEscaped() + legame(QStringLiteral("a"), ponte_.Traduci("Adatta il foglio"));
+    avviso_->setText(t);
+    avviso_->setVisible(!t.isEmpty());
 }
 
 void Quadro::resizeEvent(QResizeEvent *e) {
@@ -171,9 +202,7 @@ void Quadro::aggiorna() {
     const QString tinta = QStringLiteral("background:#ffff80; color:#202020;");
     invX_->setStyleSheet(t.FattoreX < 0 ? tinta : QString());
     invY_->setStyleSheet(t.FattoreY < 0 ? tinta : QString());
-    avviso_->setText(corniceFuori() ? ponte_.Traduci("La cornice esce dal foglio:") + QStringLiteral(" <a href=\"a\">") +
-                                          ponte_.Traduci("Adatta il foglio") + QStringLiteral("</a>")
-                                    : QString());
+    mostraAvviso();
     collocaPannelli();
 }
 

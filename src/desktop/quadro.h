@@ -14,6 +14,12 @@ public:
     Quadro(Ponte &ponte, QWidget *genitore);
 
     [[nodiscard]] Foglio &foglio() { return *foglio_; }
+    // Tells something under the sheet, with what the user may do about it; the next action of his takes it away.
+    struct Offerta {
+        QString testo;
+        std::function<void()> azione;
+    };
+    void offri(const QString &testo, std::vector<Offerta> offerte);
     // After an action: the mirrors' tints, the panels' places, the hint about frame and sheet.
     void aggiorna();
 
@@ -31,7 +37,11 @@ private:
 
     Ponte &ponte_;
     Foglio *foglio_ = nullptr;
+    void mostraAvviso();
+
     QLabel *posizione_ = nullptr, *avviso_ = nullptr;
+    QString detto_;
+    std::vector<Offerta> offerte_;
     QWidget *invX_ = nullptr, *invY_ = nullptr;
     std::vector<std::pair<QWidget *, QWidget *>> pannelli_;  // and the button below which each opens
 };

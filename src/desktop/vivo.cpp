@@ -83,6 +83,7 @@ void Vivo::chiedi(const Sessione &s, const Vista &vista) {
 void Vivo::lavora() {
     Muto utente;
     Sessione s(utente);
+    s.originaleFresco = true;
     s.dizionario = dizionario_;
     for (;;) {
         Richiesta r;
@@ -112,11 +113,14 @@ void Vivo::lavora() {
         try {
             Guardia guardia(numero_, mio);
             t.dispositivo = &guardia;
+            for (const Controllo &c : ControlliDi("MDIForm1"))
+                if (c.classe == Classe::Casella && c.casella && !s.stato(IdDi(c)).abilitato) s.in.*c.casella = 0;
+            const bool disegnati = s.in.CkUNI == 1 && Val(s.in.txtInc) == 0 && Val(s.in.txtLAT) >= 0;  // that run draws the numerals
             app::cmdRun(s);
             // These boxes draw when they are set.
             for (const std::string_view nome : {"ckRomani", "ckArabi"}) {
                 const IdControllo id = TrovaControllo(nome);
-                if (std::exchange(s.valore(id), 0) == 1) app::Spunta(s, id, 1);
+                if (!disegnati && std::exchange(s.valore(id), 0) == 1) app::Spunta(s, id, 1);
             }
             t.dispositivo = nullptr;
             t.FattoreX = r.fattoreX;

@@ -23,8 +23,11 @@ public:
     Nomi() { (void)id(""); }
     Nomi(Nomi &&) = default;
     Nomi &operator=(Nomi &&) = default;
-    Nomi(const Nomi &) = delete;  // the index points into its own names
-    Nomi &operator=(const Nomi &) = delete;
+    // The index points into its own names: a copy makes its own.
+    Nomi(const Nomi &altri) {
+        for (const std::string &nome : altri.nomi_) (void)id(nome);
+    }
+    Nomi &operator=(const Nomi &altri) { return *this = Nomi(altri); }
     // The number of a name, new or known; it holds for the life of the list, across svuota too.
     IdNome id(std::string_view nome) { return !nomi_.empty() && nomi_[ultimo_] == nome ? ultimo_ : cerca(nome); }
     [[nodiscard]] const std::string &testo(IdNome id) const { return nomi_[id]; }

@@ -77,6 +77,17 @@ public:
         std::swap(currentX_, altro.currentX_);
         std::swap(currentY_, altro.currentY_);
     }
+    // A drawing kept aside, and put back; nothing is painted.
+    struct Disegno {
+        Lista lista;
+        double currentX = 0, currentY = 0;
+    };
+    [[nodiscard]] Disegno CopiaDisegno() const { return {lista_, currentX_, currentY_}; }
+    void MettiDisegno(Disegno d) {
+        lista_ = std::move(d.lista);
+        currentX_ = d.currentX;
+        currentY_ = d.currentY;
+    }
     // Repaints the attached device from the list: texts first, then the primitives in their order. A printer is not
     // wiped before.
     void Refresh();

@@ -33,7 +33,7 @@ void aggiungiRiga(std::string &uscita, const RigaRapporto &riga) {
 std::string pieno(double x) {
     std::string t;
     AggiungiNumero17(t, x);
-    return std::strtod(TestoNumero(x).c_str(), nullptr) == x ? TestoNumero(x) : t;
+    return Val(TestoNumero(x)) == x ? TestoNumero(x) : t;
 }
 
 // A cell of CSV: quoted where it must be.

@@ -1,5 +1,6 @@
 // Handlers of the world map: loading, drawing, cities, the Sun or Moon point.
 #include "app/comandi.h"
+#include "core/percorsi.h"
 #include "map/mappa.h"
 
 namespace ombrelia::app {
@@ -11,8 +12,15 @@ void punto_Click(Sessione &s, int) {
     else PuntoOpzionale(s);
 }
 
+Esito cmdStati_Click(Sessione &s, int) {
+    CaricaMondo(s);
+    constexpr std::string_view FILE = "mondo.csv";
+    if (!s.mondo.paesi.empty() || TrovaDato(FILE)) return Esito::Fatto;
+    return Esito::fallito(std::string(FILE), s.Traduci("Non trovo il file ") + std::string(FILE) + ": " + LuoghiDati(), false);
+}
+
 constexpr Gestore GESTORI[] = {
-    {"MDIForm1", "cmdStati", Evento::Clic, [](Sessione &s, int) { CaricaMondo(s); }},
+    {"MDIForm1", "cmdStati", Evento::Clic, cmdStati_Click},
     {"MDIForm1", "cmdPlot", Evento::Clic, [](Sessione &s, int) { DisegnaMondo(s); }},
     {"MDIForm1", "punto", Evento::Clic, punto_Click},
 };

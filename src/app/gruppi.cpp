@@ -7,21 +7,15 @@ namespace ombrelia::app {
 
 namespace {
 
+// What only a master needs is folded at the start.
 const std::vector<Gruppo> QUADRANTE{
-    {"Luogo"_it, {{"lblLatitudine", "txtLAT"}, {"lblLongitudine", "txtLonG"}, {"ck_Etna"}}},
-    {"Piano"_it, {{"Picture2", "Picture3"}, {"lblDeclinazione", "txtDec"}, {"lblInclinazione", "txtInc"}, {"CkUNI"}}},
-    {"Gnomone"_it, {{"p_Stilo", "TxtStilo"}, {"LabSUS", "txtSUBSTYLE"}, {"ChCentimetro"}, {"ck_Sustilare", "ck_Triangolo"}}},
-    {"Cornice e rette"_it,
-     {{"lblX0", "txtX0"},
-      {"lblY0", "txtY0"},
-      {"lblX1", "txtX1"},
-      {"lblY1", "txtY1"},
-      {"Line1"},
-      {"lblEqx", "txtEqx"},
-      {"lblEqy", "txtEqy"},
-      {"lblSusx", "txtSusx"},
-      {"lblSusy", "txtSusy"},
-      {"lblOriz", "txtOriz"}}},
+    {"Luogo"_it, {{"lblLatitudine", "txtLAT"}, {"lblLongitudine", "txtLonG"}, {"ck_Etna"}, {"lblMeridiano", "txtMeridiano"}}},
+    {"Parete"_it, {{"Picture2", "Picture3"}, {"lblDeclinazione", "txtDec"}, {"lblInclinazione", "txtInc"}, {"CkUNI"}}},
+    {"Gnomone"_it, {{"p_Stilo", "TxtStilo"}, {"ChCentimetro"}, {"ck_Sustilare", "ck_Triangolo"}}},
+    {"Cornice"_it, {{"lblX0", "txtX0"}, {"lblY0", "txtY0"}, {"lblX1", "txtX1"}, {"lblY1", "txtY1"}}},
+    {"Rette ausiliarie"_it,
+     {{"LabSUS", "txtSUBSTYLE"}, {"Line1"}, {"lblEqx", "txtEqx"}, {"lblEqy", "txtEqy"}, {"lblSusx", "txtSusx"}, {"lblSusy", "txtSusy"}, {"lblOriz", "txtOriz"}},
+     true},
 };
 
 const std::vector<Gruppo> DISEGNO{
@@ -35,22 +29,22 @@ const std::vector<Gruppo> DISEGNO{
      {{"Ck_DayLightCurves", "ck_Equinoziale"},
       {"ckAlt", "ckAz"},
       {"ck_Orizzonte", "ckAssi"},
-      {"ckFunzione"},
-      {"lblDelta", "txtDelta"},
-      {"lblAO", "txtAO"},
-      {"lblMinus", "txtMinus"},
-      {"lblMax", "txtMax"},
-      {"lbl_Definizione", "txtDensity"}}},
+      {"ckEtichette", "ckCorretta"},
+      {"lblDelta", "txtDelta"}}},
     {"Numeri e segni"_it, {{"ckRomani", "txtNumbersize"}, {"ckArabi", "txtArabi"}, {"ckZodiac", "txtZodiacsize"}}},
-    {"Preghiera"_it, {{"ckAsr", "CkQibla"}, {"lblQlat", "txtQlat"}, {"lblQlon", "txtQlon"}}},
     {"Tabelle"_it, {{"optHorae", "OptInter"}, {"OptIta", "OptBab"}, {"OptTEMP", "Option1"}}},
+    {"Limiti e definizione"_it,
+     {{"lblMinus", "txtMinus"}, {"lblMax", "txtMax"}, {"lbl_Definizione", "txtDensity"}, {"lblAO", "txtAO"}, {"ckFunzione"}},
+     true},
+    {"Preghiera"_it, {{"ckAsr", "CkQibla"}, {"lblQlat", "txtQlat"}, {"lblQlon", "txtQlon"}}, true},
     {"Mappa e punto"_it,
      {{"LabelCombo", "cmbStati"},
       {"cmdStati", "cmdPlot", "ck_inv"},
       {"lblFiltro", "Filtertxt"},
       {"Città da"_it, "txtEAST", "fino a"_it, "txtWest"},
       {"punto", "Option_P"},
-      {"Label2", "textDelta", "txtH"}}},
+      {"Label2", "textDelta", "txtH"}},
+     true},
 };
 
 }  // namespace

@@ -12,6 +12,7 @@ struct Gruppo {
     using Riga = std::vector<std::string_view>;
     std::string_view titolo;  // Italian, for the dictionary
     std::vector<Riga> righe;
+    bool piegato = false;  // at the start: what only a master needs
 };
 
 // The dial: site, plane, gnomon, frame.

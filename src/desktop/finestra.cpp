@@ -181,7 +181,7 @@ void Finestra::dopo(IdControllo id, const app::Esito &esito) {
         quadro_->foglio().cambiato();
     }
     quadro_->aggiorna();
-    passi_->annota(id, id == NESSUN_CONTROLLO ? std::exchange(nomePasso_, {}) : NomeUmano(s_, id), segue && (campo(id) || nome == "cmdRun"));
+    passi_->annota(id, id == NESSUN_CONTROLLO ? std::exchange(ponte_.passo, {}) : NomeUmano(s_, id), segue && (campo(id) || nome == "cmdRun"));
     titolo();
     for (const char *figura : {"Picture2", "Picture3"}) ponte_.widget(figura)->update();
     if (nome == "cmdCalcola" && riga(id).modulo == "frmDeclin") soleDelGiorno();
@@ -194,7 +194,7 @@ void Finestra::soleDelGiorno() {
     std::vector<Quadro::Offerta> offerte;
     if (s_.in.txtDelta != deltaPrima_ || s_.in.txtAO != aoPrima_)
         offerte.push_back({ponte_.Traduci("rimetti") + QLatin1Char(' ') + Q(deltaPrima_) + QStringLiteral("°, ") + Q(aoPrima_) + QStringLiteral("°"), [this, d = deltaPrima_, a = aoPrima_] {
-                               nomePasso_ = ponte_.Traduci("Declinazione del Sole rimessa");
+                               ponte_.passo = ponte_.Traduci("Declinazione del Sole rimessa");
                                ponte_.fai(NESSUN_CONTROLLO, [&] {
                                    s_.Scrivi(&DialInputs::txtDelta, d);
                                    s_.Scrivi(&DialInputs::txtAO, a);
@@ -206,7 +206,7 @@ void Finestra::soleDelGiorno() {
     const auto trovato = QRegularExpression(QStringLiteral("-?\\d+\\.\\d+")).match(riga2);
     if (trovato.hasMatch() && Val(s_.testo(TrovaControllo("frmDeclin.txtAngle"))) != 0)
         offerte.push_back({ponte_.Traduci("usa come declinazione della parete") + QLatin1Char(' ') + trovato.captured() + QStringLiteral("°"), [this, d = trovato.captured().toStdString()] {
-                               nomePasso_ = ponte_.Traduci("Declinazione della parete");
+                               ponte_.passo = ponte_.Traduci("Declinazione della parete");
                                ponte_.fai(NESSUN_CONTROLLO, [&] { s_.Scrivi(&DialInputs::txtDec, d); });
                                if (vivo_acceso()) chiediVivo();
                            }});
@@ -280,7 +280,7 @@ void Finestra::disegnoVivo(Vivo::Esito &e) {
 
 void Finestra::adatta() {
     bool fatto = false;
-    nomePasso_ = ponte_.Traduci("Adatta il foglio");
+    ponte_.passo = ponte_.Traduci("Adatta il foglio");
     ponte_.fai(NESSUN_CONTROLLO, [&] { fatto = app::Adatta(s_); });
     if (!fatto) return messaggio(ponte_.Traduci("Le quattro rette non chiudono un foglio: controlla x0, x1, y0, y1"));
     quadro_->foglio().tutto();

@@ -90,7 +90,6 @@ private:
     QCheckBox *vivoAcceso_ = nullptr, *pulisciPrima_ = nullptr;
     std::string salvato_, improntaCampi_;
     QString percorso_;
-    QString nomePasso_;  // of the action in hand, when no control names it
     std::unique_ptr<Passi> passi_;
     Tavolo scorta_;      // the drawing that a run replaces, until the run has drawn
     bool inScorta_ = false;

@@ -53,7 +53,7 @@ bool Finestra::salvaIn(const QString &percorso) {
 
 void Finestra::apri(const QString &percorso) {
     if (!lasciaAndare()) return;
-    nomePasso_ = ponte_.Traduci("Apri") + QLatin1Char(' ') + QFileInfo(percorso).fileName();
+    ponte_.passo = ponte_.Traduci("Apri") + QLatin1Char(' ') + QFileInfo(percorso).fileName();
     ponte_.fai(NESSUN_CONTROLLO, [&] {
         const app::Esito aperto = app::ApriProgetto(s_, percorso.toStdString());
         if (aperto) progettoNuovo(percorso);
@@ -76,7 +76,7 @@ void Finestra::progettoNuovo(const QString &percorso) {
 
 void Finestra::nuovo() {
     if (!lasciaAndare()) return;
-    nomePasso_ = ponte_.Traduci("Nuovo");
+    ponte_.passo = ponte_.Traduci("Nuovo");
     ponte_.fai(NESSUN_CONTROLLO, [&] {
         const Sessione vergine(utente_);
         Tavolo &t = s_.tavolo;

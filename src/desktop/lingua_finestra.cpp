@@ -7,6 +7,7 @@
 #include <QTranslator>
 
 #include "app/lingua.h"
+#include "core/campi.h"
 #include "core/file.h"
 #include "core/percorsi.h"
 #include "desktop/dialoghi.h"

@@ -101,6 +101,7 @@ void Moduli::rapporto(std::string_view nome) {
         w->menuBar()->addAction(stampa);
     }
     auto *salva = new QAction(ponte_.Traduci("Salva come..."), w);
+    salva->setObjectName(QStringLiteral("salva"));
     salva->setShortcut(QKeySequence::Save);
     QObject::connect(salva, &QAction::triggered, w, [this, w, chi = std::string(nome)] { salvaTesto(w, contenuti_[chi]); });
     auto *chiudi = new QAction(ponte_.Traduci("Chiudi"), w);

@@ -82,6 +82,7 @@ std::shared_ptr<Passi::Istantanea> Passi::ritrai(bool segue) const {
         f += '\n';
     }
     for (const double x : {i->l, i->h, i->sx, i->sy, i->fx, i->fy, static_cast<double>(i->scala)}) f += std::to_string(x) + '\n';
+    for (const Reale Variabili::*v : {&Variabili::flagVerticale, &Variabili::flagTrasformato, &Variabili::lonEq}) f += std::to_string((s_.v.*v).numero()) + '\n';
     f += s_.titoli.empty() ? "" : s_.titolo("frmTavolo");
     if (!segue) {
         i->campione = campioneDi(t.lista());

@@ -231,7 +231,8 @@ void CampoTesto::immetti(const QString &testo) {
 bool CampoTesto::event(QEvent *e) {
     if (e->type() == QEvent::ShortcutOverride) {
         const auto *t = static_cast<QKeyEvent *>(e);
-        if (t->modifiers() == Qt::ControlModifier && (t->key() == Qt::Key_E || t->key() == Qt::Key_Z)) {
+        const auto m = t->modifiers() & ~Qt::ShiftModifier;
+        if (m == Qt::ControlModifier && (t->key() == Qt::Key_E || t->key() == Qt::Key_Z || t->key() == Qt::Key_Y)) {
             e->ignore();
             return false;
         }
@@ -263,9 +264,11 @@ void CampoTesto::mouseReleaseEvent(QMouseEvent *e) {
 void CampoTesto::contextMenuEvent(QContextMenuEvent *e) {
     QMenu *menu = createStandardContextMenu();
     menu->setAttribute(Qt::WA_DeleteOnClose);
-    if (auto *incolla = menu->findChild<QAction *>(QStringLiteral("edit-paste"))) {
-        incolla->disconnect();
-        connect(incolla, &QAction::triggered, this, [this] { immetti(QGuiApplication::clipboard()->text().trimmed()); });
+    for (QAction *a : menu->actions()) {
+        if (!a->text().startsWith(QLineEdit::tr("&Paste"))) continue;
+        a->disconnect();
+        a->setObjectName(QStringLiteral("incolla"));
+        connect(a, &QAction::triggered, this, [this] { immetti(QGuiApplication::clipboard()->text().trimmed()); });
     }
     menu->popup(e->globalPos());
 }

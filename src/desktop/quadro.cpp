@@ -62,6 +62,7 @@ Quadro::Quadro(Ponte &ponte, QWidget *genitore) : QWidget(genitore), ponte_(pont
         {pannello("picPrint", {{"optAll"}, {"optSelected"}, {"cmdPOk", "cmdPCancel"}}), findChild<QWidget *>("cmdStampa")},
     };
     foglio_->suClic = [this](double x, double y) {
+        ponte_.passo = ponte_.Traduci("Pagina scelta");
         ponte_.fai(NESSUN_CONTROLLO, [&] { ponte_.sessione().tavolo.MouseDown(x, y); });
     };
     foglio_->suPosizione = [this](std::optional<QPointF> mm) {

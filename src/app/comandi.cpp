@@ -190,7 +190,7 @@ char FiltraTasto(Sessione &s, IdControllo id, char tasto) {
 
 bool Adatta(Sessione &s) {
     constexpr double MARGINE = 0.02;
-    const Cornice c = CorniceDeiCampi(s.in);
+    const Cornice c = CorniceDi(Lettura(s.in));
     const double l = c.xMax.numero() - c.xMin.numero() + 2 * MARGINE;
     const double h = c.yMax.numero() - c.yMin.numero() + 2 * MARGINE;
     Tavolo &t = s.tavolo;

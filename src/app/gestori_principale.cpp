@@ -5,6 +5,7 @@
 #include "app/lingua.h"
 #include "direct/diretta.h"
 #include "glyphs/numeri.h"
+#include "gnomonica/originale.h"
 #include "vertical/piana.h"
 
 namespace ombrelia::app {
@@ -31,11 +32,12 @@ void ckTemp_Click(Sessione &s, int) { ore(s, "0", "12"); }
 void CkUNI_Click(Sessione &s, int) { s.Scrivi(&DialInputs::txtInc, "0"); }
 void txtInc_Change(Sessione &s, int) { AbilitaPerInclinazione(s); }
 
-// The latitude as typed, for captions, and its sign, 1 at the equator.
+// The latitude as typed, for captions, and its sign, 1 at the equator; and the dial that the run is of.
 void leggiLatitudine(Sessione &s) {
     Variabili &v = s.v;
     v.latGradi = Val(s.in.txtLAT);
     v.segnoLat = v.latGradi == 0 ? Valore(1) : Sgn(v.latGradi);
+    RinfrescaOriginale(s, Lettura(s.in));
 }
 
 void cmdEqui_Click(Sessione &s, int) {

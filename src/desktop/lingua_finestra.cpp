@@ -18,13 +18,32 @@ namespace {
 
 constexpr auto LINGUA = "lingua";
 
-// The toolkit's catalogue for the language that the dictionary says it is: "it" is translated to its own code.
-void traduciQt(const Sessione &s) {
+// Which language a dictionary is, by how it says "open".
+struct Lingua {
+    std::string_view apri;
+    const char *codice, *aggiunta;  // of the toolkit's catalogue; the dictionary of the window's own texts
+};
+constexpr Lingua LINGUE[] = {{"Open...", "en", "DBFinestraInglese.txt"}, {"Ouvrir...", "fr", "DBFinestraFrancese.txt"}, {"", "it", ""}};
+
+const Lingua &linguaDi(const Sessione &s) {
+    const std::string apri = s.Traduci("Apri...");
+    for (const Lingua &l : LINGUE)
+        if (apri == l.apri) return l;
+    return LINGUE[2];
+}
+
+bool aggiungi(Sessione &s, std::string_view nome, void (Dizionario::*come)(std::string)) {
+    const auto file = TrovaDato(nome);
+    auto contenuto = file ? LeggiFile(file->string(), FILE_MASSIMO) : std::nullopt;
+    if (contenuto) (s.dizionario.*come)(std::move(*contenuto));
+    return contenuto.has_value();
+}
+
+void traduciQt(const char *codice) {
     static QTranslator *catalogo = nullptr;
     if (catalogo) QCoreApplication::removeTranslator(catalogo);
     else catalogo = new QTranslator(QCoreApplication::instance());
-    const QString codice = Q(s.Traduci("codice della lingua: it"_it)).section(QLatin1Char(' '), -1);
-    if (catalogo->load(QStringLiteral("qtbase_") + codice, QLibraryInfo::path(QLibraryInfo::TranslationsPath))) QCoreApplication::installTranslator(catalogo);
+    if (catalogo->load(QStringLiteral("qtbase_") + QString::fromLatin1(codice), QLibraryInfo::path(QLibraryInfo::TranslationsPath))) QCoreApplication::installTranslator(catalogo);
 }
 
 }  // namespace
@@ -32,13 +51,14 @@ void traduciQt(const Sessione &s) {
 void LinguaRicordata(Sessione &s) {
     if (s.dizionario.Voci().empty()) {
         const std::string nome = QSettings().value(QLatin1String(LINGUA)).toString().toStdString();
-        if (const auto file = nome.empty() ? std::nullopt : TrovaDato(Dizionario::NomeFile(nome)))
-            if (auto contenuto = LeggiFile(file->string(), FILE_MASSIMO)) {
-                s.dizionario.Interpreta(std::move(*contenuto));
-                for (const std::string_view modulo : {"MDIForm1", "frmTavolo", "Tavolo1"}) app::CaricaForm(s, modulo);
-            }
+        if (!nome.empty()) aggiungi(s, Dizionario::NomeFile(nome), &Dizionario::Interpreta);
     }
-    traduciQt(s);
+    const Lingua &lingua = linguaDi(s);
+    if (*lingua.aggiunta) {
+        aggiungi(s, lingua.aggiunta, &Dizionario::Aggiungi);
+        for (const std::string_view modulo : {"MDIForm1", "frmTavolo", "Tavolo1"}) app::CaricaForm(s, modulo);
+    }
+    traduciQt(lingua.codice);
 }
 
 void RicordaLingua(std::string_view voce, const app::Esito &esito) {

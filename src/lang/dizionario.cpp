@@ -2,6 +2,7 @@
 #include "lang/dizionario.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "core/campi.h"
 #include "core/file.h"
@@ -44,6 +45,10 @@ void Dizionario::CaricaDizionario(std::string_view Nome) {
 void Dizionario::Interpreta(std::string contenuto) {
     voci_.clear();
     indice_.clear();
+    Aggiungi(std::move(contenuto));
+}
+
+void Dizionario::Aggiungi(std::string contenuto) {
     const std::string decodificato = DaFile(std::move(contenuto));
     std::string_view file = decodificato;
     const std::string testo = PrendiCampo(file);

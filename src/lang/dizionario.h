@@ -26,6 +26,9 @@ public:
     // The same from the content of a file.
     void Interpreta(std::string contenuto);
 
+    // Adds the entries of another file's content; what is there already stands.
+    void Aggiungi(std::string contenuto);
+
     // Name of the file last loaded.
     [[nodiscard]] const std::string &Nome() const { return nome_; }
     // Entries whose translation is not blank, in the order of the file.

@@ -40,6 +40,13 @@ void leggiLatitudine(Sessione &s) {
     RinfrescaOriginale(s, Lettura(s.in));
 }
 
+// Mirrors a southern drawing that is whole, and says so.
+void monta(Sessione &s) {
+    if (s.tavolo.lista().Ordine.empty()) return;
+    s.tavolo.cmdInvX();
+    s.Messaggio(s.Traduci("Quadrante australe: il disegno è già specchiato come va montato"));
+}
+
 void cmdEqui_Click(Sessione &s, int) {
     Tavolo &t = s.tavolo;
     leggiLatitudine(s);
@@ -48,6 +55,7 @@ void cmdEqui_Click(Sessione &s, int) {
         t.ShiftY(t.QuadranteH() / 3.33333);
     }
     if (Val(s.in.txtInc) == 0) analytic::EseguiGraficaAnalitica(s);
+    if (s.australeMontato && s.v.segnoLat == -1 && Val(s.in.txtInc) == 0) monta(s);
 }
 
 void cmdTrasforma_Click(Sessione &s, int) {
@@ -88,10 +96,15 @@ void cmdRun(Sessione &s) {
     if (lat < 0) {
         // A run that is refused leaves the South as it is typed.
         if (direct::TroppoFitta(s)) return;
-        // A southern dial is the northern one of the mirrored latitude; the user mirrors the drawing.
-        s.utente.Box(s.Traduci("A grafico ottenuto usare il tasto InvertX"));
+        // A southern dial is the northern one of the mirrored latitude. The drawing is mirrored by the user, or at once; then the field
+        // keeps the latitude that the dial has.
+        const std::string scritta = s.in.txtLAT;
+        if (!s.australeMontato) s.utente.Box(s.Traduci("A grafico ottenuto usare il tasto InvertX"));
         s.Scrivi(&DialInputs::txtLAT, TestoNumero((-lat).v));
         direct::I_Graf_diretta(s);
+        if (!s.australeMontato) return;
+        s.Scrivi(&DialInputs::txtLAT, scritta);
+        monta(s);
     } else if (Val(s.in.txtInc) == 0 && s.in.CkUNI == 1) {
         vertical::Piana_Esegui(s);
     } else {

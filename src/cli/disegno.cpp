@@ -2,8 +2,10 @@
 #include "cli/disegno.h"
 
 #include <algorithm>
+#include <cstdio>
 
 #include "app/comandi.h"
+#include "app/plausibile.h"
 
 namespace ombrelia::cli {
 
@@ -86,13 +88,14 @@ std::string Disegno::Esegui(Sessione &s) const {
     if (motore == "analytic" && !parete)
         return "txtInc reads " + s.in.txtInc + ": the analytic engine draws walls only; use cmdTrasforma first";
     const std::string_view bottone = motore == "analytic" ? "cmdEqui" : "cmdRun";
-    const bool australe = Val(s.in.txtLAT) < 0;
+    for (const app::Dubbio &d : app::Dubbi(s.in))
+        std::fprintf(stderr, "warning: %s reads %s: %s\n", std::string(d.campo).c_str(), s.testo(TrovaControllo(d.campo)).c_str(),
+                     s.Traduci(d.motivo).c_str());
+    s.australeMontato = true;
     const app::Esito e = app::Premi(s, TrovaControllo(bottone));
     if (e == app::Esito::Disabilitato) return std::string(bottone) + " is disabled: it works on walls only (txtInc must read 0)";
     if (!e) return e.motivo.empty() ? "the run was refused" : e.motivo;
     if (s.tavolo.lista().Ordine.empty()) return "nothing was drawn, and nothing is written";
-    // A user at the window would now press the same button.
-    if (australe) s.tavolo.cmdInvX();
     return {};
 }
 

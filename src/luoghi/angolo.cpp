@@ -24,7 +24,7 @@ struct Ragione {
 };
 constexpr Ragione RAGIONI[] = {
     {Intoppo::Vuoto, "Manca l'angolo"_it, "the angle is missing"},
-    {Intoppo::NonSiLegge, "Non si legge: scrivere come 45.07 o 45°04'13\""_it, "can't be read: write it as 45.07 or 45°04'13\""},
+    {Intoppo::NonSiLegge, "Non si legge: scrivere come 45.07 o 45°04'13''"_it, "can't be read: write it as 45.07 or 45°04'13''"},
     {Intoppo::Sessanta, "Primi e secondi sono minori di 60"_it, "minutes and seconds are below 60"},
     {Intoppo::Decimali, "Solo l'ultimo numero ha decimali"_it, "only the last number has decimals"},
     {Intoppo::SegnoELettera, "O il segno o la lettera, non tutti e due"_it, "either the sign or the letter, not both"},

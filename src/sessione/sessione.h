@@ -46,6 +46,9 @@ struct Sessione {
     // A run reads the original dial anew unless the dial was transformed: on for whoever designs, off for action scripts,
     // where the first read since start fixes it for good.
     bool originaleFresco = false;
+    // A southern dial, drawn as the mirror image of what is mounted, is mirrored at once: on for whoever designs, off for action
+    // scripts, where the user is told to press the button.
+    bool australeMontato = false;
     std::vector<StatoControllo> stati;  // one a row of the table of controls
     std::vector<std::string> titoli;    // captions of the forms, one a row of the table of forms
 

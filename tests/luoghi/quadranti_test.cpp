@@ -1,4 +1,5 @@
-// Dials of far places, as they come mounted, held against a projection of their own: vectors East, North and up, nothing of the engines'.
+// Dials of far places, as they come mounted, held against a projection of their own: vectors East, North and up, nothing of the
+// engines'.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -33,7 +34,8 @@ struct Ombra {
     bool luce;
 };
 Ombra ombra(const Piano &p, double lat, double H, double delta) {
-    const double cf = std::cos(lat * RAD), sf = std::sin(lat * RAD), cd = std::cos(delta * RAD), sd = std::sin(delta * RAD), ch = std::cos(H * RAD);
+    const double cf = std::cos(lat * RAD), sf = std::sin(lat * RAD), cd = std::cos(delta * RAD), sd = std::sin(delta * RAD),
+                 ch = std::cos(H * RAD);
     const V sole{-cd * std::sin(H * RAD), cf * sd - sf * cd * ch, sf * sd + cf * cd * ch};
     const double fronte = per(sole, p.normale);
     const double k = -GNOMONE / fronte;
@@ -49,10 +51,12 @@ double lontano(const prova::Banco &b, double ora, double x, double y) {
     for (std::size_t i = 0; i < l.pretese.size(); ++i) {
         const Pretesa &p = l.pretese[i];
         if (p.specie != Specie::Ora || std::fabs(p.valore - ora) > 1e-9) continue;
-        const std::size_t fine = p.linea + static_cast<std::size_t>(std::count(l.Ordine.begin() + static_cast<long>(p.da), l.Ordine.begin() + static_cast<long>(p.a), 'L'));
+        const std::size_t fine = p.linea + static_cast<std::size_t>(std::count(l.Ordine.begin() + static_cast<long>(p.da),
+                                                                               l.Ordine.begin() + static_cast<long>(p.a), 'L'));
         for (std::size_t k = p.linea; k < fine; ++k) {
             const RecLinea &r = l.Linee[k];
-            const double s = b.s.tavolo.FattoreX, ax = s * r.X1, ay = -r.Y1, dx = s * r.X2 - ax, dy = -r.Y2 - ay, q = dx * dx + dy * dy;
+            const double s = b.s.tavolo.FattoreX, ax = s * r.X1, ay = -r.Y1, dx = s * r.X2 - ax, dy = -r.Y2 - ay,
+                         q = dx * dx + dy * dy;
             const double t = q > 0 ? std::clamp(((x - ax) * dx + (y - ay) * dy) / q, 0.0, 1.0) : 0;
             minima = std::min(minima, std::hypot(x - ax - t * dx, y - ay - t * dy));
         }
@@ -67,8 +71,17 @@ TEST(LontaniQuadranti, HourLinesOfTheZoneAndOfTheSite) {
         for (const std::string_view motore : {"direct", "vertical", "analytic"}) {
             if (r[6].find(motore) == std::string::npos) continue;
             for (const bool fuso : {true, false}) {
-                prova::Banco b({{"txtLAT", r[1]}, {"txtLonG", r[2]}, {"txtMeridiano", r[3]}, {"txtInc", r[5]}, {"txtDec", r[4]}, {"TxtStilo", "0.1"},
-                                {"txtX0", "-1"}, {"txtX1", "1"}, {"txtY0", "1"}, {"txtY1", "-1"}, {"TxtFraz", "1"}});
+                prova::Banco b({{"txtLAT", r[1]},
+                                {"txtLonG", r[2]},
+                                {"txtMeridiano", r[3]},
+                                {"txtInc", r[5]},
+                                {"txtDec", r[4]},
+                                {"TxtStilo", "0.1"},
+                                {"txtX0", "-1"},
+                                {"txtX1", "1"},
+                                {"txtY0", "1"},
+                                {"txtY1", "-1"},
+                                {"TxtFraz", "1"}});
                 b.s.australeMontato = true;
                 b.spunta("chkOreAstronomiche");
                 if (fuso) b.spunta("ck_Etna");

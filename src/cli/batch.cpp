@@ -36,6 +36,7 @@ public:
         app::Avvia(s_);
     }
     void esegui(std::string_view riga);
+    Sessione &sessione() { return s_; }
 
 private:
     using Azione = void (Esecuzione::*)(std::string_view);
@@ -235,17 +236,32 @@ void Esecuzione::value(std::string_view resto) {
 
 }  // namespace
 
+struct Copione::Interno {
+    Esecuzione esecuzione;
+};
+
+Copione::Copione() : interno_(std::make_unique<Interno>()) {}
+Copione::~Copione() = default;
+Sessione &Copione::sessione() { return interno_->esecuzione.sessione(); }
+
+std::optional<std::string> Copione::Esegui(std::string_view riga) {
+    try {
+        interno_->esecuzione.esegui(riga);
+    } catch (const Rifiuto &rifiuto) {
+        return rifiuto.motivo;
+    }
+    return {};
+}
+
 int EseguiAzioni(std::string_view script, const std::string &nome) {
     if (script.starts_with(BOM)) script.remove_prefix(BOM.size());
-    Esecuzione esecuzione;
+    Copione copione;
     std::size_t numero = 0;
     while (!script.empty()) {
         ++numero;
         const std::size_t fine = std::min(script.find('\n'), script.size());
-        try {
-            esecuzione.esegui(script.substr(0, fine));
-        } catch (const Rifiuto &rifiuto) {
-            std::fprintf(stderr, "%s:%zu: %s\n", nome.c_str(), numero, rifiuto.motivo.c_str());
+        if (const auto motivo = copione.Esegui(script.substr(0, fine))) {
+            std::fprintf(stderr, "%s:%zu: %s\n", nome.c_str(), numero, motivo->c_str());
             return 2;
         }
         script.remove_prefix(std::min(fine + 1, script.size()));

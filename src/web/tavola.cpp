@@ -1,0 +1,64 @@
+// The table of controls as the page builds itself from it.
+#include "app/gruppi.h"
+#include "web/json.h"
+#include "web/pagina.h"
+#include "web/testi.h"
+
+namespace ombrelia::web {
+
+namespace {
+
+// Names the page's script knows the classes by.
+std::string_view nomeDi(Classe c) {
+    switch (c) {
+        case Classe::Testo: return "testo";
+        case Classe::Casella: return "casella";
+        case Classe::Opzione: return "opzione";
+        case Classe::Pulsante: return "pulsante";
+        case Classe::Etichetta: return "etichetta";
+        case Classe::Elenco: return "elenco";
+        case Classe::Menu: return "menu";
+        default: return "";
+    }
+}
+
+void controllo(Json &j, const Dizionario &d, const Controllo &c) {
+    j.apri('{').nome("nome").testo(c.nome).nome("classe").testo(nomeDi(c.classe));
+    j.nome("caption").testo(d.Traduci(c.caption)).nome("tip").testo(d.Traduci(c.toolTip));
+    j.nome("cifre").vero(c.filtro != Filtro::Nessuno || !c.inizio.empty()).chiudi('}');
+}
+
+// A group's rows: names of controls, and captions of its own as {"caption": text}.
+void gruppo(Json &j, const Dizionario &d, const app::Gruppo &g) {
+    j.apri('{').nome("titolo").testo(d.Traduci(g.titolo)).nome("chiave").testo(g.titolo).nome("righe").apri('[');
+    for (const app::Gruppo::Riga &r : g.righe) {
+        j.apri('[');
+        for (const std::string_view nome : r) {
+            const IdControllo id = TrovaControllo(nome);
+            if (id == NESSUN_CONTROLLO) j.apri('{').nome("classe").testo("etichetta").nome("caption").testo(d.Traduci(nome)).chiudi('}');
+            else controllo(j, d, TavolaControlli()[static_cast<std::size_t>(id)]);
+        }
+        j.chiudi(']');
+    }
+    j.chiudi(']').chiudi('}');
+}
+
+// Beside the groups: buttons and menu entries.
+constexpr std::string_view COMANDI[] = {"cmdRun", "cmdEqui", "cmdTrasforma", "cmdData", "mnuAvviso"};
+
+}  // namespace
+
+std::string Pagina::Tavola() const {
+    const Dizionario &d = dizionario();
+    Json j;
+    j.apri('{').nome("gruppi").apri('[');
+    for (const auto *gruppi : {&app::GruppiQuadrante(), &app::GruppiDisegno()})
+        for (const app::Gruppo &g : *gruppi) gruppo(j, d, g);
+    j.chiudi(']').nome("comandi").apri('[');
+    for (const std::string_view nome : COMANDI) controllo(j, d, TavolaControlli()[static_cast<std::size_t>(TrovaControllo(nome))]);
+    j.chiudi(']').nome("testi").apri('{');
+    for (const TestoPagina &t : TestiPagina()) j.nome(t.chiave).testo(d.Traduci(t.testo));
+    return std::move(j.chiudi('}').chiudi('}')).fine();
+}
+
+}  // namespace ombrelia::web

@@ -1,0 +1,38 @@
+// The page's own words.
+#include "web/testi.h"
+
+#include "core/testo.h"
+
+namespace ombrelia::web {
+
+namespace {
+
+constexpr TestoPagina TESTI[] = {
+    {"motto", "Orologi solari in vera grandezza"_it},
+    {"cerca", "Cerca un luogo"_it},
+    {"esempi", "Esempi"_it},
+    {"scarica", "Scarica"_it},
+    {"progetto", "Progetto"_it},
+    {"tabella", "Tabella"_it},
+    {"perCad", "per il CAD"_it},
+    {"perMacchina", "per la macchina"_it},
+    {"copia", "Copia il collegamento"_it},
+    {"copiato", "Collegamento copiato"_it},
+    {"apri", "Apri un progetto o trascinalo qui"_it},
+    {"aperto", "Aperto:"_it},
+    {"lascia", "Lascia qui il progetto"_it},
+    {"tutto", "Tutto il foglio"_it},
+    {"avvicina", "Avvicina"_it},
+    {"allontana", "Allontana"_it},
+    {"chiudi", "Chiudi"_it},
+    {"tema", "Chiaro o scuro"_it},
+    {"nessunaTabella", "Nessuna tabella per questi campi"_it},
+    {"vuoto", "Nulla da disegnare: scegliere le linee"_it},
+    {"vecchio", "Questo browser è troppo vecchio per Ombrelia"_it},
+};
+
+}  // namespace
+
+std::span<const TestoPagina> TestiPagina() { return TESTI; }
+
+}  // namespace ombrelia::web

@@ -1,12 +1,11 @@
-// The calls of the page, and the one door through which a browser comes in.
+// The calls of the page.
 #include "web/chiamate.h"
 
-#include <cstdio>
-#include <exception>
 #include <stdexcept>
 #include <utility>
 
 #include "core/file.h"
+#include "core/testo.h"
 
 namespace ombrelia::web {
 
@@ -24,6 +23,11 @@ std::pair<Sv, Sv> spezza(Sv argomento) {
 std::string consegna(const std::string &nome, Sv contenuto) {
     if (const auto errore = ScriviFile(nome, contenuto)) throw std::runtime_error(*errore);
     return nome;
+}
+
+double numero(Sv testo) {
+    const Valore n = Val(testo);
+    return n.esiste() ? n.v : 0;
 }
 
 std::string nulla(void (Pagina::*che)(), Pagina &p) {
@@ -45,6 +49,15 @@ constexpr Chiamata CHIAMATE[] = {
     {"disegna", [](Pagina &p, Sv) { return p.Disegna(); }},
     {"dimentica", [](Pagina &p, Sv) { return nulla(&Pagina::Dimentica, p); }},
     {"esporta", [](Pagina &p, Sv a) { return consegna("/tmp/ombrelia." + std::string(a), p.Esporta(a)); }},
+    {"luoghi", [](Pagina &, Sv a) { return Pagina::Luoghi(a); }},
+    {"leggi",
+     [](Pagina &p, Sv a) {
+         const auto [x, resto] = spezza(a);
+         const auto [y, anno] = spezza(resto);
+         return p.Leggi(numero(x), numero(y), static_cast<int>(numero(anno)));
+     }},
+    {"ombra", [](Pagina &p, Sv a) { return p.Ombra(spezza(a).first, numero(spezza(a).second)); }},
+    {"giornata", [](Pagina &p, Sv a) { return p.Giornata(a); }},
     {"rapporto", [](Pagina &p, Sv a) { return p.ApriRapporto(a); }},
     {"salvaRapporto", [](Pagina &p, Sv a) { return consegna("/tmp/rapporto." + std::string(a), p.RapportoCome(a)); }},
 };
@@ -54,23 +67,3 @@ constexpr Chiamata CHIAMATE[] = {
 std::span<const Chiamata> Chiamate() { return CHIAMATE; }
 
 }  // namespace ombrelia::web
-
-#ifdef __EMSCRIPTEN__
-#include <emscripten.h>
-
-// Gives "=" and the answer, or "!" and why there is none; good until the next call.
-extern "C" EMSCRIPTEN_KEEPALIVE const char *ombrelia_chiama(const char *nome, const char *argomento) {
-    using namespace ombrelia::web;
-    static Pagina pagina;
-    static std::string risposta;
-    try {
-        risposta = "!no such call";
-        for (const Chiamata &c : Chiamate())
-            if (c.nome == nome) risposta = "=" + c.esegui(pagina, argomento);
-    } catch (const std::exception &e) {
-        risposta = std::string("!") + e.what();
-    }
-    std::fflush(stdout);
-    return risposta.c_str();
-}
-#endif

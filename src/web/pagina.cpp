@@ -11,6 +11,7 @@
 #include "cli/formati.h"
 #include "core/campi.h"
 #include "core/file.h"
+#include "luoghi/angolo.h"
 #include "plot/svg.h"
 #include "reports/rapporti.h"
 #include "web/json.h"
@@ -71,6 +72,15 @@ std::string Pagina::Scrivi(std::string_view nome, std::string_view testo) {
     Sessione &s = sessione();
     const AlTavolo fresco(s);
     tocca();
+    // "45°04' N" is what its degrees are.
+    const luoghi::CampoAngolo *angolo = luoghi::TrovaCampoAngolo(riga(id).nome);
+    if (angolo && testo.find_first_not_of("0123456789.,+-") != std::string_view::npos) {
+        const luoghi::AngoloLetto letto = luoghi::LeggiAngolo(testo, *angolo);
+        if (letto.buono()) {
+            app::Imposta(s, id, letto.testo);
+            return std::string(testo);
+        }
+    }
     std::string filtrato;
     for (std::size_t i = 0; i < testo.size(); ++i) {
         // Bytes behind the first of a character go with it.

@@ -65,6 +65,16 @@ public:
     [[nodiscard]] std::string ApriRapporto(std::string_view nome);
     [[nodiscard]] std::string RapportoCome(std::string_view forma) const;
 
+    // Towns whose name begins so, the larger first. JSON: [name, country or state, latitude, longitude, zone meridian], the numbers
+    // as texts for the fields.
+    [[nodiscard]] static std::string Luoghi(std::string_view inizio);
+    // What a point of the sheet says, x and y in millimetres from its corner, and the dates in a year. JSON.
+    [[nodiscard]] std::string Leggi(double x, double y, int anno);
+    // The shadow at a date and hours of the zone's mean time, x and y as above. JSON.
+    [[nodiscard]] std::string Ombra(std::string_view data, double ore);
+    // The way of the shadow through that day: JSON, points or null where there is none.
+    [[nodiscard]] std::string Giornata(std::string_view data);
+
     [[nodiscard]] Sessione &sessione() { return copione_->sessione(); }
     [[nodiscard]] Sessione &disegno() { return daScript_ ? sessione() : prova_; }
     [[nodiscard]] const Dizionario &dizionario() const { return prova_.dizionario; }

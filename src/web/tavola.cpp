@@ -1,4 +1,7 @@
 // The table of controls as the page builds itself from it.
+#include <algorithm>
+#include <iterator>
+
 #include "app/gruppi.h"
 #include "web/json.h"
 #include "web/pagina.h"
@@ -22,10 +25,14 @@ std::string_view nomeDi(Classe c) {
     }
 }
 
+// Buttons and options that open a report.
+constexpr std::string_view RAPPORTI[] = {"optHorae", "OptInter", "OptIta", "OptBab", "OptTEMP", "Option1", "cmdData", "mnuAvviso"};
+
 void controllo(Json &j, const Dizionario &d, const Controllo &c) {
     j.apri('{').nome("nome").testo(c.nome).nome("classe").testo(nomeDi(c.classe));
     j.nome("caption").testo(d.Traduci(c.caption)).nome("tip").testo(d.Traduci(c.toolTip));
-    j.nome("cifre").vero(c.filtro != Filtro::Nessuno || !c.inizio.empty()).chiudi('}');
+    const bool rapporto = std::find(std::begin(RAPPORTI), std::end(RAPPORTI), c.nome) != std::end(RAPPORTI);
+    j.nome("rapporto").vero(rapporto).chiudi('}');
 }
 
 // A group's rows: names of controls, and captions of its own as {"caption": text}.

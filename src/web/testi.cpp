@@ -28,6 +28,17 @@ constexpr TestoPagina TESTI[] = {
     {"tema", "Chiaro o scuro"_it},
     {"nessunaTabella", "Nessuna tabella per questi campi"_it},
     {"vuoto", "Nulla da disegnare: scegliere le linee"_it},
+    {"giorno", "Giorno"_it},
+    {"ora", "Ora del fuso"_it},
+    {"avvia", "Muovi l'ombra"_it},
+    {"ferma", "Ferma l'ombra"_it},
+    {"notte", "notte"_it},
+    {"dietro", "il Sole è dietro il piano"_it},
+    {"mai", "qui non arriva mai l'ombra"_it},
+    {"vera", "ora vera"_it},
+    {"oraFuso", "ora del fuso"_it},
+    {"sole", "Sole a"_it},
+    {"oppure", "oppure"_it},
     {"vecchio", "Questo browser è troppo vecchio per Ombrelia"_it},
 };
 

@@ -12,6 +12,7 @@
 #include "core/campi.h"
 #include "core/file.h"
 #include "luoghi/angolo.h"
+#include "officina/scrittori.h"
 #include "plot/svg.h"
 #include "reports/rapporti.h"
 #include "web/json.h"
@@ -23,6 +24,8 @@ namespace {
 constexpr std::string_view FINESTRA = "MDIForm1";
 
 const Controllo &riga(IdControllo id) { return TavolaControlli()[static_cast<std::size_t>(id)]; }
+
+constexpr std::string_view MACCHINA = "macchina.";  // before the ending of a form for machines
 
 // What a change of asks for another sheet.
 bool dellaCornice(const Controllo &c) {
@@ -233,6 +236,13 @@ std::string Pagina::Disegna() {
 
 std::string Pagina::Esporta(std::string_view forma) {
     if (forma == "omb") return app::ScriviProgetto(sessione());
+    if (forma.starts_with(MACCHINA)) {
+        const officina::FormatoMacchina *m = officina::FormatoMacchinaDi(forma.substr(MACCHINA.size()));
+        std::string errore;
+        const officina::Disegno d = officina::Prepara(disegno().tavolo, {.testi = officina::Testi::Testo}, errore);
+        if (!m || !errore.empty()) throw std::runtime_error(errore);
+        return m->scrivi(d, {.titolo = "Ombrelia"});
+    }
     const cli::Formato *f = cli::FormatoDi(forma);
     if (!f) throw std::invalid_argument("unknown form " + std::string(forma));
     std::string errore, contenuto = f->scrivi(disegno(), errore);

@@ -59,7 +59,8 @@ public:
     [[nodiscard]] std::string Disegna();
     // The same with all layers, for a page that starts over.
     void Dimentica() { mostrati_.clear(); }
-    // The drawing shown, in one of the program's forms ("svg", "dxf"); "omb" is the project. Throws what went wrong.
+    // The drawing shown, in one of the program's forms ("svg", "dxf"), or made ready for a machine ("macchina.dxf"); "omb" is the
+    // project. Throws what went wrong.
     [[nodiscard]] std::string Esporta(std::string_view forma);
     // The report that a control opens; JSON, null when these fields have none. Forms "csv" and "txt" of the last one.
     [[nodiscard]] std::string ApriRapporto(std::string_view nome);

@@ -19,7 +19,6 @@ constexpr TestoPagina TESTI[] = {
     {"copia", "Copia il collegamento"_it},
     {"copiato", "Collegamento copiato"_it},
     {"apri", "Apri un progetto o trascinalo qui"_it},
-    {"aperto", "Aperto:"_it},
     {"lascia", "Lascia qui il progetto"_it},
     {"tutto", "Tutto il foglio"_it},
     {"avvicina", "Avvicina"_it},
@@ -36,10 +35,8 @@ constexpr TestoPagina TESTI[] = {
     {"dietro", "il Sole è dietro il piano"_it},
     {"mai", "qui non arriva mai l'ombra"_it},
     {"vera", "ora vera"_it},
-    {"oraFuso", "ora del fuso"_it},
     {"sole", "Sole a"_it},
     {"oppure", "oppure"_it},
-    {"vecchio", "Questo browser è troppo vecchio per Ombrelia"_it},
 };
 
 }  // namespace

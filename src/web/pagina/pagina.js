@@ -494,7 +494,7 @@
     if ([...cerca('lingua').options].some((o) => o.value === voluta)) cerca('lingua').value = voluta;
     const dial = campi.filter(([nome]) => nome !== 'lingua');
     if (!dial.length) return false;
-    const piano = (testo) => testo.replace(/[\t\r\n]/g, ' ');
+    const piano = (testo) => testo.replace(/[\t\r\n\0]/g, ' ');
     chiama('collega', dial.map(([nome, valore]) => `${piano(nome)}\t${piano(valore)}`).join('\n'));
     cerca('nome').textContent = '';
     toccata = true;

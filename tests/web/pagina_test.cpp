@@ -1,0 +1,83 @@
+// The program behind a page: what goes in stays text, what comes out is JSON, layers travel only when they change.
+#include <gtest/gtest.h>
+
+#include "web/chiamate.h"
+#include "web/json.h"
+
+namespace ombrelia::web {
+namespace {
+
+std::string Chiama(Pagina &p, std::string_view nome, std::string_view argomento = {}) {
+    for (const Chiamata &c : Chiamate())
+        if (c.nome == nome) return c.esegui(p, argomento);
+    ADD_FAILURE() << "no call " << nome;
+    return {};
+}
+
+TEST(Json, QualunqueByteDaJsonValido) {
+    EXPECT_EQ(std::move(Json().apri('{').nome("a\"").testo("\\\n\x01\xE0").nome("b").apri('[').numero(0.5).numero(1.0 / 0.0).vero(true).chiudi(']').chiudi('}')).fine(),
+              "{\"a\\\"\":\"\\\\\\u000a\\u0001à\",\"b\":[0.5,null,true]}");
+}
+
+TEST(Pagina, IlCollegamentoPortaIlQuadrante) {
+    Pagina p, q;
+    Chiama(p, "premi", "ck_Italiche");  // sets the hours' range
+    for (const char *campo : {"txtLAT\t-33,87", "txtDec\t<b>1&2</b>", "txtX1\t1.5"}) Chiama(p, "scrivi", campo);
+    const std::string link = Chiama(p, "collegamento");
+    EXPECT_NE(link.find("[\"txtLAT\",\"-33.87\"]"), std::string::npos) << link;
+    EXPECT_NE(link.find("[\"txtDec\",\"12\"]"), std::string::npos) << "keys that the filter drops: " << link;
+    EXPECT_NE(link.find("[\"TxtInizio\",\"13\"]"), std::string::npos) << link;
+    Chiama(q, "collega", "TxtInizio\t13\nTxtFine\t24\ntxtLAT\t-33.87\ntxtDec\t12\ntxtX1\t1.5\nck_Italiche\t1\nnessuno\tx\ncmdRun\t1\nfrmDeclin.txtAngle\t9\n");
+    EXPECT_EQ(Chiama(q, "collegamento"), link);
+    EXPECT_EQ(Chiama(q, "disegna"), Chiama(p, "disegna"));
+}
+
+TEST(Pagina, ViaggianoSoloGliStratiCambiati) {
+    Pagina p;
+    for (const char *casella : {"chkOreAstronomiche", "ck_Equinoziale"}) Chiama(p, "premi", casella);
+    const std::string prima = Chiama(p, "disegna"), stesso = Chiama(p, "disegna");
+    EXPECT_NE(prima.find("<path"), std::string::npos);
+    EXPECT_EQ(stesso.find("<path"), std::string::npos) << stesso;
+    Chiama(p, "scrivi", "TxtStilo\t.2");
+    EXPECT_NE(Chiama(p, "disegna").find("<path"), std::string::npos);
+}
+
+// A page draws on a copy: what a script meets is the program as it starts.
+TEST(Pagina, IDisegniNonToccanoLoScript) {
+    Pagina p, q;
+    Chiama(p, "disegna");
+    Chiama(p, "rapporto", "cmdData");
+    for (Pagina *x : {&p, &q})
+        for (const char *riga : {"set txtLAT 40", "check ck_babiloniche", "click cmdRun"}) EXPECT_EQ(Chiama(*x, "esegui", riga), "");
+    EXPECT_EQ(p.Esporta("txt"), q.Esporta("txt"));
+    EXPECT_EQ(Chiama(p, "esegui", "nonsense"), "unknown action: nonsense");
+}
+
+// Steps of an angle as people write it; what the field holds are degrees.
+TEST(Pagina, GliAngoliComeSiScrivono) {
+    Pagina p;
+    EXPECT_EQ(Chiama(p, "scrivi", "txtLAT\t45°30' S"), "45°30' S");
+    EXPECT_EQ(p.sessione().in.txtLAT, "-45.5");
+}
+
+// The shadow at a moment is read back at that moment, on either side of the equator and on a mirrored sheet.
+TEST(Pagina, LOmbraSiRilegge) {
+    for (const char *latitudine : {"45.07", "-33.87"}) {
+        Pagina p;
+        Chiama(p, "scrivi", "txtLAT\t" + std::string(latitudine));
+        Chiama(p, "scrivi", "txtLonG\t-15");
+        Chiama(p, "premi", "chkOreAstronomiche");
+        Chiama(p, "disegna");
+        const std::string ombra = Chiama(p, "ombra", "2026-03-10\t11");
+        const std::size_t a = ombra.find("\"punta\":[");
+        ASSERT_NE(a, std::string::npos) << ombra;
+        const std::string xy = ombra.substr(a + 9, ombra.find(']', a) - a - 9);
+        const std::size_t virgola = xy.find(',');
+        const std::string letto = Chiama(p, "leggi", xy.substr(0, virgola) + "\t" + xy.substr(virgola + 1) + "\t2026");
+        EXPECT_NE(letto.find("\"2026-03-10\""), std::string::npos) << letto;
+        EXPECT_NE(letto.find("\"11:00\""), std::string::npos) << letto;
+    }
+}
+
+}  // namespace
+}  // namespace ombrelia::web

@@ -111,7 +111,7 @@ try {
     await p.click('#txtLAT');
     for (const tasto of '44.4949\b\b\b\b35678\b\b\b2345') {
       await p.keyboard.press(tasto === '\b' ? 'Backspace' : tasto);
-      await new Promise((r) => setTimeout(r, 30));
+      await new Promise((r) => setTimeout(r, 120));
     }
     const tempi = (await p.evaluate(() => window.tempi)).sort((a, b) => a - b);
     vale('a dial is drawn anew at every key', (await p.$eval('#disegno', (g) => g.outerHTML)) !== prima && (await disegnato()) > 1000 && tempi.length > 20);

@@ -74,13 +74,14 @@
   function disegna() {
     const d = chiedi('disegna');
     const nuovi = new DOMParser().parseFromString(d.svg, 'image/svg+xml').querySelectorAll('g[id]');
-    for (const g of nuovi) strati.set(g.id, document.importNode(g, true));
+    for (const g of nuovi) strati.set(g.id, document.adoptNode(g));
     disegno.replaceChildren(...d.strati.map((id) => strati.get(id)));
     if (d.foglio.join() !== misura.join()) {
       misura = d.foglio;
-      const carta = cerca('carta');
-      carta.setAttribute('width', misura[0] * 1000);
-      carta.setAttribute('height', misura[1] * 1000);
+      for (const carta of [cerca('carta'), cerca('ritaglio').firstElementChild]) {
+        carta.setAttribute('width', misura[0] * 1000);
+        carta.setAttribute('height', misura[1] * 1000);
+      }
       vista = null;
     }
     inquadra();
@@ -163,10 +164,10 @@
     };
     foglio.addEventListener('dblclick', tutto);
     foglio.addEventListener('keydown', (e) => {
-      const passo = riquadro().l / 12;
+      const tratto = riquadro().l / 12;
       const vai = (x, y) => {
         const r = riquadro();
-        vista = { x: r.x + x * passo, y: r.y + y * passo, l: r.l };
+        vista = { x: r.x + x * tratto, y: r.y + y * tratto, l: r.l };
         inquadra();
       };
       const tasti = {
@@ -242,18 +243,18 @@
     cerca('avvia').setAttribute('aria-label', cerca('avvia').title);
     if (!si) return;
     const inizio = performance.now(), da = Number(cerca('ora').value);
-    const passo = (t) => {
+    const fotogramma = (t) => {
       cerca('ora').value = (da + (t - inizio) / 10000 * 1440) % 1440;
       ombra();
-      moto = requestAnimationFrame(passo);
+      moto = requestAnimationFrame(fotogramma);
     };
-    moto = requestAnimationFrame(passo);
+    moto = requestAnimationFrame(fotogramma);
   }
   function barraDelTempo() {
     const oggi = Math.floor((Date.now() - Date.UTC(anno, 0, 1)) / 86400000) + 1;
     const prima = { giorno: cerca('giorno')?.value ?? oggi, ora: cerca('ora')?.value ?? 660 };
-    const barra = (id, caption, max, detto) => crea('label', { title: caption },
-      crea('input', { id, type: 'range', min: id === 'giorno' ? 1 : 0, max, step: 1, value: prima[id], 'aria-label': caption }), crea('output', { id: detto }));
+    const barra = (id, caption, max, mostra) => crea('label', { title: caption },
+      crea('input', { id, type: 'range', min: id === 'giorno' ? 1 : 0, max, step: 1, value: prima[id], 'aria-label': caption }), crea('output', { id: mostra }));
     cerca('tempo').replaceChildren(
       crea('button', { id: 'avvia', type: 'button', onclick: () => muovi(!moto) }),
       barra('giorno', testi.giorno, 365, 'giornoDetto'), barra('ora', testi.ora, 1439, 'oraDetta'), crea('span', { id: 'luce', className: 'luce' }));
@@ -262,8 +263,9 @@
       muovi(false);
       ombra();
     };
-    if (!sopra.children.length)
+    if (!sopra.children.length) {
       sopra.append(figura('path', { class: 'via' }), figura('path', { class: 'ombra' }), figura('circle', { class: 'punta', r: 5 }));
+    }
     muovi(false);
     cerca('tempo').hidden = false;
   }
@@ -388,9 +390,9 @@
     cerca('foglio').setAttribute('aria-label', testi.motto);
     cerca('foglietto').querySelector('.chiudi').setAttribute('aria-label', testi.chiudi);
     const esempi = modulo.FS.readdir(CASA).filter((n) => n.endsWith('.omb')).sort();
-    const detto = (n) => liscio(n.replace('.omb', '').replaceAll('_', ' '));
+    const leggibile = (n) => liscio(n.replace('.omb', '').replaceAll('_', ' '));
     cerca('esempi').replaceChildren(crea('option', { value: '', textContent: testi.esempi }),
-      ...esempi.map((n) => crea('option', { value: n, textContent: detto(n)[0].toUpperCase() + detto(n).slice(1) })));
+      ...esempi.map((n) => crea('option', { value: n, textContent: leggibile(n)[0].toUpperCase() + leggibile(n).slice(1) })));
     cerca('esempi').setAttribute('aria-label', testi.esempi);
     cerca('scarica').firstElementChild.textContent = testi.scarica;
     const forme = [['omb', testi.progetto], ['svg', 'SVG'], ['dxf', 'DXF', testi.perCad], ['macchina.dxf', 'DXF', testi.perMacchina], ['csv', testi.tabella]];
@@ -410,8 +412,9 @@
       else if (e.tagName === 'BUTTON') {
         if (typeof valore === 'boolean') e.setAttribute('aria-pressed', valore);
       } else {
-        if (voci && e.options.length !== voci.length)
+        if (voci && e.options.length !== voci.length) {
           e.replaceChildren(...voci.map((v) => crea('option', { value: v, textContent: liscio(v) })));
+        }
         if (e !== document.activeElement && e.value !== valore) e.value = valore;
       }
     }
@@ -513,10 +516,10 @@
     if (motivo) avvisa(motivo);
     aggiorna();
   }
-  async function apriFile(file) {
-    if (!file) return;
-    const nome = file.name.replace(/[/\\\0\r\n]/g, '_');
-    modulo.FS.writeFile(CASA + nome, new Uint8Array(await file.arrayBuffer()));
+  async function apriFile(scelto) {
+    if (!scelto) return;
+    const nome = scelto.name.replace(/[/\\\0\r\n]/g, '_');
+    modulo.FS.writeFile(CASA + nome, new Uint8Array(await scelto.arrayBuffer()));
     apri(nome, false);
     scriviIndirizzo();
   }
@@ -533,8 +536,8 @@
     const coda = forma.split('.').pop();
     const base = (cerca('nome').textContent || 'ombrelia').replace(/\.omb$/, '');
     if (forma === 'csv' && chiama('rapporto', 'cmdData') === 'null') return avvisa(testi.nessunaTabella);
-    const file = forma === 'csv' ? chiama('salvaRapporto', 'csv') : chiama('esporta', forma);
-    salva(`${base}${forma === 'macchina.dxf' ? '-macchina' : ''}.${coda}`, modulo.FS.readFile(file), TIPI[coda]);
+    const scritto = forma === 'csv' ? chiama('salvaRapporto', 'csv') : chiama('esporta', forma);
+    salva(`${base}${forma === 'macchina.dxf' ? '-macchina' : ''}.${coda}`, modulo.FS.readFile(scritto), TIPI[coda]);
   }
 
   // --- reports ---------------------------------------------------------------------------------------------------------

@@ -12,6 +12,7 @@
 #include "core/angoli.h"
 #include "core/cifre.h"
 #include "core/conteggio.h"
+#include "core/funzioni.h"
 #include "core/testo.h"
 
 namespace ombrelia {
@@ -144,6 +145,36 @@ TEST(Numeri, LeCifrePortatiliDannoGliStessiByte) {
         double a = 1, b = 2;
         EXPECT_EQ(cifre::Leggi(t, t + std::strlen(t), a), cifre::portatile::Leggi(t, t + std::strlen(t), b)) << t;
     }
+}
+
+// Against the library's longer type, rounded once more: where that stands near the middle of two doubles they may part.
+TEST(Funzioni, ArrotondateAlPiuVicino) {
+    std::mt19937_64 caso(23);
+    std::uniform_real_distribution<double> angolo(-8, 8), largo(-1e5, 1e5), retta(-1.5707, 1.5707);
+    constexpr int PROVE = 50000;
+    int diversi = 0;
+    const auto conta = [&](double avuto, long double vero) {
+        diversi += avuto != static_cast<double>(vero);
+        EXPECT_LE(std::fabs(static_cast<long double>(avuto) - vero), std::fabs(vero) * 0x1.01p-53L);
+    };
+    for (int i = 0; i < PROVE; ++i) {
+        const double x = i % 2 == 0 ? angolo(caso) : largo(caso), t = std::tan(retta(caso));
+        const long double lx = x;
+        conta(portatile::sin(x), std::sin(lx));
+        conta(portatile::cos(x), std::cos(lx));
+        conta(portatile::tan(x), std::tan(lx));
+        conta(portatile::atan(t), std::atan(static_cast<long double>(t)));
+    }
+    EXPECT_LT(diversi, PROVE / 200);
+    for (const double x : {0.0, -0.0, 1e-300, -3e-9, 1.5707963267948966, 3.141592653589793, 3.141592654, 1e300, 0.78539816339744828}) {
+        EXPECT_DOUBLE_EQ(portatile::sin(x), std::sin(x)) << x;
+        EXPECT_DOUBLE_EQ(portatile::cos(x), std::cos(x)) << x;
+        EXPECT_DOUBLE_EQ(portatile::tan(x), std::tan(x)) << x;
+        EXPECT_DOUBLE_EQ(portatile::atan(x), std::atan(x)) << x;
+    }
+    const double infinito = std::numeric_limits<double>::infinity();
+    EXPECT_TRUE(std::isnan(portatile::sin(infinito)) && std::isnan(portatile::tan(-infinito)) && std::isnan(portatile::atan(std::nan(""))));
+    EXPECT_EQ(portatile::atan(-infinito), std::atan(-infinito));
 }
 
 TEST(Codifiche, Utf8EWindows1252) {

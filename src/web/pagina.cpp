@@ -16,6 +16,7 @@
 #include "plot/svg.h"
 #include "reports/rapporti.h"
 #include "web/json.h"
+#include "web/snello.h"
 
 namespace ombrelia::web {
 
@@ -207,7 +208,8 @@ void Pagina::ridisegna() {
 std::string Pagina::Disegna() {
     if (!daScript_) ridisegna();
     const Tavolo &t = disegno().tavolo;
-    const std::string svg = SVG_Generate(t);
+    constexpr double OCCHIO = 0.01;  // mm
+    const std::string svg = Snello(SVG_Generate(t), OCCHIO);
     // Layers stand as groups, each on lines of its own.
     constexpr std::string_view STRATO = "<g id=\"strato", FINE = "</g>\n</svg>\n";
     const std::size_t primo = std::min(svg.find(STRATO), svg.size() - FINE.size());

@@ -3,6 +3,7 @@
 
 #include "web/chiamate.h"
 #include "web/json.h"
+#include "web/snello.h"
 
 namespace ombrelia::web {
 namespace {
@@ -51,6 +52,12 @@ TEST(Pagina, IDisegniNonToccanoLoScript) {
         for (const char *riga : {"set txtLAT 40", "check ck_babiloniche", "click cmdRun"}) EXPECT_EQ(Chiama(*x, "esegui", riga), "");
     EXPECT_EQ(p.Esporta("txt"), q.Esporta("txt"));
     EXPECT_EQ(Chiama(p, "esegui", "nonsense"), "unknown action: nonsense");
+}
+
+TEST(Snello, TieneLaFormaELasciaIlResto) {
+    const std::string piena = "<a d=\"M0 0L1 0 2 0.001 3 0 3 4.5 3 9Z\"/><b d=\"M1 1h0M2 2h0\"/><c d=\"M0 0A1 2\"/><d d=\"M0 0L-5 1\" e=\"x\"/>";
+    EXPECT_EQ(Snello(piena, 0.01), "<a d=\"M0 0L3 0 3 9Z\"/><b d=\"M1 1h0M2 2h0\"/><c d=\"M0 0A1 2\"/><d d=\"M0 0L-5 1\" e=\"x\"/>");
+    for (const char *rotto : {" d=\"", " d=\"M\"", " d=\"M1\"", " d=\"ML\"", " d=\"M1 2L3\"", " d=\"M1 2L3 4 5\"", ""}) EXPECT_EQ(Snello(rotto, 1), rotto);
 }
 
 // Steps of an angle as people write it; what the field holds are degrees.

@@ -11,6 +11,7 @@
 #include "cli/formati.h"
 #include "core/campi.h"
 #include "core/file.h"
+#include "core/percorsi.h"
 #include "luoghi/angolo.h"
 #include "officina/scrittori.h"
 #include "plot/svg.h"
@@ -151,8 +152,18 @@ std::string Pagina::Collegamento() {
 }
 
 void Pagina::Lingua(std::string_view codice) {
-    const char *nome = codice == "fr" ? "FranceseC2008" : codice == "en" ? "IngleseC2008" : nullptr;
-    prova_.dizionario.Interpreta(nome ? LeggiFile(Dizionario::NomeFile(nome), FILE_MASSIMO).value_or(std::string()) : std::string());
+    // The program's dictionary, then that of the page's own words.
+    struct Lingua {
+        std::string_view codice;
+        const char *programma, *pagina;
+    };
+    constexpr Lingua LINGUE[] = {{"fr", "DBFranceseC2008.txt", "DBPaginaFrancese.txt"}, {"en", "DBIngleseC2008.txt", "DBPaginaInglese.txt"}};
+    Dizionario &d = prova_.dizionario;
+    d.Interpreta({});
+    for (const Lingua &l : LINGUE)
+        if (l.codice == codice)
+            for (const char *nome : {l.programma, l.pagina})
+                if (const auto file = TrovaDato(nome)) d.Aggiungi(LeggiFile(file->string(), FILE_MASSIMO).value_or(std::string()));
 }
 
 std::string Pagina::Stato() {

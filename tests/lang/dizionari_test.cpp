@@ -8,6 +8,7 @@
 #include <map>
 #include <regex>
 #include <set>
+#include <vector>
 
 #include "core/controlli.h"
 #include "core/testo.h"
@@ -87,7 +88,9 @@ const Raccolta &DelProgramma() {
     return r;
 }
 
-constexpr const char *LINGUE[] = {"DBFranceseC2008.txt", "DBIngleseC2008.txt"};
+// Of each language: the dictionary that every user may take away, and those of the window's and the page's own words.
+const std::vector<std::string> LINGUE[] = {{"DBFranceseC2008.txt", "DBFinestraFrancese.txt", "DBPaginaFrancese.txt"},
+                                           {"DBIngleseC2008.txt", "DBFinestraInglese.txt", "DBPaginaInglese.txt"}};
 
 std::string Contenuto(const std::string &nome) {
     std::ifstream f(OMBRELIA_RADICE "/data/" + nome, std::ios::binary);
@@ -114,22 +117,28 @@ std::map<std::string, TestoSorgente> TuttiITesti() {
 TEST(Dizionari, EachTextOfTheProgramIsTranslatedAndEachEntryUsed) {
     const auto tutti = TuttiITesti();
     ASSERT_GT(tutti.size(), 150U);
-    for (const char *lingua : LINGUE) {
-        Dizionario d;
-        d.Interpreta(Contenuto(lingua));
+    for (const auto &file : LINGUE) {
         std::set<std::string> sorgenti;
-        for (const Dizionario::Voce &v : d.Voci()) {
-            EXPECT_TRUE(sorgenti.insert(Maiuscolo(v.first)).second) << lingua << " has twice: " << v.first;
-            EXPECT_TRUE(tutti.contains(Maiuscolo(v.first))) << lingua << " has an entry that no text uses: \"" << v.first << '"';
+        for (const std::string &nome : file) {
+            Dizionario d;
+            d.Interpreta(Contenuto(nome));
+            std::set<std::string> sue;
+            for (const Dizionario::Voce &v : d.Voci()) {
+                EXPECT_TRUE(sue.insert(Maiuscolo(v.first)).second) << nome << " has twice: " << v.first;
+                EXPECT_TRUE(tutti.contains(Maiuscolo(v.first))) << nome << " has an entry that no text uses: \"" << v.first << '"';
+            }
+            sorgenti.merge(sue);
         }
         for (const auto &[chiave, t] : tutti)
-            EXPECT_TRUE(sorgenti.contains(chiave)) << lingua << " lacks \"" << t.testo << "\" of " << t.file;
+            EXPECT_TRUE(sorgenti.contains(chiave)) << file[0] << " lacks \"" << t.testo << "\" of " << t.file;
     }
 }
 
 // Captions are laid out, and numbers joined to labels, by the blanks around the texts.
 TEST(Dizionari, FilesAreWholeAndKeepTheBlanksAround) {
-    for (const char *lingua : LINGUE) {
+    std::vector<std::string> tutti;
+    for (const auto &file : LINGUE) tutti.insert(tutti.end(), file.begin(), file.end());
+    for (const std::string &lingua : tutti) {
         const std::string t = Contenuto(lingua);
         Dizionario d;
         d.Interpreta(t);

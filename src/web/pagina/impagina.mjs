@@ -15,7 +15,8 @@ const impronta = (testo) => `'sha256-${createHash('sha256').update(testo, 'utf8'
 
 // Small files that the program finds in its folder.
 const piccoli = {};
-for (const nome of ['DBFranceseC2008.txt', 'DBIngleseC2008.txt']) piccoli[nome] = leggi(radice, 'data', nome);
+const dizionari = ['DBFranceseC2008.txt', 'DBIngleseC2008.txt', 'DBPaginaFrancese.txt', 'DBPaginaInglese.txt'];
+for (const nome of dizionari) piccoli[nome] = leggi(radice, 'data', nome);
 for (const nome of readdirSync(join(radice, 'examples')).filter((n) => n.endsWith('.omb')).sort()) piccoli[nome] = leggi(radice, 'examples', nome);
 // The page carries a smaller table of towns: all that are large, and the small ones where most who draw on walls live.
 const ABITANTI = 20000, ABITANTI_VICINI = 4000;

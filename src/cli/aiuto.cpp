@@ -37,7 +37,8 @@ Opens the window, with PROJECT when it is named.
   --version     tells the version and opens nothing
 )";
 
-constexpr std::string_view DRAW = R"(usage: ombrelia draw [--project FILE] [--set FIELD=TEXT]... [--check BOX]... [--engine ENGINE] [--sheet L H X Y] FILE...
+constexpr std::string_view DRAW =
+    R"(usage: ombrelia draw [--project FILE] [--set FIELD=TEXT]... [--check BOX]... [--engine ENGINE] [--sheet L H X Y] FILE...
 
 Draws a dial and writes it, once for each FILE, in the form of its ending. For each it tells what the file holds, a picture's scale
 and size, and what of the drawing the form has no place for.
@@ -53,6 +54,7 @@ and size, and what of the drawing the form has no place for.
   --corrected        true lines in place of those that are not (the box ckCorretta)
   --engine ENGINE    auto (as the run button decides), direct, vertical or analytic (walls only)
   --sheet L H X Y    width, height and origin of the sheet in metres; without it the project's, or fitted to the frame
+  --format ENDING    the form of a FILE whose name has no ending, as /dev/stdout; - is standard output
 
 examples:
   ombrelia draw --set txtLAT=45.07 --set txtDec=18 --set txtInc=0 --check chkOreAstronomiche muro.svg muro.dxf
@@ -63,7 +65,8 @@ examples:
 endings:
 )";
 
-constexpr std::string_view CUT = R"(usage: ombrelia cut [options of draw] [--text strokes|text|none] [--tolerance MM] [--units mm|in] [--clip frame|sheet]
+constexpr std::string_view CUT =
+    R"(usage: ombrelia cut [options of draw] [--text strokes|text|none] [--tolerance MM] [--units mm|in] [--clip frame|sheet]
                     [--dots MM] FILE...
 
 Makes a dial ready for a machine: chords joined to paths, nothing cut twice, nothing outside the frame, little travel of the
@@ -105,7 +108,8 @@ example:
   printf '%s\n' 'set txtInc 0' 'check chkOreAstronomiche' 'click cmdRun' 'svg muro.svg' | ombrelia batch -
 )";
 
-constexpr std::string_view REPORT = R"(usage: ombrelia report NAME [--project FILE] [--set FIELD=TEXT]... [--check BOX]... [--text | --csv | --html] [--print] [-o FILE]
+constexpr std::string_view REPORT =
+    R"(usage: ombrelia report NAME [--project FILE] [--set FIELD=TEXT]... [--check BOX]... [--text | --csv | --html] [--print] [-o FILE]
 
 The numbers of a dial, as the program's report forms give them.
 
@@ -127,7 +131,8 @@ examples:
 reports:
 )";
 
-constexpr std::string_view READ = R"(usage: ombrelia read [--project FILE] [--set FIELD=TEXT]... [--check BOX]... [--date DATE] [--] X Y
+constexpr std::string_view READ =
+    R"(usage: ombrelia read [--project FILE] [--set FIELD=TEXT]... [--check BOX]... [--date DATE] [--] X Y
 
 What a point of the dial says when the shadow of the gnomon's tip lies on it. X and Y are millimetres from the gnomon's foot, right
 and up, on the dial as it is mounted. Prints one name=value a line:
@@ -165,7 +170,8 @@ examples:
   ombrelia shadow --project examples/parete_torino.omb --date 2026-06-21 --day --animate giorno.svg > giorno.csv
 )";
 
-constexpr std::string_view SUN = R"(usage: ombrelia sun --date DATE --time TIME --lat LAT --lon LON --zone ZONE [--angle ANGLE] [--dst]
+constexpr std::string_view SUN =
+    R"(usage: ombrelia sun --date DATE --time TIME --lat LAT --lon LON --zone ZONE [--angle ANGLE] [--dst]
        ombrelia sun --date DATE --time TIME --place NAME [--country XX] [--clock] [--angle ANGLE]
        ombrelia sun --readings FILE --lat LAT --lon LON
 
@@ -224,7 +230,8 @@ std::string Aiuto(std::string_view comando) {
     if (comando == "sun") return std::string(SUN);
     if (comando == "cut") {
         std::string t(CUT);
-        for (const auto &f : officina::FormatiMacchina()) t += "  ." + std::string(f.estensione) + "   " + std::string(f.descrizione) + "\n";
+        for (const auto &f : officina::FormatiMacchina())
+            t += "  ." + std::string(f.estensione) + "   " + std::string(f.descrizione) + "\n";
         return t;
     }
     if (comando == "place") return std::string(PLACE);

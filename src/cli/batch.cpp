@@ -126,11 +126,10 @@ private:
 const std::vector<Esecuzione::Voce> &Esecuzione::azioni() {
     using E = Esecuzione;
     static const std::vector<Voce> tutte{
-        {"set", &E::set},         {"type", &E::type},       {"check", &E::check},     {"uncheck", &E::uncheck},
-        {"click", &E::click},     {"mouse", &E::mouse},     {"answer", &E::answer},   {"sheet", &E::sheet},
-        {"list", &E::list},       {"dxf", &E::forma<0>},    {"svg", &E::forma<1>},    {"pdf", &E::forma<2>},
-        {"bmp", &E::forma<3>},    {"png", &E::forma<4>},    {"show", &E::show},       {"value", &E::value},
-        {"open", &E::open},       {"save", &E::save},       {"report", &E::report},   {"print", &E::print},
+        {"set", &E::set},      {"type", &E::type},     {"check", &E::check},  {"uncheck", &E::uncheck}, {"click", &E::click},
+        {"mouse", &E::mouse},  {"answer", &E::answer}, {"sheet", &E::sheet},  {"list", &E::list},       {"dxf", &E::forma<0>},
+        {"svg", &E::forma<1>}, {"pdf", &E::forma<2>},  {"bmp", &E::forma<3>}, {"png", &E::forma<4>},    {"show", &E::show},
+        {"value", &E::value},  {"open", &E::open},     {"save", &E::save},    {"report", &E::report},   {"print", &E::print},
     };
     return tutte;
 }
@@ -213,12 +212,22 @@ void Esecuzione::show(std::string_view resto) {
     std::string testo;
     switch (TavolaControlli()[static_cast<std::size_t>(id)].classe) {
         case Classe::Testo:
-        case Classe::Elenco: testo = s_.testo(id); break;
-        case Classe::Casella: testo = std::to_string(s_.valore(id)); break;
-        case Classe::Opzione: testo = stato.caption + abilitato + " " + std::to_string(s_.valore(id)); break;
+        case Classe::Elenco:
+            testo = s_.testo(id);
+            break;
+        case Classe::Casella:
+            testo = std::to_string(s_.valore(id));
+            break;
+        case Classe::Opzione:
+            testo = stato.caption + abilitato + " " + std::to_string(s_.valore(id));
+            break;
         case Classe::Pulsante:
-        case Classe::Menu: testo = stato.caption + abilitato; break;
-        default: testo = app::Didascalia(s_, id); break;
+        case Classe::Menu:
+            testo = stato.caption + abilitato;
+            break;
+        default:
+            testo = app::Didascalia(s_, id);
+            break;
     }
     console_.di(std::string(nome) + "=", testo);
 }
@@ -278,7 +287,8 @@ int Batch(int argc, char **argv) {
     std::string script, errore;
     if (nome == "-") {
         char pezzo[65536];
-        for (std::size_t n; (n = std::fread(pezzo, 1, sizeof pezzo, stdin)) > 0 && script.size() <= SCRIPT_MASSIMO;) script.append(pezzo, n);
+        for (std::size_t n; (n = std::fread(pezzo, 1, sizeof pezzo, stdin)) > 0 && script.size() <= SCRIPT_MASSIMO;)
+            script.append(pezzo, n);
         if (std::ferror(stdin)) errore = std::string("standard input: ") + std::strerror(errno);
         else if (script.size() > SCRIPT_MASSIMO) errore = "more than " + std::to_string(SCRIPT_MASSIMO) + " bytes";
     } else if (auto letto = LeggiFile(nome, SCRIPT_MASSIMO, &errore)) {

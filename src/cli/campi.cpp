@@ -26,7 +26,8 @@ std::string leggiAngolo(const luoghi::CampoAngolo &campo, std::string &testo) {
         return {};
     }
     std::string e = testo.substr(0, 80) + ": " + std::string(luoghi::MotivoInglese(letto.intoppo));
-    if (letto.intoppo == luoghi::Intoppo::FuoriCampo) e += ": it goes from " + TestoNumero(campo.da) + " to " + TestoNumero(campo.a);
+    if (letto.intoppo == luoghi::Intoppo::FuoriCampo)
+        e += ": it goes from " + TestoNumero(campo.da) + " to " + TestoNumero(campo.a);
     return e;
 }
 
@@ -78,7 +79,8 @@ std::string Campi::Applica(Sessione &s) const {
         std::string errore;
         const luoghi::Luogo *l = TrovaLuogo(luogo, paese, errore);
         if (!l) return errore;
-        const std::pair<const char *, double> campi[] = {{"txtLAT", l->latitudine}, {"txtLonG", l->longitudine}, {"txtMeridiano", l->meridiano}};
+        const std::pair<const char *, double> campi[] = {
+            {"txtLAT", l->latitudine}, {"txtLonG", l->longitudine}, {"txtMeridiano", l->meridiano}};
         for (const auto &[nome, gradi] : campi)
             if (std::string e = motivo(app::Imposta(s, TrovaControllo(nome), TestoNumero(gradi)), nome); !e.empty()) return e;
     }

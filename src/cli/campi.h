@@ -17,12 +17,13 @@ struct Campi {
     std::vector<std::string> caselle;
     std::string luogo, paese;
 
-    // Adds --project FILE, --place NAME, --country XX, --set FIELD=TEXT, --check BOX and --corrected. The rows keep what they take
-    // in this object.
+    // Adds --project FILE, --place NAME, --country XX, --set FIELD=TEXT, --check BOX and --corrected. The rows keep what they
+    // take in this object.
     void opzioni(Opzioni &o);
     // Opens the project, sets the place, then gives fields and boxes in their order; from then on a run is of its fields. Angles
-    // may be written as people do, and a number may have a comma for its point: the field gets a plain number. Empty, or what could
-    // not be done: no number, one out of its field's range, and a double quote, which would cut the project there, are refused.
+    // may be written as people do, and a number may have a comma for its point: the field gets a plain number. Empty, or what
+    // could not be done: no number, one out of its field's range, and a double quote, which would cut the project there, are
+    // refused.
     [[nodiscard]] std::string Applica(Sessione &s) const;
 };
 

@@ -45,8 +45,10 @@ constexpr Opzione OPZIONI[] = {
          r.testi = v == "strokes" ? officina::Testi::Tratti : v == "text" ? officina::Testi::Testo : officina::Testi::Niente;
          return true;
      }},
-    {"--tolerance", "a length in mm above 0", [](Richiesta &r, const std::string &v) { return lunghezza(v, r.opzioni.tolleranza); }},
-    {"--dots", "the radius of a circle in mm above 0", [](Richiesta &r, const std::string &v) { return lunghezza(v, r.opzioni.raggioPunti); }},
+    {"--tolerance", "a length in mm above 0",
+     [](Richiesta &r, const std::string &v) { return lunghezza(v, r.opzioni.tolleranza); }},
+    {"--dots", "the radius of a circle in mm above 0",
+     [](Richiesta &r, const std::string &v) { return lunghezza(v, r.opzioni.raggioPunti); }},
     {"--units", "mm or in",
      [](Richiesta &r, const std::string &v) {
          r.foglio.unita = v == "in" ? officina::Unita::Pollici : officina::Unita::Millimetri;
@@ -57,7 +59,11 @@ constexpr Opzione OPZIONI[] = {
          r.opzioni.ritaglio = v == "sheet" ? officina::Ritaglio::Foglio : officina::Ritaglio::Cornice;
          return v == "frame" || v == "sheet";
      }},
-    {"-o", "a file", [](Richiesta &r, const std::string &v) { r.uscite.push_back(v); return true; }},
+    {"-o", "a file",
+     [](Richiesta &r, const std::string &v) {
+         r.uscite.push_back(v);
+         return true;
+     }},
 };
 
 std::string leggi(int argc, char **argv, Richiesta &r) {

@@ -1,6 +1,7 @@
 // Drawing a dial from options to files.
 #include "cli/draw.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <string>
 #include <vector>
@@ -16,24 +17,35 @@ namespace {
 struct Richiesta {
     Disegno disegno;
     std::vector<std::string> uscite;
+    std::string formato;  // of outputs whose names tell none
 
-    std::string uscita(const std::string &percorso) {
-        uscite.push_back(percorso);
-        if (FormatoDi(Estensione(percorso))) return {};
-        std::string note;
-        for (const Formato &f : Formati()) note += " ." + std::string(f.estensione);
-        return percorso + ": unknown ending; I write" + note;
+    [[nodiscard]] const Formato *formatoDi(const std::string &uscita) const {
+        const Formato *f = FormatoDi(Estensione(uscita));
+        return f ? f : FormatoDi(formato);
     }
 };
 
 std::string leggi(int argc, char **argv, Richiesta &r) {
-    Opzioni o{.comando = "draw", .righe = {}, .parola = [&r](const std::string &p) { return r.uscita(p); }};
+    const auto uscita = [&r](const std::string &percorso) {
+        r.uscite.push_back(percorso);
+        return std::string();
+    };
+    Opzioni o{.comando = "draw", .righe = {}, .parola = uscita};
     r.disegno.opzioni(o);
     for (const char *nome : {"-o", "--out"})
-        o.righe.push_back({nome, 1, "a file", [&r](const Valori &v) { return r.uscita(v[0]); }, true});
+        o.righe.push_back({nome, 1, "a file", [&uscita](const Valori &v) { return uscita(v[0]); }, true});
+    o.righe.push_back(Testo("--format", "an ending, as in svg", r.formato));
     if (std::string e = o.leggi(argc, argv); !e.empty()) return e;
-    return r.uscite.empty() ? "no output file: name one or more, as in muro.dxf muro.svg" : "";
+    if (r.uscite.empty()) return "no output file: name one or more, as in muro.dxf muro.svg";
+    const auto ignota = std::find_if(r.uscite.begin(), r.uscite.end(), [&r](const std::string &u) { return !r.formatoDi(u); });
+    if (ignota == r.uscite.end()) return {};
+    std::string note;
+    for (const Formato &f : Formati()) note += " ." + std::string(f.estensione);
+    return *ignota + ": unknown ending; I write" + note + ", and a name without one takes --format";
 }
+
+// What is told goes where the drawing does not.
+bool suUscita(const std::string &percorso) { return percorso == "-" || percorso == "/dev/stdout" || percorso == "/dev/fd/1"; }
 
 std::string conta(std::size_t quanti, std::string_view cosa) {
     return std::to_string(quanti) + ' ' + std::string(quanti == 1 ? cosa.substr(0, cosa.size() - 1) : cosa);
@@ -65,13 +77,14 @@ int Draw(int argc, char **argv) {
     SessioneDiComando c(r.disegno.carta.value_or(Carta()));
     if (const std::string e = r.disegno.Applica(c.s); !e.empty()) return Rifiuta("draw", e);
     if (const std::string e = r.disegno.Esegui(c.s); !e.empty()) return Rifiuta("draw", e);
+    std::FILE *const voce = std::any_of(r.uscite.begin(), r.uscite.end(), suUscita) ? stderr : stdout;
     for (const std::string &uscita : r.uscite) {
-        const Formato &f = *FormatoDi(Estensione(uscita));
+        const Formato &f = *r.formatoDi(uscita);
         std::string errore;
         const std::string contenuto = f.scrivi(c.s, errore);
         if (errore.empty()) errore = Consegna(uscita, contenuto);
         if (!errore.empty()) return Rifiuta("draw", errore);
-        std::printf("%s: %s\n", uscita.c_str(), riassunto(c.s, f).c_str());
+        std::fprintf(voce, "%s: %s\n", uscita.c_str(), riassunto(c.s, f).c_str());
     }
     return 0;
 }

@@ -28,9 +28,10 @@ struct Comando {
     std::string_view nome;
     int (*esegui)(int argc, char **argv);
 };
-constexpr Comando COMANDI[] = {
-    {"batch", ombrelia::cli::Batch},   {"cut", ombrelia::cli::Cut}, {"draw", ombrelia::cli::Draw}, {"report", ombrelia::cli::Report}, {"read", ombrelia::cli::Read},
-    {"shadow", ombrelia::cli::Shadow}, {"sun", ombrelia::cli::Sun},   {"place", ombrelia::cli::Place}};
+constexpr Comando COMANDI[] = {{"batch", ombrelia::cli::Batch}, {"cut", ombrelia::cli::Cut},
+                               {"draw", ombrelia::cli::Draw},   {"report", ombrelia::cli::Report},
+                               {"read", ombrelia::cli::Read},   {"shadow", ombrelia::cli::Shadow},
+                               {"sun", ombrelia::cli::Sun},     {"place", ombrelia::cli::Place}};
 
 // The window, when this build has one: by name, or with no command where there is a display.
 bool apreFinestra(std::string_view primo, int argc, char **argv, int &esito) {
@@ -69,7 +70,9 @@ int esegui(int argc, char **argv) {
     }
     if (int esito = 0; apreFinestra(primo, argc, argv, esito)) return esito;
 #ifdef OMBRELIA_POSIX
-    std::signal(SIGPIPE, SIG_IGN);  // a reader that goes away is lost output, which is told
+    // A reader that goes away, or a limit on files, is lost output, which is told.
+    std::signal(SIGPIPE, SIG_IGN);
+    std::signal(SIGXFSZ, SIG_IGN);
 #endif
     if (primo.empty() || chiedeAiuto(primo)) {
         std::fputs(ombrelia::cli::Aiuto(argc > 2 ? argv[2] : "").c_str(), stdout);

@@ -56,7 +56,8 @@ struct Forma {
     std::string_view opzione;
     std::string (*scrivi)(const Rapporto &);
 };
-constexpr Forma FORME[] = {{"--text", reports::RapportoTesto}, {"--csv", reports::RapportoCsv}, {"--html", reports::RapportoHtml}};
+constexpr Forma FORME[] = {
+    {"--text", reports::RapportoTesto}, {"--csv", reports::RapportoCsv}, {"--html", reports::RapportoHtml}};
 
 std::string leggi(int argc, char **argv, Richiesta &r) {
     Opzioni o{.comando = "report", .righe = {}, .parola = [&r](const std::string &p) { return scegli(p, r); }};

@@ -2,13 +2,17 @@
 #include "core/file.h"
 
 #include <cerrno>
+#include <charconv>
 #include <cstdio>
 #include <filesystem>
 #include <memory>
 #include <system_error>
 
+#include "core/provvisorio.h"
+
 #if defined(__unix__) || defined(__APPLE__)
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 #define OMBRELIA_POSIX 1
 #endif
@@ -22,10 +26,7 @@ namespace {
 std::string rapporto(const std::string &nome, const std::string &motivo) { return "\"" + nome + "\": " + motivo; }
 std::string rapporto(const std::string &nome, int numero) { return rapporto(nome, std::generic_category().message(numero)); }
 
-struct Chiudi {
-    void operator()(std::FILE *f) const { std::fclose(f); }
-};
-using File = std::unique_ptr<std::FILE, Chiudi>;
+using File = FileAperto;
 
 // Opens what is there already. A pipe without its other end must not hang the program.
 File apri(const fs::path &p, bool scrive) {
@@ -41,17 +42,22 @@ File apri(const fs::path &p, bool scrive) {
 #endif
 }
 
-// 0, or the number of the error.
-int scriviTutto(File f, std::string_view contenuto, bool sulDisco) {
+// 0, or the number of the error. The file stays open.
+int scriviTutto(std::FILE *f, std::string_view contenuto, bool sulDisco) {
     errno = 0;
-    const bool scritto = std::fwrite(contenuto.data(), 1, contenuto.size(), f.get()) == contenuto.size();
-    if (!scritto || std::fflush(f.get()) != 0) return errno != 0 ? errno : EIO;
+    const bool scritto = std::fwrite(contenuto.data(), 1, contenuto.size(), f) == contenuto.size();
+    if (!scritto || std::fflush(f) != 0) return errno != 0 ? errno : EIO;
 #ifdef OMBRELIA_POSIX
-    if (sulDisco && ::fsync(::fileno(f.get())) != 0) return errno;
+    if (sulDisco && ::fsync(::fileno(f)) != 0) return errno;
 #else
     (void)sulDisco;
 #endif
-    // Some file systems report a full disk only now.
+    return 0;
+}
+
+// The same, and closes it: some file systems report a full disk only then.
+int scriviEChiudi(File f, std::string_view contenuto, bool sulDisco) {
+    if (const int errore = scriviTutto(f.get(), contenuto, sulDisco); errore != 0) return errore;
     return std::fclose(f.release()) == 0 ? 0 : errno;
 }
 
@@ -67,54 +73,95 @@ fs::path bersaglio(const std::string &nome) {
     return p;
 }
 
-// A new file in the target's folder, under a name that nobody has.
-File accanto(const fs::path &p, fs::path &provvisorio) {
-    for (int n = 0; n < 1000; ++n) {
-        provvisorio = p.parent_path() / (".ombrelia-" + std::to_string(n) + ".tmp");
-        if (std::FILE *f = std::fopen(provvisorio.string().c_str(), "wbx")) return File(f);
-        if (errno != EEXIST) return nullptr;
+#ifdef OMBRELIA_POSIX
+// The number of an open file that a name stands for, as in /dev/stdout and /dev/fd/63; -1 for other names.
+int numeroAperto(const std::string &nome) {
+    if (nome == "/dev/stdout") return STDOUT_FILENO;
+    if (nome == "/dev/stderr") return STDERR_FILENO;
+    for (const std::string_view dove : {"/dev/fd/", "/proc/self/fd/"}) {
+        if (!nome.starts_with(dove)) continue;
+        int n = -1;
+        const char *fine = nome.data() + nome.size();
+        const auto letto = std::from_chars(nome.data() + dove.size(), fine, n);
+        if (letto.ec == std::errc() && letto.ptr == fine) return n;
     }
-    errno = EEXIST;
-    return nullptr;
+    return -1;
 }
+
+// Writes over a file that nothing can be put in place of: its folder is closed, it has other names, or its owner would change. A
+// copy of it lies in the folder for temporary files until all is written, and comes back when writing fails; where it can't come
+// back, the report names the copy.
+std::optional<std::string> scriviSulPosto(const std::string &nome, const fs::path &p, std::string_view contenuto) {
+    std::error_code ec;
+    std::string copia = (fs::temp_directory_path(ec) / "ombrelia-copia-XXXXXX").string();
+    const int fd = ec ? -1 : ::mkstemp(copia.data());
+    if (fd < 0) return rapporto(nome, ec ? ec.value() : errno);
+    ::close(fd);
+    fs::copy_file(p, copia, fs::copy_options::overwrite_existing, ec);
+    int errore = ec.value();
+    if (errore == 0) {
+        File f(std::fopen(p.string().c_str(), "r+b"));
+        errore = !f || ::ftruncate(::fileno(f.get()), 0) != 0 ? errno : scriviEChiudi(std::move(f), contenuto, true);
+        if (errore != 0) fs::copy_file(copia, p, fs::copy_options::overwrite_existing, ec);
+        if (ec) return rapporto(nome, errore).append("; ").append(copia);
+    }
+    fs::remove(copia, ec);
+    return errore == 0 ? std::nullopt : std::optional(rapporto(nome, errore));
+}
+#endif
 
 }  // namespace
 
 std::optional<std::string> ScriviFile(const std::string &nome, std::string_view contenuto) {
     // A byte 0 would end the name early, in a file that nobody asked for.
     if (nome.empty() || nome.find('\0') != std::string::npos) return rapporto(nome, ENOENT);
-    const fs::path p = bersaglio(nome);
     std::error_code ec;
-    if (fs::is_symlink(p, ec)) return rapporto(nome, ELOOP);
-    const fs::file_status stato = fs::status(p, ec);
+    const auto esito = [&nome](int errore) { return errore == 0 ? std::nullopt : std::optional(rapporto(nome, errore)); };
+#ifdef OMBRELIA_POSIX
+    if (const int aperto = numeroAperto(nome); aperto >= 0) {
+        std::fflush(stdout);
+        const int fd = ::dup(aperto);
+        File f(fd < 0 ? nullptr : ::fdopen(fd, "wb"));
+        return f ? esito(scriviEChiudi(std::move(f), contenuto, false)) : rapporto(nome, errno);
+    }
+#endif
+    fs::file_status stato = fs::status(nome, ec);
     if (fs::is_directory(stato)) return rapporto(nome, EISDIR);
     if (fs::exists(stato) && !fs::is_regular_file(stato)) {
-        File f = apri(p, true);
-        if (!f) return rapporto(nome, errno);
-        const int errore = scriviTutto(std::move(f), contenuto, false);
-        return errore == 0 ? std::nullopt : std::optional(rapporto(nome, errore));
+        File f = apri(nome, true);
+        return f ? esito(scriviEChiudi(std::move(f), contenuto, false)) : rapporto(nome, errno);
     }
+    const fs::path p = bersaglio(nome);
+    if (fs::is_symlink(p, ec)) return rapporto(nome, ELOOP);
 #ifdef OMBRELIA_POSIX
+    struct stat vecchio {};
+    const bool esiste = ::stat(p.c_str(), &vecchio) == 0;
     // Renaming would also replace a file that its owner has locked against writing.
-    if (fs::exists(stato) && ::access(p.c_str(), W_OK) != 0) return rapporto(nome, errno);
+    if (esiste && ::access(p.c_str(), W_OK) != 0) return rapporto(nome, errno);
+    if (esiste && vecchio.st_nlink > 1) return scriviSulPosto(nome, p, contenuto);
 #endif
-    fs::path provvisorio;
-    File f = accanto(p, provvisorio);
-    if (!f) return rapporto(nome, errno);
-    if (const int errore = scriviTutto(std::move(f), contenuto, true); errore != 0) {
-        fs::remove(provvisorio, ec);
+    Provvisorio nuovo(p);
+    if (!nuovo.file()) {
+        const int errore = errno;
+#ifdef OMBRELIA_POSIX
+        if (esiste && (errore == EACCES || errore == EPERM || errore == EROFS)) return scriviSulPosto(nome, p, contenuto);
+#endif
         return rapporto(nome, errore);
     }
-    if (fs::exists(stato)) fs::permissions(provvisorio, stato.permissions(), ec);
-    ec.clear();
-    fs::rename(provvisorio, p, ec);
-    if (!ec) return {};
-    const std::string motivo = ec.message();
-    fs::remove(provvisorio, ec);
-    return rapporto(nome, motivo);
+#ifdef OMBRELIA_POSIX
+    if (esiste) {
+        const int fd = ::fileno(nuovo.file());
+        struct stat s {};
+        const bool stessi = ::fstat(fd, &s) == 0 && s.st_uid == vecchio.st_uid && s.st_gid == vecchio.st_gid;
+        if (!stessi && ::fchown(fd, vecchio.st_uid, vecchio.st_gid) != 0) return scriviSulPosto(nome, p, contenuto);
+        if (::fchmod(fd, vecchio.st_mode & 07777U) != 0) return rapporto(nome, errno);
+    }
+#endif
+    if (const int errore = scriviTutto(nuovo.file(), contenuto, true); errore != 0) return rapporto(nome, errore);
+    return esito(nuovo.prendiPosto(p));
 }
 
-std::optional<std::string> LeggiFile(const std::string &nome, std::size_t massimo, std::string *errore) {
+std::optional<std::string> LeggiFile(const std::string &nome, std::size_t massimo, std::string *errore, Fonte fonte) {
     const auto fallito = [&](const std::string &perche) {
         if (errore) *errore = perche;
         return std::nullopt;
@@ -122,6 +169,8 @@ std::optional<std::string> LeggiFile(const std::string &nome, std::size_t massim
     std::error_code ec;
     if (nome.empty() || nome.find('\0') != std::string::npos) return fallito(rapporto(nome, ENOENT));
     if (fs::is_directory(nome, ec)) return fallito(rapporto(nome, EISDIR));
+    // A pipe may never say anything.
+    if (fonte == Fonte::File && fs::exists(nome, ec) && !fs::is_regular_file(nome, ec)) return fallito(rapporto(nome, EINVAL));
     const File f = apri(nome, false);
     if (!f) return fallito(rapporto(nome, errno));
     std::string testo;

@@ -38,7 +38,7 @@ std::string Dizionario::Traduci(std::string_view testo) const {
 std::string Dizionario::NomeFile(std::string_view Nome) { return "DB" + SenzaBlanks(Nome) + ".txt"; }
 
 void Dizionario::CaricaDizionario(std::string_view Nome) {
-    Interpreta(LeggiFile(NomeFile(Nome), FILE_MASSIMO).value_or(std::string()));
+    Interpreta(LeggiFile(NomeFile(Nome), FILE_MASSIMO, nullptr, Fonte::File).value_or(std::string()));
     nome_ = Nome;
 }
 

@@ -14,7 +14,7 @@ void Parametri::carica() {
     if (!righe_.empty()) return;
     illeggibile_.reset();
     std::string errore;
-    std::optional<std::string> grezzo = LeggiFile(nomeFile_, FILE_MASSIMO, &errore);
+    std::optional<std::string> grezzo = LeggiFile(nomeFile_, FILE_MASSIMO, &errore, Fonte::File);
     if (!grezzo) {
         std::error_code ec;
         if (std::filesystem::exists(nomeFile_, ec)) illeggibile_ = std::move(errore);

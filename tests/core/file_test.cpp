@@ -1,7 +1,9 @@
 // Files written whole or not at all.
 #include "core/file.h"
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -59,14 +61,58 @@ TEST_F(File, ErroriConNomeEMotivo) {
     EXPECT_EQ(quanti(), 1U) << "the pipe only";
 }
 
-TEST_F(File, CartellaChiusa) {
-    ASSERT_EQ(ScriviFile("vecchio", "vecchio"), std::nullopt);
-    fs::permissions(".", fs::perms::owner_read | fs::perms::owner_exec);
-    const auto errore = ScriviFile("vecchio", "nuovo");
-    fs::permissions(".", fs::perms::owner_all);
-    if (::geteuid() == 0) GTEST_SKIP() << "root writes everywhere";
-    EXPECT_TRUE(errore);
-    EXPECT_EQ(LeggiFile("vecchio", 100), "vecchio");
+// What can be written but not replaced is written in place, and what it holds is never lost.
+TEST_F(File, DoveNonSiSostituisce) {
+    ASSERT_EQ(ScriviFile("vecchio", "vecchio, e piu lungo"), std::nullopt);
+    fs::create_hard_link("vecchio", "altro nome");
+    EXPECT_EQ(ScriviFile("vecchio", "uno"), std::nullopt);
+    EXPECT_EQ(LeggiFile("altro nome", 100), "uno");
+    EXPECT_EQ(fs::hard_link_count("vecchio"), 2U);
+    fs::remove("altro nome");
+    EXPECT_EQ(quanti(), 1U);
+    if (::geteuid() == 0) {
+        ASSERT_EQ(::chown("vecchio", 12345, 23456), 0);
+        EXPECT_EQ(ScriviFile("vecchio", "due"), std::nullopt);
+        struct stat s {};
+        ASSERT_EQ(::stat("vecchio", &s), 0);
+        EXPECT_EQ(s.st_uid, 12345U);
+        EXPECT_EQ(s.st_gid, 23456U);
+    } else {
+        fs::permissions(".", fs::perms::owner_read | fs::perms::owner_exec);
+        const auto vecchio = ScriviFile("vecchio", "due"), nuovo = ScriviFile("nuovo", "due");
+        fs::permissions(".", fs::perms::owner_all);
+        EXPECT_EQ(vecchio, std::nullopt);
+        EXPECT_TRUE(nuovo);
+    }
+    EXPECT_EQ(LeggiFile("vecchio", 100), "due");
+}
+
+// Killed programs leave files beside their targets; a program that lives holds its own.
+TEST_F(File, ProvvisoriDiMorti) {
+    for (const char *nome : {".ombrelia-0.tmp", ".ombrelia-77.tmp", ".ombrelia-mio", "ombrelia-1.tmp"}) scrivi(nome, "mezzo");
+    const int vivo = ::open(".ombrelia-77.tmp", O_RDONLY);
+    ASSERT_EQ(::flock(vivo, LOCK_EX), 0);
+    EXPECT_EQ(ScriviFile("a", "a"), std::nullopt);
+    ::close(vivo);
+    EXPECT_FALSE(fs::exists(".ombrelia-0.tmp"));
+    EXPECT_EQ(quanti(), 4U) << "of others, of the living, and the target";
+    EXPECT_TRUE(fs::exists(".ombrelia-77.tmp"));
+}
+
+TEST_F(File, FileApertiEPipe) {
+    int capi[2];
+    ASSERT_EQ(::pipe(capi), 0);
+    EXPECT_EQ(ScriviFile("/dev/fd/" + std::to_string(capi[1]), "per il tubo"), std::nullopt);
+    char letto[32] = {};
+    EXPECT_EQ(::read(capi[0], letto, sizeof letto), 11);
+    EXPECT_STREQ(letto, "per il tubo");
+    ::close(capi[0]), ::close(capi[1]);
+    ASSERT_EQ(::mkfifo("tubo", 0600), 0);
+    const int scrive = ::open("tubo", O_RDWR);  // would keep a reader waiting
+    std::string errore;
+    EXPECT_EQ(LeggiFile("tubo", 10, &errore, Fonte::File), std::nullopt);
+    EXPECT_NE(errore.find("\"tubo\": "), std::string::npos);
+    ::close(scrive);
 }
 
 TEST_F(File, LetturaLimitata) {

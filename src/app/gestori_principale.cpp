@@ -55,7 +55,6 @@ void cmdEqui_Click(Sessione &s, int) {
         t.ShiftY(t.QuadranteH() / 3.33333);
     }
     if (Val(s.in.txtInc) == 0) analytic::EseguiGraficaAnalitica(s);
-    if (s.australeMontato && s.v.segnoLat == -1 && Val(s.in.txtInc) == 0) monta(s);
 }
 
 void cmdTrasforma_Click(Sessione &s, int) {

@@ -2,7 +2,6 @@
 // reads the same files by other code. Broken files and texts must do no harm.
 #include <gtest/gtest.h>
 
-#include <chrono>
 #include <cmath>
 #include <ctime>
 #include <random>
@@ -62,7 +61,7 @@ TEST(Luoghi, AnswersAtEveryKey) {
     double peggiore = 0;
     for (const std::string_view nome : {"San Francisco", "zürich", "qwertyuiop", "Saint-Étienne", "new york"})
         for (std::size_t k = 1; k <= nome.size(); ++k) {
-            const auto da = std::chrono::steady_clock::now();
+            const std::clock_t da = std::clock();  // of the processor: others may use the machine
             const auto trovati = atlante().Suggerisci(nome.substr(0, k));
             peggiore =
                 std::max(peggiore, std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - da).count());

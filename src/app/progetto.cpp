@@ -120,6 +120,15 @@ constexpr Misura MISURE[] = {
     {"_Shifty", "ShiftY", &Tavolo::ShiftY, &Tavolo::ShiftY},
 };
 
+// Whether a text holds one tag of a project.
+bool diQualcosa(const TestoProgetto &testo) {
+    for (const Misura &m : MISURE)
+        if (!testo.EstraiTagSheet(m.letta).empty()) return true;
+    for (const Controllo &c : ControlliDi(FINESTRA))
+        if (contenutoDi(c.classe) != Contenuto::Niente && !testo.EstraiTag(c.nome).empty()) return true;
+    return false;
+}
+
 }  // namespace
 
 std::string LeggiControlli(Sessione &s) {
@@ -157,8 +166,15 @@ std::string ScriviProgetto(Sessione &s) {
     return ProgettoDaTesto(testo);
 }
 
+std::optional<std::string> TroppoGrande(const std::string &NomeFile, std::string_view testo) {
+    if (testo.size() <= FILE_MASSIMO) return {};
+    return TraVirgolette(NomeFile) + ": più di " + std::to_string(FILE_MASSIMO) + " byte";
+}
+
 std::optional<std::string> SalvaProgetto(Sessione &s, const std::string &NomeFile) {
-    return ScriviFile(NomeFile, ScriviProgetto(s));
+    const std::string testo = ScriviProgetto(s);
+    if (auto errore = TroppoGrande(NomeFile, testo)) return errore;
+    return ScriviFile(NomeFile, testo);
 }
 
 void ApplicaProgetto(Sessione &s, std::string testo) {
@@ -174,7 +190,8 @@ void ApplicaProgetto(Sessione &s, std::string testo) {
 
 Esito ApriProgetto(Sessione &s, const std::string &NomeFile) {
     std::optional<std::string> testo = LeggiProgetto(NomeFile);
-    if (!testo) {
+    // Whoever designs is told that a text is no project; a script gets the empty sheet it always got.
+    if (!testo || (s.originaleFresco && !diQualcosa(TestoProgetto(*testo)))) {
         const std::string motivo = s.Traduci("File non riconosciuto!");
         s.utente.Box(motivo);
         return Esito::fallito(NomeFile, motivo, true);

@@ -18,7 +18,9 @@ void ApplicaControlli(Sessione &s, const TestoProgetto &testo);
 
 // The content of a project file.
 [[nodiscard]] std::string ScriviProgetto(Sessione &s);
-// Writes it. Nothing when done, else the file and the reason.
+// Why a project of that text could not be opened again; nothing when it can.
+[[nodiscard]] std::optional<std::string> TroppoGrande(const std::string &NomeFile, std::string_view testo);
+// Writes it, unless it is too large. Nothing when done, else the file and the reason.
 [[nodiscard]] std::optional<std::string> SalvaProgetto(Sessione &s, const std::string &NomeFile);
 
 // Applies the text of a project: the four numbers of the sheet (a missing one is 0), then the controls.

@@ -109,7 +109,7 @@ example:
 )";
 
 constexpr std::string_view REPORT =
-    R"(usage: ombrelia report NAME [--project FILE] [--set FIELD=TEXT]... [--check BOX]... [--text | --csv | --html] [--print] [-o FILE]
+    R"(usage: ombrelia report NAME [--project FILE] [--set FIELD=TEXT]... [--check BOX]... [--text | --csv | --csv-it | --html] [--print] [-o FILE]
 
 The numbers of a dial, as the program's report forms give them.
 
@@ -119,6 +119,7 @@ The numbers of a dial, as the program's report forms give them.
   --check BOX        ChCentimetro: lengths are millimetres; ck_Etna: true time of the zone
   --text             lines in print zones of 14 columns, as on the form (without a choice)
   --csv              labelled values, then one block a table: numbers with all their digits
+  --csv-it           the same with ; and decimal commas, for Italian spreadsheets
   --html             a page with tables
   --print            what the form's Stampa menu prints
   -o FILE            where it goes; without it, or with -, standard output

@@ -117,7 +117,11 @@ private:
     void print(std::string_view resto);
     // A file that is missing or broken gives the program's own message box.
     void open(std::string_view resto) { app::ApriProgetto(s_, file(resto)); }
-    void save(std::string_view resto) { consegna(file(resto), app::ScriviProgetto(s_)); }
+    void save(std::string_view resto) {
+        const std::string percorso = file(resto), testo = app::ScriviProgetto(s_);
+        if (const auto errore = app::TroppoGrande(percorso, testo)) throw Rifiuto{*errore};
+        consegna(percorso, testo);
+    }
 
     Console console_;
     Sessione s_;

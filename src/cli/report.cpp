@@ -57,7 +57,7 @@ struct Forma {
     std::string (*scrivi)(const Rapporto &);
 };
 constexpr Forma FORME[] = {
-    {"--text", reports::RapportoTesto}, {"--csv", reports::RapportoCsv}, {"--html", reports::RapportoHtml}};
+    {"--text", reports::RapportoTesto}, {"--csv", reports::RapportoCsv}, {"--csv-it", reports::RapportoCsvItaliano}, {"--html", reports::RapportoHtml}};
 
 std::string leggi(int argc, char **argv, Richiesta &r) {
     Opzioni o{.comando = "report", .righe = {}, .parola = [&r](const std::string &p) { return scegli(p, r); }};

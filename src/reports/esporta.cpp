@@ -36,27 +36,49 @@ std::string pieno(double x) {
     return Val(TestoNumero(x)) == x ? TestoNumero(x) : t;
 }
 
-// A cell of CSV: quoted where it must be.
-void aggiungiCella(std::string &uscita, std::string_view testo) {
-    if (testo.find_first_of(",\"\r\n") == std::string_view::npos) {
-        uscita += testo;
-        return;
-    }
-    uscita += '"';
-    for (const char c : testo) {
-        if (c == '"') uscita += '"';
-        uscita += c;
-    }
-    uscita += '"';
+constexpr std::string_view BOM = "\xEF\xBB\xBF";  // tells spreadsheets that the file is UTF-8
+
+bool controllo(char c) { return (static_cast<unsigned char>(c) < ' ' && c != '\t') || c == '\x7F'; }
+
+// Whether all of a cell is a number: sign, digits, point, exponent.
+bool numero(std::string_view t) {
+    const std::size_t cifre = t.find_first_of("+-") == 0 ? 1 : 0;
+    return t.find_first_of("0123456789") != std::string_view::npos &&
+           t.find_first_not_of("0123456789.Ee+-", cifre) == std::string_view::npos;
 }
 
-void aggiungiCelle(std::string &uscita, const std::vector<std::string> &celle) {
-    for (std::size_t i = 0; i < celle.size(); ++i) {
-        if (i > 0) uscita += ',';
-        aggiungiCella(uscita, celle[i]);
+// A file of cells: "," between them and decimal points, or ";" and decimal commas.
+struct Celle {
+    bool virgola;
+    std::string testo{BOM};
+
+    // Quoted where it must be. What a spreadsheet would take for a formula is told to be a text.
+    void cella(std::string_view t) {
+        std::string pulita;
+        for (const char c : t) pulita += controllo(c) ? ' ' : c;
+        const bool cifra = numero(pulita);
+        if (cifra && virgola) std::replace(pulita.begin(), pulita.end(), '.', ',');
+        if (!cifra && pulita.find_first_of("=+-@\t") == 0) pulita.insert(0, 1, '\'');
+        const bool nuda = pulita.find_first_of(virgola ? ";\"" : ",\"") == std::string::npos && pulita.find('\'') != 0;
+        if (nuda) {
+            testo += pulita;
+            return;
+        }
+        testo += '"';
+        for (const char c : pulita) {
+            if (c == '"') testo += '"';
+            testo += c;
+        }
+        testo += '"';
     }
-    uscita += "\r\n";
-}
+    void riga(const std::vector<std::string> &celle) {
+        for (std::size_t i = 0; i < celle.size(); ++i) {
+            if (i > 0) testo += virgola ? ';' : ',';
+            cella(celle[i]);
+        }
+        testo += "\r\n";
+    }
+};
 
 // A line of labelled values as cells: texts without their blanks, numbers whole.
 std::vector<std::string> celle(const RigaRapporto &riga) {
@@ -101,7 +123,7 @@ void aggiungiHtml(std::string &uscita, std::string_view testo) {
                 uscita += "&quot;";
                 break;
             default:
-                uscita += c;
+                uscita += controllo(c) ? ' ' : c;
                 break;
         }
     }
@@ -124,7 +146,7 @@ th, td { padding: .15em .7em; text-align: right; white-space: nowrap; }
 th { border-bottom: 2px solid #000; vertical-align: bottom; white-space: normal; }
 td { border-bottom: 1px solid #ccc; }
 tbody tr:nth-child(even) { background: #f4f4f4; }
-@media print { body { margin: 0; max-width: none; } table { font-size: 11px; } tr { break-inside: avoid; } }
+@media print { body { margin: 0; max-width: none; padding: 0; } .t { overflow: visible; } table { font-size: 7pt; } th, td { padding: .1em .35em; } tr { break-inside: avoid; } }
 )";
 
 void apriTabella(std::string &h, const TabellaRapporto &t, Colore c) {
@@ -153,25 +175,32 @@ std::string RapportoTesto(const Rapporto &r) {
     return t;
 }
 
-std::string RapportoCsv(const Rapporto &r) {
-    std::string t;
-    aggiungiCelle(t, {SenzaBlanks(r.caption)});
+namespace {
+
+std::string csv(const Rapporto &r, bool virgola) {
+    Celle t{.virgola = virgola};
+    t.riga({SenzaBlanks(r.caption)});
     int aperta = -2;  // the table that the last line belongs to; -1 is that of labelled values
     for (const RigaRapporto &riga : r.righe) {
         if (riga.tabella < 0 && !haNumeri(riga)) continue;
         if (riga.tabella != aperta) {
-            t += "\r\n";
+            t.testo += "\r\n";
             aperta = riga.tabella;
             if (aperta >= 0) {
                 const TabellaRapporto &tabella = r.tabelle[static_cast<std::size_t>(aperta)];
-                if (!tabella.titolo.empty()) aggiungiCelle(t, {SenzaBlanks(tabella.titolo)});
-                aggiungiCelle(t, tabella.colonne);
+                if (!tabella.titolo.empty()) t.riga({SenzaBlanks(tabella.titolo)});
+                t.riga(tabella.colonne);
             }
         }
-        if (riga.tabella < 0 || riga.genere == Genere::Dati) aggiungiCelle(t, celle(riga));
+        if (riga.tabella < 0 || riga.genere == Genere::Dati) t.riga(celle(riga));
     }
-    return t;
+    return std::move(t.testo);
 }
+
+}  // namespace
+
+std::string RapportoCsv(const Rapporto &r) { return csv(r, false); }
+std::string RapportoCsvItaliano(const Rapporto &r) { return csv(r, true); }
 
 std::string RapportoHtml(const Rapporto &r) {
     std::string h =

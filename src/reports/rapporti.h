@@ -59,6 +59,8 @@ void StampaForm10(Sessione &s);  // by flagVerticale
 // Labelled values first as they come, a value a cell; each table a block of its own with its title and the names of its
 // columns; a blank line between blocks. Numbers have all their digits. Cells are parted by commas and lines by CR LF.
 [[nodiscard]] std::string RapportoCsv(const Rapporto &r);
+// The same with ";" between cells and decimal commas, as Italian spreadsheets read it.
+[[nodiscard]] std::string RapportoCsvItaliano(const Rapporto &r);
 // One self-contained page in the report's own colours.
 [[nodiscard]] std::string RapportoHtml(const Rapporto &r);
 

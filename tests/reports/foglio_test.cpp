@@ -86,7 +86,7 @@ TEST(Rapporti, CsvAndHtmlHoldWhatTheTextShows) {
     Rapporto cattivo;
     cattivo.caption = "a,\"b\" <i>";
     cattivo.righe.push_back({{Elemento("x & y = "), reports::Numero(0.1)}, 0, Genere::Testo, -1});
-    EXPECT_EQ(reports::RapportoCsv(cattivo), "\"a,\"\"b\"\" <i>\"\r\n\r\nx & y =,0.1\r\n");
+    EXPECT_EQ(reports::RapportoCsv(cattivo), "\xEF\xBB\xBF\"a,\"\"b\"\" <i>\"\r\n\r\nx & y =,0.1\r\n");
     EXPECT_NE(reports::RapportoHtml(cattivo).find("&quot;b&quot; &lt;i&gt;</h1>"), std::string::npos);
 }
 

@@ -67,6 +67,7 @@ bool Disegno::Prendi(int argc, char **argv, int &i, std::string &errore) {
 }
 
 std::string Disegno::Applica(Sessione &s) const {
+    s.tavolo.specchiaArchi = true;
     if (std::string e = campi.Applica(s); !e.empty()) return e;
     if (motore == "vertical") s.in.CkUNI = 1;
     if (motore == "direct") s.in.CkUNI = 0;

@@ -61,9 +61,8 @@ std::string riassunto(const Sessione &s, const Formato &f) {
     const std::string testi = conta(l.Testi.size(), "texts");
     if (f.conTesti) t += ", " + testi;
     if (f.immagine) {
-        const double mm = 1000.0 / s.tavolo.Scala();
-        t += "; 1:" + std::to_string(s.tavolo.Scala()) + ", " + metrico(s.tavolo.QuadranteL() * mm) + " x " +
-             metrico(s.tavolo.QuadranteH() * mm) + " mm";
+        t += "; 1:" + std::to_string(s.tavolo.Scala()) + ", " + metrico(s.tavolo.QuadranteL() * 1000) + " x " +
+             metrico(s.tavolo.QuadranteH() * 1000) + " mm when printed";
     }
     if (!f.conTesti && !l.Testi.empty()) t += "; not in the file: " + testi;
     return t;
@@ -78,10 +77,12 @@ int Draw(int argc, char **argv) {
     if (const std::string e = r.disegno.Applica(c.s); !e.empty()) return Rifiuta("draw", e);
     if (const std::string e = r.disegno.Esegui(c.s); !e.empty()) return Rifiuta("draw", e);
     std::FILE *const voce = std::any_of(r.uscite.begin(), r.uscite.end(), suUscita) ? stderr : stdout;
+    if (const auto &carta = r.disegno.carta; carta)
+        c.s.tavolo.Pagina({carta->larghezza / 1440 * 0.0254, carta->altezza / 1440 * 0.0254});
     for (const std::string &uscita : r.uscite) {
         const Formato &f = *r.formatoDi(uscita);
         std::string errore;
-        const std::string contenuto = f.scrivi(c.s, errore);
+        const std::string contenuto = r.disegno.carta && f.aPagine ? f.aPagine(c.s, errore) : f.scrivi(c.s, errore);
         if (errore.empty()) errore = Consegna(uscita, contenuto);
         if (!errore.empty()) return Rifiuta("draw", errore);
         std::fprintf(voce, "%s: %s\n", uscita.c_str(), riassunto(c.s, f).c_str());

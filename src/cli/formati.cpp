@@ -4,6 +4,7 @@
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
+#include <utility>
 
 #include "core/file.h"
 #include "plot/dxf.h"
@@ -19,6 +20,15 @@ namespace {
 
 #ifdef OMBRELIA_CON_QT
 std::string pdf(Sessione &s, std::string &errore) { return paint::Pdf(s.tavolo, errore); }
+std::string pagine(Sessione &s, std::string &errore) {
+    Tavolo &t = s.tavolo;
+    const bool colori = std::exchange(t.PrintMultiColor, true);
+    t.ScegliPiene();
+    std::string file = paint::PdfAPagine(t, errore);
+    t.LasciaPagine();
+    t.PrintMultiColor = colori;
+    return file;
+}
 std::string png(Sessione &s, std::string &errore) { return paint::Png(s.tavolo, errore); }
 std::string bmp(Sessione &s, std::string &errore) { return paint::Bmp(s.tavolo, errore); }
 #else
@@ -26,14 +36,14 @@ std::string pdf(Sessione &, std::string &errore) {
     errore = "this build has no Qt: pdf, png and bmp are absent; dxf and svg are there";
     return {};
 }
-constexpr auto png = pdf, bmp = pdf;
+constexpr auto png = pdf, bmp = pdf, pagine = pdf;
 #endif
 
 constexpr Formato FORMATI[] = {
     {"dxf", "drawing for CAD and cutters, millimetres", [](Sessione &s, std::string &) { return DXF_Generate(s.tavolo); }, false},
     {"svg", "drawing at true scale, one group a layer", [](Sessione &s, std::string &) { return SVG_Generate(s.tavolo); }},
     {"txt", "the display list as text", [](Sessione &s, std::string &) { return ListaTesto(s.tavolo.lista()); }},
-    {"pdf", "one page at true scale", pdf},
+    {"pdf", "one page at true scale; with --paper in pages", pdf, true, false, pagine},
     {"png", "picture at the sheet's scale, 150 dots an inch", png, true, true},
     {"bmp", "the same picture without compression", bmp, true, true},
 };

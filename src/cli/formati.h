@@ -16,6 +16,8 @@ struct Formato {
     std::string (*scrivi)(Sessione &s, std::string &errore);
     bool conTesti = true;   // else the form has no place for the drawing's texts
     bool immagine = false;  // a picture, at the sheet's scale
+    // The same in pages of the sheet's paper, those that hold lines; null where there are none.
+    std::string (*aPagine)(Sessione &s, std::string &errore) = nullptr;
 };
 
 [[nodiscard]] std::span<const Formato> Formati();

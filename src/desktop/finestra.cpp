@@ -82,6 +82,7 @@ Finestra::Finestra(Dialoghi &dialoghi) : dialoghi_(dialoghi), utente_(dialoghi),
     utente_.suModulo = [this](std::string_view nome, bool aperto) { moduli_->apri(nome, aperto); };
     s_.rapporti.suApertura = [this](const Rapporto &r) { moduli_->mostra(r); };
     s_.rapporti.suStampa = [this](const Rapporto &r) { moduli_->stampa(r); };
+    s_.tavolo.specchiaArchi = s_.tavolo.piastrelleAScelta = true;
     s_.suStampa = [this](Sessione &, bool aree) { stampa(aree); };
     s_.suImmagine = [](Sessione &s) {
         std::string errore;

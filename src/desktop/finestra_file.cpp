@@ -124,6 +124,8 @@ bool Finestra::piastrelle(const std::function<bool(const paint::Avanzamento &)> 
 
 void Finestra::stampa(bool aree) {
     dialoghi_.stampa(this, ponte_.Traduci("Stampa del quadrante"), [this, aree](QPrinter &stampante) {
+        // Tiles are those of the printer's paper; those chosen for another are chosen anew.
+        if (s_.tavolo.Pagina(paint::CartaDi(stampante)) && aree) s_.tavolo.ScegliPiene();
         if (!aree) return paint::StampaTutto(s_.tavolo, stampante);
         piastrelle([&](const paint::Avanzamento &avanza) { return paint::StampaPiastrelle(s_.tavolo, stampante, avanza); });
     });

@@ -123,6 +123,7 @@ void Vivo::lavora() {
                 if (!disegnati && std::exchange(s.valore(id), 0) == 1) app::Spunta(s, id, 1);
             }
             t.dispositivo = nullptr;
+            t.specchiaArchi = true;
             t.FattoreX = r.fattoreX;
             t.FattoreY = r.fattoreY;
             guardia.guarda();

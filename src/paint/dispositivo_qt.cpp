@@ -40,12 +40,6 @@ QPen DispositivoQt::matita(Colore colore, double larghezza) {
     return p;
 }
 
-void DispositivoQt::pagina() {
-    if (!paginaNuova_) return;
-    paginaNuova_ = false;
-    if (voltaPagina) voltaPagina();
-}
-
 void DispositivoQt::Linea(double x1, double y1, double x2, double y2, Colore colore, int spessore) {
     const QPointF a = porta(x1, y1), b = porta(x2, y2);
     if (fuori(a, b)) return;
@@ -64,7 +58,6 @@ void DispositivoQt::Linea(double x1, double y1, double x2, double y2, Colore col
     Catena &c = catene_[turno_];
     turno_ = (turno_ + 1) % catene_.size();
     vuotaCatena(c);
-    pagina();
     c.colore = colore;
     c.spessore = spessore;
     c.sola = true;
@@ -148,7 +141,6 @@ void DispositivoQt::Punto(double x, double y, Colore colore) {
     if (fuori(p, p)) return;
     if (segnata(p, colore)) return;
     if (!punti_.isEmpty() && (colore != colorePunti_ || punti_.size() >= PUNTI_MASSIMI_IN_MANO)) vuotaPunti();
-    if (punti_.isEmpty()) pagina();
     colorePunti_ = colore;
     punti_.append(p);
 }
@@ -181,7 +173,6 @@ void DispositivoQt::vuota() {
 
 void DispositivoQt::Riquadro(double x1, double y1, double x2, double y2, Colore colore, bool) {
     vuota();
-    pagina();
     pittore_.setPen(matita(colore, posa_.penna));
     pittore_.setBrush(Qt::NoBrush);
     pittore_.drawRect(QRectF(porta(x1, y1), porta(x2, y2)).normalized());
@@ -197,7 +188,6 @@ void DispositivoQt::Cerchio(double x, double y, double raggio, Colore colore, Co
     const QPointF c = porta(x, y);
     const QRectF dove(c.x() - rx, c.y() - ry, 2 * rx, 2 * ry);
     if (fuori(dove.topLeft(), dove.bottomRight())) return;
-    pagina();
     pittore_.setPen(matita(colore, posa_.penna));
     if (riempimento >= 0) pittore_.setBrush(ink(riempimento));
     constexpr double GIRO = 2 * std::numbers::pi;
@@ -214,7 +204,6 @@ void DispositivoQt::Testo(double x, double y, std::string_view testo, Colore col
     const QPointF p = porta(x, y);
     if (!posa_.vista.isEmpty() && (p.y() > posa_.vista.bottom() || p.x() > posa_.vista.right() || p.y() + 2 * posa_.corpo < posa_.vista.top()))
         return;
-    pagina();
     QFont f = pittore_.font();
     constexpr double MINIMO = 1;
     f.setPixelSize(static_cast<int>(std::lround(std::max(posa_.corpo, MINIMO))));
@@ -227,11 +216,6 @@ void DispositivoQt::Testo(double x, double y, std::string_view testo, Colore col
 void DispositivoQt::Tratteggio(bool si) {
     vuota();
     tratteggio_ = si;
-}
-
-void DispositivoQt::NuovaPagina() {
-    vuota();
-    paginaNuova_ = true;
 }
 
 void Dipingi(Tavolo &t, Dispositivo &d) {

@@ -5,7 +5,6 @@
 #include <QPolygonF>
 #include <QVector>
 #include <array>
-#include <functional>
 #include <vector>
 
 #include "paint/tinte.h"
@@ -33,9 +32,6 @@ public:
     DispositivoQt(const DispositivoQt &) = delete;
     DispositivoQt &operator=(const DispositivoQt &) = delete;
 
-    // Begins a page of a document; called before the first stroke after NuovaPagina.
-    std::function<void()> voltaPagina;
-
     // The window wipes its own sheet.
     void Cls() override { vuota(); }
     void Linea(double x1, double y1, double x2, double y2, Colore colore, int spessore) override;
@@ -47,8 +43,6 @@ public:
                  double aspetto) override;
     void Testo(double x, double y, std::string_view testo, Colore colore) override;
     void Tratteggio(bool si) override;
-    void NuovaPagina() override;
-    void FineDocumento() override { vuota(); }
 
     // Puts out what is still held back.
     void vuota();
@@ -72,14 +66,13 @@ private:
     void vuotaPunti();
     // Whether a dot of the screen shows this colour's point already; it does from now on.
     [[nodiscard]] bool segnata(const QPointF &p, Colore colore);
-    void pagina();
     [[nodiscard]] QColor ink(Colore colore);
     [[nodiscard]] QPen matita(Colore colore, double larghezza);
 
     QPainter &pittore_;
     Supporto supporto_;
     Posa posa_;
-    bool tratteggio_ = false, paginaNuova_ = false;
+    bool tratteggio_ = false;
 
     // Engines trace a few curves by turns. Lines and points in hand cross only where nobody can tell which came first.
     std::array<Catena, 6> catene_;

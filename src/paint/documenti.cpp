@@ -62,6 +62,16 @@ void apri(QPdfWriter &w, const QPageSize &misura) {
     interaPagina(w);
 }
 
+// What a page loses at its edges: there a printer does not reach.
+constexpr double MARGINE_L = 0.013, MARGINE_H = 0.015;  // metres
+
+// A rectangle of this size in metres in the middle of the printer's paper.
+QRectF inMezzo(const QPagedPaintDevice &d, double larga, double alta) {
+    const double u = unitaAlMetro(d);
+    const QSizeF carta = d.pageLayout().fullRect(QPageLayout::Point).size() / PUNTI_AL_METRO * u, lato(larga * u, alta * u);
+    return {QPointF((carta.width() - lato.width()) / 2, (carta.height() - lato.height()) / 2), lato};
+}
+
 // A whole number of points that holds the length.
 double puntiInteri(double punti) { return std::max(3.0, std::ceil(punti - 1e-6)); }
 
@@ -125,16 +135,18 @@ QByteArray PdfFoglio(Tavolo &t, std::string &errore) {
 
 QByteArray PdfPiastrelle(Tavolo &t, const Avanzamento &avanza) {
     AssicuraApplicazione();
+    const QSizeF punti = QSizeF(t.carta().larga, t.carta().alta) * PUNTI_AL_METRO;
     QByteArray pdf;
     QBuffer buffer(&pdf);
     buffer.open(QIODevice::WriteOnly);
     {
         QPdfWriter w(&buffer);
-        apri(w, QPageSize(QPageSize::A4));
+        // Whole points, no paper of a name: an A4 of whole points would do for a sheet of another size that is near it.
+        apri(w, QPageSize(QSizeF(puntiInteri(punti.width()), puntiInteri(punti.height())), QPageSize::Point, QString(),
+                          QPageSize::ExactMatch));
         if (!StampaPiastrelle(t, w, avanza)) return {};
     }
-    constexpr double L = 0.210, H = 0.297;
-    return ConPagineEsatte(pdf, {L * PUNTI_AL_METRO, H * PUNTI_AL_METRO});
+    return ConPagineEsatte(pdf, punti);
 }
 
 bool StampaPiastrelle(Tavolo &t, QPagedPaintDevice &stampante, const Avanzamento &avanza) {
@@ -144,9 +156,7 @@ bool StampaPiastrelle(Tavolo &t, QPagedPaintDevice &stampante, const Avanzamento
     QPainter p(&stampante);
     if (!p.isActive()) return false;
     const double u = unitaAlMetro(stampante);
-    const QSizeF carta = stampante.pageLayout().fullRect(QPageLayout::Point).size() / PUNTI_AL_METRO * u;
-    const QSizeF lato(t.LarghezzaPagina() * u, t.AltezzaPagina() * u);
-    const QRectF tessera(QPointF((carta.width() - lato.width()) / 2, (carta.height() - lato.height()) / 2), lato);
+    const QRectF tessera = inMezzo(stampante, t.LarghezzaPagina(), t.AltezzaPagina());
     const SullaCarta guida(t);
     std::size_t fatte = 0;
     for (const RecArea &a : aree) {
@@ -169,9 +179,24 @@ void StampaTutto(Tavolo &t, QPagedPaintDevice &stampante) {
     interaPagina(stampante);
     QPainter p(&stampante);
     if (!p.isActive()) return;
-    DispositivoQt d(p, Supporto::Carta, posaSuCarta(unitaAlMetro(stampante), 1, 0, 0));
+    const Carta carta = CartaDi(stampante);
+    // A sheet that the page can't hold shows its first tile.
+    const QRectF foglio = inMezzo(stampante, std::min(t.QuadranteL() / t.Scala(), carta.larga - MARGINE_L),
+                                  std::min(t.QuadranteH() / t.Scala(), carta.alta - MARGINE_H));
+    p.setClipRect(foglio);
+    DispositivoQt d(p, Supporto::Carta, posaSuCarta(unitaAlMetro(stampante), 1, foglio.left(), foglio.top()));
     t.PrintAll(d);
     d.vuota();
+}
+
+Carta CartaDi(const QPagedPaintDevice &stampante) {
+    const QPageLayout l = stampante.pageLayout();
+    const QSizeF punti = l.fullRect(QPageLayout::Point).size() / PUNTI_AL_METRO;
+    // Whole points of a paper that has a name lie up to half a point off.
+    for (const Carta &nota : {CARTA_A4, Carta{0.297, 0.420}, Carta{0.2159, 0.2794}})
+        for (const Carta &c : {nota, Carta{nota.alta, nota.larga}})
+            if (std::fabs(punti.width() - c.larga) < 0.0004 && std::fabs(punti.height() - c.alta) < 0.0004) return c;
+    return {punti.width(), punti.height()};
 }
 
 QImage Immagine(Tavolo &t, std::string &errore) {
@@ -184,8 +209,9 @@ QImage Immagine(Tavolo &t, std::string &errore) {
         errore = "not enough memory for this picture";
         return {};
     }
-    immagine.setDotsPerMeterX(static_cast<int>(std::lround(u)));
-    immagine.setDotsPerMeterY(static_cast<int>(std::lround(u)));
+    // A print of the picture is the dial's true size.
+    immagine.setDotsPerMeterX(static_cast<int>(std::lround(u / t.Scala())));
+    immagine.setDotsPerMeterY(static_cast<int>(std::lround(u / t.Scala())));
     immagine.fill(Sfondo(Supporto::Carta));
     QPainter p(&immagine);
     p.setRenderHint(QPainter::Antialiasing);

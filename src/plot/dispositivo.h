@@ -24,9 +24,6 @@ public:
     virtual void Testo(double x, double y, std::string_view testo, Colore colore) = 0;
     // Lines that follow are dotted, or plain again.
     virtual void Tratteggio(bool) {}
-    // Comes after each page, the last one too: a page on which nothing was painted is not to be put out.
-    virtual void NuovaPagina() {}
-    virtual void FineDocumento() {}
 };
 
 }  // namespace ombrelia

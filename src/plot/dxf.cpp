@@ -10,6 +10,7 @@
 
 #include "core/angoli.h"
 #include "core/testo.h"
+#include "plot/percorso.h"
 
 namespace ombrelia {
 
@@ -28,7 +29,7 @@ void aggiungiStampato(std::string &t, int n) {
 
 class Scrittore {
 public:
-    Scrittore(const Lista &l, double fx, double fy) : lista(l), F(fx), G(fy), strati(l.nomi.quanti()) {
+    Scrittore(const Lista &l, const Specchio &s) : lista(l), specchio(s), F(s.FattoreX), G(s.FattoreY), strati(l.nomi.quanti()) {
         testo.reserve(512 + l.Linee.size() * 176 + l.Punti.size() * 96 + l.Figure.size() * 192);
     }
 
@@ -40,23 +41,16 @@ public:
         testo += " 0 \r\nSECTION\r\n 2 \r\nENTITIES\r\n"sv;
     }
 
-    void cammino() {
-        std::size_t punto = 0, linea = 0, figura = 0;
-        for (const char tipo : lista.Ordine) {
-            if (tipo == 'P') {
-                const RecPunto &r = lista.Punti[punto++];
-                DXF_Point(r.X, -r.Y, r.Id, r.colore);
-            } else if (tipo == 'L') {
-                const RecLinea &r = lista.Linee[linea++];
-                DXF_Line(F * r.X1, G * -r.Y1, F * r.X2, G * -r.Y2, r.Id, r.colore);
-            } else if (tipo == 'V') {
-                polilinea(figura);
-            } else if (figura < lista.Figure.size() && lista.Figure[figura].Tipo == tipo) {
-                const RecFigura &r = lista.Figure[figura++];
-                if (tipo == 'B') DXF_Box(r.X1, -r.Y1, r.X2, -r.Y2, r.Id, r.colore);
-                else DXF_Circle(r);
-            }
-        }
+    void punto(const RecPunto &r) { DXF_Point(r.X, -r.Y, r.Id, r.colore); }
+    void linea(const RecLinea &r) { DXF_Line(F * r.X1, G * -r.Y1, F * r.X2, G * -r.Y2, r.Id, r.colore); }
+    // The format counts on its own: a polyline moves the counter to its end, over whatever lies between.
+    void figura(std::size_t quale) {
+        const char tipo = lista.Figure[quale].Tipo;
+        if (tipo == 'V') return polilinea(contatore);
+        if (contatore >= lista.Figure.size() || lista.Figure[contatore].Tipo != tipo) return;
+        const RecFigura &r = lista.Figure[contatore++];
+        if (tipo == 'B') DXF_Box(r.X1, -r.Y1, r.X2, -r.Y2, r.Id, r.colore);
+        else DXF_Circle(r);
     }
 
     void chiusura() { testo += " 0 \r\nENDSEC\r\n 0 \r\nEOF\r\n"sv; }
@@ -140,7 +134,7 @@ private:
         DXF_Line(F * x1, G * y2, F * x1, G * y1, id, colore);
     }
 
-    // A whole circle when the end is 0, whatever the start. Aspect and fill are not carried; an arc's angles do not mirror.
+    // A whole circle when the end is 0, whatever the start. Aspect and fill are not carried.
     void DXF_Circle(const RecFigura &r) {
         const bool intero = r.B == 0;
         inizio(intero ? " 0 \r\nCIRCLE\r\n 8 \r\n"sv : " 0 \r\nARC\r\n 8 \r\n"sv, r.Id, r.colore);
@@ -148,11 +142,13 @@ private:
         coordinata(" 20 \r\n"sv, -r.Y1 * G * MILLIMETRI);
         coordinata(" 30 \r\n0\r\n 40 \r\n"sv, r.X2 * MILLIMETRI);
         if (intero) return;
-        coordinata(" 50 \r\n"sv, 180 * r.A / PI);
-        coordinata(" 51 \r\n"sv, 180 * r.B / PI);
+        double da = r.A, a = r.B;
+        specchio.arco(da, a);
+        coordinata(" 50 \r\n"sv, 180 * da / PI);
+        coordinata(" 51 \r\n"sv, 180 * a / PI);
     }
 
-    // One letter V of the order. A name shared by two polylines writes the later one twice: the first takes the counter
+    // One polyline of the order. A name shared by two polylines writes the later one twice: the first takes the counter
     // behind it, and the second, finding no entry of its own there, still has the name read last.
     void polilinea(std::size_t &contatore) {
         const auto &f = lista.Figure;
@@ -184,7 +180,9 @@ private:
     }
 
     const Lista &lista;
-    const double F, G;  // mirrors
+    const Specchio specchio;
+    const double F, G;  // its factors
+    std::size_t contatore = 0;  // in Figure
     std::vector<std::string> strati;
     std::optional<IdNome> ultima;
     std::array<Capo, 4> capi{};
@@ -223,16 +221,14 @@ int DXF_QbColorConverter(Colore colore) {
     }
 }
 
-std::string DXF_Generate(const Lista &lista, double QuadranteL, double QuadranteH, double FattoreX, double FattoreY) {
-    Scrittore s(lista, FattoreX, FattoreY);
+std::string DXF_Generate(const Lista &lista, double QuadranteL, double QuadranteH, const Specchio &specchio) {
+    Scrittore s(lista, specchio);
     s.intestazione(QuadranteL, QuadranteH);
-    s.cammino();
+    Percorri(lista, s);
     s.chiusura();
     return std::move(s.testo);
 }
 
-std::string DXF_Generate(const Tavolo &t) {
-    return DXF_Generate(t.lista(), t.QuadranteL(), t.QuadranteH(), t.FattoreX, t.FattoreY);
-}
+std::string DXF_Generate(const Tavolo &t) { return DXF_Generate(t.lista(), t.QuadranteL(), t.QuadranteH(), t.specchio()); }
 
 }  // namespace ombrelia

@@ -13,8 +13,7 @@ namespace ombrelia {
 
 // The drawing in millimetres, y upward, in Windows-1252 with lines ended by CR LF. Scale and shift have no part in it,
 // the mirrors have. Texts have no place in it: tell the user so when there are any.
-[[nodiscard]] std::string DXF_Generate(const Lista &lista, double QuadranteL, double QuadranteH, double FattoreX,
-                                       double FattoreY);
+[[nodiscard]] std::string DXF_Generate(const Lista &lista, double QuadranteL, double QuadranteH, const Specchio &specchio);
 [[nodiscard]] std::string DXF_Generate(const Tavolo &tavolo);
 
 }  // namespace ombrelia

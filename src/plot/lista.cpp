@@ -1,4 +1,4 @@
-// Layer names and the emptying of the display list.
+// Layer names, and what leaves the display list.
 #include "plot/lista.h"
 
 namespace ombrelia {
@@ -18,6 +18,31 @@ void Lista::svuota() {
     Aree.clear();
     Ordine.clear();
     pretese.clear();
+}
+
+void Lista::togliArea(std::size_t quale) {
+    constexpr std::size_t LATI = 4;
+    const auto i = static_cast<std::ptrdiff_t>(quale);
+    const RecArea tolta = Aree[quale];
+    // Where the outline stands in the order.
+    std::size_t posto = 0;
+    for (std::size_t linee = 0; posto < Ordine.size() && !(Ordine[posto] == 'L' && linee == tolta.linea); ++posto)
+        if (Ordine[posto] == 'L') ++linee;
+    Ordine.erase(posto, LATI);
+    const auto prima = Linee.begin() + static_cast<std::ptrdiff_t>(tolta.linea);
+    Linee.erase(prima, prima + LATI);
+    Testi.erase(Testi.begin() + static_cast<std::ptrdiff_t>(tolta.testo));
+    Aree.erase(Aree.begin() + i);
+    for (RecArea &a : Aree) {
+        if (a.linea > tolta.linea) a.linea -= LATI;
+        if (a.testo > tolta.testo) --a.testo;
+    }
+    for (Pretesa &r : pretese) {
+        if (r.da <= posto) continue;
+        r.da -= LATI;
+        r.a -= LATI;
+        r.linea -= LATI;
+    }
 }
 
 std::optional<std::size_t> Lista::TrovaStart(IdNome id) const {

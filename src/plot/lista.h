@@ -72,12 +72,15 @@ struct RecFigura {
 struct RecTesto {
     double X, Y;
     std::string Testo;  // as shown: at most 100 characters, without padding
+    Colore colore = 0;  // in which it is painted
 };
 
-// A selected tile: its number and its top left corner in metres from the sheet's corner.
+// A selected tile: its number and its top left corner in metres from the sheet's corner; its outline, the first of four
+// lines, and its text in the list.
 struct RecArea {
     int Pagina;
     double X, Y;
+    std::size_t linea, testo;
 };
 
 struct Lista {
@@ -91,6 +94,8 @@ struct Lista {
     std::vector<Pretesa> pretese;  // in the order of their records; ranges do not overlap
 
     void svuota();
+    // Takes a selected tile out, with its outline and its number.
+    void togliArea(std::size_t quale);
 
     // Index in Figure of the last START of a polyline's name; none when there is none. Two polylines of one name are
     // not told apart: the later stands for both.

@@ -4,6 +4,7 @@
 #include <initializer_list>
 
 #include "core/testo.h"
+#include "plot/percorso.h"
 
 namespace ombrelia {
 
@@ -25,7 +26,28 @@ public:
         numeri({r.X1, r.Y1, r.X2, r.Y2});
         fine({r.colore, r.Spessore}, r.Id);
     }
-    void figura(const RecFigura &r) {
+    void figura(std::size_t i) {
+        scrivi(lista.Figure[i]);
+        seguito(i + 1);
+    }
+    // Vertices and ends have no letter in the order: they follow the entry they stand behind.
+    void seguito(std::size_t i) {
+        const auto &f = lista.Figure;
+        for (; i < f.size() && f[i].Tipo == 'V' && f[i].voce != Voce::START; ++i) scrivi(f[i]);
+    }
+    // Texts have no layer: the field stays empty.
+    void testo(const RecTesto &r) {
+        t += 'T';
+        numeri({r.X, r.Y});
+        t += "\t\t";
+        t += r.Testo;
+        t += '\n';
+    }
+
+    std::string t;
+
+private:
+    void scrivi(const RecFigura &r) {
         t += r.Tipo;
         if (r.Tipo == 'B') {
             numeri({r.X1, r.Y1, r.X2, r.Y2});
@@ -41,18 +63,6 @@ public:
             fine({r.colore}, r.Id);
         }
     }
-    // Texts have no layer: the field stays empty.
-    void testo(const RecTesto &r) {
-        t += 'T';
-        numeri({r.X, r.Y});
-        t += "\t\t";
-        t += r.Testo;
-        t += '\n';
-    }
-
-    std::string t;
-
-private:
     void numeri(std::initializer_list<double> valori) {
         for (const double v : valori) {
             t += '\t';
@@ -79,23 +89,8 @@ private:
 
 std::string ListaTesto(const Lista &lista) {
     Scrittore s(lista);
-    std::size_t punto = 0, linea = 0, figura = 0;
-    const auto &f = lista.Figure;
-    // Vertices and ends have no letter in the order: they follow the entry they stand behind.
-    const auto seguito = [&] {
-        while (figura < f.size() && f[figura].Tipo == 'V' && f[figura].voce != Voce::START) s.figura(f[figura++]);
-    };
-    seguito();
-    for (const char tipo : lista.Ordine) {
-        if (tipo == 'P') {
-            s.punto(lista.Punti[punto++]);
-        } else if (tipo == 'L') {
-            s.linea(lista.Linee[linea++]);
-        } else if (figura < f.size()) {
-            s.figura(f[figura++]);
-            seguito();
-        }
-    }
+    s.seguito(0);
+    Percorri(lista, s);
     for (const RecTesto &r : lista.Testi) s.testo(r);
     return std::move(s.t);
 }

@@ -1,6 +1,12 @@
-// Pages: the grid of tiles, their selection, and the printing runs.
+// Pages: paper, the grid of tiles, their selection, and the sheet on one page. Tiles are printed by paint.
+#include <algorithm>
+#include <cmath>
+#include <set>
+#include <utility>
+
 #include "core/angoli.h"
 #include "core/conteggio.h"
+#include "plot/percorso.h"
 #include "plot/tavolo.h"
 
 namespace ombrelia {
@@ -26,15 +32,10 @@ struct SullaStampante {
     Dispositivo *prima;
 };
 
-struct Casella {
-    double bordo;  // metres from the sheet's corner
-    int numero;
-};
-
 // Column or row of a position, counted by repeated addition; none off the grid.
-std::optional<Casella> casella(double posizione, double lato) {
+std::optional<Tavolo::Casella> casella(double posizione, double lato) {
     if (!(posizione >= 0)) return {};
-    Casella c{0, 0};
+    Tavolo::Casella c{0, 0};
     while (!(posizione - c.bordo < lato)) {
         if (++c.numero >= PIASTRELLE_MASSIME) return {};
         c.bordo += lato;
@@ -42,87 +43,140 @@ std::optional<Casella> casella(double posizione, double lato) {
     return c;
 }
 
+// Marks the tiles that what is painted on it crosses.
+class Segnatessere final : public Dispositivo {
+public:
+    Segnatessere(double larga, double alta, double L, double H) : larga_(larga), alta_(alta), L_(L), H_(H) {}
+    std::set<std::pair<int, int>> tessere;  // row, column
+
+    void Cls() override {}
+    void Linea(double x1, double y1, double x2, double y2, Colore, int) override {
+        const auto numero = [](double posto, double lato) { return static_cast<int>(std::floor(posto / lato)); };
+        const auto [su, giu] = std::minmax(y1, y2);
+        const auto [sinistra, destra] = std::minmax(x1, x2);
+        if (!(sinistra < L_ && destra >= 0 && su < H_ && giu >= 0)) return;
+        for (int r = std::max(numero(su, alta_), 0); r <= numero(std::min(giu, H_), alta_); ++r)
+            for (int c = std::max(numero(sinistra, larga_), 0); c <= numero(std::min(destra, L_), larga_); ++c) {
+                if (c * larga_ >= L_ || r * alta_ >= H_ || tessere.contains({r, c})) continue;
+                const Quadrante tessera{larga_, alta_, -c * larga_, -r * alta_};
+                double a = x1, b = y1, d = x2, e = y2;
+                if (tessera.RitagliaSegmento(a, b, d, e) > 0) tessere.insert({r, c});
+            }
+    }
+    void Riquadro(double x1, double y1, double x2, double y2, Colore colore, bool) override {
+        Linea(x1, y1, x2, y1, colore, 1);
+        Linea(x2, y1, x2, y2, colore, 1);
+        Linea(x2, y2, x1, y2, colore, 1);
+        Linea(x1, y2, x1, y1, colore, 1);
+    }
+    void Punto(double x, double y, Colore colore) override {
+        if (x < L_ && y < H_) Linea(x, y, x, y, colore, 1);
+    }
+    void Cerchio(double x, double y, double raggio, Colore colore, Colore, double inizio, double fine, double aspetto) override {
+        constexpr int CORDE = 72;
+        const double rx = raggio / std::max(1.0, std::fabs(aspetto)), ry = rx * std::fabs(aspetto);
+        double arco = fine == 0 ? 2 * PI : std::fmod(fine - inizio, 2 * PI);
+        if (arco <= 0) arco += 2 * PI;
+        for (int i = 0; i < CORDE; ++i) {
+            const double a = inizio + arco * i / CORDE, b = inizio + arco * (i + 1) / CORDE;
+            Linea(x + rx * std::cos(a), y - ry * std::sin(a), x + rx * std::cos(b), y - ry * std::sin(b), colore, 1);
+        }
+    }
+    void Testo(double, double, std::string_view, Colore) override {}
+
+private:
+    const double larga_, alta_, L_, H_;  // metres
+};
+
 }  // namespace
 
 void Tavolo::xPlotA4() {
     // The picture is the sheet at the present scale, so in metres it is the sheet again.
     const double w = LarghezzaImmagine() / ScalaBase * scala_, h = AltezzaImmagine() / ScalaBase * scala_;
     constexpr Colore GRIGIO = 0x808080;
-    const IdNome id = nome("Page");
     if (dispositivo) dispositivo->Tratteggio(true);
     for (const double x : Conteggio(larghezzaPagina_, w + 3 * larghezzaPagina_, larghezzaPagina_))
-        xLine(x - shiftX_, -shiftY_, x - shiftX_, h - shiftY_, GRIGIO, id, 1);
+        xLine(x - q_.x, -q_.y, x - q_.x, h - q_.y, GRIGIO, idGriglia_, 1);
     for (const double y : Conteggio(altezzaPagina_, h + 3 * altezzaPagina_, altezzaPagina_))
-        xLine(-shiftX_, y - shiftY_, w - shiftX_, y - shiftY_, GRIGIO, id, 1);
+        xLine(-q_.x, y - q_.y, w - q_.x, y - q_.y, GRIGIO, idGriglia_, 1);
     if (dispositivo) dispositivo->Tratteggio(false);
 }
 
 void Tavolo::xTrovaA4(double X, double Y) {
     const auto colonna = casella(X, larghezzaPagina_), riga = casella(Y, altezzaPagina_);
     if (!colonna || !riga) return;
+    if (piastrelleAScelta) {
+        if (!(X < q_.L && Y < q_.H)) return;
+        const auto gia = std::find_if(lista_.Aree.begin(), lista_.Aree.end(),
+                                      [&](const RecArea &a) { return a.X == colonna->bordo && a.Y == riga->bordo; });
+        if (gia != lista_.Aree.end()) {
+            lista_.togliArea(static_cast<std::size_t>(gia - lista_.Aree.begin()));
+            return Refresh();
+        }
+    }
+    scegli(*colonna, *riga);
+}
+
+void Tavolo::scegli(const Casella &colonna, const Casella &riga) {
     // A last column of less than a twentieth is not counted.
     const Valore q = LarghezzaImmagine() / ScalaBase * scala_ / larghezzaPagina_;
     const double n = Int(q).v + (Round(q, 1) > Int(q) ? 1 : 0);
-    const double numero = riga->numero * n + colonna->numero + 1;
+    const double numero = riga.numero * n + colonna.numero + 1;
     if (!(numero >= 1 && numero <= PIASTRELLE_MASSIME)) return;
     const int pagina = static_cast<int>(numero);
 
-    const double sinistra = colonna->bordo - shiftX_, destra = colonna->bordo + larghezzaPagina_ - shiftX_;
-    const double alto = riga->bordo - shiftY_, basso = riga->bordo + altezzaPagina_ - shiftY_;
+    const double sinistra = colonna.bordo - q_.x, destra = colonna.bordo + larghezzaPagina_ - q_.x;
+    const double alto = riga.bordo - q_.y, basso = riga.bordo + altezzaPagina_ - q_.y;
     constexpr Colore ARANCIO = 0x80FF;
+    const std::size_t linea = lista_.Linee.size(), testo = lista_.Testi.size();
     xLine(sinistra, alto, destra, alto, ARANCIO, idPagina_);
     xLine(destra, alto, destra, basso, ARANCIO, idPagina_);
     xLine(destra, basso, sinistra, basso, ARANCIO, idPagina_);
     xLine(sinistra, basso, sinistra, alto, ARANCIO, idPagina_);
     Dati(std::to_string(pagina), sinistra + 0.003, alto + 0.003);
-    lista_.Aree.push_back({pagina, colonna->bordo, riga->bordo});
+    lista_.Aree.push_back({pagina, colonna.bordo, riga.bordo, linea, testo});
+}
+
+void Tavolo::LasciaPagine() {
+    while (!lista_.Aree.empty()) lista_.togliArea(lista_.Aree.size() - 1);
+}
+
+std::size_t Tavolo::ScegliPiene() {
+    const double piastrelle = (q_.L / larghezzaPagina_ + 1) * (q_.H / altezzaPagina_ + 1);
+    if (!(q_.L > 0 && q_.H > 0 && piastrelle <= PIASTRELLE_MASSIME)) return lista_.Aree.size();
+    Segnatessere d(larghezzaPagina_, altezzaPagina_, q_.L, q_.H);
+    Pittore p = pittore(d);
+    p.scala = 1;
+    struct Visita {
+        const Pittore &p;
+        const Lista &l;
+        [[nodiscard]] bool conta(IdNome Id) const { return p.specchia(Id) && Id != p.griglia; }
+        void punto(const RecPunto &r) const {
+            if (p.quadrante.tiene(r.X, r.Y)) p.punto(r.X, r.Y, r.colore);
+        }
+        void linea(const RecLinea &r) const {
+            if (conta(r.Id)) p.linea(r.X1, r.Y1, r.X2, r.Y2, r.colore, r.Spessore, true);
+        }
+        void figura(std::size_t i) const { p.figura(l, l.Figure[i]); }
+    };
+    Percorri(lista_, Visita{p, lista_});
+    for (const auto &[riga, colonna] : d.tessere) {
+        const double x = (colonna + 0.5) * larghezzaPagina_, y = (riga + 0.5) * altezzaPagina_;
+        const auto dove = casella(x, larghezzaPagina_), sotto = casella(y, altezzaPagina_);
+        const bool gia = std::any_of(lista_.Aree.begin(), lista_.Aree.end(), [&](const RecArea &a) { return a.X == dove->bordo && a.Y == sotto->bordo; });
+        // The middle of a last, narrow tile lies beside the sheet.
+        if (!gia) scegli(*dove, *sotto);
+    }
+    return lista_.Aree.size();
 }
 
 void Tavolo::PrintAll(Dispositivo &stampante) {
     const SullaStampante guida(*this, stampante);
     double y = RIENTRO;
-    dipingiTesto(0, y, Marchio);
+    pittore().testo(0, y, Marchio, ForeColor);
     // The sheet's texts as a plain list at the page's head; Refresh then puts them in their places too.
-    for (const RecTesto &t : lista_.Testi) dipingiTesto(0, y += ALTEZZA_RIGA, t.Testo);
+    for (const RecTesto &t : lista_.Testi) pittore().testo(0, y += ALTEZZA_RIGA, t.Testo, t.colore);
     Refresh();
-    stampante.FineDocumento();
-}
-
-bool Tavolo::PrintArea(Dispositivo &stampante, const std::function<bool(std::size_t, std::size_t)> &avanza) {
-    if (lista_.Aree.empty()) return false;
-    // Members are set and put back directly: the sheet on the screen and its panels show nothing of the run.
-    struct Foglio {
-        Tavolo &t;
-        double sx, sy, h, l, corrente;
-        int scala;
-        ~Foglio() {
-            t.shiftX_ = sx;
-            t.shiftY_ = sy;
-            t.quadranteH_ = h;
-            t.quadranteL_ = l;
-            t.scalaCorrente_ = corrente;
-            t.scala_ = scala;
-        }
-    };
-    const Foglio prima{*this, shiftX_, shiftY_, quadranteH_, quadranteL_, scalaCorrente_, scala_};
-    const SullaStampante guida(*this, stampante);
-    quadranteH_ = altezzaPagina_;
-    quadranteL_ = larghezzaPagina_;
-    scala_ = 1;
-    scalaCorrente_ = ScalaBase;
-    std::size_t fatte = 0;
-    for (const RecArea &a : lista_.Aree) {
-        if (avanza && !avanza(fatte++, lista_.Aree.size())) break;
-        const std::string numero = std::to_string(a.Pagina);
-        dipingiTesto(RIENTRO, RIENTRO, Marchio.empty() ? numero : numero + " " + Marchio);
-        // The shift alone selects what comes on the page.
-        shiftX_ = -a.X;
-        shiftY_ = -a.Y;
-        Refresh();
-        stampante.NuovaPagina();
-    }
-    stampante.FineDocumento();
-    return true;
 }
 
 }  // namespace ombrelia

@@ -5,8 +5,10 @@
 #include <charconv>
 #include <cmath>
 #include <numbers>
+#include <unordered_set>
 
 #include "core/testo.h"
+#include "plot/percorso.h"
 
 namespace ombrelia {
 
@@ -84,16 +86,53 @@ std::string xml(std::string_view grezzo) {
     return t;
 }
 
+// A run of points as two hashes of 64 bits, the same either way round.
+struct Impronta {
+    std::uint64_t a = 0x9E3779B97F4A7C15U, b = 0;
+
+    explicit Impronta(const std::vector<Punto> &punti) : b(punti.size()) {
+        const auto prima = [](const Punto &p, const Punto &q) { return p.x != q.x ? p.x < q.x : p.y < q.y; };
+        const auto mescola = [this](const Punto &p) {
+            for (const Passi v : {p.x, p.y}) {
+                a = (a ^ static_cast<std::uint64_t>(v)) * 0xFF51AFD7ED558CCDU;
+                a ^= a >> 29;
+                b = (b + static_cast<std::uint64_t>(v)) * 0xC4CEB9FE1A85EC53U;
+                b ^= b >> 32;
+            }
+        };
+        if (std::lexicographical_compare(punti.rbegin(), punti.rend(), punti.begin(), punti.end(), prima))
+            std::for_each(punti.rbegin(), punti.rend(), mescola);
+        else std::for_each(punti.begin(), punti.end(), mescola);
+    }
+    bool operator==(const Impronta &) const = default;
+    struct Resto {
+        std::size_t operator()(const Impronta &i) const { return i.a; }
+    };
+};
+using Visti = std::unordered_set<Impronta, Impronta::Resto>;
+
+// An element of a layer: where its text begins, what it draws, and when it was begun.
+struct Pezzo {
+    std::size_t inizio;
+    Impronta impronta;
+    std::size_t turno;
+    bool copia = false;  // of one begun earlier, on whatever layer
+};
+
 // One layer: its finished elements, the path in hand, and its points by colour.
 struct Strato {
     std::string corpo;
+    std::vector<Pezzo> pezzi;
     std::vector<Punto> percorso;
+    std::size_t turno = 0;  // of the path in hand
     Colore colore = 0;
     std::int32_t spessore = 1;
     std::vector<std::pair<Colore, std::string>> punti;
+    std::size_t fineElementi = 0;  // behind them the points
 
     void chiudiPercorso() {
         if (percorso.empty()) return;
+        pezzi.push_back({corpo.size(), Impronta(percorso), turno});
         corpo += "<path stroke=\""sv;
         aggiungiColore(corpo, colore);
         if (spessore != 1) {
@@ -113,7 +152,7 @@ struct Strato {
     }
 
     // A chord goes on where the path in hand ends, whichever way round it was drawn.
-    void corda(const Punto &a, const Punto &b, Colore c, std::int32_t s) {
+    void corda(const Punto &a, const Punto &b, Colore c, std::int32_t s, std::size_t adesso) {
         if (!percorso.empty() && c == colore && s == spessore) {
             if (percorso.size() == 2 && (percorso[0] == a || percorso[0] == b) && percorso[1] != a && percorso[1] != b)
                 std::swap(percorso[0], percorso[1]);
@@ -123,6 +162,7 @@ struct Strato {
         chiudiPercorso();
         colore = c;
         spessore = s;
+        turno = adesso;
         percorso = {a, b};
     }
 
@@ -136,6 +176,7 @@ struct Strato {
 
     void chiudi() {
         chiudiPercorso();
+        fineElementi = corpo.size();
         for (const auto &[c, d] : punti) {
             corpo += "<path stroke-width=\""sv;
             aggiungiMm(corpo, PUNTO_MM);
@@ -150,27 +191,48 @@ struct Strato {
 
 class Scrittore {
 public:
-    explicit Scrittore(const Tavolo &t) : tavolo(t), lista(t.lista()), posto(lista.nomi.quanti(), SENZA) {}
+    explicit Scrittore(const Tavolo &t) : tavolo(t), lista(t.lista()), q(t.quadrante()), posto(lista.nomi.quanti(), SENZA) {}
 
     std::string scrivi() {
-        cammino();
+        Percorri(lista, *this);
         std::string t;
         std::size_t misura = 1024 + lista.Testi.size() * 160;
         for (Strato &s : strati) {
             s.chiudi();
             misura += s.corpo.size() + 256;
         }
+        togliCopie();
         t.reserve(misura);
         testata(t);
         for (std::size_t i = 0; i < strati.size(); ++i) {
+            const Strato &s = strati[i];
+            const bool tutte = std::all_of(s.pezzi.begin(), s.pezzi.end(), [](const Pezzo &p) { return p.copia; });
+            if (tutte && s.punti.empty()) continue;
             const std::string &nome = lista.nomi.testo(nomi[i]);
             apriStrato(t, i + 1, nome.empty() ? "Disegno"sv : std::string_view(nome));
-            t += strati[i].corpo;
+            for (std::size_t k = 0; k < s.pezzi.size(); ++k) {
+                const std::size_t da = s.pezzi[k].inizio, a = k + 1 < s.pezzi.size() ? s.pezzi[k + 1].inizio : s.fineElementi;
+                if (!s.pezzi[k].copia) t.append(s.corpo, da, a - da);
+            }
+            t.append(s.corpo, s.fineElementi);
             t += "</g>\n"sv;
         }
         testi(t);
         t += "</g>\n</svg>\n"sv;
         return t;
+    }
+
+    void punto(const RecPunto &r) {
+        Punto p{};
+        const double x = r.X * tavolo.FattoreX, y = r.Y * tavolo.FattoreY;
+        if (q.copre(x, y) && porta(x, y, false, p) && puntiVisti.insert(Impronta({p})).second) strato(r.Id).punto(p, r.colore);
+    }
+    void linea(const RecLinea &r) { segmento(r.X1, r.Y1, r.X2, r.Y2, r.colore, r.Spessore, r.Id); }
+    void figura(std::size_t i) {
+        const RecFigura &r = lista.Figure[i];
+        if (r.Tipo == 'B') riquadro(r);
+        else if (r.Tipo == 'C') cerchio(r);
+        else polilinea(i);
     }
 
 private:
@@ -232,39 +294,39 @@ private:
         return true;
     }
 
-    void cammino() {
-        const auto &f = lista.Figure;
-        std::size_t punto = 0, linea = 0, figura = 0;
-        Punto a{}, b{};
-        for (const char tipo : lista.Ordine) {
-            if (tipo == 'P') {
-                const RecPunto &r = lista.Punti[punto++];
-                if (porta(r.X, r.Y, true, a)) strato(r.Id).punto(a, r.colore);
-            } else if (tipo == 'L') {
-                const RecLinea &r = lista.Linee[linea++];
-                const bool s = specchia(r.Id);
-                if (porta(r.X1, r.Y1, s, a) && porta(r.X2, r.Y2, s, b)) strato(r.Id).corda(a, b, r.colore, r.Spessore);
-            } else {
-                while (figura < f.size() && f[figura].Tipo == 'V' && f[figura].voce != Voce::START) ++figura;
-                if (figura == f.size()) continue;
-                if (tipo == 'B') riquadro(f[figura]);
-                else if (tipo == 'C') cerchio(f[figura]);
-                else polilinea(figura);
-                ++figura;
-            }
-        }
+    // Of elements that draw the same the one begun first stays.
+    void togliCopie() {
+        std::vector<Pezzo *> tutti;
+        for (Strato &s : strati)
+            for (Pezzo &p : s.pezzi) tutti.push_back(&p);
+        std::sort(tutti.begin(), tutti.end(), [](const Pezzo *p, const Pezzo *q) { return p->turno < q->turno; });
+        Visti visti;
+        visti.reserve(tutti.size());
+        for (Pezzo *p : tutti) p->copia = !visti.insert(p->impronta).second;
     }
 
-    // The outline as four chords in hand: one closed path.
+    // What of it lies on the sheet.
+    void segmento(double x1, double y1, double x2, double y2, Colore colore, std::int32_t spessore, IdNome id) {
+        if (specchia(id)) {
+            x1 *= tavolo.FattoreX;
+            y1 *= tavolo.FattoreY;
+            x2 *= tavolo.FattoreX;
+            y2 *= tavolo.FattoreY;
+        }
+        const bool ampio = x1 != x2 || y1 != y2;
+        if (q.RitagliaSegmento(x1, y1, x2, y2) == 0 || (ampio && x1 == x2 && y1 == y2)) return;
+        Punto a{}, b{};
+        if (porta(x1, y1, false, a) && porta(x2, y2, false, b)) strato(id).corda(a, b, colore, spessore, turno++);
+    }
+
+    // One closed path, or what of its sides lies on the sheet.
     void riquadro(const RecFigura &r) {
-        Punto a{}, c{};
-        const bool s = specchia(r.Id);
-        if (!porta(r.X1, r.Y1, s, a) || !porta(r.X2, r.Y2, s, c)) return;
         Strato &st = strato(r.Id);
         st.chiudiPercorso();
-        st.colore = r.colore;
-        st.spessore = 1;
-        st.percorso = {a, {c.x, a.y}, c, {a.x, c.y}, a};
+        segmento(r.X1, r.Y1, r.X2, r.Y1, r.colore, 1, r.Id);
+        segmento(r.X2, r.Y1, r.X2, r.Y2, r.colore, 1, r.Id);
+        segmento(r.X2, r.Y2, r.X1, r.Y2, r.colore, 1, r.Id);
+        segmento(r.X1, r.Y2, r.X1, r.Y1, r.colore, 1, r.Id);
         st.chiudiPercorso();
     }
 
@@ -272,67 +334,114 @@ private:
         const auto &f = lista.Figure;
         const IdNome id = f[i].Id;
         const RecFigura *prima = nullptr;
-        const bool s = specchia(id);
-        Punto a{}, b{};
         for (++i; i < f.size() && !(f[i].Tipo == 'V' && f[i].Id == id && f[i].voce != Voce::VERTEX); ++i) {
             if (f[i].Tipo != 'V' || f[i].Id != id) continue;
-            if (prima && porta(prima->X1, prima->Y1, s, a) && porta(f[i].X1, f[i].Y1, s, b))
-                strato(id).corda(a, b, f[i].colore, 1);
+            if (prima) segmento(prima->X1, prima->Y1, f[i].X1, f[i].Y1, f[i].colore, 1, id);
             prima = &f[i];
         }
     }
 
-    // Of an ellipse the radius is the longer half axis.
+    // Millimetres on the sheet; of an ellipse the radius is the longer half axis. Counter-clockwise as seen.
+    struct Ellisse {
+        double x, y, rx, ry, inizio, arco;
+
+        [[nodiscard]] double X(double angolo) const { return x + rx * std::cos(angolo); }
+        [[nodiscard]] double Y(double angolo) const { return y - ry * std::sin(angolo); }
+        [[nodiscard]] Punto capo(double angolo) const {
+            return {daMm(x) + daMm(rx * std::cos(angolo)), daMm(y) - daMm(ry * std::sin(angolo))};
+        }
+    };
+
     void cerchio(const RecFigura &r) {
-        Punto c{};
         const double mm = r.X2 * MILLIMETRI, aspetto = std::fabs(r.Y2);
-        if (!porta(r.X1, r.Y1, specchia(r.Id), c) || !(mm > 0 && mm < LIMITE_MM) || aspetto == 0) return;
-        const double rx = aspetto > 1 ? mm / aspetto : mm, ry = aspetto > 1 ? mm : mm * aspetto;
+        const bool s = specchia(r.Id);
+        Punto c{};
+        if (!porta(r.X1, r.Y1, s, c) || !(mm > 0 && mm < LIMITE_MM) || aspetto == 0) return;
+        double da = r.A, a = r.B;
+        if (s) tavolo.specchio().arco(da, a);
         constexpr double GIRO = 2 * std::numbers::pi;
-        double arco = std::fmod(r.B - r.A, GIRO);
+        double arco = std::fmod(a - da, GIRO);
         if (arco < 0) arco += GIRO;
         constexpr double INTERO = 1e-6;
+        const bool intero = r.B == 0 || arco < INTERO || arco > GIRO - INTERO;
+        if (intero) da = 0, arco = GIRO;
+        const Ellisse e{static_cast<double>(c.x) / PASSI_AL_MM, static_cast<double>(c.y) / PASSI_AL_MM,
+                        aspetto > 1 ? mm / aspetto : mm, aspetto > 1 ? mm : mm * aspetto, da, arco};
         Strato &st = strato(r.Id);
         st.chiudiPercorso();
+        const double L = q.L * MILLIMETRI, H = q.H * MILLIMETRI;
+        const bool dentro = e.x - e.rx >= 0 && e.x + e.rx <= L && e.y - e.ry >= 0 && e.y + e.ry <= H;
+        if (dentro && intero) return tondo(st, e, c, r);
+        // Cut where it crosses the sheet's edges; a piece whose middle lies on the sheet stays.
+        std::vector<double> tagli{da, da + arco};
+        const auto taglia = [&](double angolo) {
+            double t = std::fmod(angolo - da, GIRO);
+            if (t < 0) t += GIRO;
+            if (t < arco) tagli.push_back(da + t);
+        };
+        for (const double x : {0.0, L})
+            if (const double k = (x - e.x) / e.rx; std::fabs(k) < 1) taglia(std::acos(k)), taglia(-std::acos(k));
+        for (const double y : {0.0, H})
+            if (const double k = (e.y - y) / e.ry; std::fabs(k) < 1) taglia(std::asin(k)), taglia(std::numbers::pi - std::asin(k));
+        if (dentro) tagli.resize(2);
+        std::sort(tagli.begin(), tagli.end());
+        for (std::size_t i = 1; i < tagli.size(); ++i) {
+            const double mezzo = (tagli[i - 1] + tagli[i]) / 2, x = e.X(mezzo), y = e.Y(mezzo);
+            if (x >= 0 && x <= L && y >= 0 && y <= H) pezzo(st, e, tagli[i - 1], tagli[i], r);
+        }
+    }
+
+    void tondo(Strato &st, const Ellisse &e, const Punto &c, const RecFigura &r) {
         std::string &t = st.corpo;
-        if (r.B == 0 || arco < INTERO || arco > GIRO - INTERO) {
-            t += rx == ry ? "<circle r=\""sv : "<ellipse rx=\""sv;
-            aggiungiMm(t, rx);
-            if (rx != ry) {
-                t += "\" ry=\""sv;
-                aggiungiMm(t, ry);
-            }
-            t += "\" cx=\""sv;
-            aggiungi(t, c.x);
-            t += "\" cy=\""sv;
-            aggiungi(t, c.y);
-            if (r.Riempimento >= 0) {
-                t += "\" fill=\""sv;
-                aggiungiColore(t, r.Riempimento);
-            }
-        } else {
-            // Counter-clockwise as seen, with y downward.
-            const auto capo = [&](double angolo) {
-                return Punto{c.x + daMm(rx * std::cos(angolo)), c.y - daMm(ry * std::sin(angolo))};
-            };
-            t += "<path d=\"M"sv;
-            aggiungiPunto(t, capo(r.A));
-            t += 'A';
-            aggiungiPunto(t, {daMm(rx), daMm(ry)});
-            t += arco > std::numbers::pi ? " 0 1 0 "sv : " 0 0 0 "sv;
-            aggiungiPunto(t, capo(r.B));
+        st.pezzi.push_back({t.size(), Impronta({c, {daMm(e.rx), daMm(e.ry)}, {r.Riempimento, 0}}), turno++});
+        t += e.rx == e.ry ? "<circle r=\""sv : "<ellipse rx=\""sv;
+        aggiungiMm(t, e.rx);
+        if (e.rx != e.ry) {
+            t += "\" ry=\""sv;
+            aggiungiMm(t, e.ry);
+        }
+        t += "\" cx=\""sv;
+        aggiungi(t, c.x);
+        t += "\" cy=\""sv;
+        aggiungi(t, c.y);
+        fine(t, r, true);
+    }
+
+    void pezzo(Strato &st, const Ellisse &e, double da, double a, const RecFigura &r) {
+        const Punto primo = e.capo(da), secondo = e.capo(a), raggi{daMm(e.rx), daMm(e.ry)};
+        std::string &t = st.corpo;
+        st.pezzi.push_back({t.size(), Impronta({primo, e.capo((da + a) / 2), secondo}), turno++});
+        t += "<path d=\"M"sv;
+        aggiungiPunto(t, primo);
+        t += 'A';
+        aggiungiPunto(t, raggi);
+        t += a - da > std::numbers::pi ? " 0 1 0 "sv : " 0 0 0 "sv;
+        aggiungiPunto(t, secondo);
+        fine(t, r, r.B == 0);
+    }
+
+    // Fill, of whole ones, and colour.
+    static void fine(std::string &t, const RecFigura &r, bool intero) {
+        if (intero && r.Riempimento >= 0) {
+            t += "\" fill=\""sv;
+            aggiungiColore(t, r.Riempimento);
         }
         t += "\" stroke=\""sv;
         aggiungiColore(t, r.colore);
         t += "\"/>\n"sv;
     }
 
-    // Texts do not mirror and carry no colour.
+    // Texts do not mirror. One that begins beyond the sheet, or ends before it by a guess at its length, is left out.
+    [[nodiscard]] bool siVede(const RecTesto &r) const {
+        constexpr double LETTERA = 0.6 * CORPO_MM / MILLIMETRI, ALTA = BASE_MM / MILLIMETRI;
+        const double x = r.X + q.x, y = r.Y + q.y;
+        return x < q.L && y < q.H && y + ALTA > 0 && x + LETTERA * static_cast<double>(r.Testo.size()) > 0;
+    }
     void testi(std::string &t) const {
         bool aperto = false;
         for (const RecTesto &r : lista.Testi) {
             Punto p{};
-            if (r.Testo.empty() || !porta(r.X, r.Y, false, p)) continue;
+            if (r.Testo.empty() || !siVede(r) || !porta(r.X, r.Y, false, p)) continue;
             if (!aperto) {
                 apriStrato(t, strati.size() + 1, "Testi"sv);
                 t += "<g fill=\"#000000\" stroke=\"none\" font-family=\"sans-serif\" font-size=\""sv;
@@ -344,6 +453,10 @@ private:
             aggiungi(t, p.x);
             t += "\" y=\""sv;
             aggiungi(t, p.y + daMm(BASE_MM));
+            if (r.colore != 0) {
+                t += "\" fill=\""sv;
+                aggiungiColore(t, r.colore);
+            }
             t += "\">"sv;
             t += xml(r.Testo);
             t += "</text>\n"sv;
@@ -353,6 +466,9 @@ private:
 
     const Tavolo &tavolo;
     const Lista &lista;
+    const Quadrante &q;
+    Visti puntiVisti;
+    std::size_t turno = 0;
     std::vector<std::size_t> posto;  // of a name among the layers
     std::vector<Strato> strati;      // in the order of their first record
     std::vector<IdNome> nomi;

@@ -1,4 +1,4 @@
-// Recording, the text position, the sheet with its scale table, mirrors and axes. Painting stands in pittura.cpp, pages
+// Recording, the text position, the sheet with its scale table, mirrors and axes. Painting stands in pittore.cpp, pages
 // in pagine.cpp.
 #include "plot/tavolo.h"
 
@@ -52,6 +52,7 @@ std::string_view tagliato(std::string_view testo) {
 Tavolo::Tavolo(double larghezzaPagina, double altezzaPagina)
     : idAssi_(lista_.nomi.id(ID_ASSI)),
       idPagina_(lista_.nomi.id(ID_PAGINA)),
+      idGriglia_(lista_.nomi.id(ID_GRIGLIA)),
       larghezzaPagina_(utile(larghezzaPagina, BORDO_LARGHEZZA, A4_LARGHEZZA)),
       altezzaPagina_(utile(altezzaPagina, BORDO_ALTEZZA, A4_ALTEZZA)) {
     QuadranteH(altezzaPagina_);
@@ -61,17 +62,31 @@ Tavolo::Tavolo(double larghezzaPagina, double altezzaPagina)
     impostaScala(ScalaMinima());
 }
 
+bool Tavolo::Pagina(const Carta &carta) {
+    const auto twip = [](double metri) { return std::round(metri / 0.0254 * 1440); };
+    const double larga = utile(twip(carta.larga), BORDO_LARGHEZZA, A4_LARGHEZZA);
+    const double alta = utile(twip(carta.alta), BORDO_ALTEZZA, A4_ALTEZZA);
+    carta_ = carta;
+    if (larga == larghezzaPagina_ && alta == altezzaPagina_) return false;
+    larghezzaPagina_ = larga;
+    altezzaPagina_ = alta;
+    const bool scelte = !lista_.Aree.empty();
+    LasciaPagine();
+    if (scelte) Refresh();
+    return scelte;
+}
+
 // --- drawing ---------------------------------------------------------------------------------------------------------
 
 void Tavolo::xLine(Valore X1, Valore Y1, Valore X2, Valore Y2, Colore colore, std::string_view Id, bool Store) {
     if (Store) return xLine(X1, Y1, X2, Y2, colore, nome(Id));
     if (dispositivo && X1.esiste() && Y1.esiste() && X2.esiste() && Y2.esiste())
-        dipingiLinea(X1.v, Y1.v, X2.v, Y2.v, colore, Penna(), specchia(Id));
+        pittore().linea(X1.v, Y1.v, X2.v, Y2.v, colore, Penna(), specchia(nome(Id)));
 }
 
 void Tavolo::xPset(Valore X, Valore Y, Colore colore, std::string_view Id, bool Store) {
     if (Store) return xPset(X, Y, colore, nome(Id));
-    if (dispositivo && sulFoglio(X, Y)) dipingiPunto(X.v, Y.v, colore);
+    if (dispositivo && q_.tiene(X, Y)) pittore().punto(X.v, Y.v, colore);
 }
 
 void Tavolo::figura(const RecFigura &r, char ordine) {
@@ -82,15 +97,16 @@ void Tavolo::figura(const RecFigura &r, char ordine) {
 void Tavolo::xBox(Valore X1, Valore Y1, Valore X2, Valore Y2, Colore colore, bool Filled, std::string_view Id, bool Store) {
     if (!(X1.esiste() && Y1.esiste() && X2.esiste() && Y2.esiste())) return;
     if (Store) figura({'B', Voce::START, Filled, X1.v, Y1.v, X2.v, Y2.v, 0, 0, colore, 0, nome(Id)}, 'B');
-    if (dispositivo) dipingiRiquadro(X1.v, Y1.v, X2.v, Y2.v, colore, Filled, specchia(Id));
+    if (dispositivo) pittore().riquadro(X1.v, Y1.v, X2.v, Y2.v, colore, Filled, specchia(nome(Id)));
 }
 
 void Tavolo::xCircle(Valore X, Valore Y, Valore Raggio, Colore colore, Colore FillColor, Valore Aspect, Valore Start, Valore End,
                      std::string_view Id, bool Store) {
     for (const Valore v : {X, Y, Raggio, Aspect, Start, End})
         if (!v.esiste()) return;
-    if (Store) figura({'C', Voce::START, false, X.v, Y.v, Raggio.v, Aspect.v, Start.v, End.v, colore, FillColor, nome(Id)}, 'C');
-    if (dispositivo) dipingiCerchio(X.v, Y.v, Raggio.v, colore, FillColor, Aspect.v, Start.v, End.v, specchia(Id));
+    const RecFigura r{'C', Voce::START, false, X.v, Y.v, Raggio.v, Aspect.v, Start.v, End.v, colore, FillColor, nome(Id)};
+    if (Store) figura(r, 'C');
+    if (dispositivo) pittore().cerchio(r);
 }
 
 void Tavolo::xPlineStart(std::string_view Id) { figura({'V', Voce::START, false, 0, 0, 0, 0, 0, 0, 4, 0, nome(Id)}, 'V'); }
@@ -101,21 +117,21 @@ void Tavolo::xPLineVertex(Valore X, Valore Y, Colore colore, std::string_view Id
 
 void Tavolo::xPlineEnd(std::string_view Id) {
     figura({'V', Voce::END, false, 0, 0, 0, 0, 0, 0, 4, 0, nome(Id)}, 0);
-    if (dispositivo) dipingiPolilinea(nome(Id));
+    if (dispositivo) pittore().polilinea(lista_, nome(Id));
 }
 
 void Tavolo::Dati(std::string_view Text, std::optional<Valore> X, std::optional<Valore> Y, bool Store) {
     if ((X && !X->esiste()) || (Y && !Y->esiste())) return;
     // A position that overflows leaves the old one.
     Reale xd = currentX_, yd = currentY_;
-    if (X) xd = (*X + shiftX_) * scalaCorrente_;
-    if (Y) yd = (*Y + shiftY_) * scalaCorrente_;
+    if (X) xd = (*X + q_.x) * scalaCorrente_;
+    if (Y) yd = (*Y + q_.y) * scalaCorrente_;
     if (Store) {
         const double x = X ? X->v : xCurrentX(), y = Y ? Y->v : xCurrentY();
-        lista_.Testi.push_back({x, y, std::string(tagliato(Text))});
+        lista_.Testi.push_back({x, y, std::string(tagliato(Text)), ForeColor});
     }
     // Painted whole the first time; a replay shows the cut text of the record.
-    if (dispositivo) dipingiTesto(xd.numero(), yd.numero(), Text);
+    if (dispositivo) pittore().testo(xd.numero(), yd.numero(), Text, ForeColor);
     if (!Store) return;
     currentX_ = 0;
     currentY_ = yd.numero() + ALTEZZA_RIGA;
@@ -131,55 +147,57 @@ void Tavolo::Clear() {
     lista_.svuota();
     FattoreX = FattoreY = 1.0;
     currentX_ = currentY_ = 0;
-    if (suClear) suClear();
+}
+
+void Tavolo::Refresh() {
+    if (!dispositivo) return;
+    if (suAttesa) suAttesa(true);
+    if (!OutputToPRN) dispositivo->Cls();
+    pittore().rigioca(lista_);
+    if (suAttesa) suAttesa(false);
 }
 
 // --- sheet -----------------------------------------------------------------------------------------------------------
 
 void Tavolo::QuadranteH(double metri) {
     if (!std::isfinite(metri)) return;
-    quadranteH_ = std::min(metri, LATO_MASSIMO);
-    mostra(pannello.txtQH, quadranteH_, 2);
+    q_.H = std::min(metri, LATO_MASSIMO);
+    mostra(pannello.txtQH, q_.H, 2);
     dopoFoglio();
 }
 
 void Tavolo::QuadranteL(double metri) {
     if (!std::isfinite(metri)) return;
-    quadranteL_ = std::min(metri, LATO_MASSIMO);
-    mostra(pannello.txtQL, quadranteL_, 2);
+    q_.L = std::min(metri, LATO_MASSIMO);
+    mostra(pannello.txtQL, q_.L, 2);
     dopoFoglio();
 }
 
 void Tavolo::dopoFoglio() {
     std::string larghezza, altezza;
-    mostra(larghezza, quadranteL_, 2);
-    mostra(altezza, quadranteH_, 2);
+    mostra(larghezza, q_.L, 2);
+    mostra(altezza, q_.H, 2);
     pannello.lblDimVal = larghezza + " x " + altezza;
     const int minima = ScalaMinima();
     if (scala_ < minima) impostaScala(minima);
     CaricaComboScala(minima, scala_);
-    ridimensiona();
-}
-
-void Tavolo::ridimensiona() {
-    if (suDimensioni) suDimensioni();
     Refresh();
 }
 
 void Tavolo::ShiftX(double metri) {
     if (!std::isfinite(metri)) return;
-    shiftX_ = metri;
+    q_.x = metri;
     mostra(pannello.txtX, metri, 5);
 }
 
 void Tavolo::ShiftY(double metri) {
     if (!std::isfinite(metri)) return;
-    shiftY_ = metri;
+    q_.y = metri;
     mostra(pannello.txtY, metri, 5);
 }
 
 int Tavolo::ScalaMinima() const {
-    const double m = std::max(quadranteH_, quadranteL_);
+    const double m = std::max(q_.H, q_.L);
     std::size_t i = 0;
     while (i < LIMITI.size() && !(m < LIMITI[i])) ++i;
     return SCALE[i];
@@ -196,7 +214,7 @@ void Tavolo::Scala(int n) {
     const int minima = OutputToPRN ? 0 : ScalaMinima();
     if (n < 1 || n > SCALA_MASSIMA || n < minima) return;
     impostaScala(n);
-    ridimensiona();
+    Refresh();
 }
 
 void Tavolo::CaricaComboScala(int Minimo, int Corrente) {
@@ -222,16 +240,16 @@ void Tavolo::cmdInvY() {
 }
 
 void Tavolo::Assi() {
-    xLine(-shiftX_, 0, quadranteL_ - shiftX_, 0, QB(12), idAssi_);
-    xLine(0, -shiftY_, 0, quadranteH_ - shiftY_, QB(12), idAssi_);
+    xLine(-q_.x, 0, q_.L - q_.x, 0, QB(12), idAssi_);
+    xLine(0, -q_.y, 0, q_.H - q_.y, QB(12), idAssi_);
     Dati("O", 0.04, -0.04);
-    Dati("y", 0.04, -shiftY_ + 0.04);
-    Dati("x", quadranteL_ - shiftX_ - 0.04, -0.06);
+    Dati("y", 0.04, -q_.y + 0.04);
+    Dati("x", q_.L - q_.x - 0.04, -0.06);
 }
 
 void Tavolo::MouseDown(double px, double py) {
-    const Valore x = Int((px / ScalaBase * scala_ - shiftX_) * 1000);
-    const Valore y = Int((py / ScalaBase * scala_ - shiftY_) * 1000);
+    const Valore x = Int((px / ScalaBase * scala_ - q_.x) * 1000);
+    const Valore y = Int((py / ScalaBase * scala_ - q_.y) * 1000);
     if (!x.esiste() || !y.esiste()) return;
     pannello.lblXYval = TestoNumero(x.v) + " : " + TestoNumero(y.v);
     xTrovaA4(px / ScalaBase * scala_, py / ScalaBase * scala_);

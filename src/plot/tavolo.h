@@ -15,8 +15,16 @@
 #include "core/testo.h"
 #include "plot/dispositivo.h"
 #include "plot/lista.h"
+#include "plot/pittore.h"
 
 namespace ombrelia {
+
+// A page of a printer, metres.
+struct Carta {
+    double larga, alta;
+    bool operator==(const Carta &) const = default;
+};
+inline constexpr Carta CARTA_A4{0.210, 0.297};
 
 // World coordinates: metres on the dial's plane, origin at (ShiftX, ShiftY) from the sheet's top left corner, x to the
 // right, y downward. Every coordinate argument is a Valore: a call with an argument that has no value is a faulted
@@ -41,15 +49,15 @@ public:
         if (!(X1.esiste() && Y1.esiste() && X2.esiste() && Y2.esiste())) return;
         lista_.Linee.push_back({X1.v, Y1.v, X2.v, Y2.v, colore, Spessore, Id});
         lista_.Ordine.push_back('L');
-        if (dispositivo) dipingiLinea(X1.v, Y1.v, X2.v, Y2.v, colore, Spessore, specchia(Id));
+        if (dispositivo) pittore().linea(X1.v, Y1.v, X2.v, Y2.v, colore, Spessore, specchia(Id));
     }
     // Only a point of the sheet is kept: its low edges belong to it, its high edges do not.
     void xPset(Valore X, Valore Y, Colore colore, std::string_view Id = {}, bool Store = true);
     void xPset(Valore X, Valore Y, Colore colore, IdNome Id) {
-        if (!sulFoglio(X, Y)) return;
+        if (!q_.tiene(X, Y)) return;
         lista_.Punti.push_back({X.v, Y.v, colore, Id});
         lista_.Ordine.push_back('P');
-        if (dispositivo) dipingiPunto(X.v, Y.v, colore);
+        if (dispositivo) pittore().punto(X.v, Y.v, colore);
     }
     // Store stands behind the name: a bool in its place is a slip.
     template <std::same_as<bool> B>
@@ -88,22 +96,20 @@ public:
         currentX_ = d.currentX;
         currentY_ = d.currentY;
     }
-    // Repaints the attached device from the list: texts first, then the primitives in their order. A printer is not
-    // wiped before.
+    // Repaints the attached device from the list: texts first, each in its own colour, then the primitives in their order.
+    // A printer is not wiped before.
     void Refresh();
     // Pen width of the target: of the screen 1, of the printer 2.
     [[nodiscard]] std::int32_t Penna() const { return OutputToPRN ? 2 : 1; }
-    // The part of a segment (world metres, as painted) that lies on the sheet. Gives how many ends were kept or found;
-    // at 0 nothing of it is to be painted.
-    int RitagliaSegmento(double &X1, double &Y1, double &X2, double &Y2) const;
 
     // --- sheet ---------------------------------------------------------------------------------------------------
-    [[nodiscard]] double QuadranteH() const { return quadranteH_; }
-    [[nodiscard]] double QuadranteL() const { return quadranteL_; }
+    [[nodiscard]] const Quadrante &quadrante() const { return q_; }
+    [[nodiscard]] double QuadranteH() const { return q_.H; }
+    [[nodiscard]] double QuadranteL() const { return q_.L; }
     void QuadranteH(double metri);
     void QuadranteL(double metri);
-    [[nodiscard]] double ShiftX() const { return shiftX_; }
-    [[nodiscard]] double ShiftY() const { return shiftY_; }
+    [[nodiscard]] double ShiftX() const { return q_.x; }
+    [[nodiscard]] double ShiftY() const { return q_.y; }
     void ShiftX(double metri);
     void ShiftY(double metri);
     [[nodiscard]] int Scala() const { return scala_; }
@@ -111,21 +117,29 @@ public:
     void Scala(int n);
     [[nodiscard]] int ScalaMinima() const;
     [[nodiscard]] double ScalaCorrente() const { return scalaCorrente_; }
+    // A tile: what a page can hold; and the page itself. Metres.
     [[nodiscard]] double LarghezzaPagina() const { return larghezzaPagina_; }
     [[nodiscard]] double AltezzaPagina() const { return altezzaPagina_; }
+    [[nodiscard]] const Carta &carta() const { return carta_; }
+    // Tiles by this page from now on. Tiles chosen on pages of another size are given up; true when there were any.
+    bool Pagina(const Carta &carta);
     // Entries of the scale list, from the smallest allowed.
     [[nodiscard]] const std::vector<int> &cmbScala() const { return vociScala_; }
     void CaricaComboScala(int Minimo, int Corrente);
 
     // Size of the picture in device units.
-    [[nodiscard]] double LarghezzaImmagine() const { return quadranteL_ * ScalaBase / scala_; }
-    [[nodiscard]] double AltezzaImmagine() const { return quadranteH_ * ScalaBase / scala_; }
+    [[nodiscard]] double LarghezzaImmagine() const { return q_.L * ScalaBase / scala_; }
+    [[nodiscard]] double AltezzaImmagine() const { return q_.H * ScalaBase / scala_; }
 
     // Present device position as world metres.
-    [[nodiscard]] double xCurrentX() const { return currentX_ / ScalaBase * scala_ - shiftX_; }
-    [[nodiscard]] double xCurrentY() const { return currentY_ / ScalaBase * scala_ - shiftY_; }
+    [[nodiscard]] double xCurrentX() const { return currentX_ / ScalaBase * scala_ - q_.x; }
+    [[nodiscard]] double xCurrentY() const { return currentY_ / ScalaBase * scala_ - q_.y; }
 
     double FattoreX = 1.0, FattoreY = 1.0;  // mirrors, each 1 or -1
+    // Beside the letter, off for action scripts: arcs mirror with the drawing and not only their centres; a tile's second
+    // click takes it back, and a click beside the sheet chooses none.
+    bool specchiaArchi = false, piastrelleAScelta = false;
+    [[nodiscard]] Specchio specchio() const { return {FattoreX, FattoreY, specchiaArchi}; }
     Colore ForeColor = 0;
     bool OutputToPRN = false;      // the target is the printer
     bool PrintMultiColor = false;  // else a printer prints in black
@@ -141,15 +155,21 @@ public:
     // Selects the tile under a point given in metres from the sheet's corner: draws its outline and number and adds it
     // to Aree. A point left of or above the sheet, or beyond a grid of 10,000 tiles, selects nothing.
     void xTrovaA4(double X, double Y);
-    // The sheet as it lies, on one page.
+    // Selects each tile of the sheet that something of the drawing crosses, row by row; gives how many are selected now.
+    // Texts, axes, grid and page marks count for nothing.
+    std::size_t ScegliPiene();
+    // Selects none any more; their outlines and numbers leave the drawing.
+    void LasciaPagine();
+    // The sheet as it lies, on one page, its texts listed at the page's head.
     void PrintAll(Dispositivo &stampante);
-    // The selected tiles, each on a page of its own at 1:1; sheet, shift and scale are put back. False, and nothing
-    // done, when none is selected: the caller then shows NESSUNA_AREA. avanza hears each tile before it is printed (from
-    // 0, of how many) and stops the run by false.
-    bool PrintArea(Dispositivo &stampante, const std::function<bool(std::size_t, std::size_t)> &avanza = {});
-    static constexpr std::string_view NESSUNA_AREA = "Nessuna area selezionata"_it;
     // A press of the mouse at a device position: read-out in whole millimetres, then xTrovaA4.
     void MouseDown(double px, double py);
+
+    // Column or row of the grid of tiles: its low edge, metres from the sheet's corner, and its number from 0.
+    struct Casella {
+        double bordo;
+        int numero;
+    };
 
     [[nodiscard]] const Lista &lista() const { return lista_; }
     [[nodiscard]] IdNome nome(std::string_view Id) { return lista_.nomi.id(Id); }
@@ -161,44 +181,30 @@ public:
 
     Dispositivo *dispositivo = nullptr;                 // not owned; may be absent
     std::function<void(std::string_view)> suMessaggio;  // hears the status line
-    std::function<void()> suDimensioni;                 // hears a new plot size
     std::function<void(bool)> suAttesa;                 // wait cursor on and off
-    std::function<void()> suClear;                      // hears Clear: print panel away, plain invert buttons
 
 private:
-    static constexpr std::string_view ID_ASSI = "AssiXY", ID_PAGINA = "sys:page";
+    static constexpr std::string_view ID_ASSI = "AssiXY", ID_PAGINA = "sys:page", ID_GRIGLIA = "Page";
 
-    [[nodiscard]] bool sulFoglio(Valore X, Valore Y) const {
-        return -shiftX_ <= X && X < quadranteL_ - shiftX_ && -shiftY_ <= Y && Y < quadranteH_ - shiftY_;
-    }
     // Axes and page marks do not mirror.
     [[nodiscard]] bool specchia(IdNome Id) const { return Id != idAssi_ && Id != idPagina_; }
-    [[nodiscard]] static bool specchia(std::string_view Id) { return Id != ID_ASSI && Id != ID_PAGINA; }
-    // In black unless the target is the screen or prints in colours.
-    [[nodiscard]] bool inNero() const { return OutputToPRN && !PrintMultiColor; }
-    [[nodiscard]] Colore tinta(Colore colore) const { return inNero() ? 0 : colore; }
-
-    // Painting of one primitive, world metres; a device must be there.
-    void dipingiLinea(double X1, double Y1, double X2, double Y2, Colore colore, std::int32_t Spessore, bool specchiata);
-    void dipingiPunto(double X, double Y, Colore colore);
-    void dipingiRiquadro(double X1, double Y1, double X2, double Y2, Colore colore, bool pieno, bool specchiato);
-    void dipingiCerchio(double X, double Y, double Raggio, Colore colore, Colore riempimento, double Aspect, double Start,
-                        double End, bool specchiato);
-    void dipingiPolilinea(IdNome Id);
-    // Device units.
-    void dipingiTesto(double xd, double yd, std::string_view testo);
-    void rigioca();
+    // For the attached device; in black unless the target is the screen or prints in colours.
+    [[nodiscard]] Pittore pittore() const { return pittore(*dispositivo); }
+    [[nodiscard]] Pittore pittore(Dispositivo &d) const {
+        return {d, q_, specchio(), scalaCorrente_, OutputToPRN && !PrintMultiColor, Penna(), idAssi_, idPagina_, idGriglia_};
+    }
 
     void figura(const RecFigura &r, char ordine);
     void impostaScala(int n);
     void dopoFoglio();
-    void ridimensiona();
+    // Draws a tile's outline and number and adds it to Aree.
+    void scegli(const Casella &colonna, const Casella &riga);
 
     Lista lista_;
-    IdNome idAssi_, idPagina_;
+    IdNome idAssi_, idPagina_, idGriglia_;
+    Carta carta_ = CARTA_A4;
     double larghezzaPagina_, altezzaPagina_;  // usable, metres
-    double quadranteH_ = 0, quadranteL_ = 0;  // metres
-    double shiftX_ = 0, shiftY_ = 0;          // metres
+    Quadrante q_;
     int scala_ = 1;
     double scalaCorrente_ = ScalaBase;
     std::vector<int> vociScala_;
@@ -220,12 +226,5 @@ private:
     Tavolo &tavolo_;
     Pretesa pretesa_;
 };
-
-// Meeting point of the line through points 1 and 2 with the line through points 3 and 4; none when they are parallel.
-struct PuntoPiano {
-    double x, y;
-};
-[[nodiscard]] std::optional<PuntoPiano> IntersezioneDueRette(double x1, double y1, double x2, double y2, double x3, double y3,
-                                                             double x4, double y4);
 
 }  // namespace ombrelia

@@ -191,7 +191,7 @@ TEST(Carta, PicturesHaveTheSheetsSizeAndAreDarkOnWhite) {
         const double u = paint::PUNTI_AL_POLLICE / 0.0254 / 2;
         EXPECT_EQ(i.width(), std::lround(0.6 * u));
         EXPECT_EQ(i.height(), std::lround(0.3 * u));
-        EXPECT_EQ(i.dotsPerMeterX(), std::lround(u * 2));
+        EXPECT_EQ(i.dotsPerMeterX(), std::lround(u)) << "a print has the true size";
         const auto punto = [&](double x, double y) { return i.pixelColor(static_cast<int>((x + 0.1) * u), static_cast<int>((y + 0.1) * u)); };
         EXPECT_EQ(punto(0.1, 0.02), QColor(Qt::white));     // the frame does not cover the dial
         EXPECT_LT(punto(0.1, 0.0).lightness(), 130);        // its outline is dark

@@ -74,8 +74,8 @@ TEST(Dxf, TavolaDeiColori) {
 TEST(Svg, NomiETestiSicuri) {
     Tavolo t;
     prova::Disegna(t,
-                   "F 0.4 0.2 0.2 0.1;K 10;L 0 0 1 1 0 a<b>&\"c\";L 0 0 1 1 0 a b;L 0 0 1 1 0 a_b;L 0 0 1 1 0;"
-                   "L 0 0 1e300 1 0 troppo lontano;T 0.01 0.02 fermo;M -1 -1");
+                   "F 0.4 0.2 0.2 0.1;K 10;L 0 0 1 1 0 a<b>&\"c\";L 0 0 1 0.9 0 a b;L 0 0 1 0.8 0 a_b;L 0 0 1 0.7 0;"
+                   "L 1e300 0 1e300 1 0 troppo lontano;T 0.01 0.02 fermo;M -1 -1");
     t.Dati("x < y & \x01\x1F\t\xFF \xEF\xBF\xBF", 0, 0);
     const std::string s = SVG_Generate(t);
     for (const char *pezzo :

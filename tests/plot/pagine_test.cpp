@@ -104,8 +104,7 @@ TEST(Stampa, TuttoIlFoglio) {
                     "T 5670 5670 0 testo",
                     "L 0 0 5670 0 0 1",
                     "B 0 0 5670 5670 0 vuoto",
-                    "C 0 0 567 0 0 0 0 1",
-                    "fine"};
+                    "C 0 0 567 0 0 0 0 1"};
     EXPECT_EQ(carta.atti, nero);
     EXPECT_TRUE(schermo.atti.empty());
     EXPECT_FALSE(t.OutputToPRN);
@@ -117,34 +116,75 @@ TEST(Stampa, TuttoIlFoglio) {
     EXPECT_EQ(carta.atti[4], "B 0 0 5670 5670 16777215 pieno");
 }
 
-TEST(Stampa, PiastrelleScelte) {
+// What a hand does with tiles: outside nothing, a second click takes back, the drawing around is as it was.
+TEST(Pagine, ScelteAVicenda) {
     Tavolo t = tavoloDiProva();
-    Registratore carta;
-    EXPECT_FALSE(t.PrintArea(carta));
-    EXPECT_TRUE(carta.atti.empty());
-    prova::Disegna(t, "F 1 1 0 0;K 5;L 0 0.6 1 0.6 255 a");
-    t.Marchio = "M";
-    t.xTrovaA4(0.1, 0.6);
+    Registratore d;
+    t.piastrelleAScelta = true;
+    prova::Disegna(t, "F 0.6 0.7 0.1 0.2;T 0.1 0.1 prima;L 0 0 0.1 0.1 1 a");
+    for (const auto &[x, y] : {std::pair{0.61, 0.1}, std::pair{0.1, 0.71}, std::pair{-0.1, 0.1}}) t.xTrovaA4(x, y);
+    EXPECT_TRUE(t.lista().Aree.empty()) << "beside the sheet";
+    t.xTrovaA4(0.1, 0.1);
+    {
+        const Pretendi linea(t, Specie::Ora, 9);
+        prova::Disegna(t, "P 0 0 5 p;L 0 0 0.2 0.1 2 b;T 0.2 0.2 dopo");
+    }
     t.xTrovaA4(0.3, 0.6);
-    t.ShiftX(0.125);
-    const std::string prima = ListaTesto(t.lista());
-    EXPECT_TRUE(t.PrintArea(carta));
-    EXPECT_EQ(std::count(carta.atti.begin(), carta.atti.end(), "pagina"), 2);
-    EXPECT_EQ(carta.atti.front(), "T 850.5 850.5 0 5 M");
-    EXPECT_EQ(carta.atti.back(), "fine");
-    // The line of the list crosses each tile from edge to edge, at full size.
-    EXPECT_EQ(std::count_if(carta.atti.begin(), carta.atti.end(),
-                            [](const auto &a) { return a == "L 0 5670 14175 5670 0 1" || a == "L 14175 5670 0 5670 0 1"; }),
-              2);
-    EXPECT_EQ(t.Scala(), 5);
-    EXPECT_DOUBLE_EQ(t.ScalaCorrente(), 11340);
-    EXPECT_EQ(t.QuadranteL(), 1);
-    EXPECT_EQ(t.ShiftX(), 0.125);
-    EXPECT_EQ(t.pannello.txtQL, "1");
-    EXPECT_EQ(ListaTesto(t.lista()), prima);
-    carta.atti.clear();
-    EXPECT_TRUE(t.PrintArea(carta, [](std::size_t fatte, std::size_t) { return fatte == 0; }));
-    EXPECT_EQ(std::count(carta.atti.begin(), carta.atti.end(), "pagina"), 1) << "stopped after the first";
+    const std::string senza = ListaTesto(t.lista());
+    t.xTrovaA4(0.55, 0.1);
+    EXPECT_NE(ListaTesto(t.lista()), senza);
+    t.xTrovaA4(0.55, 0.4);
+    EXPECT_EQ(ListaTesto(t.lista()), senza);
+    t.dispositivo = &d;
+    t.xTrovaA4(0.1, 0.1);
+    EXPECT_EQ(std::count_if(d.atti.begin(), d.atti.end(), [](const auto &a) { return a.ends_with(" 33023 1"); }), 3) << "repainted; the lower edge lies off the sheet";
+    ASSERT_EQ(t.lista().Aree.size(), 1U);
+    EXPECT_EQ(t.lista().Linee[t.lista().Aree[0].linea].X1, 0.25 - 0.1);
+    EXPECT_EQ(t.lista().Testi[t.lista().Aree[0].testo].Testo, "5");
+    // The claim still holds its own records.
+    const Pretesa &p = t.lista().pretese.at(0);
+    EXPECT_EQ(t.lista().Ordine.substr(p.da, p.a - p.da), "PL");
+    EXPECT_EQ(t.lista().nomi.testo(t.lista().Linee[p.linea].Id), "b");
+    t.LasciaPagine();
+    EXPECT_EQ(t.lista().Ordine, "LPL");
+    EXPECT_EQ(t.lista().Testi.size(), 2U);
+}
+
+TEST(Pagine, PieneDelDisegno) {
+    // Tiles of 0.25 by 0.5 on a sheet of 0.6 by 1.1: three columns, three rows. Steps; numbers of the tiles.
+    const std::pair<const char *, std::vector<int>> casi[] = {
+        {"L 0.05 0.05 0.2 0.2 0 a", {1}},
+        {"L 0.05 0.05 0.59 1.05 0 a", {1, 2, 5, 6, 9}},           // a slant touches no tile beside it
+        {"L 0.3 0.1 9 0.1 0 a", {2, 3}},                          // clipped at the sheet
+        {"L 0.05 0.05 0.2 0.2 0 Page;A;T 0.3 0.1 testo", {}},     // grid, axes and texts are no drawing
+        {"M -1 1;F 0.6 1.1 0.3 0;L 0.05 0.05 0.2 0.2 0 a", {1}},
+        {"P 0.55 0.55 0", {6}},
+        {"B 0.05 0.05 0.3 0.6 0 1", {1, 2, 4, 5}},
+        {"C 0.25 0.5 0.1 0 -1 1 3.2 4.6", {4}},                   // a quarter, down and left of its centre
+        {"S p;V 0.3 0.1 0 p;V 0.3 0.7 0 p;E p", {2, 5}}};
+    for (const auto &[passi, numeri] : casi) {
+        Tavolo t = tavoloDiProva();
+        prova::Disegna(t, std::string("F 0.6 1.1 0 0;") + passi);
+        EXPECT_EQ(t.ScegliPiene(), numeri.size()) << passi;
+        EXPECT_EQ(t.ScegliPiene(), numeri.size()) << "none twice: " << passi;
+        std::vector<int> avuti;
+        for (const RecArea &a : t.lista().Aree) avuti.push_back(a.Pagina);
+        EXPECT_EQ(avuti, numeri) << passi;
+    }
+}
+
+TEST(Pagine, Carte) {
+    Tavolo t;
+    const double l = t.LarghezzaPagina();
+    t.xTrovaA4(0.1, 0.1);
+    EXPECT_FALSE(t.Pagina(CARTA_A4));
+    EXPECT_EQ(t.LarghezzaPagina(), l) << "the page at the start is an A4, to the bit";
+    EXPECT_EQ(t.lista().Aree.size(), 1U);
+    EXPECT_TRUE(t.Pagina({0.2159, 0.2794})) << "tiles were chosen for another paper";
+    EXPECT_TRUE(t.lista().Aree.empty());
+    // 8.5 by 11 inches of 1440 units, less what a page loses.
+    EXPECT_DOUBLE_EQ(t.LarghezzaPagina(), 8.5 * 1440 / 56700 - 0.013);
+    EXPECT_DOUBLE_EQ(t.AltezzaPagina(), 11 * 1440 / 56700.0 - 0.015);
 }
 
 }  // namespace

@@ -33,8 +33,6 @@ public:
         atti.push_back(numeri("T", {x, y, double(c)}).append(" ").append(testo));
     }
     void Tratteggio(bool si) override { atti.push_back(si ? "punteggiata" : "continua"); }
-    void NuovaPagina() override { atti.push_back("pagina"); }
-    void FineDocumento() override { atti.push_back("fine"); }
 
 private:
     static std::string numeri(const char *atto, std::initializer_list<double> valori) {
@@ -51,7 +49,7 @@ using Atti = std::vector<std::string>;
 
 // Draws steps divided by ";": a letter (a small one only paints), its numbers ("no": no value) and the rest as a name.
 inline void Disegna(Tavolo &t, std::string_view passi) {
-    constexpr std::string_view SEGNI = "LPBCTVDSEMFKAZ", QUANTI = "53682300024100";
+    constexpr std::string_view SEGNI = "LPBCTVDSEMFKAZNXO", QUANTI = "53682300024100100";
     const auto prendi = [](std::string_view &da, char fine) {
         const std::size_t n = std::min(da.find(fine), da.size());
         const std::string pezzo = SenzaBlanks(da.substr(0, n));
@@ -82,6 +80,9 @@ inline void Disegna(Tavolo &t, std::string_view passi) {
         else if (segno == 'F') t.QuadranteL(n[0].v), t.QuadranteH(n[1].v), t.ShiftX(n[2].v), t.ShiftY(n[3].v);
         else if (segno == 'K') t.Scala(c(0));
         else if (segno == 'A') t.Assi();
+        else if (segno == 'N') t.ForeColor = c(0);
+        else if (segno == 'X') t.specchiaArchi = true;
+        else if (segno == 'O') t.xPlotA4();
         else t.Clear();
     }
 }

@@ -66,8 +66,8 @@ TEST(Tavolo, ScalaMinimaDelFoglio) {
 
 TEST(Tavolo, FoglioEScala) {
     Tavolo t;
-    int volte = 0;
-    t.suDimensioni = [&] { ++volte; };
+    prova::Registratore d;
+    t.dispositivo = &d;
     t.QuadranteL(20);
     EXPECT_EQ(t.QuadranteL(), 15);
     EXPECT_EQ(t.pannello.txtQL, "15");
@@ -77,10 +77,10 @@ TEST(Tavolo, FoglioEScala) {
     EXPECT_EQ(t.Scala(), 100) << "a smaller sheet keeps its scale";
     EXPECT_EQ(t.pannello.txtQL, "0.46");
     EXPECT_EQ(t.pannello.lblDimVal, "0.46 x 0.28");
-    EXPECT_EQ(volte, 2);
+    EXPECT_EQ(d.atti.size(), 2U) << "repainted";
     t.QuadranteL(NAN_);
     t.QuadranteH(-INF);
-    EXPECT_EQ(volte, 2);
+    EXPECT_EQ(d.atti.size(), 2U) << "repainted";
     EXPECT_EQ(t.QuadranteL(), 0.456);
     t.QuadranteH(3);
     for (const int n : {5, 0, -1, 40000}) {

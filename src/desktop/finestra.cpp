@@ -11,6 +11,7 @@
 #include <filesystem>
 
 #include "app/progetto.h"
+#include "desktop/aggiunte.h"
 #include "desktop/lingua_finestra.h"
 #include "desktop/gruppi.h"
 #include "paint/file_disegno.h"
@@ -95,6 +96,7 @@ Finestra::Finestra(Dialoghi &dialoghi) : dialoghi_(dialoghi), utente_(dialoghi),
     ponte_.suVirgolette = [this] { messaggio(ponte_.Traduci("Le virgolette non entrano in un campo: chiuderebbero il file del progetto")); };
     vivo_ = std::make_unique<Vivo>(this, s_.dizionario, [this](Vivo::Esito &e) { disegnoVivo(e); });
 
+    new Aggiunte(*this, dialoghi_);
     resize(1360, 860);
     const QSettings ricordi;
     restoreGeometry(ricordi.value(QLatin1String(GEOMETRIA)).toByteArray());

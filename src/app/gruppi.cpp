@@ -34,7 +34,7 @@ const std::vector<Gruppo> DISEGNO{
     {"Numeri e segni"_it, {{"ckRomani", "txtNumbersize"}, {"ckArabi", "txtArabi"}, {"ckZodiac", "txtZodiacsize"}}},
     {"Tabelle"_it, {{"optHorae", "OptInter"}, {"OptIta", "OptBab"}, {"OptTEMP", "Option1"}}},
     {"Limiti e definizione"_it,
-     {{"lblMinus", "txtMinus"}, {"lblMax", "txtMax"}, {"lbl_Definizione", "txtDensity"}, {"lblAO", "txtAO"}, {"ckFunzione"}},
+     {{"lblMinus", "txtMinus"}, {"lblMax", "txtMax"}, {"lbl_Definizione", "txtDensity"}, {"lblAO", "txtAO"}, {"lblAnno", "txtAnno"}, {"ckFunzione"}},
      true},
     {"Preghiera"_it, {{"ckAsr", "CkQibla"}, {"lblQlat", "txtQlat"}, {"lblQlon", "txtQlon"}}, true},
     {"Mappa e punto"_it,

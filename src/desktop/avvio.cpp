@@ -2,6 +2,7 @@
 #include "desktop/avvio.h"
 
 #include <QApplication>
+#include <QSettings>
 #include <QTimer>
 #include <clocale>
 
@@ -24,7 +25,7 @@ int ApriFinestra(int argc, char **argv) {
     QCoreApplication::setOrganizationName(QStringLiteral("Ombrelia"));
     QCoreApplication::setApplicationName(QStringLiteral("Ombrelia"));
     QGuiApplication::setDesktopFileName(QStringLiteral("ombrelia"));
-    VestiApplicazione(a);
+    VestiApplicazione(a, static_cast<Tema>(QSettings().value(QStringLiteral("tema"), 0).toInt()));
     QString progetto;
     bool esegui = false;
     for (const QString &argomento : QCoreApplication::arguments().mid(1)) {
@@ -34,11 +35,12 @@ int ApriFinestra(int argc, char **argv) {
     DialoghiQt dialoghi;
     Finestra finestra(dialoghi);
     finestra.show();
-    if (!progetto.isEmpty() || esegui)
-        QTimer::singleShot(0, &finestra, [&] {
-            if (!progetto.isEmpty()) finestra.apri(progetto);
-            if (esegui) finestra.esegui();
-        });
+    QTimer::singleShot(0, &finestra, [&] {
+        if (!progetto.isEmpty()) finestra.apri(progetto);
+        else finestra.primoQuadrante();
+        finestra.offriRipresa(finestra.percorso());
+        if (esegui) finestra.esegui();
+    });
     return QApplication::exec();
 }
 

@@ -7,12 +7,14 @@
 #include <QFileInfo>
 #include <QRegularExpression>
 #include <QSettings>
+#include <QTimer>
 #include <QVBoxLayout>
 #include <filesystem>
 
 #include "app/progetto.h"
 #include "desktop/aggiunte.h"
 #include "desktop/lingua_finestra.h"
+#include "desktop/stile.h"
 #include "desktop/gruppi.h"
 #include "paint/file_disegno.h"
 
@@ -67,8 +69,11 @@ Finestra::Finestra(Dialoghi &dialoghi) : dialoghi_(dialoghi), utente_(dialoghi),
     foglio->setObjectName(QStringLiteral("frmTavolo"));
     auto *dentro = new QVBoxLayout(foglio);
     dentro->setContentsMargins(0, 0, 0, 0);
+    dentro->setSpacing(0);
+    dentro->addWidget(striscia(foglio));
     quadro_ = new Quadro(ponte_, foglio);
     dentro->addWidget(quadro_);
+    setMinimumWidth(900);
     setCentralWidget(foglio);
     // What opens file boxes has no looks of its own.
     auto *scatola = new QWidget(this);
@@ -76,6 +81,18 @@ Finestra::Finestra(Dialoghi &dialoghi) : dialoghi_(dialoghi), utente_(dialoghi),
     scatola->setObjectName(QStringLiteral("CDialog1"));
 
     molo(ponte_.Traduci("Disegno"), "disegno", ColonnaDisegno(ponte_, this), Qt::RightDockWidgetArea);
+    strati_ = new PannelloStrati(ponte_, quadro_->foglio(), this);
+    molo(ponte_.Traduci("Strati"), "strati", strati_, Qt::RightDockWidgetArea);
+    tabifyDockWidget(findChild<QDockWidget *>(QStringLiteral("disegno")), findChild<QDockWidget *>(QStringLiteral("strati")));
+    findChild<QDockWidget *>(QStringLiteral("disegno"))->raise();
+    strati_->vesti(TemaScuro());
+    quadro_->suLinea = [this](const std::optional<Linea> &linea) {
+        strati_->scegli(linea);
+        if (!linea) return;
+        for (const Linea &l : LineeDi(s_.tavolo))
+            if (l.strato == linea->strato && l.valore == linea->valore)
+                messaggio(NomeLinea(s_, l.strato, l.valore) + QStringLiteral(": ") + QString::number(l.metri * 1000, 'f', 0) + QStringLiteral(" mm"));
+    };
     moduli_ = std::make_unique<Moduli>(ponte_, dialoghi_, this);
     passi_ = std::make_unique<Passi>(s_, this, [this](bool rifai) { rimesso(rifai); });
     costruisciMenu();
@@ -92,7 +109,7 @@ Finestra::Finestra(Dialoghi &dialoghi) : dialoghi_(dialoghi), utente_(dialoghi),
     quadro_->suAdatta = [this] { adatta(); };
     ponte_.prima = [this](IdControllo id) { return prima(id); };
     ponte_.dopo = [this](IdControllo id, const app::Esito &esito) { dopo(id, esito); };
-    ponte_.suMemoria = [this] { memoriaFinita(); };
+    ponte_.suInterrotto = [this](bool memoria) { interrotto(memoria); };
     ponte_.suVirgolette = [this] { messaggio(ponte_.Traduci("Le virgolette non entrano in un campo: chiuderebbero il file del progetto")); };
     vivo_ = std::make_unique<Vivo>(this, s_.dizionario, [this](Vivo::Esito &e) { disegnoVivo(e); });
 
@@ -109,6 +126,10 @@ Finestra::Finestra(Dialoghi &dialoghi) : dialoghi_(dialoghi), utente_(dialoghi),
     quadro_->aggiorna();
     passi_->aggiorna(false);
     titolo();
+    auto *minuto = new QTimer(this);
+    constexpr int OGNI = 60000;
+    connect(minuto, &QTimer::timeout, this, [this] { tieniRipresa(); });
+    minuto->start(OGNI);
     ponte_.widget("txtLAT")->setFocus(Qt::OtherFocusReason);
 }
 
@@ -154,9 +175,13 @@ void Finestra::primaDiEsegui() {
         s_.tavolo.ScambiaDisegno(scorta_);
     }
     mascherate_ = MascheraSpente(s_);
+    attesa_ = std::make_unique<Attesa>(this, ponte_.Traduci("Disegno del quadrante..."), ponte_.Traduci("Ferma"));
+    s_.tavolo.dispositivo = attesa_.get();
 }
 
 void Finestra::dopoEsegui() {
+    s_.tavolo.dispositivo = nullptr;
+    attesa_.reset();
     for (const auto &[casella, valore] : std::exchange(mascherate_, {})) s_.in.*casella = valore;
     if (!std::exchange(inScorta_, false)) return;
     if (s_.tavolo.lista().Ordine.empty()) s_.tavolo.ScambiaDisegno(scorta_);
@@ -176,12 +201,12 @@ void Finestra::dopo(IdControllo id, const app::Esito &esito) {
     if (nome == "mnuItalian" || nome == "mnuFrancais" || nome == "mnuInglese") RicordaLingua(nome, esito);
     if ((nome == "cmdDxf" || nome == "cmdSave") && esito && !esito.file.empty()) messaggio(ponte_.Traduci("Scritto") + QLatin1Char(' ') + Q(esito.file));
     const bool segue = vivo_acceso();
-    if (campo(id)) {
-        const bool nuovo = impronta(s_) != improntaCampi_;
-        if (segue && nuovo) chiediVivo();
-        else if (riga(id).classe == Classe::Casella) quadro_->foglio().cambiato();  // some boxes draw when they are set
-    } else if (id == NESSUN_CONTROLLO || riga(id).classe != Classe::Testo) {
+    const bool chiesto = segue && nome != "cmdRun" && impronta(s_) != improntaCampi_;
+    if (chiesto) chiediVivo();
+    // Some boxes draw when they are set.
+    if (!campo(id) ? id == NESSUN_CONTROLLO || riga(id).classe != Classe::Testo : !chiesto && riga(id).classe == Classe::Casella) {
         quadro_->foglio().cambiato();
+        strati_->aggiorna();
     }
     quadro_->aggiorna();
     passi_->annota(id, id == NESSUN_CONTROLLO ? std::exchange(ponte_.passo, {}) : NomeUmano(s_, id), segue && (campo(id) || nome == "cmdRun"));
@@ -219,20 +244,25 @@ void Finestra::soleDelGiorno() {
 
 bool Finestra::vivo_acceso() const { return vivoAcceso_->isChecked(); }
 
-void Finestra::memoriaFinita() {
+// The run stopped: by its user, or for want of memory. The dial is what it was.
+void Finestra::interrotto(bool memoria) {
+    s_.tavolo.dispositivo = nullptr;
+    attesa_.reset();
     for (const auto &[casella, valore] : std::exchange(mascherate_, {})) s_.in.*casella = valore;
     if (!passi_->rimettiDisegno()) {
         s_.tavolo.MettiDisegno({});
         if (inScorta_) s_.tavolo.ScambiaDisegno(scorta_);
     }
     inScorta_ = false;
-    dialoghi_.avviso(this, ponte_.Traduci("La memoria non basta per questo disegno: il quadrante resta com'era."));
+    if (memoria) dialoghi_.avviso(this, ponte_.Traduci("La memoria non basta per questo disegno: il quadrante resta com'era."));
+    else messaggio(ponte_.Traduci("Fermato: il quadrante resta com'era"));
 }
 
 void Finestra::rimesso(bool rifai) {
     vivo_->ferma();
     ponte_.sincronizza();
     quadro_->foglio().cambiato();
+    strati_->aggiorna();
     quadro_->aggiorna();
     titolo();
     for (const char *figura : {"Picture2", "Picture3"}) ponte_.widget(figura)->update();
@@ -263,6 +293,7 @@ void Finestra::chiediVivo() {
 // A run off the thread has come: its drawing, its variables and its sheet are the session's, its fields are not.
 void Finestra::disegnoVivo(Vivo::Esito &e) {
     Tavolo &t = s_.tavolo;
+    const std::vector<RecArea> pagine = t.lista().Aree;
     t.ScambiaDisegno(*e.tavolo);
     t.ForeColor = e.tavolo->ForeColor;
     const Variabili prima = s_.v;
@@ -274,8 +305,11 @@ void Finestra::disegnoVivo(Vivo::Esito &e) {
     if (t.ShiftY() != e.tavolo->ShiftY()) t.ShiftY(e.tavolo->ShiftY());
     if (t.QuadranteL() != e.tavolo->QuadranteL()) t.QuadranteL(e.tavolo->QuadranteL());
     if (t.QuadranteH() != e.tavolo->QuadranteH()) t.QuadranteH(e.tavolo->QuadranteH());
+    constexpr double DENTRO = 1e-3;
+    for (const RecArea &a : pagine) t.xTrovaA4(a.X + DENTRO, a.Y + DENTRO);  // the pages stay chosen
     t.Messaggio(e.avviso);
     quadro_->foglio().cambiato(e.immagine, e.vista);
+    strati_->aggiorna();
     ponte_.sincronizza();
     quadro_->aggiorna();
     passi_->aggiorna(true);
@@ -292,6 +326,27 @@ void Finestra::adatta() {
 
 void Finestra::esegui() { ponte_.premi("cmdRun"); }
 
+void Finestra::primoQuadrante() {
+    for (const Controllo &c : ControlliDi("MDIForm1"))
+        if (c.classe == Classe::Casella && s_.valore(IdDi(c)) != 0) return;
+    for (int DialInputs::*casella : {&DialInputs::chkOreAstronomiche, &DialInputs::Ck_DayLightCurves, &DialInputs::ck_Equinoziale}) s_.in.*casella = 1;
+    app::Adatta(s_);
+    salvato_ = improntaProgetto();
+    passi_->aggiorna(true);
+    quadro_->foglio().tutto();
+    vivoAcceso_->setChecked(true);
+    chiediVivo();
+    ponte_.sincronizza();
+    quadro_->aggiorna();
+    titolo();
+}
+
+Tavolo &Finestra::perCarta() {
+    if (!Ritoccato(quadro_->foglio().stile())) return s_.tavolo;
+    VestiFoglio(s_.tavolo, quadro_->foglio().stile(), true, carta_);
+    return carta_;
+}
+
 void Finestra::messaggio(const QString &testo) {
     s_.Messaggio(testo.toStdString());
     ponte_.sincronizza();
@@ -304,6 +359,7 @@ void Finestra::closeEvent(QCloseEvent *e) {
     ricordi.setValue(QLatin1String(STATO), saveState());
     ricordi.setValue(QLatin1String(VIVO), vivoAcceso_->isChecked());
     vivo_->ferma();
+    ripresa_.lascia();
     QMainWindow::closeEvent(e);
 }
 

@@ -4,11 +4,14 @@
 #include <QMainWindow>
 #include <memory>
 
+#include "desktop/attesa.h"
 #include "desktop/dialoghi.h"
 #include "desktop/moduli.h"
+#include "desktop/pannello_strati.h"
 #include "desktop/passi.h"
 #include "desktop/ponte.h"
 #include "desktop/quadro.h"
+#include "desktop/ripresa.h"
 #include "desktop/vivo.h"
 #include "paint/documenti.h"
 
@@ -35,6 +38,10 @@ public:
     // An empty dial, as the program starts with.
     void nuovo();
     void esegui();
+    // Unsaved work of windows that are no more, offered once.
+    void offriRipresa(const QString &percorso);
+    // A whole dial to begin with, drawn as it is changed; only on an empty sheet.
+    void primoQuadrante();
     // True when the fields or the sheet differ from what was opened or saved last.
     [[nodiscard]] bool modificato() const;
     // The open project's path; empty before it was saved.
@@ -56,13 +63,19 @@ private:
     void primaDiEsegui();
     void dopoEsegui();
     void soleDelGiorno();
-    void memoriaFinita();
+    void interrotto(bool memoria);
+    void tieniRipresa();
     void adatta();
     // A step was taken back or done again.
     void rimesso(bool rifai);
     // What follows when the session holds another project: fields, sheet, language.
     void progettoNuovo(const QString &percorso);
     void titolo();
+    QWidget *striscia(QWidget *genitore);
+    void vesti(int tema);
+    void copia(bool svg);
+    // The sheet for paper and files: as drawn, but for what the user hid, coloured or widened.
+    [[nodiscard]] Tavolo &perCarta();
     // Of what a project keeps: the closing question goes by it.
     [[nodiscard]] std::string improntaProgetto() const;
     void stampa(bool aree);
@@ -86,6 +99,10 @@ private:
     Quadro *quadro_ = nullptr;
     std::unique_ptr<Moduli> moduli_;
     std::unique_ptr<Vivo> vivo_;
+    std::unique_ptr<Attesa> attesa_;
+    PannelloStrati *strati_ = nullptr;
+    Ripresa ripresa_;
+    Tavolo carta_;
     QMenu *recenti_ = nullptr;
     QCheckBox *vivoAcceso_ = nullptr, *pulisciPrima_ = nullptr;
     std::string salvato_, improntaCampi_;

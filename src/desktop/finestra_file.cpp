@@ -1,4 +1,5 @@
 // The main window's files and pages: projects, recent ones, exports, printing.
+#include <QFile>
 #include <QFileInfo>
 #include <QMenu>
 #include <QPrinter>
@@ -34,6 +35,30 @@ bool Finestra::lasciaAndare() {
     return salva(false);
 }
 
+void Finestra::tieniRipresa() {
+    if (modificato()) ripresa_.tieni(percorso_, app::ScriviProgetto(s_));
+    else ripresa_.lascia();
+}
+
+void Finestra::offriRipresa(const QString &percorso) {
+    const QStringList rimaste = Ripresa::rimaste(percorso);
+    if (rimaste.isEmpty()) return;
+    const QString chi = percorso.isEmpty() ? ponte_.Traduci("Senza nome") : QFileInfo(percorso).fileName();
+    if (dialoghi_.siNo(this, chi + QStringLiteral(": ") + ponte_.Traduci("c'è lavoro non salvato di una volta precedente. Vuoi riprenderlo?"))) {
+        ponte_.passo = ponte_.Traduci("Lavoro ripreso");
+        ponte_.fai(NESSUN_CONTROLLO, [&] {
+            const app::Esito e = app::ApriProgetto(s_, rimaste.front().toStdString());
+            if (!e) return e;
+            Ritraduci(s_);
+            s_.titolo("frmTavolo") = percorso_.isEmpty() ? std::string() : QFileInfo(percorso_).fileName().toStdString();
+            return e;
+        });
+        quadro_->foglio().tutto();
+    }
+    for (const QString &f : rimaste) QFile::remove(f);
+    tieniRipresa();
+}
+
 bool Finestra::salva(bool conNome) {
     if (!conNome && !percorso_.isEmpty()) return salvaIn(percorso_);
     const QString prima = std::exchange(percorso_, {});
@@ -46,6 +71,7 @@ bool Finestra::salva(bool conNome) {
 bool Finestra::salvaIn(const QString &percorso) {
     if (const auto errore = app::SalvaProgetto(s_, percorso.toStdString())) return dialoghi_.avviso(this, Q(*errore)), false;
     salvato_ = improntaProgetto();
+    ripresa_.lascia();
     titolo();
     messaggio(ponte_.Traduci("Scritto") + QLatin1Char(' ') + percorso);
     return true;
@@ -126,8 +152,8 @@ void Finestra::stampa(bool aree) {
     dialoghi_.stampa(this, ponte_.Traduci("Stampa del quadrante"), [this, aree](QPrinter &stampante) {
         // Tiles are those of the printer's paper; those chosen for another are chosen anew.
         if (s_.tavolo.Pagina(paint::CartaDi(stampante)) && aree) s_.tavolo.ScegliPiene();
-        if (!aree) return paint::StampaTutto(s_.tavolo, stampante);
-        piastrelle([&](const paint::Avanzamento &avanza) { return paint::StampaPiastrelle(s_.tavolo, stampante, avanza); });
+        if (!aree) return paint::StampaTutto(perCarta(), stampante);
+        piastrelle([&](const paint::Avanzamento &avanza) { return paint::StampaPiastrelle(perCarta(), stampante, avanza); });
     });
 }
 
@@ -139,10 +165,10 @@ void Finestra::esportaPdf() {
     std::string errore;
     QByteArray pdf;
     if (aree) piastrelle([&](const paint::Avanzamento &avanza) {
-        pdf = paint::PdfPiastrelle(s_.tavolo, avanza);
+        pdf = paint::PdfPiastrelle(perCarta(), avanza);
         return true;
     });
-    else pdf = paint::PdfFoglio(s_.tavolo, errore);
+    else pdf = paint::PdfFoglio(perCarta(), errore);
     if (!errore.empty()) return dialoghi_.avviso(this, ponte_.Traduci(errore));
     if (pdf.isEmpty()) return messaggio(ponte_.Traduci("Nessun file scritto"));
     scrivi(*f, pdf.toStdString());
@@ -154,11 +180,11 @@ void Finestra::esporta() {
     if (!f || f->isEmpty()) return;
     const QString fine = QFileInfo(*f).suffix().toLower();
     std::string errore, contenuto;
-    if (fine == QStringLiteral("svg")) contenuto = SVG_Generate(s_.tavolo);
-    else if (fine == QStringLiteral("dxf")) contenuto = DXF_Generate(s_.tavolo);
-    else if (fine == QStringLiteral("png")) contenuto = paint::Png(s_.tavolo, errore);
-    else if (fine == QStringLiteral("bmp")) contenuto = paint::Bmp(s_.tavolo, errore);
-    else if (fine == QStringLiteral("pdf")) contenuto = paint::Pdf(s_.tavolo, errore);
+    if (fine == QStringLiteral("svg")) contenuto = SVG_Generate(perCarta());
+    else if (fine == QStringLiteral("dxf")) contenuto = DXF_Generate(perCarta());
+    else if (fine == QStringLiteral("png")) contenuto = paint::Png(perCarta(), errore);
+    else if (fine == QStringLiteral("bmp")) contenuto = paint::Bmp(perCarta(), errore);
+    else if (fine == QStringLiteral("pdf")) contenuto = paint::Pdf(perCarta(), errore);
     else errore = f->toStdString() + ": svg, dxf, pdf, png, bmp";
     if (!errore.empty()) return dialoghi_.avviso(this, ponte_.Traduci(errore));
     scrivi(*f, contenuto);

@@ -12,7 +12,7 @@ namespace ombrelia::desktop {
 
 namespace {
 
-constexpr double TWIP_AL_POLLICE = 1440, MARGINE = 16;
+constexpr double TWIP_AL_POLLICE = 1440, MARGINE = 26;
 constexpr double ZOOM_MINIMO = 0.02, ZOOM_MASSIMO = 60;  // against true size at the present scale
 
 }  // namespace
@@ -26,9 +26,81 @@ Foglio::Foglio(Tavolo &tavolo, QWidget *genitore) : QAbstractScrollArea(genitore
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     setMinimumSize(240, 200);
+    vista_.stile = StileDi(false);
 }
 
-double Foglio::fattoreVero() const { return logicalDpiX() / TWIP_AL_POLLICE; }
+// By the screen's own measure where it tells one.
+double Foglio::fattoreVero() const {
+    const int punti = physicalDpiX();
+    return (punti >= 40 && punti <= 800 ? punti : logicalDpiX()) / TWIP_AL_POLLICE;
+}
+
+QPointF Foglio::suMondo(const QPointF &punto) const {
+    const QPointF d = suDispositivo(punto);
+    const double k = tavolo_.Scala() / Tavolo::ScalaBase;
+    return {d.x() * k - tavolo_.ShiftX(), d.y() * k - tavolo_.ShiftY()};
+}
+
+QPointF Foglio::daMondo(const QPointF &m) const {
+    const double k = Tavolo::ScalaBase / tavolo_.Scala() * vista_.fattore;
+    return QPointF(m.x() + tavolo_.ShiftX(), m.y() + tavolo_.ShiftY()) * k + vista_.origine;
+}
+
+double Foglio::metriAlPunto() const { return tavolo_.Scala() / Tavolo::ScalaBase / vista_.fattore; }
+
+void Foglio::stile(const StileFoglio &nuovo) {
+    if (nuovo == vista_.stile) return;
+    vista_.stile = nuovo;
+    viewport()->update();
+}
+
+void Foglio::legenda(std::vector<std::pair<QString, QColor>> voci) {
+    legenda_ = std::move(voci);
+    viewport()->update();
+}
+
+void Foglio::mostraLegenda(bool si) {
+    conLegenda_ = si;
+    viewport()->update();
+}
+
+void Foglio::mostraRighelli(bool si) {
+    conRighelli_ = si;
+    viewport()->update();
+}
+
+void Foglio::fumetto(const QString &testo) {
+    if (testo == fumetto_) return;
+    fumetto_ = testo;
+    viewport()->update();
+}
+
+void Foglio::segna(std::optional<QPointF> mondo) {
+    segno_ = mondo;
+    viewport()->update();
+}
+
+void Foglio::misura(bool si) {
+    conMisura_ = si;
+    misurata_.reset();
+    viewport()->update();
+}
+
+void Foglio::lente(bool si) {
+    conLente_ = si;
+    viewport()->update();
+}
+
+void Foglio::inquadra(const QRectF &mondo) {
+    const double k = Tavolo::ScalaBase / tavolo_.Scala();
+    const QSizeF finestra = viewport()->size();
+    const double l = std::max(mondo.width(), 1e-3) * k, h = std::max(mondo.height(), 1e-3) * k;
+    const double nuovo = std::min((finestra.width() - 4 * MARGINE) / l, (finestra.height() - 4 * MARGINE) / h);
+    zoom(nuovo / vista_.fattore, QPointF(finestra.width() / 2, finestra.height() / 2));
+    const QPointF centro = daMondo(mondo.center());
+    horizontalScrollBar()->setValue(horizontalScrollBar()->value() + static_cast<int>(centro.x() - finestra.width() / 2));
+    verticalScrollBar()->setValue(verticalScrollBar()->value() + static_cast<int>(centro.y() - finestra.height() / 2));
+}
 
 void Foglio::cambiato() {
     stantia_ = true;
@@ -110,6 +182,7 @@ void Foglio::paintEvent(QPaintEvent *) {
     }
     QPainter p(viewport());
     p.drawImage(QPointF(0, 0), immagine_);
+    sopra(p);
     p.end();
     if (suDipinto) suDipinto(vista_);
 }
@@ -134,17 +207,25 @@ void Foglio::wheelEvent(QWheelEvent *e) {
 void Foglio::mousePressEvent(QMouseEvent *e) {
     if (e->button() != Qt::LeftButton && e->button() != Qt::MiddleButton) return;
     premuto_ = e->position();
+    if (conMisura_ && e->button() == Qt::LeftButton) misurata_ = {suMondo(e->position()), suMondo(e->position())};
     ultimo_ = e->position().toPoint();
     trascina_ = false;
 }
 
 void Foglio::mouseMoveEvent(QMouseEvent *e) {
-    if (suPosizione) {
-        const QPointF d = suDispositivo(e->position());
-        const double k = tavolo_.Scala() / Tavolo::ScalaBase;
-        suPosizione(QPointF((d.x() * k - tavolo_.ShiftX()) * 1000, (d.y() * k - tavolo_.ShiftY()) * 1000));
+    puntatore_ = e->position();
+    if (suPosizione) suPosizione(suMondo(e->position()) * 1000);
+    if (conLente_) viewport()->update();
+    if (!premuto_) {
+        if (suSotto) suSotto(suMondo(e->position()));
+        return;
     }
-    if (!premuto_) return;
+    if (conMisura_ && misurata_ && (e->buttons() & Qt::LeftButton)) {
+        misurata_->second = suMondo(e->position());
+        trascina_ = true;
+        viewport()->update();
+        return;
+    }
     if (!trascina_ && (e->position() - *premuto_).manhattanLength() >= QGuiApplication::styleHints()->startDragDistance()) {
         trascina_ = true;
         viewport()->setCursor(Qt::ClosedHandCursor);
@@ -161,9 +242,7 @@ void Foglio::mouseReleaseEvent(QMouseEvent *e) {
     premuto_.reset();
     trascina_ = false;
     viewport()->setCursor(Qt::CrossCursor);
-    if (!clic || !suClic) return;
-    const QPointF d = suDispositivo(e->position());
-    suClic(d.x(), d.y());
+    if (clic && !conMisura_ && suClic) suClic(e->position());
 }
 
 void Foglio::keyPressEvent(QKeyEvent *e) {
@@ -178,7 +257,12 @@ void Foglio::keyPressEvent(QKeyEvent *e) {
 }
 
 bool Foglio::viewportEvent(QEvent *e) {
-    if (e->type() == QEvent::Leave && suPosizione) suPosizione({});
+    if (e->type() == QEvent::Leave) {
+        puntatore_.reset();
+        fumetto({});
+        if (suPosizione) suPosizione({});
+        viewport()->update();
+    }
     return QAbstractScrollArea::viewportEvent(e);
 }
 

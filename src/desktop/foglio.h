@@ -1,4 +1,5 @@
-// The sheet in the window: a picture with scroll bars, zoom and pan. It shows the session's drawing and keeps none.
+// The sheet in the window: a picture with scroll bars, zoom and pan, rulers, legend, and what the pointer finds on it. It shows
+// the session's drawing and keeps none.
 #pragma once
 
 #include <QAbstractScrollArea>
@@ -21,13 +22,35 @@ public:
     // True size on this screen.
     void vero();
     void ingrandisci(double volte);
+    // A part of the sheet, world metres as painted, fills the window.
+    void inquadra(const QRectF &mondo);
     [[nodiscard]] const Vista &vista() const { return vista_; }
+    [[nodiscard]] const StileFoglio &stile() const { return vista_.stile; }
+    void stile(const StileFoglio &nuovo);
     // Device position of the sheet under a point of the picture.
     [[nodiscard]] QPointF suDispositivo(const QPointF &punto) const { return (punto - vista_.origine) / vista_.fattore; }
+    // World metres as painted under a point of the picture, and back.
+    [[nodiscard]] QPointF suMondo(const QPointF &punto) const;
+    [[nodiscard]] QPointF daMondo(const QPointF &mondo) const;
+    // Metres in a dot of the picture.
+    [[nodiscard]] double metriAlPunto() const;
+    [[nodiscard]] bool sulFoglio(const QPointF &punto) const { return vista_.foglio(tavolo_).contains(punto); }
 
-    std::function<void(double, double)> suClic;                        // device position
+    // What is laid over the picture: colours with their names, a line of text at the foot, a mark at a point.
+    void legenda(std::vector<std::pair<QString, QColor>> voci);
+    void mostraLegenda(bool si);
+    void mostraRighelli(bool si);
+    void fumetto(const QString &testo);
+    void segna(std::optional<QPointF> mondo);
+    // Two tools of the pointer: measuring between two points, and a lens that shows true size.
+    void misura(bool si);
+    void lente(bool si);
+
+    std::function<void(const QPointF &)> suClic;                       // a point of the picture
     std::function<void(std::optional<QPointF>)> suPosizione;           // world millimetres under the pointer
+    std::function<void(const QPointF &)> suSotto;                      // world metres as painted
     std::function<void(const Vista &)> suDipinto;
+    std::function<QString(double millimetri, double gradi)> testoMisura;
 
 protected:
     void paintEvent(QPaintEvent *e) override;
@@ -43,6 +66,10 @@ protected:
 private:
     void disponi();
     void zoom(double volte, const QPointF &fermo);
+    void sopra(QPainter &p);
+    void righelli(QPainter &p);
+    void dipingiLegenda(QPainter &p);
+    void dipingiLente(QPainter &p);
     [[nodiscard]] double fattoreVero() const;
 
     Tavolo &tavolo_;
@@ -52,6 +79,12 @@ private:
     std::optional<QPointF> premuto_;
     QPoint ultimo_;
     bool trascina_ = false;
+
+    std::vector<std::pair<QString, QColor>> legenda_;
+    bool conLegenda_ = true, conRighelli_ = true, conMisura_ = false, conLente_ = false;
+    QString fumetto_;
+    std::optional<QPointF> segno_, puntatore_;                     // world metres; a point of the picture
+    std::optional<std::pair<QPointF, QPointF>> misurata_;          // world metres
 };
 
 }  // namespace ombrelia::desktop

@@ -1,24 +1,31 @@
 // The groups and their rows as widgets: one loop over the table of groups.
 #include "desktop/gruppi.h"
 
-#include <QGroupBox>
+#include <QCoreApplication>
+#include <QFrame>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QSettings>
+#include <QSignalBlocker>
+#include <QToolButton>
 #include <QVBoxLayout>
+#include <set>
 #include <vector>
 
 #include "app/gruppi.h"
 #include "desktop/dialoghi.h"
 #include "desktop/figure.h"
+#include "desktop/luogo.h"
 
 namespace ombrelia::desktop {
 
 namespace {
 
-constexpr int CAMPO = 92, CAMPO_STRETTO = 62;
+constexpr int CAMPO = 108, CAMPO_STRETTO = 70;
 
 void mettiRiga(Ponte &ponte, const app::Gruppo::Riga &nomi, QVBoxLayout *colonna, QWidget *gruppo) {
     auto *fila = new QHBoxLayout;
@@ -28,7 +35,9 @@ void mettiRiga(Ponte &ponte, const app::Gruppo::Riga &nomi, QVBoxLayout *colonna
     for (const std::string_view nome : nomi) {
         QWidget *w = nullptr;
         if (TrovaControllo(nome) == NESSUN_CONTROLLO) {
-            w = new QLabel(Q(ponte.sessione().Traduci(nome)), gruppo);
+            auto *l = new QLabel(Q(ponte.sessione().Traduci(nome)), gruppo);
+            l->setTextFormat(Qt::PlainText);
+            w = l;
         } else if (nome.starts_with("Picture")) {
             w = nome == "Picture2" ? FiguraPianta(ponte.sessione(), gruppo) : FiguraFianco(ponte.sessione(), gruppo);
             ponte.adotta(nome, w);
@@ -48,7 +57,13 @@ void mettiRiga(Ponte &ponte, const app::Gruppo::Riga &nomi, QVBoxLayout *colonna
         }
         prima = qobject_cast<QLabel *>(w);
         constexpr int LUNGA = 26;  // letters
-        if (prima) prima->setWordWrap(nomi.size() == 2 && prima->text().size() > LUNGA);
+        // A long caption has a row of its own.
+        if (prima && nomi.size() == 2 && prima->text().size() > LUNGA) {
+            prima->setWordWrap(true);
+            colonna->addWidget(prima);
+            fila->addStretch(1);
+            continue;
+        }
         fila->addWidget(w, campo || (stretta && prima) ? 0 : 1);
         if (stretta && prima && nome.starts_with("Label")) fila->addStretch(1);
     }
@@ -66,12 +81,13 @@ QScrollArea *colonna(Ponte &ponte, const std::vector<app::Gruppo> &gruppi, QWidg
     giu->setContentsMargins(8, 6, 8, 8);
     giu->setSpacing(6);
     for (const app::Gruppo &g : gruppi) {
-        auto *scatola = new QGroupBox(Q(ponte.sessione().Traduci(g.titolo)), tela);
-        auto *righe = new QVBoxLayout(scatola);
-        righe->setContentsMargins(10, 6, 10, 8);
+        auto *piega = new Piega(Q(ponte.sessione().Traduci(g.titolo)), Q(g.titolo), g.piegato, tela);
+        auto *righe = new QVBoxLayout(piega->corpo());
+        righe->setContentsMargins(10, 7, 10, 8);
         righe->setSpacing(5);
-        for (const app::Gruppo::Riga &r : g.righe) mettiRiga(ponte, r, righe, scatola);
-        giu->addWidget(scatola);
+        if (g.titolo == "Luogo") righe->addWidget(CercaLuogo(ponte, piega->corpo()));
+        for (const app::Gruppo::Riga &r : g.righe) mettiRiga(ponte, r, righe, piega->corpo());
+        giu->addWidget(piega);
     }
     giu->addStretch(1);
     area->setWidget(tela);
@@ -81,6 +97,55 @@ QScrollArea *colonna(Ponte &ponte, const std::vector<app::Gruppo> &gruppi, QWidg
 
 }  // namespace
 
+Piega::Piega(const QString &titolo, const QString &chiave, bool piegato, QWidget *genitore) : QWidget(genitore), chiave_(QStringLiteral("pieghe/") + chiave) {
+    setObjectName(QStringLiteral("piega"));
+    auto *giu = new QVBoxLayout(this);
+    giu->setContentsMargins(0, 0, 0, 0);
+    giu->setSpacing(2);
+    testa_ = new QToolButton(this);
+    testa_->setObjectName(QStringLiteral("testaPiega"));
+    testa_->setText(titolo.left(1).toUpper() + titolo.mid(1));
+    testa_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    testa_->setCheckable(true);
+    testa_->setAutoRaise(true);
+    testa_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    corpo_ = new QFrame(this);
+    corpo_->setObjectName(QStringLiteral("corpoPiega"));
+    giu->addWidget(testa_);
+    giu->addWidget(corpo_);
+    connect(testa_, &QToolButton::toggled, this, [this](bool su) {
+        mostra(su);
+        QSettings().setValue(chiave_, su);
+    });
+    const bool aperto = QSettings().value(chiave_, !piegato).toBool();
+    const QSignalBlocker zitto(testa_);
+    testa_->setChecked(aperto);
+    mostra(aperto);
+}
+
+void Piega::mostra(bool aperto) {
+    testa_->setArrowType(aperto ? Qt::DownArrow : Qt::RightArrow);
+    corpo_->setVisible(aperto);
+}
+
+void Piega::apri() {
+    testa_->setChecked(true);
+    for (QWidget *w = parentWidget(); w; w = w->parentWidget())
+        if (auto *area = qobject_cast<QScrollArea *>(w)) {
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+            area->ensureWidgetVisible(this);
+            break;
+        }
+    for (QWidget *w : corpo_->findChildren<QWidget *>())
+        if (w->focusPolicy() & Qt::TabFocus && w->isEnabled()) return w->setFocus(Qt::TabFocusReason);
+}
+
+Piega *Piega::trova(const QObject *dove, std::string_view titolo) {
+    for (Piega *p : dove->findChildren<Piega *>())
+        if (p->chiave_ == QStringLiteral("pieghe/") + Q(titolo)) return p;
+    return nullptr;
+}
+
 QWidget *ColonnaQuadrante(Ponte &ponte, QWidget *genitore) {
     QScrollArea *area = colonna(ponte, app::GruppiQuadrante(), genitore);
     ponte.adotta("Panel3D1", area);
@@ -89,6 +154,21 @@ QWidget *ColonnaQuadrante(Ponte &ponte, QWidget *genitore) {
     return area;
 }
 
-QWidget *ColonnaDisegno(Ponte &ponte, QWidget *genitore) { return colonna(ponte, app::GruppiDisegno(), genitore); }
+// Fields that no group names yet stand in one of their own, each behind its caption.
+QWidget *ColonnaDisegno(Ponte &ponte, QWidget *genitore) {
+    std::vector<app::Gruppo> gruppi = app::GruppiDisegno();
+    std::set<std::string_view> nominati;
+    for (const std::vector<app::Gruppo> *tavola : {&app::GruppiQuadrante(), static_cast<const std::vector<app::Gruppo> *>(&gruppi)})
+        for (const app::Gruppo &g : *tavola)
+            for (const app::Gruppo::Riga &r : g.righe) nominati.insert(r.begin(), r.end());
+    app::Gruppo altro{"Altro"_it, {}, true};
+    for (const Controllo &c : ControlliDi("MDIForm1")) {
+        if (!c.nostro || nominati.contains(c.nome)) continue;
+        if (c.classe == Classe::Testo && !altro.righe.empty() && altro.righe.back().size() == 1) altro.righe.back().push_back(c.nome);
+        else altro.righe.push_back({c.nome});
+    }
+    if (!altro.righe.empty()) gruppi.push_back(std::move(altro));
+    return colonna(ponte, gruppi, genitore);
+}
 
 }  // namespace ombrelia::desktop

@@ -2,14 +2,8 @@
 #include "desktop/ponte.h"
 
 #include <QCheckBox>
-#include <QClipboard>
-#include <QContextMenuEvent>
 #include <QGroupBox>
-#include <QGuiApplication>
-#include <QKeyEvent>
 #include <QLabel>
-#include <QMenu>
-#include <QMimeData>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
@@ -18,6 +12,8 @@
 #include <utility>
 
 #include "app/azioni.h"
+#include "desktop/attesa.h"
+#include "desktop/campo.h"
 #include "desktop/dialoghi.h"
 
 namespace ombrelia::desktop {
@@ -76,8 +72,10 @@ app::Esito Ponte::svolgi(IdControllo id, const std::function<app::Esito()> &azio
     try {
         esito = azione();
     } catch (const std::bad_alloc &) {
-        s_.tavolo.dispositivo = nullptr;
-        if (suMemoria) suMemoria();
+        if (suInterrotto) suInterrotto(true);
+        esito = app::Esito::Annullato;
+    } catch (const Fermato &) {
+        if (suInterrotto) suInterrotto(false);
         esito = app::Esito::Annullato;
     }
     --dentro_;
@@ -201,99 +199,6 @@ void Ponte::mostra(const Legame &l) {
     if (w->toolTip() != aiuto && !(aiuto.isEmpty() && riga(l.id).toolTip.empty())) w->setToolTip(aiuto);
     if (w->isEnabled() != stato.abilitato && riga(l.id).classe != Classe::Cornice) w->setEnabled(stato.abilitato);
     if (w->isHidden() == stato.visibile && (riga(l.id).classe != Classe::Altro)) w->setVisible(stato.visibile);
-}
-
-CampoTesto::CampoTesto(Ponte &ponte, IdControllo id, QWidget *genitore) : QLineEdit(genitore), ponte_(ponte), id_(id) {
-    if (riga(id).filtro != Filtro::Nessuno) setInputMethodHints(Qt::ImhFormattedNumbersOnly);
-}
-
-void CampoTesto::immetti(const QString &testo) {
-    if (isReadOnly()) return;
-    QString tenuto;
-    for (const QChar c : testo) {
-        const char latino = c.toLatin1();
-        if (c == QLatin1Char('"')) {
-            ponte_.sessione().utente.Beep();
-            if (ponte_.suVirgolette) ponte_.suVirgolette();
-        } else if (riga(id_).filtro == Filtro::Nessuno) {
-            if (c.isPrint()) tenuto += c;
-        } else if (latino < ' ') {
-            ponte_.sessione().utente.Beep();  // no filter lets it pass
-        } else if (const char k = app::FiltraTasto(ponte_.sessione(), id_, latino)) {
-            tenuto += QLatin1Char(k);
-        }
-    }
-    if (!tenuto.isEmpty()) insert(tenuto);
-    ponte_.fai(id_, [this] { app::Cambia(ponte_.sessione(), id_, text().toStdString()); });
-}
-
-// The program's shortcuts are its own; the box would take some of them for moves of its cursor.
-bool CampoTesto::event(QEvent *e) {
-    if (e->type() == QEvent::ShortcutOverride) {
-        const auto *t = static_cast<QKeyEvent *>(e);
-        const auto m = t->modifiers() & ~Qt::ShiftModifier;
-        if (m == Qt::ControlModifier && (t->key() == Qt::Key_E || t->key() == Qt::Key_Z || t->key() == Qt::Key_Y)) {
-            e->ignore();
-            return false;
-        }
-    }
-    return QLineEdit::event(e);
-}
-
-void CampoTesto::keyPressEvent(QKeyEvent *e) {
-    const bool incolla = e->matches(QKeySequence::Paste);
-    const QString testo = incolla ? QGuiApplication::clipboard()->text().trimmed() : e->text();
-    const bool stampabile = !testo.isEmpty() && testo.at(0).isPrint() && !(e->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier));
-    if (!incolla && !stampabile) return QLineEdit::keyPressEvent(e);
-    immetti(testo);
-    e->accept();
-}
-
-void CampoTesto::mousePressEvent(QMouseEvent *e) {
-    QLineEdit::mousePressEvent(e);
-    if (entrato_) selectAll();  // the press has set the cursor
-}
-
-void CampoTesto::mouseReleaseEvent(QMouseEvent *e) {
-    if (e->button() == Qt::MiddleButton && QGuiApplication::clipboard()->supportsSelection())
-        return immetti(QGuiApplication::clipboard()->text(QClipboard::Selection).trimmed());
-    QLineEdit::mouseReleaseEvent(e);
-    if (std::exchange(entrato_, false) && selectedText().size() < 2) selectAll();
-}
-
-void CampoTesto::contextMenuEvent(QContextMenuEvent *e) {
-    QMenu *menu = createStandardContextMenu();
-    menu->setAttribute(Qt::WA_DeleteOnClose);
-    for (QAction *a : menu->actions()) {
-        if (!a->text().startsWith(QLineEdit::tr("&Paste"))) continue;
-        a->disconnect();
-        a->setObjectName(QStringLiteral("incolla"));
-        connect(a, &QAction::triggered, this, [this] { immetti(QGuiApplication::clipboard()->text().trimmed()); });
-    }
-    menu->popup(e->globalPos());
-}
-
-void CampoTesto::dropEvent(QDropEvent *e) {
-    if (!e->mimeData()->hasText()) return;
-    setCursorPosition(cursorPositionAt(e->position().toPoint()));
-    immetti(e->mimeData()->text().trimmed());
-    e->setDropAction(Qt::CopyAction);
-    e->accept();
-}
-
-void CampoTesto::focusInEvent(QFocusEvent *e) {
-    QLineEdit::focusInEvent(e);
-    if (e->reason() == Qt::PopupFocusReason || e->reason() == Qt::ActiveWindowFocusReason) return;
-    entrato_ = e->reason() == Qt::MouseFocusReason;
-    app::Entra(ponte_.sessione(), id_);
-    selectAll();
-}
-
-void CampoTesto::focusOutEvent(QFocusEvent *e) {
-    QLineEdit::focusOutEvent(e);
-    entrato_ = false;
-    if (e->reason() == Qt::PopupFocusReason || e->reason() == Qt::ActiveWindowFocusReason) return;
-    ponte_.fai(id_, [this] { app::Lascia(ponte_.sessione(), id_); });
 }
 
 }  // namespace ombrelia::desktop

@@ -4,7 +4,6 @@
 
 #include <QAction>
 #include <QComboBox>
-#include <QLineEdit>
 #include <QWidget>
 #include <functional>
 #include <string_view>
@@ -52,7 +51,7 @@ public:
     std::function<bool(IdControllo)> prima;
     std::function<void(IdControllo, const app::Esito &)> dopo;
     QString passo;                          // name of the action in hand for the list of steps, when no control names it
-    std::function<void()> suMemoria;        // an action ran out of memory
+    std::function<void(bool memoria)> suInterrotto;  // an action ran out of memory, or its user stopped it
     std::function<void()> suVirgolette;     // a double quote was typed: it would end the project's text
 
     [[nodiscard]] Sessione &sessione() { return s_; }
@@ -72,31 +71,6 @@ private:
     Sessione &s_;
     std::vector<Legame> legami_;
     int dentro_ = 0;
-};
-
-// A text box that passes what is typed, pasted or dropped through the row's filter and tells when it is entered and left.
-// Entered by mouse or key, its whole text is selected.
-class CampoTesto final : public QLineEdit {
-public:
-    CampoTesto(Ponte &ponte, IdControllo id, QWidget *genitore);
-
-protected:
-    bool event(QEvent *e) override;
-    void mousePressEvent(QMouseEvent *e) override;
-    void mouseReleaseEvent(QMouseEvent *e) override;
-    void contextMenuEvent(QContextMenuEvent *e) override;
-    void dropEvent(QDropEvent *e) override;
-    void keyPressEvent(QKeyEvent *e) override;
-    void focusInEvent(QFocusEvent *e) override;
-    void focusOutEvent(QFocusEvent *e) override;
-
-private:
-    // Puts a text in as its keys would.
-    void immetti(const QString &testo);
-
-    Ponte &ponte_;
-    IdControllo id_;
-    bool entrato_ = false;  // by the press of the mouse in hand
 };
 
 // A caption as people read it: the blanks that pad it in the table are left out, accelerators are none.

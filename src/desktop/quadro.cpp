@@ -5,6 +5,7 @@
 #include <QGroupBox>
 #include <QGridLayout>
 #include <QHBoxLayout>
+#include <QLineEdit>
 #include <QResizeEvent>
 #include <QScrollBar>
 #include <QToolButton>
@@ -61,9 +62,10 @@ Quadro::Quadro(Ponte &ponte, QWidget *genitore) : QWidget(genitore), ponte_(pont
         {pannello("picDimensioni", {{"lblQL", "txtQL"}, {"lblQH", "txtQH"}, {"cmdQAggiorna", "cmdQAnnulla"}}), findChild<QWidget *>("cmdDim")},
         {pannello("picPrint", {{"optAll"}, {"optSelected"}, {"cmdPOk", "cmdPCancel"}}), findChild<QWidget *>("cmdStampa")},
     };
-    foglio_->suClic = [this](double x, double y) {
-        ponte_.passo = ponte_.Traduci("Pagina scelta");
-        ponte_.fai(NESSUN_CONTROLLO, [&] { ponte_.sessione().tavolo.MouseDown(x, y); });
+    foglio_->suClic = [this](const QPointF &punto) { clic(punto); };
+    foglio_->suSotto = [this](const QPointF &mondo) { sotto(mondo); };
+    foglio_->testoMisura = [this](double mm, double gradi) {
+        return QStringLiteral("%1 mm   %2°").arg(mm, 0, 'f', 1).arg(gradi, 0, 'f', 1);
     };
     foglio_->suPosizione = [this](std::optional<QPointF> mm) {
         posizione_->setText(mm ? QStringLiteral("x %1   y %2 mm").arg(mm->x(), 0, 'f', 1).arg(mm->y(), 0, 'f', 1) : QString());
@@ -72,9 +74,13 @@ Quadro::Quadro(Ponte &ponte, QWidget *genitore) : QWidget(genitore), ponte_(pont
 
 QWidget *Quadro::testata() {
     QWidget *testa = ponte_.crea("Tavolo1.picHead", this);
-    auto *fila = new QHBoxLayout(testa);
-    fila->setContentsMargins(6, 5, 6, 5);
+    // Two rows where the window is narrow.
+    file_ = new QBoxLayout(QBoxLayout::LeftToRight, testa);
+    file_->setContentsMargins(6, 4, 6, 4);
+    file_->setSpacing(4);
+    auto *fila = new QHBoxLayout;
     fila->setSpacing(3);
+    file_->addLayout(fila);
     const auto metti = [&](std::string_view nome) {
         QWidget *w = ponte_.crea(intero(nome), testa);
         fila->addWidget(w);
@@ -83,7 +89,10 @@ QWidget *Quadro::testata() {
     for (const std::string_view nome : {"cmdStampa", "cmdSave", "cmdDxf"}) metti(nome);
     fila->addWidget(riga(testa));
     for (const std::string_view nome : {"cmdAssi", "CmdGriglia", "cmdDim", "cmdPulisci"}) metti(nome);
-    fila->addWidget(riga(testa));
+    fila->addStretch(1);
+    fila = new QHBoxLayout;
+    fila->setSpacing(3);
+    file_->addLayout(fila, 1);
     invX_ = metti("cmdInvX");
     invY_ = metti("cmdInvY");
     fila->addStretch(1);
@@ -92,6 +101,8 @@ QWidget *Quadro::testata() {
         b->setText(testo);
         b->setToolTip(aiuto);
         b->setAutoRaise(true);
+        b->setAccessibleName(aiuto);
+        b->setFocusPolicy(Qt::TabFocus);
         connect(b, &QToolButton::clicked, this, azione);
         fila->addWidget(b);
     };
@@ -180,7 +191,33 @@ void Quadro::mostraAvviso() {
     avviso_->setVisible(!t.isEmpty());
 }
 
+std::optional<Linea> Quadro::lineaPresso(const QPointF &mondo) const {
+    constexpr double RAGGIO = 5;  // dots
+    return LineaSotto(ponte_.sessione().tavolo, foglio_->stile(), mondo, RAGGIO * foglio_->metriAlPunto());
+}
+
+// A line is chosen; beside the lines a tile of paper is; off the sheet nothing.
+void Quadro::clic(const QPointF &punto) {
+    if (!foglio_->sulFoglio(punto)) return;
+    if (const auto linea = lineaPresso(foglio_->suMondo(punto)); linea && suLinea) return suLinea(linea);
+    const QPointF d = foglio_->suDispositivo(punto);
+    if (foglio_->stile().scelta && suLinea) suLinea({});
+    ponte_.passo = ponte_.Traduci("Pagina scelta");
+    ponte_.fai(NESSUN_CONTROLLO, [&] { ponte_.sessione().tavolo.MouseDown(d.x(), d.y()); });
+}
+
+void Quadro::sotto(const QPointF &mondo) {
+    const Sessione &s = ponte_.sessione();
+    if (s.tavolo.lista().pretese.empty()) return foglio_->fumetto({});
+    QString testo;
+    if (const auto linea = lineaPresso(mondo)) testo = NomeLinea(s, linea->strato, linea->valore);
+    if (const QString letto = LetturaDi(s, mondo); !letto.isEmpty()) testo += (testo.isEmpty() ? QString() : QStringLiteral("\n")) + letto;
+    foglio_->fumetto(testo);
+}
+
 void Quadro::resizeEvent(QResizeEvent *e) {
+    constexpr int STRETTO = 760;
+    file_->setDirection(width() < STRETTO ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
     QWidget::resizeEvent(e);
     collocaPannelli();
 }

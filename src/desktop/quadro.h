@@ -1,6 +1,7 @@
 // The plot surface in the window: head panel, sheet, read-outs, and the three panels that its buttons open.
 #pragma once
 
+#include <QBoxLayout>
 #include <QLabel>
 #include <QPushButton>
 
@@ -24,6 +25,7 @@ public:
     void aggiorna();
 
     std::function<void()> suAdatta;
+    std::function<void(const std::optional<Linea> &)> suLinea;  // a line was pressed, or none
 
 protected:
     void resizeEvent(QResizeEvent *e) override;
@@ -38,10 +40,14 @@ private:
     Ponte &ponte_;
     Foglio *foglio_ = nullptr;
     void mostraAvviso();
+    void clic(const QPointF &punto);
+    void sotto(const QPointF &mondo);
+    [[nodiscard]] std::optional<Linea> lineaPresso(const QPointF &mondo) const;
 
     QLabel *posizione_ = nullptr, *avviso_ = nullptr;
     QString detto_;
     std::vector<Offerta> offerte_;
+    QBoxLayout *file_ = nullptr;  // of the head
     QWidget *invX_ = nullptr, *invY_ = nullptr;
     std::vector<std::pair<QWidget *, QWidget *>> pannelli_;  // and the button below which each opens
 };

@@ -13,49 +13,84 @@ namespace ombrelia::desktop {
 
 namespace {
 
+// Colours of a theme by name; the sheet of style names them with a $.
+struct Tinte {
+    const char *finestra, *testo, *base, *pannello, *bordo, *filo, *spento, *fondoSpento, *titolo, *accento, *accentoScuro, *suAccento, *premuto, *barra, *testata, *avviso, *fondoAvviso, *legame;
+};
+constexpr Tinte CHIARO{"#f4f5f5", "#22272c", "#ffffff", "#fcfcfb", "#8b939b", "#d5d9de", "#6f767d", "#eceeef", "#6b4e0b", "#8a5a00", "#6f4800", "#ffffff", "#f3ead6", "#f4f5f5", "#e9ebec", "#7c2d0c", "#fff6df", "#7a4f00"};
+constexpr Tinte SCURO{"#20262d", "#e4e8ec", "#171c22", "#262d35", "#7b858f", "#3a434c", "#8f98a1", "#2a3038", "#e3b85a", "#e0a63a", "#f0bd5c", "#1a1408", "#3b3424", "#20262d", "#2a3139", "#ffc69e", "#3a3220", "#f0bd5c"};
+
 constexpr auto FOGLIO = R"(
-QGroupBox { border: 1px solid #d5d9de; border-radius: 6px; margin-top: 19px; background: #fcfcfb; font-weight: 600; }
-QGroupBox::title { subcontrol-origin: margin; subcontrol-position: top left; left: 3px; padding: 0 2px; color: #7a5a10; }
+QWidget#piega { background: transparent; }
+QToolButton#testaPiega { border: 0; border-radius: 4px; padding: 4px 4px; font-weight: 600; color: $titolo; background: transparent; text-align: left; }
+QToolButton#testaPiega:hover { background: $premuto; }
+QToolButton#testaPiega:focus { border: 1px solid $accento; }
+QFrame#corpoPiega { border: 1px solid $filo; border-radius: 6px; background: $pannello; }
+QGroupBox { border: 1px solid $filo; border-radius: 6px; margin-top: 19px; background: $pannello; font-weight: 600; }
+QGroupBox::title { subcontrol-origin: margin; subcontrol-position: top left; left: 3px; padding: 0 2px; color: $titolo; }
 QGroupBox QWidget { font-weight: normal; }
-QLineEdit { padding: 2px 5px; border: 1px solid #c3c9d0; border-radius: 4px; background: #ffffff; }
-QLineEdit:focus { border: 1px solid #c08a1e; }
-QLineEdit:disabled { background: #eceeef; color: #8a9097; }
-QPushButton { padding: 4px 10px; border: 1px solid #c3c9d0; border-radius: 4px; background: #ffffff; }
-QPushButton:hover { border-color: #c08a1e; }
-QPushButton:pressed { background: #f3ead6; }
-QPushButton:focus { border-color: #c08a1e; }
-QPushButton:disabled { color: #a5abb1; background: #f1f2f3; }
-QPushButton[principale="true"] { background: #b9801a; border-color: #99690f; color: #ffffff; font-weight: 600; padding: 4px 18px; }
-QPushButton[principale="true"]:hover { background: #c98f27; }
-QPushButton[principale="true"]:pressed { background: #99690f; }
-QToolTip { color: #202428; background: #fff8e6; border: 1px solid #d9c48d; padding: 3px; }
-QToolBar { border: 0; border-bottom: 1px solid #d5d9de; spacing: 6px; padding: 5px 8px; background: #f4f5f5; }
+QLineEdit { padding: 2px 5px; border: 1px solid $bordo; border-radius: 4px; background: $base; color: $testo; selection-background-color: $accento; selection-color: $suAccento; }
+QLineEdit:focus { border: 2px solid $accento; padding: 1px 4px; }
+QLineEdit[fuori="true"] { border: 2px solid #c0261c; padding: 1px 4px; }
+QLineEdit:disabled { background: $fondoSpento; color: $spento; border-color: $filo; }
+QPushButton { padding: 4px 10px; border: 1px solid $bordo; border-radius: 4px; background: $base; color: $testo; }
+QPushButton:hover { border-color: $accento; }
+QPushButton:pressed { background: $premuto; }
+QPushButton:focus { border: 2px solid $accento; padding: 3px 9px; }
+QPushButton:disabled { color: $spento; background: $fondoSpento; border-color: $filo; }
+QPushButton[principale="true"] { background: $accento; border-color: $accentoScuro; color: $suAccento; font-weight: 600; padding: 4px 18px; }
+QPushButton[principale="true"]:hover { background: $accentoScuro; }
+QPushButton[principale="true"]:focus { border: 2px solid $testo; padding: 3px 17px; }
+QCheckBox:focus, QRadioButton:focus { color: $accento; }
+QCheckBox::indicator:unchecked, QRadioButton::indicator:unchecked { border: 1px solid $bordo; background: $base; }
+QCheckBox::indicator:unchecked { width: 12px; height: 12px; border-radius: 3px; }
+QRadioButton::indicator:unchecked { width: 12px; height: 12px; border-radius: 7px; }
+QToolTip { color: $testo; background: $fondoAvviso; border: 1px solid $bordo; padding: 3px; }
+QToolBar { border: 0; border-bottom: 1px solid $filo; spacing: 5px; padding: 4px 8px; background: $barra; }
 QDockWidget { font-weight: 600; }
-QDockWidget::title { background: #e9ebec; padding: 5px 9px; }
-#picHead, #piede { background: #f4f5f5; }
+QDockWidget::title { background: $testata; padding: 5px 9px; }
+#passi { background: $testata; border-bottom: 1px solid $filo; }
+#passi QToolButton { border: 1px solid transparent; border-radius: 4px; padding: 3px 4px; color: $testo; font-weight: 600; }
+#passi QToolButton:hover { background: $premuto; }
+#passi QToolButton:focus { border: 1px solid $accento; }
+#picHead, #piede { background: $barra; }
 #picHead QPushButton { padding: 3px 7px; }
-#PicAssi, #picDimensioni, #picPrint { margin-top: 0; padding-top: 20px; border: 1px solid #9aa3ad; background: #fcfcfb; }
+#picHead QPushButton:focus { padding: 2px 6px; }
+#PicAssi, #picDimensioni, #picPrint { margin-top: 0; padding-top: 20px; border: 1px solid $bordo; background: $pannello; }
 #PicAssi::title, #picDimensioni::title, #picPrint::title { subcontrol-origin: border; left: 9px; top: 5px; }
-#avvisoCornice { color: #9a3b12; }
+#avvisoCornice { color: $avviso; background: $fondoAvviso; border-top: 1px solid $filo; }
 )";
+
+bool scuroInVigore = false;
+
+QString foglioDi(const Tinte &t) {
+    QString f = QString::fromLatin1(FOGLIO);
+    // The longer name of two goes first.
+    for (const auto &[nome, tinta] : {std::pair{"$accentoScuro", t.accentoScuro}, {"$accento", t.accento}, {"$suAccento", t.suAccento}, {"$fondoSpento", t.fondoSpento}, {"$fondoAvviso", t.fondoAvviso},
+                                      {"$finestra", t.finestra}, {"$testata", t.testata}, {"$testo", t.testo}, {"$base", t.base}, {"$pannello", t.pannello}, {"$bordo", t.bordo}, {"$filo", t.filo},
+                                      {"$spento", t.spento}, {"$titolo", t.titolo}, {"$premuto", t.premuto}, {"$barra", t.barra}, {"$avviso", t.avviso}})
+        f.replace(QLatin1String(nome), QLatin1String(tinta));
+    return f;
+}
 
 }  // namespace
 
-void VestiApplicazione(QApplication &a) {
+bool TemaScuro() { return scuroInVigore; }
+
+void VestiApplicazione(QApplication &a, Tema tema) {
+    static const bool sistemaScuro = QGuiApplication::palette().color(QPalette::Window).lightness() < 128;  // before ours
+    scuroInVigore = tema == Tema::Scuro || (tema == Tema::Sistema && sistemaScuro);
+    const Tinte &t = scuroInVigore ? SCURO : CHIARO;
+    const auto c = [](const char *tinta) { return QColor(QLatin1String(tinta)); };
     a.setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     QPalette p;
-    p.setColor(QPalette::Window, QColor(0xF4, 0xF5, 0xF5));
-    p.setColor(QPalette::WindowText, QColor(0x22, 0x27, 0x2C));
-    p.setColor(QPalette::Base, Qt::white);
-    p.setColor(QPalette::Text, QColor(0x22, 0x27, 0x2C));
-    p.setColor(QPalette::Button, QColor(0xF0, 0xF1, 0xF2));
-    p.setColor(QPalette::ButtonText, QColor(0x22, 0x27, 0x2C));
-    p.setColor(QPalette::Highlight, QColor(0xB9, 0x80, 0x1A));
-    p.setColor(QPalette::HighlightedText, Qt::white);
-    p.setColor(QPalette::Link, QColor(0x8A, 0x5A, 0x00));
-    for (const auto ruolo : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) p.setColor(QPalette::Disabled, ruolo, QColor(0xA0, 0xA6, 0xAC));
+    for (const auto &[ruolo, tinta] : {std::pair{QPalette::Window, t.finestra}, {QPalette::WindowText, t.testo}, {QPalette::Base, t.base}, {QPalette::AlternateBase, t.pannello}, {QPalette::Text, t.testo},
+                                       {QPalette::Button, t.testata}, {QPalette::ButtonText, t.testo}, {QPalette::BrightText, t.suAccento}, {QPalette::Highlight, t.accento}, {QPalette::HighlightedText, t.suAccento},
+                                       {QPalette::Link, t.legame}, {QPalette::LinkVisited, t.legame}, {QPalette::ToolTipBase, t.fondoAvviso}, {QPalette::ToolTipText, t.testo}, {QPalette::PlaceholderText, t.spento}})
+        p.setColor(ruolo, c(tinta));
+    for (const auto ruolo : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) p.setColor(QPalette::Disabled, ruolo, c(t.spento));
     a.setPalette(p);
-    a.setStyleSheet(QString::fromLatin1(FOGLIO));
+    a.setStyleSheet(foglioDi(t));
     a.setWindowIcon(Icona());
 }
 

@@ -2,12 +2,19 @@
 #pragma once
 
 #include <QIcon>
+#include <cstdint>
 
 class QApplication;
+class QString;
 
 namespace ombrelia::desktop {
 
-void VestiApplicazione(QApplication &a);
+// The looks of the window: the desktop's, or the user's choice.
+enum class Tema : std::uint8_t { Sistema, Chiaro, Scuro };
+
+void VestiApplicazione(QApplication &a, Tema tema = Tema::Sistema);
+// Whether the looks in force are dark.
+[[nodiscard]] bool TemaScuro();
 [[nodiscard]] QIcon Icona();
 
 }  // namespace ombrelia::desktop

@@ -17,7 +17,7 @@ constexpr Colore NESSUNO = -1;
 
 DispositivoQt::DispositivoQt(QPainter &pittore, Supporto supporto, const Posa &posa)
     : pittore_(pittore), supporto_(supporto), posa_(posa) {
-    if (supporto == Supporto::Schermo && !posa.vista.isEmpty())
+    if (supporto != Supporto::Carta && !posa.vista.isEmpty())
         celle_.assign(static_cast<std::size_t>(posa.vista.width() + 1) * static_cast<std::size_t>(posa.vista.height() + 1), NESSUNO);
 }
 
@@ -36,7 +36,7 @@ QColor DispositivoQt::ink(Colore colore) {
 
 QPen DispositivoQt::matita(Colore colore, double larghezza) {
     QPen p(ink(colore), larghezza, tratteggio_ ? Qt::DotLine : Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
-    if (supporto_ == Supporto::Schermo && !tratteggio_) p.setCapStyle(Qt::FlatCap), p.setJoinStyle(Qt::BevelJoin);
+    if (supporto_ != Supporto::Carta && !tratteggio_) p.setCapStyle(Qt::FlatCap), p.setJoinStyle(Qt::BevelJoin);
     return p;
 }
 
@@ -148,7 +148,7 @@ void DispositivoQt::Punto(double x, double y, Colore colore) {
 void DispositivoQt::vuotaPunti() {
     if (punti_.isEmpty()) return;
     QPen p(ink(colorePunti_), posa_.punto, Qt::SolidLine, Qt::RoundCap);
-    if (supporto_ == Supporto::Schermo) {
+    if (supporto_ != Supporto::Carta) {
         // Small squares are as good as dots there, and far quicker.
         const double m = posa_.punto;
         QVector<QRectF> quadri;

@@ -15,7 +15,7 @@ QColor mescola(const QColor &a, const QColor &b, double quantoB) {
 
 }  // namespace
 
-QColor Sfondo(Supporto supporto) { return supporto == Supporto::Carta ? QColor(255, 255, 255) : QColor(0x10, 0x15, 0x1B); }
+QColor Sfondo(Supporto supporto) { return supporto == Supporto::Schermo ? QColor(0x10, 0x15, 0x1B) : QColor(255, 255, 255); }
 
 QColor Inchiostro(Colore colore, Supporto supporto) {
     constexpr double BUIO = 0.30, LUCE = 0.50;

@@ -7,7 +7,8 @@
 
 namespace ombrelia::paint {
 
-enum class Supporto : std::uint8_t { Schermo, Carta };
+// A dark screen, paper, a paper-white screen.
+enum class Supporto : std::uint8_t { Schermo, Carta, SchermoChiaro };
 
 // The sheet itself.
 [[nodiscard]] QColor Sfondo(Supporto supporto);

@@ -323,7 +323,7 @@ TEST(Affidabile, EveryStepIsTakenBackAndDoneAgain) {
         {"box", [&] { b.spunta("chkOreAstronomiche"); }},
         {"run", [&] { b.premi("cmdRun"); }},
         {"numerals", [&] { b.spunta("ckArabi"); }},
-        {"tile", [&] { b.f.quadro().foglio().suClic(1000, 1000); }},
+        {"tile", [&] { b.f.quadro().foglio().suClic(b.f.quadro().foglio().daMondo({-0.5, -0.4})); }},
         {"mirror", [&] { b.premi("Tavolo1.cmdInvX"); }},
         {"second run", [&] { b.premi("cmdRun"); }},
         {"transform", [&] { b.premi("cmdTrasforma"); }},

@@ -21,7 +21,7 @@ int main(int argc, char **argv) {
     qputenv("XDG_RUNTIME_DIR", casa.path().toUtf8());
     qputenv("HOME", casa.path().toUtf8());
     QDir::setCurrent(casa.path());
-    for (const char *nome : {"DBFinestraInglese.txt", "DBFinestraFrancese.txt"})
+    for (const char *nome : {"DBFinestraInglese.txt", "DBFinestraFrancese.txt", "luoghi.csv"})
         QFile::copy(QStringLiteral(OMBRELIA_RADICE "/data/") + QString::fromLatin1(nome), QString::fromLatin1(nome));
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, casa.path());
     QApplication a(argc, argv);

@@ -1,0 +1,41 @@
+// A run that lasts: after a while a box shows that it goes on and lets its user stop it. A device that paints nothing.
+#pragma once
+
+#include <QElapsedTimer>
+#include <memory>
+
+#include "plot/dispositivo.h"
+
+class QProgressDialog;
+class QWidget;
+class QString;
+
+namespace ombrelia::desktop {
+
+struct Fermato {};  // thrown where the user stopped a run
+
+class Attesa final : public Dispositivo {
+public:
+    Attesa(QWidget *sopra, const QString &testo, const QString &ferma);
+    ~Attesa() override;
+    void Cls() override {}
+    void Linea(double, double, double, double, Colore, int) override { conta(); }
+    void Riquadro(double, double, double, double, Colore, bool) override {}
+    void Punto(double, double, Colore) override { conta(); }
+    void Cerchio(double, double, double, Colore, Colore, double, double, double) override {}
+    void Testo(double, double, std::string_view, Colore) override {}
+
+private:
+    void conta() {
+        if ((++tratti_ & 0xFFFU) == 0) guarda();
+    }
+    void guarda();
+
+    QElapsedTimer tempo_;
+    unsigned tratti_ = 0;
+    QWidget *sopra_;
+    std::unique_ptr<QProgressDialog> box_;
+    std::unique_ptr<QString> testo_, ferma_;
+};
+
+}  // namespace ombrelia::desktop

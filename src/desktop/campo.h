@@ -1,0 +1,53 @@
+// The text boxes: what is typed, pasted or dropped goes through the row's filter; wheel and arrows step; the unit stands in the
+// box, the range is told when it is left, an angle may be written in degrees, minutes and seconds.
+#pragma once
+
+#include <QLineEdit>
+
+#include "desktop/ponte.h"
+
+namespace ombrelia::desktop {
+
+// What a field measures.
+struct MisuraCampo {
+    std::string_view nome;
+    char unita = 0;          // 'g' degrees, 'l' lengths as the box of millimetres says, 'h' hours, 0 none
+    double passo = 0;        // of wheel and arrows; of a length in metres
+    double da = 0, a = 0;    // range, when da < a
+};
+[[nodiscard]] const MisuraCampo *TrovaMisura(std::string_view nome);
+
+// Entered by mouse or key, its whole text is selected.
+class CampoTesto final : public QLineEdit {
+public:
+    CampoTesto(Ponte &ponte, IdControllo id, QWidget *genitore);
+    [[nodiscard]] QString unita() const;
+
+protected:
+    bool event(QEvent *e) override;
+    void mousePressEvent(QMouseEvent *e) override;
+    void mouseReleaseEvent(QMouseEvent *e) override;
+    void contextMenuEvent(QContextMenuEvent *e) override;
+    void dropEvent(QDropEvent *e) override;
+    void wheelEvent(QWheelEvent *e) override;
+    void paintEvent(QPaintEvent *e) override;
+    void keyPressEvent(QKeyEvent *e) override;
+    void focusInEvent(QFocusEvent *e) override;
+    void focusOutEvent(QFocusEvent *e) override;
+
+private:
+    // Puts a text in as its keys would.
+    void immetti(const QString &testo);
+    void cambia();
+    void scatta(int volte);
+    // An angle in minutes becomes a number; the range is told beside the box.
+    void concludi();
+
+    Ponte &ponte_;
+    IdControllo id_;
+    const MisuraCampo *misura_;
+    bool angolo_;
+    bool entrato_ = false;  // by the press of the mouse in hand
+};
+
+}  // namespace ombrelia::desktop

@@ -1,0 +1,209 @@
+// Layers, their looks, and the line under a point.
+#include "desktop/strati.h"
+
+#include <algorithm>
+#include <cmath>
+#include <map>
+
+#include "certificato/istante.h"
+#include "desktop/dialoghi.h"
+
+namespace ombrelia::desktop {
+
+namespace {
+
+struct RigaStrato {
+    std::string_view nome, linea;  // of the layer; of one of its lines, before its value
+    std::uint32_t chiaro, scuro;   // RGB
+};
+constexpr RigaStrato TAVOLA[STRATI] = {
+    {"Ore"_it, "Ora"_it, 0x1f3a5f, 0x9cc2f0},
+    {"Linee diurne"_it, "Linea diurna"_it, 0xb45309, 0xf5b461},
+    {"Equinoziale"_it, "Equinoziale"_it, 0x0f766e, 0x5ad1c4},
+    {"Ore italiche"_it, "Ora italica"_it, 0x6d28d9, 0xc4a5fb},
+    {"Ore babiloniche"_it, "Ora babilonica"_it, 0xbe185d, 0xf48fb8},
+    {"Ore temporarie"_it, "Ora temporaria"_it, 0x4d7c0f, 0xb5d66b},
+    {"Almucantarat"_it, "Altezza"_it, 0x64748b, 0xa3b1c6},
+    {"Azimut"_it, "Azimut"_it, 0x78716c, 0xb8afa6},
+    {"Asr"_it, "Asr"_it, 0x15803d, 0x7fd99a},
+    {"Qibla"_it, "Qibla"_it, 0x15803d, 0x7fd99a},
+    {"Lemniscata"_it, "Lemniscata"_it, 0xa21caf, 0xe69bf0},
+    {"Mezzogiorno"_it, "Mezzogiorno"_it, 0x1f3a5f, 0x9cc2f0},
+    {"Ora della sustilare"_it, "Ora della sustilare"_it, 0x57534e, 0xb8afa6},
+    {"Sustilare"_it, "Sustilare"_it, 0x57534e, 0xb8afa6},
+    {"Orizzonte"_it, "Orizzonte"_it, 0x0c4a6e, 0x7cc4ea},
+    {"Stilo"_it, "Stilo"_it, 0x1c1917, 0xe7e5e4},
+    {"Etichette"_it, "Etichetta"_it, 0x1f2937, 0xd6dce2},
+    {"Cornice e segni"_it, "Cornice"_it, 0x4b5563, 0xaab3bd},
+};
+
+constexpr Colore coloreDi(std::uint32_t rgb) {
+    return static_cast<Colore>(((rgb & 0xFF) << 16) | (rgb & 0xFF00) | ((rgb >> 16) & 0xFF));
+}
+
+// Walks the records in their order with the claim that each belongs to. f(kind, index in its array, claim or null).
+template <class F>
+void percorri(const Lista &l, const F &f) {
+    std::size_t linea = 0, punto = 0, figura = 0, p = 0;
+    for (std::size_t k = 0; k < l.Ordine.size(); ++k) {
+        while (p < l.pretese.size() && k >= l.pretese[p].a) ++p;
+        const Pretesa *mia = p < l.pretese.size() && k >= l.pretese[p].da ? &l.pretese[p] : nullptr;
+        const char tipo = l.Ordine[k];
+        f(tipo, tipo == 'L' ? linea++ : tipo == 'P' ? punto++ : figura++, mia);
+    }
+}
+
+std::pair<std::size_t, double> chiave(const Pretesa *p) {
+    if (!p) return {Strato(Specie::Nessuna), 0};
+    return {Strato(p->specie), p->valore};
+}
+
+double lontano(const QPointF &p, const QPointF &a, const QPointF &b) {
+    const QPointF d = b - a, v = p - a;
+    const double q = QPointF::dotProduct(d, d), t = q > 0 ? std::clamp(QPointF::dotProduct(v, d) / q, 0.0, 1.0) : 0;
+    const QPointF resto = v - t * d;
+    return std::hypot(resto.x(), resto.y());
+}
+
+QString gradi(double x) { return QString::number(std::round(x * 100) / 100, 'g', 6) + QStringLiteral("°"); }
+
+QString oreMinuti(double ore) {
+    const int minuti = static_cast<int>(std::lround(ore * 60));
+    return QStringLiteral("%1:%2").arg(minuti / 60).arg(minuti % 60, 2, 10, QLatin1Char('0'));
+}
+
+}  // namespace
+
+QColor TintaDi(Colore c) { return {c & 0xFF, (c >> 8) & 0xFF, (c >> 16) & 0xFF}; }
+
+StileFoglio StileDi(bool scuro) {
+    StileFoglio s;
+    s.scuro = scuro;
+    for (std::size_t i = 0; i < STRATI; ++i) s.strati[i].colore = coloreDi(scuro ? TAVOLA[i].scuro : TAVOLA[i].chiaro);
+    return s;
+}
+
+bool Ritoccato(const StileFoglio &stile) {
+    return !stile.nascoste.empty() || std::any_of(stile.strati.begin(), stile.strati.end(), [](const StileFoglio::Tratto &t) { return t.nascosto || t.mio || t.spessore > 0; });
+}
+
+Tavolo::Disegno Vesti(const Tavolo &t, const StileFoglio &stile, bool perCarta) {
+    Tavolo::Disegno d = t.CopiaDisegno();
+    const Lista &l = t.lista();
+    d.lista.Linee.clear();
+    d.lista.Punti.clear();
+    d.lista.Ordine.clear();
+    d.lista.pretese.clear();
+    d.lista.Linee.reserve(l.Linee.size());
+    d.lista.Punti.reserve(l.Punti.size());
+    d.lista.Ordine.reserve(l.Ordine.size());
+    constexpr int GROSSA = 3;
+    percorri(l, [&](char tipo, std::size_t k, const Pretesa *p) {
+        const auto chi = chiave(p);
+        const StileFoglio::Tratto &tratto = stile.strati[chi.first];
+        const bool via = tratto.nascosto || (!stile.nascoste.empty() && stile.nascoste.contains(chi));
+        const bool scelta = !perCarta && stile.scelta == chi, tinge = !perCarta || tratto.mio;
+        if (tipo == 'L') {
+            if (via) return;
+            RecLinea r = l.Linee[k];
+            if (tinge) r.colore = tratto.colore;
+            if (tratto.spessore > 0) r.Spessore = tratto.spessore;
+            if (scelta) r.Spessore = GROSSA;
+            d.lista.Linee.push_back(r);
+        } else if (tipo == 'P') {
+            if (via) return;
+            RecPunto r = l.Punti[k];
+            if (tinge) r.colore = tratto.colore;
+            d.lista.Punti.push_back(r);
+        } else if (tinge && k < d.lista.Figure.size()) {
+            d.lista.Figure[k].colore = tratto.colore;
+        }
+        d.lista.Ordine += tipo;
+    });
+    return d;
+}
+
+std::vector<Linea> LineeDi(const Tavolo &t) {
+    const Lista &l = t.lista();
+    std::map<std::pair<std::size_t, double>, Linea> trovate;
+    percorri(l, [&](char tipo, std::size_t k, const Pretesa *p) {
+        const auto chi = chiave(p);
+        Linea &linea = trovate.try_emplace(chi, Linea{chi.first, chi.second, 0, {}}).first->second;
+        if (tipo == 'L') {
+            const RecLinea &r = l.Linee[k];
+            const QPointF a(r.X1 * t.FattoreX, r.Y1 * t.FattoreY), b(r.X2 * t.FattoreX, r.Y2 * t.FattoreY);
+            linea.metri += std::hypot(b.x() - a.x(), b.y() - a.y());
+            const QRectF qui = QRectF(a, b).normalized().adjusted(0, 0, 1e-9, 1e-9);
+            linea.dove = linea.dove.isNull() ? qui : linea.dove.united(qui);
+        } else if (tipo == 'P') {
+            const RecPunto &r = l.Punti[k];
+            const QRectF qui(r.X * t.FattoreX, r.Y * t.FattoreY, 1e-9, 1e-9);
+            linea.dove = linea.dove.isNull() ? qui : linea.dove.united(qui);
+        }
+    });
+    std::vector<Linea> linee;
+    for (auto &[chi, linea] : trovate) linee.push_back(linea);
+    return linee;
+}
+
+std::optional<Linea> LineaSotto(const Tavolo &t, const StileFoglio &stile, const QPointF &punto, double raggio) {
+    const Lista &l = t.lista();
+    double vicino = raggio;
+    std::optional<std::pair<std::size_t, double>> chi;
+    const QPointF qui(punto.x() * t.FattoreX, punto.y() * t.FattoreY);
+    percorri(l, [&](char tipo, std::size_t k, const Pretesa *p) {
+        if (!p || p->specie == Specie::Nessuna || (tipo != 'L' && tipo != 'P')) return;
+        double d = vicino;
+        if (tipo == 'L') {
+            const RecLinea &r = l.Linee[k];
+            if (std::min(r.X1, r.X2) > qui.x() + vicino || std::max(r.X1, r.X2) < qui.x() - vicino || std::min(r.Y1, r.Y2) > qui.y() + vicino ||
+                std::max(r.Y1, r.Y2) < qui.y() - vicino)
+                return;
+            d = lontano(qui, {r.X1, r.Y1}, {r.X2, r.Y2});
+        } else {
+            const RecPunto &r = l.Punti[k];
+            d = std::hypot(r.X - qui.x(), r.Y - qui.y());
+        }
+        if (d >= vicino || stile.strati[Strato(p->specie)].nascosto || stile.nascoste.contains(chiave(p))) return;
+        vicino = d;
+        chi = chiave(p);
+    });
+    if (!chi) return {};
+    return Linea{chi->first, chi->second, 0, {}};
+}
+
+QString NomeStrato(const Sessione &s, std::size_t strato) { return Q(s.Traduci(TAVOLA[strato].nome)); }
+
+QString NomeLinea(const Sessione &s, std::size_t strato, double valore) {
+    const QString nome = Q(s.Traduci(TAVOLA[strato].linea));
+    switch (static_cast<Specie>(strato)) {
+        case Specie::Ora:
+        case Specie::Italica:
+        case Specie::Babilonica:
+        case Specie::Analemma: return nome + QLatin1Char(' ') + oreMinuti(valore);
+        case Specie::Temporaria: return nome + QLatin1Char(' ') + QString::number(valore);
+        case Specie::Diurna:
+        case Specie::Almucantarat:
+        case Specie::Azimut: return nome + QLatin1Char(' ') + gradi(valore);
+        default: return nome;
+    }
+}
+
+QString LetturaDi(const Sessione &s, const QPointF &punto) {
+    const Posa posa = PosaDelDisegno(s);
+    if (!(std::fabs(posa.quadrante.gnomone) > 0)) return {};
+    // The list of a southern dial is its mirror image; the surface's mirror shows it as it is mounted.
+    const double x = punto.x() * s.tavolo.FattoreX * (posa.australe ? -1 : 1), y = -punto.y() * s.tavolo.FattoreY;
+    const LetturaPunto l = LeggiPunto(posa, {x, y}, Oggi(posa.fuso()).anno);
+    if (l.sole.luce != ombra::Luce::Si) return {};
+    const auto t = [&s](std::string_view testo) { return Q(s.Traduci(testo)); };
+    QString testo = t("ora vera"_it) + QLatin1Char(' ') + oreMinuti(l.oraVera);
+    QStringList date;
+    for (const ombra::Data &d : l.date) date << QStringLiteral("%1/%2").arg(d.giorno).arg(d.mese);
+    if (!date.isEmpty()) testo += QStringLiteral("   ") + t("giorni"_it) + QLatin1Char(' ') + date.join(QStringLiteral(", "));
+    testo += QStringLiteral("   δ ") + gradi(l.sole.delta * ombra::GRADI) + QStringLiteral("   ") + t("altezza"_it) + QLatin1Char(' ') + gradi(l.sole.altezza * ombra::GRADI) +
+             QStringLiteral("   ") + t("azimut"_it) + QLatin1Char(' ') + gradi(l.sole.azimut * ombra::GRADI);
+    return testo;
+}
+
+}  // namespace ombrelia::desktop

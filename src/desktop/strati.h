@@ -1,0 +1,66 @@
+// What a drawing is made of as its maker reads it: a layer a kind of line, each with its colour on the screen; and which line
+// lies under a point. Knows no widget.
+#pragma once
+
+#include <QColor>
+#include <QPointF>
+#include <QRectF>
+#include <QString>
+#include <array>
+#include <optional>
+#include <set>
+#include <vector>
+
+#include "sessione/sessione.h"
+
+namespace ombrelia::desktop {
+
+inline constexpr std::size_t STRATI = static_cast<std::size_t>(Specie::Nessuna) + 1;
+[[nodiscard]] constexpr std::size_t Strato(Specie s) { return static_cast<std::size_t>(s); }
+
+// How the sheet looks: paper-white or dark, the colour of each layer, what is hidden, what is chosen.
+struct StileFoglio {
+    struct Tratto {
+        Colore colore = 0;
+        bool nascosto = false;
+        int spessore = 0;  // 0: as drawn
+        bool mio = false;  // the user chose the colour: paper shows it too
+        bool operator==(const Tratto &) const = default;
+    };
+    bool scuro = false;
+    std::array<Tratto, STRATI> strati{};
+    std::set<std::pair<std::size_t, double>> nascoste;           // single lines: layer and value
+    std::optional<std::pair<std::size_t, double>> scelta;        // the chosen line
+    bool operator==(const StileFoglio &) const = default;
+};
+
+// The calm palette: few colours, told apart by the colour-blind too, each at least 3 to 1 against its sheet.
+[[nodiscard]] StileFoglio StileDi(bool scuro);
+[[nodiscard]] QColor TintaDi(Colore colore);
+
+// The drawing as the style shows it: colours of the layers, hidden lines left out. On paper only what the user changed.
+[[nodiscard]] Tavolo::Disegno Vesti(const Tavolo &t, const StileFoglio &stile, bool perCarta);
+// Whether the user changed anything that paper shows.
+[[nodiscard]] bool Ritoccato(const StileFoglio &stile);
+
+// The lines of a drawing: one for each layer and value, with what is drawn of it.
+struct Linea {
+    std::size_t strato = 0;
+    double valore = 0;
+    double metri = 0;  // length
+    QRectF dove;       // world metres, as painted
+};
+[[nodiscard]] std::vector<Linea> LineeDi(const Tavolo &t);
+
+// The line under a point, world metres as painted, within a reach in metres; none when there is none. Frame and glyphs are
+// no lines.
+[[nodiscard]] std::optional<Linea> LineaSotto(const Tavolo &t, const StileFoglio &stile, const QPointF &punto, double raggio);
+
+// Names as people say them, through the dictionary: "Ore", "Ora 9:30", "Linea diurna 23.4°".
+[[nodiscard]] QString NomeStrato(const Sessione &s, std::size_t strato);
+[[nodiscard]] QString NomeLinea(const Sessione &s, std::size_t strato, double valore);
+// What a point of the dial says, read back by vectors: time, dates, Sun; empty where no Sun reads there. World metres as
+// painted.
+[[nodiscard]] QString LetturaDi(const Sessione &s, const QPointF &punto);
+
+}  // namespace ombrelia::desktop

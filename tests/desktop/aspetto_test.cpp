@@ -1,0 +1,288 @@
+// The window as its maker sees it: a dial at once, nothing cut, readable in both themes, in three languages; the sheet tells its
+// lines; fields help; nothing hangs.
+#include <QAbstractButton>
+#include <QAbstractItemModel>
+#include <QAbstractItemView>
+#include <QCompleter>
+#include <QDockWidget>
+#include <QElapsedTimer>
+#include <QGroupBox>
+#include <QLabel>
+#include <QMenu>
+#include <QMenuBar>
+#include <QProgressDialog>
+#include <QRegularExpression>
+#include <QScrollArea>
+#include <QSettings>
+#include <QTimer>
+#include <QTreeWidget>
+#include <QWheelEvent>
+#include <cmath>
+#include <set>
+
+#include "app/lingua.h"
+#include "core/file.h"
+#include "desktop/banco.h"
+#include "desktop/stile.h"
+#include "paint/tinte.h"
+
+namespace ombrelia {
+namespace {
+
+using prova::BancoFinestra;
+
+double luce(const QColor &c) {
+    const auto l = [](double x) { return x <= 0.03928 ? x / 12.92 : std::pow((x + 0.055) / 1.055, 2.4); };
+    return 0.2126 * l(c.redF()) + 0.7152 * l(c.greenF()) + 0.0722 * l(c.blueF());
+}
+double contrasto(const QColor &a, const QColor &b) { return (std::max(luce(a), luce(b)) + 0.05) / (std::min(luce(a), luce(b)) + 0.05); }
+
+TEST(Aspetto, AWholeDialStandsThereAtOnce) {
+    BancoFinestra b;
+    b.f.primoQuadrante();
+    b.aspettaVivo();
+    EXPECT_FALSE(b.s().tavolo.lista().Ordine.empty());
+    EXPECT_FALSE(b.f.modificato());
+    EXPECT_TRUE(b.dialoghi.avvisi.empty());
+    EXPECT_TRUE(b.f.findChild<QLabel *>(QStringLiteral("avvisoCornice"))->isHidden());
+    desktop::Foglio &foglio = b.f.quadro().foglio();
+    EXPECT_TRUE(QRectF(foglio.viewport()->rect()).contains(foglio.vista().foglio(b.s().tavolo)));
+    const QImage i = foglio.viewport()->grab().toImage();
+    std::map<QRgb, int> quanti;
+    for (int y = 0; y < i.height(); ++y)
+        for (int x = 0; x < i.width(); ++x) ++quanti[i.pixel(x, y)];
+    EXPECT_EQ(std::max_element(quanti.begin(), quanti.end(), [](const auto &u, const auto &v) { return u.second < v.second; })->first, qRgb(255, 255, 255));
+    b.vivo()->setChecked(false);
+}
+
+TEST(Aspetto, NothingLeavesTheWindowWhereItIsSmall) {
+    for (const QSize misura : {QSize(1024, 700), QSize(1360, 900)}) {
+        BancoFinestra b;
+        b.f.resize(misura);
+        QTest::qWait(50);
+        EXPECT_LE(b.f.width(), misura.width());
+        EXPECT_LE(b.f.height(), misura.height());
+        for (const QWidget *w : b.f.findChildren<QWidget *>()) {
+            bool scorre = w->isWindow();
+            for (const QWidget *p = w; p && p != &b.f; p = p->parentWidget()) scorre |= p->isWindow() || qobject_cast<const QAbstractScrollArea *>(p) != nullptr;
+            for (const QWidget *p = w; p && p != &b.f; p = p->parentWidget()) scorre |= p->x() + p->width() < 0;  // a tab behind another
+            if (!w->isVisible() || scorre) continue;
+            const QRect r(w->mapTo(&b.f, QPoint(0, 0)), w->size());
+            EXPECT_TRUE(b.f.rect().contains(r)) << misura.width() << ' ' << w->metaObject()->className() << ' ' << w->objectName().toStdString() << ' ' << r.right() << ' ' << r.bottom();
+        }
+        EXPECT_GE(b.f.quadro().foglio().viewport()->width(), 240);
+    }
+}
+
+TEST(Aspetto, TextsAndLinesStandOut) {
+    for (const bool scuro : {false, true}) {
+        desktop::VestiApplicazione(*qApp, scuro ? desktop::Tema::Scuro : desktop::Tema::Chiaro);
+        const desktop::StileFoglio stile = desktop::StileDi(scuro);
+        const auto supporto = scuro ? paint::Supporto::Schermo : paint::Supporto::SchermoChiaro;
+        for (std::size_t k = 0; k < desktop::STRATI; ++k) {
+            EXPECT_GE(contrasto(paint::Inchiostro(stile.strati[k].colore, supporto), paint::Sfondo(supporto)), 3) << k << scuro;
+        }
+        BancoFinestra b;
+        std::size_t misurati = 0;
+        for (QWidget *w : b.f.findChildren<QWidget *>()) {
+            const auto *l = qobject_cast<QLabel *>(w);
+            const auto *p = qobject_cast<QAbstractButton *>(w);
+            const QString testo = l ? l->text() : p ? p->text() : QString();
+            if (!w->isVisible() || !w->isEnabled() || testo.trimmed().size() < 3 || w->visibleRegion().boundingRect().size() != w->size()) continue;
+            const QImage i = b.f.grab(QRect(w->mapTo(&b.f, QPoint(0, 0)), w->size())).toImage();
+            // The ground is what most points show, the text what stands farthest from it.
+            std::map<QRgb, int> quanti;
+            for (int y = 0; y < i.height(); ++y)
+                for (int x = 0; x < i.width(); ++x) ++quanti[i.pixel(x, y)];
+            const QColor fondo = QColor::fromRgb(std::max_element(quanti.begin(), quanti.end(), [](const auto &u, const auto &v) { return u.second < v.second; })->first);
+            double migliore = 1;
+            for (const auto &[c, n] : quanti) migliore = std::max(migliore, contrasto(QColor::fromRgb(c), fondo));
+            EXPECT_GE(migliore, 4.5) << testo.toStdString() << ' ' << scuro;
+            ++misurati;
+        }
+        EXPECT_GT(misurati, 40U);
+    }
+    desktop::VestiApplicazione(*qApp, desktop::Tema::Chiaro);
+}
+
+TEST(Aspetto, TheSheetTellsItsLines) {
+    BancoFinestra b;
+    b.f.primoQuadrante();
+    b.aspettaVivo();
+    b.vivo()->setChecked(false);
+    desktop::Foglio &foglio = b.f.quadro().foglio();
+    const Tavolo &t = b.s().tavolo;
+    // A point of the ten o'clock line, by its claim, in the frame.
+    const Pretesa *dieci = nullptr;
+    for (const Pretesa &p : t.lista().pretese)
+        if (p.specie == Specie::Ora && p.valore == 10) dieci = &p;
+    ASSERT_NE(dieci, nullptr);
+    const RecLinea r = t.lista().Linee[dieci->linea + (dieci->a - dieci->da) / 3];
+    const QPointF mondo((r.X1 + r.X2) / 2, (r.Y1 + r.Y2) / 2);
+    const auto linea = desktop::LineaSotto(t, foglio.stile(), mondo + QPointF(0, foglio.metriAlPunto()), 5 * foglio.metriAlPunto());
+    ASSERT_TRUE(linea);
+    EXPECT_EQ(desktop::NomeLinea(b.s(), linea->strato, linea->valore), QStringLiteral("Ora 10:00"));
+    // The witness reads the same hour there.
+    EXPECT_TRUE(desktop::LetturaDi(b.s(), mondo).contains(QStringLiteral("ora vera 10:00"))) << desktop::LetturaDi(b.s(), mondo).toStdString();
+    QElapsedTimer orologio;
+    orologio.start();
+    constexpr int VOLTE = 20;
+    for (int i = 0; i < VOLTE; ++i) foglio.suSotto(mondo + QPointF(i * 1e-3, 0));
+    std::printf("hover read-out: %.2f ms\n", static_cast<double>(orologio.nsecsElapsed()) / 1e6 / VOLTE);
+    // A press chooses it, a press beside it a tile, one off the sheet nothing.
+    QTest::mouseClick(foglio.viewport(), Qt::LeftButton, Qt::NoModifier, foglio.daMondo(mondo).toPoint());
+    ASSERT_TRUE(foglio.stile().scelta);
+    EXPECT_EQ(*foglio.stile().scelta, (std::pair{desktop::Strato(Specie::Ora), 10.0}));
+    EXPECT_TRUE(t.lista().Aree.empty());
+    QTest::mouseClick(foglio.viewport(), Qt::LeftButton, Qt::NoModifier, QPoint(22, 22));
+    EXPECT_TRUE(t.lista().Aree.empty());
+    // What is hidden is neither seen nor found, nor on paper.
+    auto *strati = b.f.findChild<QDockWidget *>(QStringLiteral("strati"));
+    strati->show();
+    strati->raise();
+    QCoreApplication::processEvents();
+    auto *albero = b.f.findChild<QTreeWidget *>(QStringLiteral("alberoStrati"));
+    ASSERT_GT(albero->topLevelItemCount(), 2);
+    EXPECT_EQ(albero->topLevelItem(0)->text(0), QStringLiteral("Ore"));
+    EXPECT_GT(albero->topLevelItem(0)->text(1).toDouble(), 1000);
+    albero->topLevelItem(0)->setCheckState(0, Qt::Unchecked);
+    EXPECT_FALSE(desktop::LineaSotto(t, foglio.stile(), mondo, 1e-5));
+    Tavolo carta;
+    desktop::VestiFoglio(t, foglio.stile(), true, carta);
+    EXPECT_LT(carta.lista().Linee.size(), t.lista().Linee.size());
+    EXPECT_FALSE(carta.lista().Linee.empty());
+}
+
+TEST(Aspetto, FieldsStepReadAnglesAndTellTheirRange) {
+    BancoFinestra b;
+    auto *lat = b.w<QLineEdit>("txtLAT");
+    b.scrivi("txtLAT", "45°04'13 N");
+    b.w("txtDec")->setFocus();
+    EXPECT_NEAR(std::stod(b.campo("txtLAT")), 45 + 4 / 60.0 + 13 / 3600.0, 1e-6);
+    b.scrivi("txtLonG", "7 41.5 E");
+    b.w("txtDec")->setFocus();
+    EXPECT_NEAR(std::stod(b.campo("txtLonG")), -(7 + 41.5 / 60), 1e-6);
+    b.scrivi("txtInc", "95");
+    b.w("txtDec")->setFocus();
+    EXPECT_TRUE(b.w("txtInc")->property("fuori").toBool());
+    b.scrivi("txtInc", "9");
+    b.w("txtDec")->setFocus();
+    EXPECT_FALSE(b.w("txtInc")->property("fuori").toBool());
+    b.scrivi("txtLAT", "45");
+    QTest::keyClick(lat, Qt::Key_Up);
+    EXPECT_EQ(b.campo("txtLAT"), "45.5");
+    QWheelEvent giu({5, 5}, lat->mapToGlobal(QPointF(5, 5)), {}, {0, -120}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(lat, &giu);
+    EXPECT_EQ(b.campo("txtLAT"), "45");
+    b.spunta("ChCentimetro");
+    b.scrivi("TxtStilo", "200");
+    QTest::keyClick(b.w("TxtStilo"), Qt::Key_Down);
+    EXPECT_EQ(b.campo("TxtStilo"), "195");
+    auto *cerca = b.f.findChild<QLineEdit *>(QStringLiteral("cercaLuogo"));
+    cerca->setFocus();
+    QTest::keyClicks(cerca, QStringLiteral("Bologna"));
+    ASSERT_EQ(cerca->text(), QStringLiteral("Bologna"));
+    ASSERT_GT(cerca->completer()->model()->rowCount(), 0);
+    QTest::keyClick(cerca->completer()->popup(), Qt::Key_Return);
+    EXPECT_NEAR(std::stod(b.campo("txtLAT")), 44.49, 0.05);
+    EXPECT_NEAR(std::stod(b.campo("txtLonG")), -11.34, 0.05);
+    EXPECT_EQ(b.campo("txtMeridiano"), "-15");
+}
+
+TEST(Aspetto, WorkOfAWindowThatDiedIsOffered) {
+    {
+        BancoFinestra b;
+        b.scrivi("txtDec", "6.5");
+        b.dialoghi.risposte = {"ripreso.omb"};
+        b.f.ponte().premi("mnuSalva");
+        b.scrivi("txtDec", "-12.25");
+        // As a window of a process that is no more would have left it.
+        ASSERT_FALSE(ScriviFile("ripreso.omb.ripresa-999999999", app::ScriviProgetto(b.s())));
+    }
+    BancoFinestra b;
+    b.f.apri(QStringLiteral("ripreso.omb"));
+    EXPECT_EQ(b.campo("txtDec"), "6.5");
+    b.f.offriRipresa(b.f.percorso());
+    EXPECT_EQ(b.campo("txtDec"), "-12.25");
+    EXPECT_TRUE(b.f.modificato());
+    EXPECT_TRUE(b.f.windowTitle().startsWith(QStringLiteral("ripreso.omb[*]")));
+    EXPECT_FALSE(QFile::exists(QStringLiteral("ripreso.omb.ripresa-999999999")));
+}
+
+TEST(Aspetto, ALongRunIsStopped) {
+    BancoFinestra b;
+    for (const std::string_view nome : {"chkOreAstronomiche", "Ck_DayLightCurves", "ckAlt"}) b.spunta(nome);
+    b.f.findChild<QAbstractButton *>(QStringLiteral("Adatta"))->click();
+    b.scrivi("txtDensity", ".00002");
+    QTimer ferma;
+    bool visto = false;
+    QObject::connect(&ferma, &QTimer::timeout, [&] {
+        for (QWidget *w : QApplication::topLevelWidgets())
+            if (auto *p = qobject_cast<QProgressDialog *>(w); p && p->isVisible()) {
+                visto = true;
+                p->cancel();
+            }
+    });
+    ferma.start(50);
+    b.premi("cmdRun");
+    if (!visto) GTEST_SKIP() << "too quick here to need stopping";
+    EXPECT_TRUE(b.s().tavolo.lista().Ordine.empty());
+    EXPECT_NE(b.campo("Tavolo1.p_mess").find("Fermato"), std::string::npos);
+}
+
+// --- languages ------------------------------------------------------------------------------------------------------------
+
+std::set<QString> testi(BancoFinestra &b) {
+    for (const char *modulo : {"mnuAusiliaria", "frmDeclin.cmdInfo", "M_about", "mnuAvviso", "cmdData"}) b.f.ponte().premi(modulo);  // forms are translated when they open
+    for (const Modulo &m : TavolaModuli()) app::CaricaForm(b.s(), m.nome);
+    b.f.ponte().sincronizza();
+    QWidget &f = b.f;
+    std::set<QString> t;
+    const auto prendi = [&t](const QString &x) {
+        QString s = x;
+        s.remove(QLatin1Char('&'));
+        s = s.simplified();
+        static const QRegularExpression parola(QStringLiteral("[a-zà-ù]{3}"));
+        if (s.contains(parola)) t.insert(s);
+    };
+    const auto oggetto = [&](QObject *o) {
+        if (const auto *w = qobject_cast<QWidget *>(o)) {
+            prendi(w->toolTip());
+            prendi(w->accessibleName());
+        }
+        if (const auto *l = qobject_cast<QLabel *>(o)) prendi(l->text());
+        if (const auto *b = qobject_cast<QAbstractButton *>(o)) prendi(b->text());
+        if (const auto *a = qobject_cast<QAction *>(o)) prendi(a->text());
+        if (const auto *m = qobject_cast<QMenu *>(o)) prendi(m->title());
+        if (const auto *g = qobject_cast<QGroupBox *>(o)) prendi(g->title());
+        if (const auto *d = qobject_cast<QDockWidget *>(o)) prendi(d->windowTitle());
+        if (const auto *e = qobject_cast<QLineEdit *>(o)) prendi(e->placeholderText());
+    };
+    oggetto(&f);
+    for (QObject *o : f.findChildren<QObject *>()) oggetto(o);
+    return t;
+}
+
+TEST(Aspetto, NoTextStaysItalian) {
+    std::set<QString> italiani;
+    {
+        BancoFinestra b;
+        italiani = testi(b);
+    }
+    ASSERT_GT(italiani.size(), 150U);
+    for (const char *lingua : {"DBIngleseC2008.txt", "DBFranceseC2008.txt"}) {
+        QFile::remove(QStringLiteral("DBC2008.txt"));
+        ASSERT_TRUE(QFile::copy(QStringLiteral(OMBRELIA_RADICE "/data/") + QString::fromLatin1(lingua), QStringLiteral("DBC2008.txt")));
+        BancoFinestra b;
+        // What the dictionaries keep as it is.
+        std::set<QString> tenuti;
+        for (const auto &[da, a] : b.s().dizionario.Voci())
+            if (QString d = desktop::Q(da).remove(QLatin1Char('&')).simplified(); d.compare(desktop::Q(a).remove(QLatin1Char('&')).simplified(), Qt::CaseInsensitive) == 0) tenuti.insert(d);
+        for (const QString &t : testi(b))
+            if (italiani.contains(t) && !tenuti.contains(t)) ADD_FAILURE() << lingua << ": " << t.toStdString();
+    }
+    QFile::remove(QStringLiteral("DBC2008.txt"));
+}
+
+}  // namespace
+}  // namespace ombrelia

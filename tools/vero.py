@@ -1,7 +1,7 @@
 #!/usr/bin/python3
 """Holds the corrected lines against vectors: draws dials by action scripts and reads every record back.
 
-    tools/vero.py build/ombrelia [planes an engine] [seed] [--mm] [--letter] [-v]
+    tools/vero.py build/ombrelia [planes an engine] [seed] [--engine=NAME] [--mm] [--letter] [-v]
 
 A separate calculation: site and plane as vectors east, north, up; nothing of the program's sources is used. For each
 engine and kind of line: rows, worst departure in mm, least share drawn of what can be seen inside the frame, most missing
@@ -103,7 +103,7 @@ def analemma(D, lon, meridian):
     def f(u):
         d, e = sun_of(u + (12 + meridian / 15) / 24)
         return D.sun((e / 4 - (lon - meridian)) * R, d)
-    return f, np.linspace(0, 365.2422, 4001)
+    return f, np.linspace(0, 365.2422, 12001)
 
 def frange(a, b, s):
     out, x = [], a
@@ -181,7 +181,7 @@ def run(exe, p, engine, boxes, sets, letter):
             elif f[0] == 'P': out.append(('P', (float(f[1]), float(f[2])), f[4], int(f[3]), 0, False))
         return out
 
-def judge(D, p, recs, curves):
+def judge(D, p, name, recs, curves, t0):
     """worst mm, least share drawn, most missing mm of a line, superfluous share, doubles share"""
     m = -1 if p['lat'] < 0 else 1
     inside = lambda x, y, e: (m * x >= p['x0'] - e) & (m * x <= p['x1'] + e) & (y >= p['y1'] - e) & (y <= p['y0'] + e)
@@ -204,10 +204,16 @@ def judge(D, p, recs, curves):
         bad = (s[:, 2] < -1e-6) | (np.abs(d) > 23.451 * R) | ~inside(P[:, 0], P[:, 1], 1e-4)
         res['over'] = float(W[bad].sum() / max(W.sum(), 1e-12))
         pick = np.random.default_rng(1).choice(len(P), min(len(P), 1500), replace=False); Q = P[pick]
-        best = np.full(len(Q), np.inf)
-        for f, u, x, y, ok, full in segs:
-            i = np.flatnonzero(full)
-            if len(i): best = np.minimum(best, dist(D, Q, f, u, x, y, i))
+        if name == 'analemma':
+            best = np.full(len(Q), np.inf)
+            for f, u, x, y, ok, full in segs:
+                i = np.flatnonzero(full)
+                if len(i): best = np.minimum(best, dist(D, Q[:300], f, u, x, y, i).max())
+        else:
+            if name in ('qibla',): claims = [bearing(p['lat'], p['lon'], 21.42527, -39.81638) * R]
+            elif name == 'substyle hour': claims = [math.atan2(D.n @ np.array([-1.0, 0, 0]), D.n @ D.meridian)]
+            else: claims = [claim(name, v, t0) for v in curves]
+            best = residual(D, name, Q, claims)
         res['worst'] = float(np.where(np.isfinite(best), best, 1).max() * 1000)
     tot = miss = 0.0
     for f, u, x, y, ok, full in segs:
@@ -221,19 +227,41 @@ def judge(D, p, recs, curves):
     res['share'] = 1 - miss / tot if tot > 1e-4 else 1.0
     return res
 
+def turn(a): return (a + math.pi) % (2 * math.pi) - math.pi
+def read(D, name, P):
+    """What a point of the plane says of a kind of line: radians, or hours turned into radians."""
+    s, t, d = D.back(P[:, 0], P[:, 1])
+    h = semiarc(D.lat, d)
+    with np.errstate(all='ignore'):
+        return {'hours': t, 'substyle hour': t, 'days': d, 'equinox': d, 'italic': t - h, 'babylonian': t + h, 'temporary': t / h * math.pi / 2,
+                'altitudes': np.arcsin(s[:, 2]), 'azimuths': np.arctan2(-s[:, 0], -s[:, 1]), 'qibla': np.arctan2(-s[:, 0], -s[:, 1]),
+                'asr': np.arcsin(s[:, 2]) - np.arctan2(1, 1 + np.tan(np.abs(D.lat * R - d)))}[name]
+def residual(D, name, P, claims):
+    """Metres from the nearest claimed line: what is read less what is claimed, over the gradient of the reading."""
+    e = 1e-7
+    v = read(D, name, P); g = []
+    for k in (0, 1):
+        step = np.zeros(2); step[k] = e
+        g.append(np.fmin(np.abs(turn(read(D, name, P + step) - v)), np.abs(turn(v - read(D, name, P - step)))) / e)
+    off = np.min(np.abs(turn(v[:, None] - np.array(claims)[None, :])), axis=1)
+    return off / np.maximum(np.hypot(*g), 1e-9)
+def claim(name, value, t0):
+    if name == 'hours': return (value - 12) * 15 * R - t0
+    if name in ('days', 'altitudes', 'azimuths'): return value * R
+    if name == 'italic': return -(24 - value) * 15 * R
+    if name == 'babylonian': return value * 15 * R
+    if name == 'temporary': return (value / 6 - 1) * math.pi / 2
+    return 0.0
+
 def dist(D, P, f, u, x, y, i):
-    """Distance of points to a curve: from the nearest of some samples, by Newton's way along the parameter."""
-    co = i[::max(1, len(i) // 1000)]
-    c = co[np.hypot(P[:, 0][:, None] - x[co], P[:, 1][:, None] - y[co]).argmin(1)]
-    v, step = u[c].copy(), u[1] - u[0]
-    best = np.hypot(P[:, 0] - x[c], P[:, 1] - y[c])
-    for _ in range(12):
-        h = step * 1e-3
-        with np.errstate(all='ignore'):
-            ax, ay = D.point(f(v)); bx, by = D.point(f(v + h)); zx, zy = D.point(f(v - h))
-            dx, dy = np.where(np.isfinite(bx), bx - ax, ax - zx) / h, np.where(np.isfinite(by), by - ay, ay - zy) / h
-            best = np.fmin(best, np.hypot(P[:, 0] - ax, P[:, 1] - ay))
-            v = np.clip(v + np.nan_to_num(np.clip(((P[:, 0] - ax) * dx + (P[:, 1] - ay) * dy) / (dx * dx + dy * dy), -30 * step, 30 * step)), u[0], u[-1])
+    """Distance of points to a curve by the nearest of many samples' chords."""
+    best = np.full(len(P), np.inf)
+    ok = np.diff(i) == 1; j = i[:-1][ok]
+    for k in range(len(P)):
+        ax, ay, bx, by = x[j], y[j], x[j + 1], y[j + 1]
+        dx, dy = bx - ax, by - ay; l2 = np.maximum(dx * dx + dy * dy, 1e-30)
+        w = np.clip(((P[k, 0] - ax) * dx + (P[k, 1] - ay) * dy) / l2, 0, 1)
+        best[k] = np.hypot(P[k, 0] - ax - w * dx, P[k, 1] - ay - w * dy).min() if len(j) else np.inf
     return best
 
 def cover(q, P, r=0.0005):
@@ -250,7 +278,8 @@ def main():
     exe = args[0]; n = int(args[1]) if len(args) > 1 else 20; seed = int(args[2]) if len(args) > 2 else 1
     mm, letter, verbose = '--mm' in sys.argv, '--letter' in sys.argv, '-v' in sys.argv
     rnd = random.Random(seed); table = {}
-    for engine in ('direct', 'vertical', 'analytic'):
+    only = [a[9:] for a in sys.argv if a.startswith('--engine=')]
+    for engine in only or ('direct', 'vertical', 'analytic'):
         for k in range(n):
             lat = rnd.choice([45.07, 51.5, 0, 10, -33.87, 69.6, 90, 23, 64, -5]) if rnd.random() < .5 else rnd.uniform(-66, 75)
             if engine != 'direct': lat = abs(lat)
@@ -262,7 +291,7 @@ def main():
             D = Dial(lat, dec if lat >= 0 else 180 - dec, inc, p['gn'])
             for name, (boxes, sets, keep, curves) in features(engine, D, p).items():
                 recs = [r for r in run(exe, p, engine, boxes, sets, letter) if keep(r)]
-                r = judge(D, p, recs, curves)
+                r = judge(D, p, name, recs, curves, (p['lon'] - p['mer']) * R if p['etna'] else 0)
                 t = table.setdefault((engine, name), [0, 0.0, 1.0, 0.0, 0.0])
                 t[0] += 1; t[1] = max(t[1], r['worst']); t[2] = min(t[2], r['share']); t[3] = max(t[3], r['missing']); t[4] = max(t[4], r['over'])
                 if verbose and (r['worst'] > .05 or r['share'] < .98 or r['missing'] > 1 or r['over'] > .005):

@@ -101,9 +101,9 @@ void cmdRun(Sessione &s) {
         if (!s.australeMontato) s.utente.Box(s.Traduci("A grafico ottenuto usare il tasto InvertX"));
         s.Scrivi(&DialInputs::txtLAT, TestoNumero((-lat).v));
         direct::I_Graf_diretta(s);
-        if (!s.australeMontato) return;
-        s.Scrivi(&DialInputs::txtLAT, scritta);
-        monta(s);
+        // The next press of a corrected dial is the same dial too.
+        if (s.australeMontato || s.in.ckCorretta == 1) s.Scrivi(&DialInputs::txtLAT, scritta);
+        if (s.australeMontato) monta(s);
     } else if (Val(s.in.txtInc) == 0 && s.in.CkUNI == 1) {
         vertical::Piana_Esegui(s);
     } else {

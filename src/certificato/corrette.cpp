@@ -133,11 +133,23 @@ void stagionali(const Disegno &d) {
 
 // --- days ------------------------------------------------------------------------------------------------------------
 
+// Whether the day of choice is one of those that are drawn beside it.
+bool giaDelleAltre(const Disegno &d, const LineaAttesa &l) {
+    const DialInputs &in = d.s.in;
+    const bool muro = d.attesa.motore == Motore::Verticale && l.strato == "Diurna opzionale";
+    const bool analitica = d.attesa.motore == Motore::Analitica && d.attesa.linee.size() == 2 && in.Ck_DayLightCurves == 1;
+    if (!muro && !analitica) return false;
+    const double v = std::fabs(l.valore);
+    if (std::fabs(v - SOLSTIZIO_GRADI) < 0.006) return true;
+    return (analitica || in.ckFunzione != 1) && (std::fabs(v - 20) < 0.006 || std::fabs(v - 11.5) < 0.006);
+}
+
 void giorni(const Disegno &d) {
     std::vector<double> fatti;
     const DialInputs &in = d.s.in;
     if (d.attesa.specie == Specie::Diurna && in.ck_Equinoziale == 1) fatti.push_back(0);
     for (const LineaAttesa &l : d.attesa.linee) {
+        if (giaDelleAltre(d, l)) continue;
         // A southern run of the direct engine would draw each on the layer of the opposite one, but for the chosen day.
         const bool opposta = d.attesa.motore == Motore::Diretta && d.scena.posa().australe && l.strato.starts_with("delta ");
         const double gradi = opposta ? -l.valore : l.valore;
@@ -156,6 +168,7 @@ void almucantarat(const Disegno &d) {
     for (const LineaAttesa &l : d.attesa.linee) {
         if (std::find(fatte.begin(), fatte.end(), l.valore) != fatte.end()) continue;  // morning and afternoon are one
         fatte.push_back(l.valore);
+        if (!(l.valore < 90)) continue;  // the zenith is a point
         const double h = l.valore * RAD;
         d.percorso(l, Specie::Almucantarat, l.valore, [&piano, h](double a) -> std::optional<Vettore> {
             return std::sin(h) * piano.zenit() + std::cos(h) * (std::cos(a) * piano.sud() + std::sin(a) * Vettore{0, 1, 0});
@@ -351,6 +364,8 @@ bool aPunti(const Sessione &s, const Attesa &a) {
 }
 
 }  // namespace
+
+bool CadeOmbra(const Sessione &s, double t, double delta) { return Scena(s).illuminato(ombra::Piano::sole(t, delta)); }
 
 bool TracciaVera(Sessione &s, const Attesa &attesa) {
     const Disegno d{s, attesa, Scena(s), s.in.ck_Etna == 1, aPunti(s, attesa)};

@@ -10,4 +10,7 @@ namespace ombrelia {
 // vectors alone. False for a feature that is left to the engine.
 bool TracciaVera(Sessione &s, const Attesa &attesa);
 
+// Whether the Sun of an hour angle and a declination, radians, throws a shadow on the dial that a run would draw.
+bool CadeOmbra(const Sessione &s, double t, double delta);
+
 }  // namespace ombrelia

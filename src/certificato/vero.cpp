@@ -24,6 +24,9 @@ constexpr double MARGINE = 1e-9;
 }  // namespace
 
 Scena::Scena(const Sessione &s) : posa_(PosaDelDisegno(s)), piano_(posa_.quadrante), verso_(posa_.australe ? -1 : 1) {
+    // An equivalent dial's field of longitude holds its difference too, and stays on the zone's where local hours were
+    // asked for.
+    longitudine_ = s.v.flagVerticale == 1 ? campo(s.in.txtLonG, ombra::RADIANTI) + s.v.diffLong.numero() : posa_.longitudine;
     const double u = posa_.unita;
     xMin = campo(s.in.txtX0, u);
     xMax = campo(s.in.txtX1, u);
@@ -41,7 +44,7 @@ Scena::Scena(const Sessione &s) : posa_(PosaDelDisegno(s)), piano_(posa_.quadran
 }
 
 double Scena::angolo(double ora, bool fuso) const {
-    return (ora - 12) * 15 * ombra::RADIANTI - (fuso ? posa_.longitudine - posa_.meridiano : 0);
+    return (ora - 12) * 15 * ombra::RADIANTI - (fuso ? longitudine_ - posa_.meridiano : 0);
 }
 
 double Scena::semiarcoMassimo() const {

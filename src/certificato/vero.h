@@ -55,6 +55,7 @@ private:
     Posa posa_;
     ombra::Piano piano_;
     double verso_ = 1;
+    double longitudine_ = 0;  // that the hours count from, radians
     std::array<ombra::Vettore, FACCE> facce_{};
 };
 

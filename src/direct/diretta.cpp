@@ -83,7 +83,10 @@ void lineeCornice(Corsa &corsa) {
 
 // --- the table of features ------------------------------------------------------------------------------------------
 
-void cornice(Corsa &c) { TracciaCornice(c.s, c.letto); }
+// Once more under hours and days; a corrected dial has one frame.
+void cornice(Corsa &c) {
+    if (c.s.in.ckCorretta != 1) TracciaCornice(c.s, c.letto);
+}
 
 // One line, with no counter of its own.
 template <int colore>
@@ -137,7 +140,8 @@ constexpr Riga ORIZZONTE[] = {
 };
 // After the caption the horizon comes once more, on a level plane too.
 constexpr Riga ORIZZONTE_DI_NUOVO[] = {
-    {&In::ck_Orizzonte, Specie::Orizzonte, "the horizon again", unaLinea<14>, rettaOrizzonte},
+    {&In::ck_Orizzonte, Specie::Orizzonte, "the horizon again", unaLinea<14>, rettaOrizzonte,
+     [](const Corsa &c) { return c.s.in.ckCorretta != 1; }},
 };
 // Behind the frame; the lines appear once a request.
 constexpr Riga ULTIME[] = {

@@ -63,13 +63,14 @@ void posiziona(Sessione &s, bool romani) {
     v.decGradi = letto.dec;
     v.meridiano = letto.meridiano;
     // Degrees, where the vertical engine keeps radians, and east of 15 West alone: meant. Other zones count as they must.
-    v.angOraLong = AltroMeridiano(v) ? DalMeridiano(letto.lon, v.meridiano) : 15 - Abs(letto.lon);
+    v.angOraLong = AltroMeridiano(v) || s.in.ckCorretta == 1 ? DalMeridiano(letto.lon, v.meridiano) : 15 - Abs(letto.lon);
     PuntoParete p;
     Reale D, H;
     for (const double V : Conteggio(-90, 90, 15)) {
         v.deltaOpz = letto.delta;
         D = PI * v.deltaOpz / 180;
         H = PI * (V - v.angOraLong * v.oraFuso) / 180;
+        if (s.senzaLuce(H, D)) continue;
         p.azimut(v, H, D);
         if (p.quadranteErrato(H)) p.A = p.A + PI;  // always plus, unlike the signs of the zodiac
         if (v.segnoLatPiana == -1 && p.A == 0 && H == 0) p.A = PI;

@@ -36,7 +36,8 @@ void PuntoOpzionale(Sessione &s) {
     s.Messaggio(s.Traduci("Optional position"));
     (void)LeggiCornice(s);  // for unita
     v.deltaOpz = Val(in.txtDelta);
-    const Reale H = PI * (Val(in.txtAO) - Val(in.txtLonG)) / 180;
+    // The hour angle is the site's own already: with true lines the longitude is not taken once more.
+    const Reale H = PI * (in.ckCorretta == 1 ? Val(in.txtAO) : Val(in.txtAO) - Val(in.txtLonG)) / 180;
     const Reale D = PI * v.deltaOpz / 180;
     const double zr = LeggiPiano(s);
     v.gn = Val(in.TxtStilo);

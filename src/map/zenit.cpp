@@ -25,7 +25,7 @@ Zenit::Zenit(Sessione &s, double zr, Valore gn)
     : senPhi_(std::sin(s.v.latR.numero())),
       cosPhi_(std::cos(s.v.latR.numero())),
       proiezione_(s.v.latR, s.v.decR, zr, s.v.gn = gn, 1),
-      fattore_(s.in.ck_inv == 1 ? -1 : 1),
+      fattore_(s.in.ck_inv == 1 || s.in.ckCorretta == 1 ? -1 : 1),
       orizzontale_(Val(s.in.txtInc) == 90),
       tanDec_(std::tan(s.v.decR.numero())),
       divisore_(std::tan(zr) * std::cos(s.v.decR.numero())),

@@ -54,6 +54,8 @@ struct Sessione {
 
     // Draws true lines in place of an engine's own while ckCorretta is set; absent where nobody does.
     Correzione suCorretta;
+    // Whether a Sun of that hour angle and declination, radians, throws a shadow on the dial, where ckCorretta is set.
+    std::function<bool(const Sessione &, double t, double delta)> suLuce;
     // Change handlers of fields that an engine rewrites; set by the application above.
     std::function<void(Sessione &, std::string DialInputs::*)> suCambio;
     // What needs a toolkit; absent without one. The sheet to the printer, whole or its selected tiles; the sheet's picture
@@ -62,6 +64,8 @@ struct Sessione {
     std::function<std::string(Sessione &)> suImmagine;
 
     // Whether somebody else drew these lines, true ones, in place of the engine's.
+    // Whether a numeral there would stand where no shadow ever falls.
+    [[nodiscard]] bool senzaLuce(Valore t, Valore delta) const { return in.ckCorretta == 1 && suLuce && !suLuce(*this, t.v, delta.v); }
     [[nodiscard]] bool corretta(const Attesa &attesa) { return in.ckCorretta == 1 && suCorretta && suCorretta(*this, attesa); }
     [[nodiscard]] std::string Traduci(std::string_view testo) const { return dizionario.Traduci(testo); }
     void Messaggio(std::string_view testo) { tavolo.Messaggio(testo); }

@@ -84,6 +84,7 @@ void PosizionaNumeriOrari(Corsa &c, const LineeAttese &linee) {
     Reale x, y;
     for (const LineaAttesa &l : linee) {
         const Orario ora = OraOrologio(v, l.parametro);
+        if (s.senzaLuce(ora.Hr, PI * v.deltaOpz / 180)) continue;
         sfera.azimut(ora, giorno);
         // Always plus here.
         if (sfera.quadranteErrato(ora)) sfera.A = sfera.A + PI;

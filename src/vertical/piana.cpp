@@ -167,7 +167,8 @@ constexpr Riga ORIZZONTE_DI_NUOVO[] = {
          const Variabili &v = c.s.v;
          const Pretendi pretendi(c.s.tavolo, Specie::Orizzonte);
          c.s.tavolo.xLine(-v.semiL, -v.yOriz, v.semiL, -v.yOriz, linee[0].colore);
-     }},
+     },
+     [](const Corsa &c) { return c.s.in.ckCorretta != 1; }},
 };
 
 // After the caption.

@@ -4,7 +4,7 @@
     tools/vero.py build/ombrelia [planes an engine] [seed] [--engine=NAME] [--mm] [--letter] [-v]
 
 A separate calculation: site and plane as vectors east, north, up; nothing of the program's sources is used. For each
-engine and kind of line: rows, worst departure in mm, least share drawn of what can be seen inside the frame, most missing
+engine and kind of line (the analemma within the half millimetre that this check's own Sun is good for): rows, worst departure in mm, least share drawn of what can be seen inside the frame, most missing
 mm, greatest share drawn where no shadow falls. --letter leaves the box of the corrected geometry clear. Needs numpy.
 """
 import math, random, subprocess, sys, tempfile, os
@@ -273,6 +273,20 @@ def cover(q, P, r=0.0005):
     near = {(a + i, b + j) for a, b in have for i in (-1, 0, 1) for j in (-1, 0, 1)}
     return np.array([tuple(k) in near for k in np.floor(q / r).astype(int)], bool)
 
+def triangle(D, recs, south):
+    """The folded triangle of the direct engine: mm from the centre, the square at the foot and the gnomon's length."""
+    seg = {r[2]: np.array([[r[1][0], -r[1][1]], [r[1][2], -r[1][3]]]) for r in recs if r[2] in ('polar style', 'pillar', 'substyle')}
+    if 'pillar' not in seg: return 1000.0
+    tip = max(seg['pillar'], key=lambda q: np.hypot(*q))
+    bad = abs(np.hypot(*tip) - D.gn)
+    cx, cy = D.point(D.pole[None, :]); c = np.array([(-cx[0] if south else cx[0]), cy[0]])
+    if np.hypot(*c) < 90:
+        for name in ('polar style', 'substyle'):
+            if name not in seg: return 1000.0
+            bad = max(bad, min(np.hypot(*(q - c)) for q in seg[name]))
+        if np.hypot(*c) > 1e-6: bad = max(bad, abs(tip @ c) / np.hypot(*c))
+    return float(bad * 1000)
+
 def main():
     args = [a for a in sys.argv[1:] if not a.startswith('-')]
     exe = args[0]; n = int(args[1]) if len(args) > 1 else 20; seed = int(args[2]) if len(args) > 2 else 1
@@ -289,6 +303,9 @@ def main():
                      delta=rnd.choice([OBL, 5, -17]), x0=-rnd.uniform(.1, .6), x1=rnd.uniform(.1, .6), y0=rnd.uniform(.05, .5), y1=-rnd.uniform(.1, .6))
             if abs(inc) == 90: dec = p['dec'] = 0
             D = Dial(lat, dec if lat >= 0 else 180 - dec, inc, p['gn'])
+            if engine == 'direct' and abs(D.pole @ D.n) > 1e-6:
+                t = table.setdefault((engine, 'triangle'), [0, 0.0, 1.0, 0.0, 0.0])
+                t[0] += 1; t[1] = max(t[1], triangle(D, run(exe, p, engine, ['ck_Triangolo'], [], letter), lat < 0))
             for name, (boxes, sets, keep, curves) in features(engine, D, p).items():
                 recs = [r for r in run(exe, p, engine, boxes, sets, letter) if keep(r)]
                 r = judge(D, p, name, recs, curves, (p['lon'] - p['mer']) * R if p['etna'] else 0)
@@ -299,7 +316,7 @@ def main():
     print('%-9s %-14s %5s %12s %9s %11s %12s' % ('engine', 'kind', 'dials', 'worst mm', 'drawn', 'missing mm', 'superfluous'))
     fail = 0
     for (e, k), t in table.items():
-        ok = t[1] <= .05 and t[2] >= .98 and t[4] <= .005; fail += not ok
+        ok = t[1] <= (.5 if k == 'analemma' else .05) and t[2] >= .98 and t[4] <= .005; fail += not ok
         print('%-9s %-14s %5d %12.4f %8.2f%% %11.2f %11.2f%% %s' % (e, k, t[0], t[1], 100 * t[2], t[3], 100 * t[4], '' if ok else '<--'))
     sys.exit(fail != 0)
 

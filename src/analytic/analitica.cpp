@@ -2,6 +2,7 @@
 #include "analytic/analitica.h"
 
 #include "analytic/corsa.h"
+#include "gnomonica/contorno.h"
 #include "gnomonica/originale.h"
 #include "sessione/limiti.h"
 
@@ -82,11 +83,8 @@ void EseguiGraficaAnalitica(Sessione &s) {
     s.utente.Puntatore(true);
     v.semiL = t.ShiftX();
     v.semiH = t.ShiftY();
-    if (in.ckAssi == 1) {
-        t.xLine(-v.semiL, 0, v.semiL, 0, QB(15));
-        t.xLine(0, -2 * v.semiH, 0, 2 * v.semiH, QB(15));  // only this one doubled: meant
-    }
-    v.unita = in.ChCentimetro == 1 ? 0.001 : 1.0;
+    TracciaAssi(s);
+    v.unita = c.letto.unita;
     CalcolaAngoliAnalitici(s);
     Percorri(c, Motore::Analitica, CARATTERISTICHE);
     TracciaCornice(s, c.letto);

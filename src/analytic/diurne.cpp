@@ -124,14 +124,15 @@ void TracciaLineeDiurneAnalitiche(Corsa &c, const LineeAttese &) {
     const Variabili &v = c.s.v;
     Tavolo &tavolo = c.s.tavolo;
     // Not the 23.445 of the horizon: meant.
-    const Valore m2345 = QuadratoCotangente(23.45), m20 = QuadratoCotangente(20), m115 = QuadratoCotangente(11.5);
+    const Valore m2345 = QuadratoCotangente(OBLIQUITA_2345), m20 = QuadratoCotangente(DELTA_SEGNI),
+                 m115 = QuadratoCotangente(DELTA_SEGNI_VICINI);
     if (v.lat != 0) {
-        std::array linee{Diurna(v, m2345, 23.445, 15), Diurna(v, m20, 20, 14), Diurna(v, m115, 11.5, 13)};
+        std::array linee{Diurna(v, m2345, OBLIQUITA, 15), Diurna(v, m20, DELTA_SEGNI, 14), Diurna(v, m115, DELTA_SEGNI_VICINI, 13)};
         for (const double x : Conteggio(-1, 1, v.passo))
             for (Diurna &linea : linee) linea.punto(tavolo, x);
     } else if (!paralleloAlPolo(v)) {
         const Equatore equatore(v);
-        DiurnaEquatore d2345(v, m2345, 23.445, 2), d20(v, m20, 20, 3), d115(v, m115, 11.5, 4);
+        DiurnaEquatore d2345(v, m2345, OBLIQUITA, 2), d20(v, m20, DELTA_SEGNI, 3), d115(v, m115, DELTA_SEGNI_VICINI, 4);
         for (const double x : Equatore::ascisse()) {
             // Each line only where those nearer the equinox exist; the innermost is drawn first.
             if (!equatore.esiste(d115, x)) continue;

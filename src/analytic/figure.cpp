@@ -1,6 +1,7 @@
 // Straight figures of the analytic engine: hour lines, substyle, equinoctial and the style triangle laid flat.
 #include "analytic/corsa.h"
 #include "core/conteggio.h"
+#include "gnomonica/declinazioni.h"
 
 namespace ombrelia::analytic {
 
@@ -12,7 +13,7 @@ constexpr int SPESSORE = 1;
 void oreParallele(Corsa &c, IdNome strato) {
     Variabili &v = c.s.v;
     const Cornice &limiti = c.cornice;
-    const Valore tanSolstizio = tan(Radianti(23.45));  // not the 23.445 of the horizon: meant
+    const Valore tanSolstizio = tan(Radianti(OBLIQUITA_2345));  // not the 23.445 of the horizon: meant
     const Valore m2 = 1 / (tanSolstizio * tanSolstizio), radice = Sqr(m2);
     Reale x2, y2;
     for (const double h : Conteggio(-75, 75, 15 / v.fraz)) {

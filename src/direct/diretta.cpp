@@ -4,6 +4,7 @@
 #include "direct/corsa.h"
 #include "glyphs/zodiaco.h"
 #include "gnomonica/almucantarat.h"
+#include "gnomonica/contorno.h"
 #include "gnomonica/longitudine.h"
 #include "gnomonica/originale.h"
 #include "sessione/limiti.h"
@@ -12,17 +13,12 @@ namespace ombrelia::direct {
 
 namespace {
 
-// Noon altitude at a solstice, degrees. The two near-equal declinations in one formula are meant.
-Valore altezzaMezzogiorno(Valore latR, double primo, double secondo) {
-    return ArcSin(sin(latR) * sin(PI * primo / 180.0) + cos(latR) * cos(PI * secondo / 180.0)) * 180 / PI;
-}
-
 void didascalia(Corsa &c, Valore seno, Valore q) {
     Sessione &s = c.s;
     const Variabili &v = s.v;
     const std::string_view misura = TestoUnita(s);
-    const Reale estate = altezzaMezzogiorno(v.latR, 23.445, 23.45);
-    const Reale inverno = altezzaMezzogiorno(v.latR, -23.445, -23.45);
+    const Reale estate = AltezzaSolstizio(v.latR, 1);
+    const Reale inverno = AltezzaSolstizio(v.latR, -1);
     const struct {
         std::string_view etichetta;
         Valore valore;
@@ -60,25 +56,6 @@ void rettaOrizzonte(Corsa &c, const LineeAttese &linee) {
     const double l = c.s.tavolo.ShiftX();
     const Pretendi pretendi(c.s.tavolo, Specie::Orizzonte);
     c.s.tavolo.xLine(-l, -y, l, -y, linee[0].colore);
-}
-
-void lineeCornice(Corsa &corsa) {
-    Sessione &s = corsa.s;
-    Tavolo &t = s.tavolo;
-    Variabili &v = s.v;
-    const Cornice &c = corsa.cornice;
-    const double l = t.ShiftX(), h = t.ShiftY();
-    t.xLine(-l, -c.yMax, l, -c.yMax, QB(12));
-    t.xLine(-l, -c.yMin, l, -c.yMin, QB(4));
-    t.xLine(c.xMin, -h, c.xMin, 2.0 * h, QB(12));
-    t.xLine(c.xMax, -h, c.xMax, 2.0 * h, QB(4));
-    v.x1 = c.xMin;
-    v.y1 = c.yMax;
-    TracciaCornice(s, corsa.letto);
-    s.Dati(Frase() << c.xMin / v.unita, c.xMin, 0);
-    s.Dati(Frase() << c.xMax / v.unita, c.xMax, 0);
-    s.Dati(Frase() << c.yMax / v.unita, 0, -c.yMax);
-    s.Dati(Frase() << c.yMin / v.unita, 0, -c.yMin);
 }
 
 // --- the table of features ------------------------------------------------------------------------------------------
@@ -212,10 +189,7 @@ void I_Graf_diretta(Sessione &s) {
     }
     v.origineX = t.ShiftX();
     v.origineY = t.ShiftY();
-    if (s.in.ckAssi == 1) {
-        t.xLine(-t.ShiftX(), 0, t.ShiftX(), 0, QB(15));
-        t.xLine(0, -2 * t.ShiftY(), 0, 2 * t.ShiftY(), QB(15));
-    }
+    TracciaAssi(s);
     if (v.iz_o != PI / 2.0) {
         v.yOriz = v.gn * tan(v.iz_o);
         s.Scrivi(&DialInputs::txtOriz, TestoNumero(v.yOriz.numero()));
@@ -246,7 +220,9 @@ void I_Graf_diretta(Sessione &s) {
     Percorri(c, Motore::Diretta, ORIZZONTE);
     didascalia(c, seno, q);
     Percorri(c, Motore::Diretta, ORIZZONTE_DI_NUOVO);
-    lineeCornice(c);
+    v.x1 = c.cornice.xMin;
+    v.y1 = c.cornice.yMax;
+    TracciaLimiti(s, c.letto, c.cornice);
     Percorri(c, Motore::Diretta, ULTIME);
     s.utente.Puntatore(false);
 }

@@ -1,6 +1,8 @@
 // The declinations of the Sun that have a name. Degrees, North positive.
 #pragma once
 
+#include "core/angoli.h"
+
 namespace ombrelia {
 
 inline constexpr double OBLIQUITA = 23.445;
@@ -8,5 +10,12 @@ inline constexpr double OBLIQUITA = 23.445;
 inline constexpr double DELTA_SEGNI = 20, DELTA_SEGNI_VICINI = 11.5;
 // Some sweeps and lines were written with other ends: what was ever drawn ends there, so each keeps its own.
 inline constexpr double OBLIQUITA_2345 = 23.45, OBLIQUITA_2344 = 23.44;
+
+// Noon altitude at the solstice of summer (verso 1) or winter (-1) of a northern latitude latR (radians), degrees, as
+// captions give it. The two near-equal declinations in one formula are meant. Faults when the Sun stands overhead.
+inline Valore AltezzaSolstizio(Valore latR, int verso) {
+    const double primo = verso * OBLIQUITA, secondo = verso * OBLIQUITA_2345;
+    return ArcSin(sin(latR) * sin(PI * primo / 180.0) + cos(latR) * cos(PI * secondo / 180.0)) * 180 / PI;
+}
 
 }  // namespace ombrelia

@@ -10,7 +10,7 @@ namespace ombrelia {
 void DisegnaCitta(Sessione &s) {
     const DialInputs &in = s.in;
     s.Messaggio(s.Traduci("Map"));
-    (void)LeggiCornice(s);  // for unita: no test against the frame is made
+    LeggiUnita(s);  // no test against the frame is made
     const Valore da = Val(in.txtEAST), a = Val(in.txtWest);
     const Conteggio righe(da, a, 1);
     const bool ovest = Abs(a) >= Abs(da);
@@ -34,7 +34,7 @@ void PuntoOpzionale(Sessione &s) {
     const DialInputs &in = s.in;
     Variabili &v = s.v;
     s.Messaggio(s.Traduci("Optional position"));
-    (void)LeggiCornice(s);  // for unita
+    LeggiUnita(s);
     v.deltaOpz = Val(in.txtDelta);
     // The hour angle is the site's own already: with true lines the longitude is not taken once more.
     const Reale H = PI * (in.ckCorretta == 1 ? Val(in.txtAO) : Val(in.txtAO) - Val(in.txtLonG)) / 180;

@@ -96,11 +96,7 @@ Cornice CorniceDi(const Lettura &letto) {
     return c;
 }
 
-Cornice LeggiCornice(Sessione &s) {
-    const Lettura letto(s.in);
-    s.v.unita = letto.unita;
-    return CorniceDi(letto);
-}
+void LeggiUnita(Sessione &s) { s.v.unita = s.in.ChCentimetro == 1 ? 0.001 : 1.0; }
 
 void TracciaCornice(Sessione &s, const Lettura &letto) {
     Variabili &v = s.v;

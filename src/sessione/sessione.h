@@ -103,8 +103,9 @@ struct Cornice {
     [[nodiscard]] bool contiene(Valore x, Valore y) const { return xMin < x && x < xMax && yMin < y && y < yMax; }
 };
 [[nodiscard]] Cornice CorniceDi(const Lettura &letto);
-// Reads it from the fields and leaves unita.
-Cornice LeggiCornice(Sessione &s);
+[[nodiscard]] inline Cornice LeggiCornice(const Sessione &s) { return CorniceDi(Lettura(s.in)); }
+// Leaves unita as ChCentimetro says.
+void LeggiUnita(Sessione &s);
 // The frame, drawn by the unit in force; leaves its corner in x1 and y1.
 void TracciaCornice(Sessione &s, const Lettura &letto);
 inline void TracciaCornice(Sessione &s) { TracciaCornice(s, Lettura(s.in)); }

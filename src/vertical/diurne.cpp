@@ -30,12 +30,12 @@ struct Diurna {
 // The declinations are not symmetrical, the horizon's sign and the sweeps are not alike: meant.
 // In the order of drawing.
 constexpr Diurna DIURNE[] = {
-    {-23.445, -23.445, QB(12), "Solstizio dicembre", false, true, 360},
+    {-OBLIQUITA, -OBLIQUITA, QB(12), "Solstizio dicembre", false, true, 360},
     {-20.005, -20, QB(13), "20 XI or 20 I", true, false, 360},
     {-11.5, -11.5, QB(11), "20 II or 20 X", true, true, 180},
     {11.5, 11.5, QB(11), "20 IV or 20 VIII", true, true, 180},
     {20, 20, QB(13), "20 V or 20 VII", true, true, 360},
-    {23.45, 23.445, QB(12), "Solstizio giugno", false, false, 360},
+    {OBLIQUITA_2345, OBLIQUITA, QB(12), "Solstizio giugno", false, false, 360},
 };
 constexpr Diurna OPZIONALE{0, 0, QB(14), "Diurna opzionale", false, true, 360};
 

@@ -3,6 +3,7 @@
 
 #include "glyphs/zodiaco.h"
 #include "gnomonica/almucantarat.h"
+#include "gnomonica/contorno.h"
 #include "gnomonica/originale.h"
 #include "sessione/limiti.h"
 #include "vertical/corsa.h"
@@ -11,35 +12,12 @@ namespace ombrelia::vertical {
 
 namespace {
 
-// Noon altitude at a solstice, degrees. The two near-equal declinations in one formula are meant.
-Valore altezzaMezzogiorno(Valore latR, double primo, double secondo) {
-    return 180 * ArcSin(sin(latR) * sin(PI * primo / 180) + cos(latR) * cos(PI * secondo / 180)) / PI;
-}
-
-void lineeLimite(Corsa &corsa) {
-    Sessione &s = corsa.s;
-    const Cornice &c = corsa.cornice;
-    Tavolo &t = s.tavolo;
-    const Variabili &v = s.v;
-    const Valore l = v.semiL, h = v.semiH;
-    t.xLine(-l, -c.yMax, l, -c.yMax, QB(12));
-    t.xLine(-l, -c.yMin, l, -c.yMin, QB(4));
-    // Upward half as far as downward, unlike the axes: meant.
-    t.xLine(c.xMin, -h, c.xMin, 2 * h, QB(12));
-    t.xLine(c.xMax, -h, c.xMax, 2 * h, QB(4));
-    TracciaCornice(s, corsa.letto);
-    s.Dati(Frase() << c.xMin / v.unita, c.xMin, 0);
-    s.Dati(Frase() << c.xMax / v.unita, c.xMax, 0);
-    s.Dati(Frase() << c.yMax / v.unita, 0, -c.yMax);
-    s.Dati(Frase() << c.yMin / v.unita, 0, -c.yMin);
-}
-
 // c2 is the sine of the style's elevation.
 void didascalia(Sessione &s, Valore c2) {
     const Variabili &v = s.v;
     const std::string_view misura = TestoUnita(s);
-    const Reale hEstate = altezzaMezzogiorno(v.latR, 23.445, 23.45);
-    const Reale hInverno = altezzaMezzogiorno(v.latR, -23.445, -23.45);
+    const Reale hEstate = AltezzaSolstizio(v.latR, 1);
+    const Reale hInverno = AltezzaSolstizio(v.latR, -1);
     const struct {
         std::string_view etichetta;
         Valore valore;
@@ -216,17 +194,14 @@ void Piana_Esegui(Sessione &s) {
     v.altStilo = Abs(c2) < 1 ? ArcSin(c2) : Valore(PI / 2);
     v.semiL = t.ShiftX();
     v.semiH = t.ShiftY();
-    if (s.in.ckAssi == 1) {
-        t.xLine(-v.semiL, 0, v.semiL, 0, QB(15));
-        t.xLine(0, -2 * v.semiH, 0, 2 * v.semiH, QB(15));
-    }
+    TracciaAssi(s);
     v.gn = c.letto.gn;
     calcolaCentroPiana(v);
 
     Percorri(c, Motore::Verticale, CARATTERISTICHE);
     Percorri(c, Motore::Verticale, ORIZZONTE_DI_NUOVO);
     if (s.in.ck_Orizzonte == 1) s.Scrivi(&DialInputs::txtOriz, TestoNumero(v.yOriz.numero()));
-    lineeLimite(c);
+    TracciaLimiti(s, c.letto, c.cornice);
     s.utente.Puntatore(false);
 
     // The centre of the caption, without unita.

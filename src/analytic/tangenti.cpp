@@ -34,12 +34,9 @@ void traccia(Corsa &c, const LineeAttese &linee, Specie specie, double verso) {
         const Valore quadrato = q4 - R * (u * u);
         if (!(quadrato >= 0)) continue;
         const Valore radice = Sqr(quadrato);
-        const auto delGiorno = [&](Valore w, Colore colore) {
-            const Pretendi pretendi(tavolo, Specie::Diurna, w > 0 ? phi.numero() * 180 / PI - 90 : 90 - phi.numero() * 180 / PI);
-            punto(u, w, colore);
-        };
-        delGiorno(mezzo + radice, QB(5));
-        delGiorno(mezzo - radice, QB(10));
+        // A help to the eye, on which no Sun need ever stand: it claims nothing.
+        punto(u, mezzo + radice, QB(5));
+        punto(u, mezzo - radice, QB(10));
     }
 
     const Valore obliqua = v.gn / cos(v.altStilo), t0 = v.angoloOra + v.diffLong;

@@ -11,13 +11,17 @@ namespace ombrelia {
 // side is kept.
 class Sbarramento {
 public:
-    Sbarramento(const Cornice &cornice, const Variabili &v) : cornice_(cornice), yOriz_(v.yOriz), sotto_(v.incR < PI / 2.0) {}
-    [[nodiscard]] bool orizzonte(Valore y) const { return sotto_ ? y <= yOriz_ : y >= yOriz_; }
-    [[nodiscard]] bool operator()(Valore x, Valore y) const { return orizzonte(y) && cornice_.contiene(x, y); }
+    Sbarramento(const Cornice &c, const Variabili &v)
+        : xMin_(c.xMin.numero()), xMax_(c.xMax.numero()), yMin_(c.yMin.numero()), yMax_(c.yMax.numero()), yOriz_(v.yOriz.numero()),
+          sotto_(v.incR < PI / 2.0) {}
+    // Variables have a value, so plain comparisons do.
+    [[nodiscard]] bool operator()(Reale X, Reale Y) const {
+        const double x = X.numero(), y = Y.numero();
+        return (sotto_ ? y <= yOriz_ : y >= yOriz_) && xMin_ < x && x < xMax_ && yMin_ < y && y < yMax_;
+    }
 
 private:
-    const Cornice &cornice_;
-    Reale yOriz_;
+    double xMin_, xMax_, yMin_, yMax_, yOriz_;
     bool sotto_;
 };
 

@@ -67,6 +67,9 @@ public:
         azimut(o, g);
         mendaOra(o);
     }
+    [[nodiscard]] double declinazione() const { return decR_; }
+    // Metres of abscissa a unit of the tangent.
+    [[nodiscard]] double braccio() const { return unita_ * gn_; }
     [[nodiscard]] bool davanti() const { return std::fabs(A.numero() - decR_) < PI / 2; }
 
     // Sine of the altitude.

@@ -35,14 +35,25 @@ inline void azimut(Sfera &sfera, const Orario &o, const Sfera::Giorno &g) {
     if (Sfera::segno(o.Hr) != Sfera::segno(sfera.A.numero())) sfera.mendaMuro();
 }
 
+double azimutDa(const Sfera &sfera, double q, bool girato) {
+    const double A = std::atan(q);
+    return girato ? A - Sfera::segno(A - sfera.declinazione()) * PI : A;
+}
+
 // A point of a line. What no test needs is worked out when a chord asks for it.
 struct Posto {
-    enum class Manca : std::uint8_t { Niente, Ordinata, Tutto };
+    enum class Manca : std::uint8_t { Niente, Ordinata, Tutto, Angolo };
     Reale x, y;
     double A, seno;  // azimuth and sine of the altitude
+    double q;        // tangent of the azimuth; whether the quadrant is the other
+    bool girato;
     Manca manca = Manca::Niente;
 
     void completa(const Sfera &sfera) {
+        if (manca == Manca::Angolo) {
+            A = azimutDa(sfera, q, girato);
+            manca = Manca::Tutto;
+        }
         if (manca == Manca::Tutto) x = sfera.ascissa(A);
         if (manca != Manca::Niente) y = sfera.ordinata(A, ArcSin(seno).v);
         manca = Manca::Niente;
@@ -61,16 +72,46 @@ void tracciaOre(Corsa &c, const LineeAttese &linee, Specie specie, std::string_v
     const std::vector<Giornata> &giorni = annoDi(c, sfera);
     std::vector<Posto> posti(giorni.size() + 1);
     double seno = 0;  // of the last altitude that did not fault
+    const double senDec = std::sin(sfera.declinazione()), cosDec = std::cos(sfera.declinazione());
+    const double xMin = cornice.xMin.numero() - 1e-6, xMax = cornice.xMax.numero() + 1e-6;
+    bool pendente = false, giratoPendente = false;  // an azimuth that the last point did not work out
+    double qPendente = 0;
     for (const LineaAttesa &l : linee) {
         const double n = l.parametro;
         const Pretendi pretendi(s.tavolo, specie, l.valore);
         std::size_t i = 0;
         for (const Giornata &g : giorni) {
             const Orario ora(angolo(n, g.H0));
-            azimut(sfera, ora, g);
             const double s0 = Sfera::senAltezza(ora, g);
             if (std::fabs(s0) < 1) seno = s0;
             ++i;
+            // Where the tangent of the azimuth alone tells, by a wide margin, that the point lies behind the wall, under
+            // the ground or beyond the frame, the angle is left for a chord to ask for.
+            const double q = ora.sen / sfera.denominatore(ora, g);
+            const bool girato = Sfera::segno(ora.Hr) != Sfera::segno(q);
+            const double coseno = cosDec + q * senDec, davanti = girato ? -coseno : coseno, margine = 1 + std::fabs(q);
+            if (margine < 1e100) {
+                const double x = sfera.braccio() * (q * cosDec - senDec) / coseno;
+                const bool dietro = davanti < -1e-7 * margine;
+                const bool fuori = davanti > 1e-3 * margine && sfera.braccio() > 0 &&
+                                   (seno < 0 || x < xMin - 1e-6 * std::fabs(x) || x > xMax + 1e-6 * std::fabs(x));
+                if (dietro || fuori) {
+                    if (fuori) {
+                        posti[i].q = q;
+                        posti[i].girato = girato;
+                        posti[i].seno = seno;
+                        posti[i].manca = Posto::Manca::Angolo;
+                    }
+                    qPendente = q;
+                    giratoPendente = girato;
+                    pendente = true;
+                    continue;
+                }
+            } else if (pendente) {
+                sfera.A = azimutDa(sfera, qPendente, giratoPendente);  // a quotient that faults leaves the last one standing
+            }
+            pendente = false;
+            azimut(sfera, ora, g);
             if (!sfera.davanti()) continue;
             Posto &p = posti[i];
             p.A = sfera.A.numero();

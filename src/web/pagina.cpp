@@ -2,6 +2,7 @@
 #include "web/pagina.h"
 
 #include <algorithm>
+#include <array>
 #include <stdexcept>
 #include <utility>
 
@@ -152,17 +153,18 @@ std::string Pagina::Collegamento() {
 }
 
 void Pagina::Lingua(std::string_view codice) {
-    // The program's dictionary, then that of the page's own words.
+    // The program's dictionary, then those of the words that window and page have beyond it.
     struct Lingua {
         std::string_view codice;
-        const char *programma, *pagina;
+        std::array<const char *, 3> file;
     };
-    constexpr Lingua LINGUE[] = {{"fr", "DBFranceseC2008.txt", "DBPaginaFrancese.txt"}, {"en", "DBIngleseC2008.txt", "DBPaginaInglese.txt"}};
+    constexpr Lingua LINGUE[] = {{"fr", {"DBFranceseC2008.txt", "DBFinestraFrancese.txt", "DBPaginaFrancese.txt"}},
+                                 {"en", {"DBIngleseC2008.txt", "DBFinestraInglese.txt", "DBPaginaInglese.txt"}}};
     Dizionario &d = prova_.dizionario;
     d.Interpreta({});
     for (const Lingua &l : LINGUE)
         if (l.codice == codice)
-            for (const char *nome : {l.programma, l.pagina})
+            for (const char *nome : l.file)
                 if (const auto file = TrovaDato(nome)) d.Aggiungi(LeggiFile(file->string(), FILE_MASSIMO).value_or(std::string()));
 }
 
@@ -280,10 +282,10 @@ std::string Pagina::ApriRapporto(std::string_view nome) {
         for (const std::string &c : t.colonne) j.testo(c);
         j.chiudi(']').chiudi('}');
     }
-    // A line: the table that it belongs to (-1 for none), whether it is a row of it, its colour, its items.
+    // A line: the table that it belongs to (-1 for none), whether it is a row of it, its items.
     j.chiudi(']').nome("righe").apri('[');
     for (const RigaRapporto &x : r.righe) {
-        j.apri('[').numero(x.tabella).vero(x.genere == Genere::Dati).numero(x.colore).apri('[');
+        j.apri('[').numero(x.tabella).vero(x.genere == Genere::Dati).apri('[');
         for (const Elemento &e : x.voci)
             if (!(x.genere == Genere::Dati && e.ornamento)) j.testo(SenzaBlanks(e.testo));
         j.chiudi(']').chiudi(']');

@@ -37,7 +37,7 @@ void controllo(Json &j, const Dizionario &d, const Controllo &c) {
 
 // A group's rows: names of controls, and captions of its own as {"caption": text}.
 void gruppo(Json &j, const Dizionario &d, const app::Gruppo &g) {
-    j.apri('{').nome("titolo").testo(d.Traduci(g.titolo)).nome("chiave").testo(g.titolo).nome("righe").apri('[');
+    j.apri('{').nome("titolo").testo(d.Traduci(g.titolo)).nome("chiave").testo(g.titolo).nome("aperto").vero(!g.piegato).nome("righe").apri('[');
     for (const app::Gruppo::Riga &r : g.righe) {
         j.apri('[');
         for (const std::string_view nome : r) {

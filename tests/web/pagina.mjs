@@ -142,6 +142,20 @@ try {
     await p.waitForSelector('#trovati li', { timeout: 5000 });
     await p.keyboard.press('Enter');
     vale('a town fills the place', (await valore(p, 'txtLAT')).startsWith('44.3'), `${await valore(p, 'cerca')} ${await valore(p, 'txtLAT')} ${await valore(p, 'txtLonG')}`);
+    // Downloads, into a folder.
+    const posta = join(cartella, 'scaricati');
+    await (await browser.target().createCDPSession()).send('Browser.setDownloadBehavior', { behavior: 'allow', downloadPath: posta, eventsEnabled: true });
+    const quanti = await p.$$eval('#scarica div button', (b) => b.length);
+    for (let i = 0; i < quanti; i += 1) {
+      await p.$$eval('#scarica div button', (b, k) => b[k].click(), i);
+      await new Promise((r) => setTimeout(r, 400));
+    }
+    const arrivati = readdirSync(posta).sort();
+    const inizi = { omb: '"<', svg: '<?xml', dxf: '', csv: '' };
+    vale('project, SVG, both DXF and table are downloaded', arrivati.length === 5 && arrivati.every((n) => {
+      const testo = readFileSync(join(posta, n), 'utf8');
+      return testo.length > 400 && testo.startsWith(inizi[n.split('.').pop()]);
+    }), arrivati.join(' '));
     // Reports.
     await p.click('#cmdData');
     vale('a report opens as a table', (await p.$$eval('#foglietto[open] td', (t) => t.length)) > 10);
@@ -204,11 +218,11 @@ try {
 
   // Pictures, and nothing beside the screen.
   for (const [nome, come] of Object.entries({
-    'pagina-1360': { largo: 1360, alto: 900 }, 'pagina-390': { largo: 390, alto: 844, telefono: true },
+    'pagina-1360': { largo: 1360, alto: 900, coda: '#lingua=it' }, 'pagina-390': { largo: 390, alto: 844, telefono: true },
     'pagina-scura': { largo: 1360, alto: 900, scuro: true },
   })) {
-    const p = await apri('', come);
-    await new Promise((r) => setTimeout(r, 250));
+    const p = await apri(come.coda, come);
+    await new Promise((r) => setTimeout(r, 1000));
     const largo = await p.evaluate(() => document.documentElement.scrollWidth);
     vale(`${nome}: nothing wider than the screen`, largo <= come.largo, largo);
     await p.screenshot({ path: join(uscita, `${nome}.png`) });

@@ -15,7 +15,7 @@ const impronta = (testo) => `'sha256-${createHash('sha256').update(testo, 'utf8'
 
 // Small files that the program finds in its folder.
 const piccoli = {};
-const dizionari = ['DBFranceseC2008.txt', 'DBIngleseC2008.txt', 'DBPaginaFrancese.txt', 'DBPaginaInglese.txt'];
+const dizionari = readdirSync(join(radice, 'data')).filter((nome) => /^DB.*\.txt$/.test(nome));
 for (const nome of dizionari) piccoli[nome] = leggi(radice, 'data', nome);
 for (const nome of readdirSync(join(radice, 'examples')).filter((n) => n.endsWith('.omb')).sort()) piccoli[nome] = leggi(radice, 'examples', nome);
 // The page carries a smaller table of towns: all that are large, and the small ones where most who draw on walls live.

@@ -272,7 +272,6 @@
 
   // --- the table of controls ------------------------------------------------------------------------------------------
 
-  const APERTI = ['Luogo', 'Piano', 'Gnomone', 'Ore'];  // groups that stand open at first
   let tavola = { gruppi: [], comandi: [] };
   const etichettaDi = (c) => liscio(c.caption) || liscio(c.tip);
 
@@ -280,7 +279,10 @@
     const e = crea('input', { id: c.nome, name: c.nome, type: 'text', inputMode: 'decimal', spellcheck: false, title: liscio(c.tip || caption) });
     e.setAttribute('aria-label', caption);
     e.addEventListener('input', () => scrivi(e));
-    e.addEventListener('change', () => mostraStato());
+    e.addEventListener('change', () => {
+      mostraStato();
+      e.value = chiedi('stato')[e.name][0];  // what the field holds, once it is left
+    });
     e.addEventListener('keydown', (k) => passo(k, e));
     e.addEventListener('focus', () => e.select());
     return e;
@@ -356,13 +358,12 @@
   }
 
   function costruisci() {
-    const aperti = cerca('gruppi').children.length
-      ? [...document.querySelectorAll('#gruppi details[open]')].map((d) => d.dataset.chiave) : APERTI;
+    const aperti = new Map([...document.querySelectorAll('#gruppi details')].map((d) => [d.dataset.chiave, d.open]));
     tavola = chiedi('tavola');
     testi = tavola.testi;
     document.documentElement.lang = lingua();
     cerca('gruppi').replaceChildren(...tavola.gruppi.map((g) => {
-      const d = crea('details', { open: aperti.includes(g.chiave) }, crea('summary', { textContent: g.titolo }),
+      const d = crea('details', { open: aperti.get(g.chiave) ?? g.aperto }, crea('summary', { textContent: g.titolo }),
         crea('div', { className: 'righe' }, ...g.righe.map(riga)));
       d.dataset.chiave = g.chiave;
       return d;
@@ -542,14 +543,12 @@
 
   // --- reports ---------------------------------------------------------------------------------------------------------
 
-  const colore = (n) => `#${[n & 255, (n >> 8) & 255, (n >> 16) & 255].map((b) => b.toString(16).padStart(2, '0')).join('')}`;
-
   function rapporto(nome) {
     const r = chiedi('rapporto', nome);
     if (!r) return avvisa(testi.nessunaTabella);
     const corpo = [];
     let aperta = -1, righe = null;
-    for (const [tabella, dati, tinta, celle] of r.righe) {
+    for (const [tabella, dati, celle] of r.righe) {
       if (tabella < 0) {
         const p = crea('p', {}, ...celle.filter(Boolean).map((t) => crea('span', { textContent: t })));
         if (celle.some(Boolean)) corpo.push(p);
@@ -561,9 +560,7 @@
           corpo.push(crea('h3', { textContent: t.titolo }), crea('div', { className: 't' }, crea('table', {},
             crea('thead', {}, crea('tr', {}, ...t.colonne.map((c) => crea('th', { textContent: c })))), righe)));
         }
-        const tr = crea('tr', {}, ...celle.map((c) => crea('td', { textContent: c })));
-        tr.dataset.colore = colore(tinta);
-        righe.append(tr);
+        righe.append(crea('tr', {}, ...celle.map((c) => crea('td', { textContent: c }))));
       }
     }
     const forme = ['csv', 'txt'].map((forma) => crea('button', {
@@ -704,7 +701,9 @@
     return stampato;
   }
   async function file(nome) {
-    return modulo.FS.readFile(String(nome).startsWith('/') ? String(nome) : CASA + nome);
+    const percorso = String(nome).startsWith('/') ? String(nome) : CASA + nome;
+    if (!modulo.FS.analyzePath(percorso).exists) throw new Error(`no file ${nome}`);
+    return modulo.FS.readFile(percorso);
   }
   globalThis.ombrelia = Object.freeze({
     get ready() {

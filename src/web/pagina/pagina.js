@@ -123,7 +123,7 @@
       zoom(2 ** (-e.deltaY * (e.deltaMode === 1 ? 0.06 : 0.002)), e.clientX, e.clientY);
     }, { passive: false });
     foglio.addEventListener('pointerdown', (e) => {
-      if (e.target.closest('#zoom')) return;
+      if (e.target.closest('button')) return;
       dita.set(e.pointerId, e);
       foglio.setPointerCapture(e.pointerId);
       leggi(e);
@@ -162,7 +162,7 @@
       vista = null;
       inquadra();
     };
-    foglio.addEventListener('dblclick', tutto);
+    foglio.addEventListener('dblclick', (e) => e.target.closest('button') || tutto());
     foglio.addEventListener('keydown', (e) => {
       const tratto = riquadro().l / 12;
       const vai = (x, y) => {

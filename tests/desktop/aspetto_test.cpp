@@ -213,7 +213,7 @@ TEST(Aspetto, ALongRunIsStopped) {
     BancoFinestra b;
     for (const std::string_view nome : {"chkOreAstronomiche", "Ck_DayLightCurves", "ckAlt"}) b.spunta(nome);
     b.f.findChild<QAbstractButton *>(QStringLiteral("Adatta"))->click();
-    b.scrivi("txtDensity", ".00002");
+    b.scrivi("txtDensity", ".00001");
     QTimer ferma;
     bool visto = false;
     QObject::connect(&ferma, &QTimer::timeout, [&] {

@@ -17,6 +17,7 @@ usage: ombrelia COMMAND ...
   draw      a dial from fields to files
   cut       a dial as paths for a plotter, laser or mill
   report    the numbers of a dial as text, CSV or HTML
+  certify   holds every drawn line against the shadow: is it true, is any missing, is any too much
   read      what a point of the dial says: hours, dates, the Sun that casts its shadow there
   shadow    where the shadow falls at a moment, or through a day
   place     towns by name: latitude, longitude, meridian of the zone
@@ -134,6 +135,25 @@ examples:
 reports:
 )";
 
+constexpr std::string_view CERTIFY = R"(usage: ombrelia certify [options of draw] [--tolerance MM] [--json | --html] [-o FILE]
+
+Draws a dial in memory and reads every line back by vectors: each chord of a known line at both ends and its middle. A row a line:
+layer, what it claims, length drawn, largest and mean deviation in mm (and in seconds of time or minutes of arc), mm missing of
+what would be seen inside the frame, mm superfluous where no shadow ever falls, and the worst place, right and up from the foot on
+the dial as it is mounted; rows of what is drawn twice; how many records claim nothing. Last the verdict.
+
+A line is true within the tolerance, with at most 0.5 % of it superfluous and at most 2 % of what would be seen missing; half a
+millimetre of either is not counted. The exit status is 0 when every line is true, 1 when not, 2 for what can't be done.
+
+  --tolerance MM   0.1 without it
+  --json           one object: worst_mm, true, lines
+  --html           a page to print and keep with the dial
+  -o FILE          where it goes; without it, or with -, standard output
+
+example:
+  ombrelia certify --project examples/parete_torino.omb
+)";
+
 constexpr std::string_view READ =
     R"(usage: ombrelia read [--project FILE] [--set FIELD=TEXT]... [--check BOX]... [--date DATE] [--] X Y
 
@@ -162,7 +182,8 @@ dial as it is mounted), altitude, azimuth, hour_angle, declination (degrees), eq
 
   --date DATE      year-month-day; today without it
   --time TIME      hours:minutes or hours:minutes:seconds of the zone
-  --zone ZONE      hours East of Greenwich, as in +2 or -3:30; without it the zone of txtMeridiano, with no summer time
+  --zone ZONE      hours East of Greenwich, as in +2 or -3:30; without it the clock of --place, with its summer
+                   time, or the zone of txtMeridiano, with none
   --utc            the time is universal time
   --day            the whole day as CSV; a FILE.svg behind draws the dial with the path of the shadow
   --step MINUTES   10 without it
@@ -228,6 +249,7 @@ std::string Aiuto(std::string_view comando) {
     if (comando == "gui") return std::string(GUI);
     if (comando == "batch") return std::string(BATCH);
     if (comando == "report") return std::string(REPORT) + NomiRapporti();
+    if (comando == "certify") return std::string(CERTIFY);
     if (comando == "read") return std::string(READ);
     if (comando == "shadow") return std::string(SHADOW);
     if (comando == "sun") return std::string(SUN);

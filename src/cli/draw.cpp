@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "certificato/certificato.h"
 #include "cli/disegno.h"
 #include "cli/formati.h"
 
@@ -79,6 +80,7 @@ int Draw(int argc, char **argv) {
     std::FILE *const voce = std::any_of(r.uscite.begin(), r.uscite.end(), suUscita) ? stderr : stdout;
     if (const auto &carta = r.disegno.carta; carta)
         c.s.tavolo.Pagina({carta->larghezza / 1440 * 0.0254, carta->altezza / 1440 * 0.0254});
+    std::fprintf(stderr, "certificate: %s\n", VerdettoInglese(Certifica(DatiDelCertificato(c.s), c.s.tavolo.lista())).c_str());
     for (const std::string &uscita : r.uscite) {
         const Formato &f = *r.formatoDi(uscita);
         std::string errore;

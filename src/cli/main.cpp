@@ -12,6 +12,7 @@
 
 #include "cli/aiuto.h"
 #include "cli/batch.h"
+#include "cli/certify.h"
 #include "cli/cut.h"
 #include "cli/draw.h"
 #include "cli/ombre.h"
@@ -28,10 +29,17 @@ struct Comando {
     std::string_view nome;
     int (*esegui)(int argc, char **argv);
 };
-constexpr Comando COMANDI[] = {{"batch", ombrelia::cli::Batch}, {"cut", ombrelia::cli::Cut},
-                               {"draw", ombrelia::cli::Draw},   {"report", ombrelia::cli::Report},
-                               {"read", ombrelia::cli::Read},   {"shadow", ombrelia::cli::Shadow},
-                               {"sun", ombrelia::cli::Sun},     {"place", ombrelia::cli::Place}};
+constexpr Comando COMANDI[] = {
+    {"batch", ombrelia::cli::Batch},
+    {"certify", ombrelia::cli::Certify},
+    {"cut", ombrelia::cli::Cut},
+    {"draw", ombrelia::cli::Draw},
+    {"place", ombrelia::cli::Place},
+    {"read", ombrelia::cli::Read},
+    {"report", ombrelia::cli::Report},
+    {"shadow", ombrelia::cli::Shadow},
+    {"sun", ombrelia::cli::Sun},
+};
 
 // The window, when this build has one: by name, or with no command where there is a display.
 bool apreFinestra(std::string_view primo, int argc, char **argv, int &esito) {

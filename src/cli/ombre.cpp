@@ -8,9 +8,10 @@
 #include "app/comandi.h"
 #include "certificato/istante.h"
 #include "certificato/percorso.h"
-#include "cli/console.h"
 #include "cli/disegno.h"
 #include "cli/formati.h"
+#include "cli/place.h"
+#include "luoghi/fusi.h"
 
 namespace ombrelia::cli {
 
@@ -18,11 +19,6 @@ namespace {
 
 using ombra::GRADI;
 using ombra::Luce;
-
-int rifiuta(const char *comando, const std::string &motivo) {
-    std::fprintf(stderr, "ombrelia %s: %s\n", comando, motivo.c_str());
-    return 2;
-}
 
 const char *parola(Luce l) {
     switch (l) {
@@ -128,6 +124,19 @@ std::string leggi(int argc, char **argv, bool shadow, Richiesta &r) {
     return {};
 }
 
+// Hours East of Greenwich: as asked for; else what the clock of --place shows then, with its summer time; else the zone's mean
+// time.
+double fusoDi(const Richiesta &r, const Posa &posa, const ombra::Data &data, double ore) {
+    if (r.fuso) return *r.fuso;
+    std::string errore;
+    const Campi &campi = r.disegno.campi;
+    const luoghi::Luogo *l = campi.luogo.empty() ? nullptr : TrovaLuogo(campi.luogo, campi.paese, errore);
+    if (!l) return posa.fuso();
+    const int minuti = static_cast<int>(ore * 60);
+    const luoghi::Orario o{data.anno, data.mese, data.giorno, minuti / 60, minuti % 60, 0};
+    return luoghi::Fuso::LeggiOppure(l->fuso, l->base).InCivile(o).ora.scarto / 3600.0;
+}
+
 std::string controlla(const Posa &p) {
     if (!(std::fabs(p.quadrante.gnomone) > 0)) return "TxtStilo is 0: no gnomon, no shadow";
     return {};
@@ -170,16 +179,15 @@ void stampaGiorno(const std::vector<Istante> &giorno) {
 
 int Read(int argc, char **argv) {
     Richiesta r;
-    if (const std::string e = leggi(argc, argv, false, r); !e.empty()) return rifiuta("read", e);
+    if (const std::string e = leggi(argc, argv, false, r); !e.empty()) return Rifiuta("read", e);
     double x = 0, y = 0;
     if (r.altri.size() != 2 || !Numero(r.altri[0], x) || !Numero(r.altri[1], y))
-        return rifiuta("read", "give a point: X and Y in mm, right and up from the gnomon's foot");
-    Console console(stderr);
-    Sessione s(console);
-    app::Avvia(s);
-    if (const std::string e = r.disegno.campi.Applica(s); !e.empty()) return rifiuta("read", e);
+        return Rifiuta("read", "give a point: X and Y in mm, right and up from the gnomon's foot");
+    SessioneDiComando c;
+    Sessione &s = c.s;
+    if (const std::string e = r.disegno.campi.Applica(s); !e.empty()) return Rifiuta("read", e);
     const Posa posa = PosaDeiCampi(s);
-    if (const std::string e = controlla(posa); !e.empty()) return rifiuta("read", e);
+    if (const std::string e = controlla(posa); !e.empty()) return Rifiuta("read", e);
     const LetturaPunto l = LeggiPunto(posa, {x / 1000, y / 1000}, r.data.value_or(Oggi(posa.fuso())).anno);
     std::string date;
     for (const ombra::Data &d : l.date) date += (date.empty() ? "" : " ") + testoData(d);
@@ -209,29 +217,28 @@ int Read(int argc, char **argv) {
 
 int Shadow(int argc, char **argv) {
     Richiesta r;
-    if (const std::string e = leggi(argc, argv, true, r); !e.empty()) return rifiuta("shadow", e);
-    if (!r.ora && !r.giorno) return rifiuta("shadow", "give --time, as in --time 10:40, or --day");
-    if (r.altri.size() > (r.giorno ? 1U : 0U)) return rifiuta("shadow", "what is " + r.altri.back() + "? One .svg behind --day");
+    if (const std::string e = leggi(argc, argv, true, r); !e.empty()) return Rifiuta("shadow", e);
+    if (!r.ora && !r.giorno) return Rifiuta("shadow", "give --time, as in --time 10:40, or --day");
+    if (r.altri.size() > (r.giorno ? 1U : 0U)) return Rifiuta("shadow", "what is " + r.altri.back() + "? One .svg behind --day");
     const std::string svg = r.altri.empty() ? "" : r.altri.front();
     if (!svg.empty() && !UguaglianzaSenzaCaso(Estensione(svg), "svg") && svg != "-")
-        return rifiuta("shadow", svg + ": the day is drawn as .svg");
-    if (r.animato && svg.empty()) return rifiuta("shadow", "--animate needs an .svg file");
-    Console console(stderr);
-    Sessione s(console);
-    app::Avvia(s);
+        return Rifiuta("shadow", svg + ": the day is drawn as .svg");
+    if (r.animato && svg.empty()) return Rifiuta("shadow", "--animate needs an .svg file");
+    SessioneDiComando c;
+    Sessione &s = c.s;
     const std::string e = svg.empty() ? r.disegno.campi.Applica(s) : r.disegno.Applica(s);
-    if (!e.empty()) return rifiuta("shadow", e);
+    if (!e.empty()) return Rifiuta("shadow", e);
     const Posa posa = PosaDeiCampi(s);
-    if (const std::string m = controlla(posa); !m.empty()) return rifiuta("shadow", m);
-    const double fuso = r.fuso.value_or(posa.fuso());
-    const ombra::Data data = r.data.value_or(Oggi(fuso));
+    if (const std::string m = controlla(posa); !m.empty()) return Rifiuta("shadow", m);
+    const ombra::Data data = r.data.value_or(Oggi(r.fuso.value_or(posa.fuso())));
+    const double fuso = fusoDi(r, posa, data, r.ora.value_or(12));
     if (r.giorno) {
         if (svg.empty() || svg != "-") stampaGiorno(GiornataDi(posa, data, fuso, r.passo));
         if (svg.empty()) return 0;
-        if (const std::string m = r.disegno.Esegui(s); !m.empty()) return rifiuta("shadow", m);
+        if (const std::string m = r.disegno.Esegui(s); !m.empty()) return Rifiuta("shadow", m);
         const double fitto = std::min(r.passo, 5.0);  // a path is drawn finer than it is listed
         const std::string errore = Consegna(svg, SvgConPercorso(s.tavolo, posa, GiornataDi(posa, data, fuso, fitto), r.animato));
-        return errore.empty() ? 0 : rifiuta("shadow", errore);
+        return errore.empty() ? 0 : Rifiuta("shadow", errore);
     }
     const Istante i = IstanteDi(posa, data, *r.ora, fuso);
     if (perPersone()) {

@@ -87,7 +87,8 @@ Genere GenereDi(Specie specie, double valore) {
             const double minuti = std::fabs(valore * 60 - std::round(valore) * 60);
             return minuti < 0.5 ? Ore : std::fabs(minuti - 30) < 0.5 ? MezzeOre : Quarti;
         }
-        case Specie::Diurna: return valore == 0 ? Equinoziale : Diurne;
+        case Specie::Diurna:
+        case Specie::Tacca: return valore == 0 ? Equinoziale : Diurne;
         case Specie::Equinoziale: return Equinoziale;
         case Specie::Italica: return Italiche;
         case Specie::Babilonica: return Babiloniche;

@@ -45,6 +45,19 @@ void Lista::togliArea(std::size_t quale) {
     }
 }
 
+Lista Lista::copia() const {
+    Lista l;
+    l.Linee = Linee;
+    l.Punti = Punti;
+    l.Figure = Figure;
+    l.Testi = Testi;
+    l.Aree = Aree;
+    l.Ordine = Ordine;
+    l.pretese = pretese;
+    for (std::size_t i = 0; i < nomi.quanti(); ++i) (void)l.nomi.id(nomi.testo(static_cast<IdNome>(i)));
+    return l;
+}
+
 std::optional<std::size_t> Lista::TrovaStart(IdNome id) const {
     for (std::size_t i = Figure.size(); i-- > 0;)
         if (Figure[i].Tipo == 'V' && Figure[i].voce == Voce::START && Figure[i].Id == id) return i;

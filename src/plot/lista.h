@@ -96,6 +96,8 @@ struct Lista {
     void svuota();
     // Takes a selected tile out, with its outline and its number.
     void togliArea(std::size_t quale);
+    // All of it, for who reads it while the drawing goes on.
+    [[nodiscard]] Lista copia() const;
 
     // Index in Figure of the last START of a polyline's name; none when there is none. Two polylines of one name are
     // not told apart: the later stands for both.

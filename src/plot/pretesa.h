@@ -32,6 +32,7 @@ enum class Specie : std::uint8_t {
     Sustilare,     // 0: the substyle itself
     Orizzonte,     // 0: the Sun on the horizon
     Stilo,         // 0: the triangle of the style
+    Tacca,         // a mark on the day line of a declination, degrees
     Etichetta,     // labels and title block
     Nessuna        // frame, axes, glyphs, map: nothing to hold them against
 };

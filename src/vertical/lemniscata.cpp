@@ -66,7 +66,7 @@ void TracciaTacche(Corsa &c, const LineeAttese &linee) {
         const Valore HrMin = t.Emin * 15 * PI / (60.0 * 180) - v.corrLong;
         constexpr int PARTI = 4;
         const Valore parte = (HrMax - HrMin) / PARTI;
-        const Pretendi pretendi(c.s.tavolo, Specie::Diurna, linee[n].valore);
+        const Pretendi pretendi(c.s.tavolo, Specie::Tacca, linee[n].valore);
 
         Sfera sfera(v);
         const Sfera::Giorno giorno = sfera.giorno(t.delta);

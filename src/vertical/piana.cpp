@@ -125,7 +125,7 @@ constexpr Riga CARATTERISTICHE[] = {
     {&In::ck_Lemniscate, Specie::Analemma, "mean noon of the zone",
      [](const Corsa &, LineeAttese &l) { l.push_back({0, 12, "Lemniscata", QB(13)}); }, TracciaLemniscata, nullptr,
      PreparaLemniscata},
-    {&In::ck_Lemniscate, Specie::Diurna, "day marks across it", LineeTacche, TracciaTacche, piena},
+    {&In::ck_Lemniscate, Specie::Tacca, "day marks across it", LineeTacche, TracciaTacche, piena},
     // ckZodiac has no step of its own: the signs come with the lemniscate.
     {&In::ck_Lemniscate, Specie::Nessuna, "signs of the zodiac", nullptr, [](Corsa &c, const LineeAttese &) { DisegnaZodiaco(c.s); },
      [](const Corsa &c) { return piena(c) && c.s.in.ckZodiac == 1; }},

@@ -1,0 +1,108 @@
+// What lines and verdicts are called: for files in English, for people through the dictionary.
+#include <array>
+#include <cmath>
+
+#include "certificato/certificato.h"
+#include "certificato/istante.h"
+#include "core/testo.h"
+
+namespace ombrelia {
+
+namespace {
+
+struct Nome {
+    Specie specie;
+    std::string_view italiano, inglese;
+    bool conValore;
+};
+constexpr std::array<Nome, 17> NOMI{{
+    {Specie::Ora, "ora vera "_it, "hour ", true},
+    {Specie::Diurna, "linea diurna "_it, "declination ", true},
+    {Specie::Tacca, "segno della declinazione "_it, "mark of declination ", true},
+    {Specie::Equinoziale, "linea equinoziale"_it, "equinoctial", false},
+    {Specie::Italica, "ora italica "_it, "Italic ", true},
+    {Specie::Babilonica, "ora babilonica "_it, "Babylonian ", true},
+    {Specie::Temporaria, "ora temporaria "_it, "temporary ", true},
+    {Specie::Almucantarat, "altezza del Sole "_it, "altitude ", true},
+    {Specie::Azimut, "azimut del Sole "_it, "azimuth ", true},
+    {Specie::Asr, "linea dell'Asr"_it, "Asr", false},
+    {Specie::Qibla, "linea della Qibla"_it, "Qibla", false},
+    {Specie::Analemma, "lemniscata delle ore "_it, "analemma ", true},
+    {Specie::Mezzogiorno, "linea meridiana"_it, "noon line", false},
+    {Specie::OraSustilare, "ora sustilare"_it, "substyle hour", false},
+    {Specie::Sustilare, "linea sustilare"_it, "substyle", false},
+    {Specie::Orizzonte, "linea dell'orizzonte"_it, "horizon", false},
+    {Specie::Stilo, "triangolo dello stilo polare"_it, "style", false},
+}};
+
+const Nome *nome(Specie s) {
+    for (const Nome &n : NOMI)
+        if (n.specie == s) return &n;
+    return nullptr;
+}
+
+std::string conValore(std::string testo, const Nome &n, double valore) {
+    if (!n.conValore) return testo;
+    return testo + TestoNumero(std::round(valore * 1e5) / 1e5) + (n.specie == Specie::Analemma ? " h" : "");
+}
+
+}  // namespace
+
+std::string TestoPretesa(Specie specie, double valore) {
+    const Nome *n = nome(specie);
+    return n ? conValore(std::string(n->inglese), *n, valore) : "";
+}
+
+std::string TestoPretesa(const Dizionario &d, Specie specie, double valore) {
+    const Nome *n = nome(specie);
+    return n ? conValore(d.Traduci(n->italiano), *n, valore) : "";
+}
+
+// The largest deviation as it is told: up, so that nothing is called better than it is.
+static std::string millimetri(double mm) {
+    const double n = std::ceil(mm * 100 - 1e-9) / 100;
+    return n < 1000 ? TestoNumero(n) : TestoNumero(std::ceil(n));
+}
+
+std::string VerdettoInglese(const Certificato &c) {
+    if (c.vero()) return "true within " + millimetri(c.peggiore) + " mm";
+    return std::to_string(c.false_) + (c.false_ == 1 ? " line is not true" : " lines are not true");
+}
+
+std::string Verdetto(const Dizionario &d, const Certificato &c) {
+    if (c.vero()) return d.Traduci("vero entro ") + millimetri(c.peggiore) + " mm";
+    return std::to_string(c.false_) + (c.false_ == 1 ? d.Traduci(" linea non è vera") : d.Traduci(" linee non sono vere"));
+}
+
+PezziDelPunto LeggiPezzi(const DatiCertificato &dati, const Lista &lista, const ombra::Punto &p, double entro) {
+    PezziDelPunto r;
+    r.lettura = LeggiPunto(dati.posa, p, dati.anno);
+    for (const ombra::Data &g : r.lettura.date) {
+        // The moment of that civil date: the day of universal time that holds it may be the one before or after.
+        const double civile = ombra::giornoGiuliano(g), fuso = dati.posa.fuso() / 24;
+        double jd = ombra::momento(civile, r.lettura.sole.t, dati.posa.longitudine);
+        jd += std::round(civile + 0.5 - jd - fuso);
+        r.oreCivili.push_back((jd + fuso - civile) * 24);
+    }
+    r.linea = TrovaLinea(dati, lista, p, entro);
+    return r;
+}
+
+std::string FraseDelPunto(const Dizionario &d, const DatiCertificato &dati, const Lista &lista, const ombra::Punto &p,
+                          double entro) {
+    const PezziDelPunto r = LeggiPezzi(dati, lista, p, entro);
+    std::string t;
+    if (r.lettura.sole.luce == ombra::Luce::Notte) t = d.Traduci("qui mai ombra: Sole sotto l'orizzonte");
+    else if (r.lettura.sole.luce != ombra::Luce::Si) t = d.Traduci("qui mai ombra: nessun Sole ha questa declinazione");
+    else {
+        t = Orologio(r.lettura.oraVera) + d.Traduci(" vere, ");
+        for (std::size_t i = 0; i < r.oreCivili.size(); ++i)
+            t += (i > 0 ? d.Traduci(" o ") : "") + Orologio(r.oreCivili[i]) + d.Traduci(" il giorno ") +
+                 testoData(r.lettura.date[i]);
+        t += d.Traduci(", Sole alto ") + std::to_string(std::lround(r.lettura.sole.altezza * ombra::GRADI)) + "\xC2\xB0";
+    }
+    if (r.linea) t += d.Traduci(", linea: ") + TestoPretesa(d, r.linea->specie, r.linea->valore);
+    return t;
+}
+
+}  // namespace ombrelia

@@ -1,0 +1,106 @@
+// The true line of a claim, from the shadow by vectors: how far a point is from it, whether a shadow falls there, and the
+// line itself as far as it can be seen.
+#pragma once
+
+#include <optional>
+#include <utility>
+#include <vector>
+
+#include "certificato/posa.h"
+#include "plot/pretesa.h"
+
+namespace ombrelia {
+
+// What the judgement of a drawing needs of a session: plain values, to be carried to another thread.
+struct DatiCertificato {
+    Posa posa;
+    double xMin = 0, xMax = 0, yMin = 0, yMax = 0;  // the frame as mounted, metres
+    double scartoOra = 0;                           // radians of hour angle that the face runs ahead of the site's true time
+    double qiblaLat = 0, qiblaLon = 0;              // radians, North and West positive
+    int anno = 2026;                                // of the analemma's Sun
+    std::string titolo, luogo, piano, data;         // for the page
+};
+
+using Tratto = std::pair<double, double>;
+
+// Stretches of a line in order, none of them overlapping.
+using Tratti = std::vector<Tratto>;
+[[nodiscard]] double Lunghezza(const Tratti &t);
+// Sorts and joins what touches.
+void Unisci(Tratti &t);
+[[nodiscard]] Tratti Intersezione(const Tratti &a, const Tratti &b);
+
+class LineaVera {
+public:
+    LineaVera(const DatiCertificato &dati, Specie specie, double valore);
+
+    enum class Forma : std::uint8_t { Nessuna, Retta, Curva, Stilo };
+    [[nodiscard]] Forma forma() const { return forma_; }
+    // A line that the dial's maker draws and no shadow follows, as substyle and horizon: nothing of it can be missing or
+    // lie in the dark.
+    [[nodiscard]] bool costruzione() const { return costruzione_; }
+    // Only a piece of its line is meant to be drawn.
+    [[nodiscard]] bool frammento() const { return frammento_; }
+
+    // A point against the line.
+    struct Esame {
+        double distanza;   // metres
+        double parametro;  // along the line: metres on a straight one, an angle or a day on a curve
+        bool buia;         // no shadow of the claim ever falls there; not told for straight lines
+    };
+    [[nodiscard]] Esame esamina(const ombra::Punto &p) const;
+
+    // --- straight lines: stretches in metres of the parameter ---------------------------------------------------------
+    [[nodiscard]] const Tratti &lucenti() const { return lucenti_; }    // where a shadow falls at some time of the year
+    [[nodiscard]] const Tratti &visibili() const { return visibili_; }  // the same inside the frame
+    // Lit by the opposite Sun: twelve hours later, which bears the same numeral, or the azimuth across.
+    [[nodiscard]] const Tratti &opposti() const { return opposti_; }
+    [[nodiscard]] ombra::Punto punto(double parametro) const {
+        return {retta_.c * retta_.a - parametro * retta_.b, retta_.c * retta_.b + parametro * retta_.a};
+    }
+
+    // --- curves: the line in samples half a millimetre apart inside the frame, by growing parameter ---------------------
+    struct Campione {
+        double u;
+        ombra::Punto p;
+        bool visibile;
+    };
+    [[nodiscard]] const std::vector<Campione> &campioni() const { return campioni_; }
+
+private:
+    enum class Legge : std::uint8_t { Lineare, Conica, Temporaria, Asr, Analemma };
+
+    // lato: the half of the sky that is meant; soloLato: the other half is no light for this claim.
+    void retta(const ombra::Vettore &normale, const ombra::Vettore *lato, bool soloLato);
+    void campiona(double da, double a, int parti);
+    void dividi(const Campione &a, const Campione &b, int livello);
+    [[nodiscard]] std::optional<ombra::Vettore> direzione(double u) const;
+    [[nodiscard]] Campione campione(double u) const;
+    [[nodiscard]] ombra::Vettore verso(const ombra::Punto &p) const { return base_ - p.x * destra_ - p.y * alto_; }
+    [[nodiscard]] bool dentro(const ombra::Punto &p) const;
+    [[nodiscard]] double scartoAnalemma(const ombra::Punto &p, double &u) const;
+    void preparaAnalemma();
+
+    const DatiCertificato &dati_;
+    ombra::Piano piano_;
+    ombra::Vettore base_, destra_, alto_;  // of the direction to the Sun, not of unit length
+    double valore_;
+    Forma forma_ = Forma::Nessuna;
+    Legge legge_ = Legge::Lineare;
+    bool costruzione_ = false, frammento_ = false;
+    ombra::Retta retta_, orizzonte_;
+    std::optional<ombra::Vettore> lato_;
+    ombra::Vettore asse_;
+    double seno_ = 0;  // of a cone about asse_
+    Tratti lucenti_, visibili_, opposti_;
+    std::vector<Campione> campioni_;
+    struct Giorno {
+        double t, delta;
+        ombra::Punto p;
+        int lato;  // 1 in front of the plane, -1 behind, 0 nowhere
+    };
+    std::vector<Giorno> anno_;
+    std::vector<ombra::Retta> stilo_;
+};
+
+}  // namespace ombrelia

@@ -1,0 +1,49 @@
+// certify.
+#include "cli/certify.h"
+
+#include "certificato/certificato.h"
+#include "cli/disegno.h"
+#include "cli/formati.h"
+
+namespace ombrelia::cli {
+
+int Certify(int argc, char **argv) {
+    Disegno disegno;
+    double tolleranza = 0.1;
+    enum class Forma { Testo, Json, Html } forma = Forma::Testo;
+    std::string uscita = "-";
+    for (int i = 0; i < argc; ++i) {
+        const std::string a = argv[i];
+        std::string errore;
+        if (disegno.Prendi(argc, argv, i, errore)) {
+            if (!errore.empty()) return Rifiuta("certify", errore);
+        } else if (a == "--json") {
+            forma = Forma::Json;
+        } else if (a == "--html") {
+            forma = Forma::Html;
+        } else if (a == "--tolerance" || a == "-o" || a == "--out") {
+            if (i + 1 >= argc) return Rifiuta("certify", a + " needs an argument");
+            const std::string valore = argv[++i];
+            if (a != "--tolerance") uscita = valore;
+            else if (!Numero(valore, tolleranza) || !(tolleranza > 0 && tolleranza <= 1000))
+                return Rifiuta("certify", "--tolerance " + valore + ": millimetres, above 0");
+        } else {
+            return Rifiuta("certify",
+                           (a.starts_with("-") ? "unknown option " : "what is ") + a + "; see ombrelia certify --help");
+        }
+    }
+    SessioneDiComando comando(disegno.carta.value_or(Carta()));
+    Sessione &s = comando.s;
+    if (const std::string e = disegno.Applica(s); !e.empty()) return Rifiuta("certify", e);
+    if (const std::string e = disegno.Esegui(s); !e.empty()) return Rifiuta("certify", e);
+    DatiCertificato dati = DatiDelCertificato(s);
+    dati.titolo = disegno.campi.progetto;
+    const Certificato c = Certifica(dati, s.tavolo.lista(), tolleranza);
+    const std::string testo = forma == Forma::Json   ? CertificatoJson(c)
+                              : forma == Forma::Html ? CertificatoHtml(dati, c)
+                                                     : CertificatoTesto(dati, c);
+    if (const std::string e = Consegna(uscita, testo); !e.empty()) return Rifiuta("certify", e);
+    return c.vero() ? 0 : 1;
+}
+
+}  // namespace ombrelia::cli

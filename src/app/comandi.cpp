@@ -5,6 +5,7 @@
 #include <unordered_map>
 
 #include "app/azioni.h"
+#include "app/etichette.h"
 #include "app/lingua.h"
 #include "app/parametri_default.h"
 #include "certificato/corrette.h"
@@ -193,7 +194,7 @@ bool Adatta(Sessione &s) {
     constexpr double MARGINE = 0.02;
     const Cornice c = CorniceDi(Lettura(s.in));
     const double l = c.xMax.numero() - c.xMin.numero() + 2 * MARGINE;
-    const double h = c.yMax.numero() - c.yMin.numero() + 2 * MARGINE;
+    const double h = c.yMax.numero() - c.yMin.numero() + 2 * MARGINE + AltezzaCartiglio(s);
     Tavolo &t = s.tavolo;
     if (!(l > 2 * MARGINE && h > 2 * MARGINE && l <= Tavolo::LATO_MASSIMO && h <= Tavolo::LATO_MASSIMO)) return false;
     t.QuadranteH(h);

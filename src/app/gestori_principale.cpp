@@ -2,6 +2,7 @@
 #include "analytic/analitica.h"
 #include "analytic/equivalente.h"
 #include "app/azioni.h"
+#include "app/etichette.h"
 #include "app/lingua.h"
 #include "direct/diretta.h"
 #include "glyphs/numeri.h"
@@ -54,7 +55,10 @@ void cmdEqui_Click(Sessione &s, int) {
         t.ShiftX(t.QuadranteL() / 2.0);
         t.ShiftY(t.QuadranteH() / 3.33333);
     }
-    if (Val(s.in.txtInc) == 0) analytic::EseguiGraficaAnalitica(s);
+    if (Val(s.in.txtInc) == 0) {
+        analytic::EseguiGraficaAnalitica(s);
+        TracciaEtichette(s);
+    }
 }
 
 void cmdTrasforma_Click(Sessione &s, int) {
@@ -109,6 +113,7 @@ void cmdRun(Sessione &s) {
     } else {
         direct::I_Graf_diretta(s);
     }
+    TracciaEtichette(s);
 }
 
 }  // namespace ombrelia::app

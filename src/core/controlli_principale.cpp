@@ -148,6 +148,18 @@ constexpr Controllo RIGHE_PRINCIPALE[] = {
     Nostro(Etichetta("lblAnno", "Anno")),
     Nostro(Testo("txtAnno", &In::txtAnno, "", "anno del Sole che la lemniscata vera segue; vuoto: l'anno in corso", Filtro::Tasti)),
     Nostro(Casella("ckEtichette", &In::ckEtichette, "Etichette", "scrive su ogni linea il suo numero, la data o i gradi")),
+    Nostro(Etichetta("lblAltezzaEtichette", "Altezza delle etichette, mm")),
+    Nostro(Testo("txtAltezzaEtichette", &In::txtAltezzaEtichette, "8", {}, Filtro::Tasti)),
+    Nostro(Casella("ckEtichetteRomane", &In::ckEtichetteRomane, "Ore romane")),
+    Nostro(Casella("ckEtichetteLungo", &In::ckEtichetteLungo, "Lungo la linea", "le etichette seguono la linea invece di stare diritte")),
+    Nostro(Casella("ckEtichetteSegni", &In::ckEtichetteSegni, "Segni per date", "sulle linee diurne i segni dello zodiaco al posto delle date")),
+    Nostro(Casella("ckCartiglio", &In::ckCartiglio, "Cartiglio", "scrive sotto la cornice, o accanto, luogo, piano, gnomone, motto e anno")),
+    Nostro(Etichetta("lblLuogo", "Nome del luogo")),
+    Nostro(Testo("txtLuogo", &In::txtLuogo, "")),
+    Nostro(Etichetta("lblMotto", "Motto")),
+    Nostro(Testo("txtMotto", &In::txtMotto, "")),
+    Nostro(Etichetta("lblAnnoCartiglio", "Anno del cartiglio")),
+    Nostro(Testo("txtAnnoCartiglio", &In::txtAnnoCartiglio, "")),
 
     // The window's own furniture.
     Cornice("Panel3D1"),

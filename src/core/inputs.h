@@ -22,6 +22,8 @@ struct DialInputs {
     std::string txtMeridiano;
     // The year whose Sun the true analemma follows; empty: the present one.
     std::string txtAnno;
+    // Labels: height of the capitals, mm. Title block.
+    std::string txtAltezzaEtichette, txtLuogo, txtMotto, txtAnnoCartiglio;
 
     int ck_Etna = 0, ChCentimetro = 0, CkUNI = 0, ckFunzione = 0;
     int chkOreAstronomiche = 0, Ck_DayLightCurves = 0, ck_Equinoziale = 0, ck_Italiche = 0, ck_babiloniche = 0, ckTemp = 0;
@@ -29,6 +31,7 @@ struct DialInputs {
     int ckAssi = 0, ck_Orizzonte = 0, ckAz = 0, ckRomani = 0, ckArabi = 0, ck_inv = 0, punto = 0;
     // True lines in place of those that are not; labels on every line.
     int ckCorretta = 0, ckEtichette = 0;
+    int ckEtichetteRomane = 0, ckEtichetteLungo = 0, ckEtichetteSegni = 0, ckCartiglio = 0;
     // Option buttons of the reports: 1 when set.
     int optHorae = 0, OptIta = 0, OptBab = 0, OptTEMP = 0, OptInter = 0, Option1 = 0;
     // The country chosen in the list of the map.

@@ -36,6 +36,8 @@ struct Cammino {
     Tipo tipo = Tipo::Linea;
     bool chiuso = false;        // of a line: the last point is joined to the first
     int linea = -1;             // number of the drawing's line it comes from; paths of one line share it
+    Specie specie = Specie::Nessuna;  // what that line claims to be, and its value
+    double valore = 0;
     std::vector<P2> punti{};    // of a circle or arc its centre, of a point or text its place (left end of the base line)
     double raggio = 0;          // of a circle or arc; height of a text's capitals
     double inizio = 0, fine = 0;  // of an arc, radians from the right, counter-clockwise

@@ -6,6 +6,8 @@
 #include <cmath>
 #include <limits>
 
+#include "officina/passi.h"
+
 namespace ombrelia::officina {
 
 namespace {
@@ -128,6 +130,18 @@ double Griglia::distanza(P2 p, double fino) const {
         for (const std::uint32_t n : celle_[i]) minima = std::min(minima, Distanza(p, segmenti_[n].a, segmenti_[n].b));
     });
     return minima <= fino ? minima : std::numeric_limits<double>::infinity();
+}
+
+bool Griglia::entra(P2 centro, P2 asse, double a, double b) const {
+    const P2 su{-asse.y, asse.x}, mezzo{std::fabs(asse.x) * a + std::fabs(su.x) * b, std::fabs(asse.y) * a + std::fabs(su.y) * b};
+    for (int c = colonna(centro.x - mezzo.x); c <= colonna(centro.x + mezzo.x); ++c)
+        for (int r = riga(centro.y - mezzo.y); r <= riga(centro.y + mezzo.y); ++r)
+            for (const std::uint32_t n : celle_[static_cast<std::size_t>(r) * static_cast<std::size_t>(nx_) + static_cast<std::size_t>(c)]) {
+                P2 p{Scalare(segmenti_[n].a - centro, asse), Scalare(segmenti_[n].a - centro, su)};
+                P2 q{Scalare(segmenti_[n].b - centro, asse), Scalare(segmenti_[n].b - centro, su)};
+                if (Taglia({-a, -b, a, b}, p, q)) return true;
+            }
+    return false;
 }
 
 }  // namespace ombrelia::officina

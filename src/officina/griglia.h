@@ -15,6 +15,9 @@ public:
     void coperto(P2 a, P2 b, double distanza, std::vector<std::pair<double, double>> &parti) const;
     // Distance (mm) of a point from the nearest segment, looked for as far as fino; beyond it, infinity.
     [[nodiscard]] double distanza(P2 p, double fino) const;
+    // Whether a segment enters the rectangle about centro, asse (a unit vector) its direction, a and b half its length
+    // and half its height.
+    [[nodiscard]] bool entra(P2 centro, P2 asse, double a, double b) const;
 
 private:
     struct Segmento {

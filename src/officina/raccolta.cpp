@@ -44,7 +44,12 @@ private:
     struct Gruppo {
         Genere genere;
         int linea;
-        auto operator<=>(const Gruppo &) const = default;
+        Specie specie = Specie::Nessuna;
+        double valore = 0;
+        bool operator<(const Gruppo &g) const { return linea != g.linea ? linea < g.linea : genere < g.genere; }
+        [[nodiscard]] Cammino cammino(Cammino::Tipo tipo = Cammino::Tipo::Linea) const {
+            return {.genere = genere, .tipo = tipo, .linea = linea, .specie = specie, .valore = valore};
+        }
     };
 
     [[nodiscard]] P2 mm(double x, double y, bool specchia = true) const {
@@ -60,9 +65,9 @@ private:
     Gruppo gruppo(IdNome id, Colore colore, Genere senzaNome = Genere::Figure) {
         if (pretesa < lista.pretese.size() && lista.pretese[pretesa].da <= posto) {
             const Pretesa &p = lista.pretese[pretesa];
-            if (p.specie == Specie::Etichetta) return {std::max(Genere::Etichette, GenereDi(lista.nomi.testo(id))), numero(linee, pretesa)};
+            if (p.specie == Specie::Etichetta) return {std::max(Genere::Etichette, GenereDi(lista.nomi.testo(id))), numero(linee, pretesa), p.specie, p.valore};
             // One line may be claimed in pieces, a point at a time.
-            if (p.specie != Specie::Nessuna) return {GenereDi(p.specie, p.valore), numero(linee, std::pair{p.specie, p.valore})};
+            if (p.specie != Specie::Nessuna) return {GenereDi(p.specie, p.valore), numero(linee, std::pair{p.specie, p.valore}), p.specie, p.valore};
         }
         return {id == 0 ? senzaNome : GenereDi(lista.nomi.testo(id)), numero(linee, std::pair{id, colore})};
     }
@@ -70,7 +75,7 @@ private:
     void chiudi(const Gruppo &g, std::vector<P2> &catena) {
         if (catena.size() < 2) return;
         esito.vertici.insert(esito.vertici.end(), catena.begin(), catena.end());
-        Cammino c{.genere = g.genere, .linea = g.linea};
+        Cammino c = g.cammino();
         c.punti = std::move(catena);
         esito.cammini.push_back(std::move(c));
         catena.clear();
@@ -91,7 +96,7 @@ private:
     void tratto(const Gruppo &g, P2 a, P2 b) {
         const double lunga = Distanza(a, b);
         if (lunga == 0) return;
-        if (g.genere != Genere::Figure) {
+        if (g.genere != Genere::Figure && g.genere != Genere::Cartiglio) {
             P2 p = a, q = b;
             if (!Taglia(campo, p, q)) {
                 r.fuori += lunga;
@@ -134,11 +139,14 @@ private:
         for (const Puntino &q : punti) esito.vertici.push_back(q.p);
         for (auto &c : catene) {
             r.puntiUniti += c.size();
-            Cammino k{.genere = g.genere, .linea = g.linea};
+            Cammino k = g.cammino();
             k.punti = std::move(c);
             esito.cammini.push_back(std::move(k));
         }
-        for (const P2 p : soli) esito.cammini.push_back({.genere = g.genere, .tipo = Cammino::Tipo::Punto, .linea = g.linea, .punti = {p}});
+        for (const P2 p : soli) {
+            esito.cammini.push_back(g.cammino(Cammino::Tipo::Punto));
+            esito.cammini.back().punti = {p};
+        }
     }
 
     std::size_t altra(char tipo, std::size_t i) {
@@ -173,7 +181,7 @@ private:
         const double raggio = MM * f.X2, inizio = std::fabs(f.A), fine = std::fabs(f.B);
         const bool intero = f.B == 0;
         if (raggio <= 0) return;
-        Cammino c{.genere = g.genere, .tipo = intero ? Cammino::Tipo::Cerchio : Cammino::Tipo::Arco, .linea = g.linea};
+        Cammino c = g.cammino(intero ? Cammino::Tipo::Cerchio : Cammino::Tipo::Arco);
         if (f.Y2 == 1) {
             c.punti = {centro};
             c.raggio = raggio;

@@ -67,6 +67,10 @@ struct Sostituto {
 constexpr Sostituto SOSTITUTI[] = {{U'°', 127}, {U'º', 127}, {U'’', '\''}, {U'‘', '`'}, {U'′', '\''}, {U'″', '"'},
                                    {U'“', '"'}, {U'”', '"'}, {U'–', '-'},  {U'—', '-'}, {U'−', '-'},  {U'×', 'x'}};
 
+// Signs of the zodiac in their own alphabet, Aries first; Libra has none there.
+constexpr unsigned char SEGNI[] = {64, 91, 93, 94, 95, 96, 0, 123, 124, 125, 126, 33};
+constexpr char32_t ARIETE = U'♈';
+
 class Alfabeto {
 public:
     explicit Alfabeto(const char *nome) : font_(hershey_font_load(nome), hershey_font_free) {}
@@ -91,6 +95,11 @@ private:
 
 const Alfabeto &romano() {
     static const Alfabeto a("rowmans");
+    return a;
+}
+
+const Alfabeto &astrologico() {
+    static const Alfabeto a("astrology");
     return a;
 }
 
@@ -134,7 +143,23 @@ void accenta(Lettera &l, Accento a, bool maiuscola) {
     }
 }
 
+// A sign as tall as a capital. The Libra is an arch over two lines.
+Lettera segno(std::size_t n) {
+    Lettera l;
+    if (SEGNI[n] != 0 && astrologico().esiste()) {
+        l = astrologico().lettera(SEGNI[n]);
+    } else if (SEGNI[n] == 0) {
+        l.tratti = dentro(romano().lettera('U').tratti, {7, 7, 15, 20}, 2);
+        l.tratti.push_back({{2, 7}, {7, 7}});
+        l.tratti.push_back({{15, 7}, {20, 7}});
+        l.tratti.push_back({{2, 2}, {20, 2}});
+        l.largo = 22;
+    }
+    return l;
+}
+
 Lettera cerca(char32_t u) {
+    if (u >= ARIETE && u < ARIETE + 12) return segno(u - ARIETE);
     if (u < 128) return romano().lettera(static_cast<unsigned char>(u));
     for (const Sostituto &s : SOSTITUTI)
         if (s.codice == u) return romano().lettera(s.lettera);

@@ -14,12 +14,9 @@ namespace ombrelia::officina {
 [[nodiscard]] bool CiSonoTratti();
 
 // Strokes of a text in UTF-8, in mm, y upward, beginning at the left end of its base line; altezza is that of the
-// capitals. A character without strokes leaves a blank.
+// capitals. The signs of the zodiac are characters too. A character without strokes leaves a blank.
 [[nodiscard]] std::vector<std::vector<P2>> TrattiDi(std::string_view testo, double altezza);
 // Width of the text; without the alphabet an estimate.
 [[nodiscard]] double LarghezzaTratti(std::string_view testo, double altezza);
-
-// Strokes of a sign of the zodiac (0 Aries to 11 Pisces) in a square of the height, its lower left corner at the origin.
-[[nodiscard]] std::vector<std::vector<P2>> TrattiSegno(int segno, double altezza);
 
 }  // namespace ombrelia::officina

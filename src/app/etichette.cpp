@@ -5,16 +5,16 @@
 #include <cmath>
 
 #include "certificato/posa.h"
-#include "ombra/sole.h"
 #include "officina/etichette.h"
 #include "officina/tratti.h"
+#include "ombra/sole.h"
 
 namespace ombrelia::app {
 
 namespace {
 
-constexpr int ANNO_TIPO = 2026;    // dates of a day line move by a day at the most
-constexpr double SOLSTIZIO = 23.4;  // degrees: from here on a day line is the solstice's
+constexpr int ANNO_TIPO = 2026;                                // dates of a day line move by a day at the most
+constexpr double SOLSTIZIO = 23.4;                             // degrees: from here on a day line is the solstice's
 constexpr double ALTEZZA_MINIMA = 0.5, ALTEZZA_MASSIMA = 500;  // mm
 
 std::string romano(int n) {
@@ -35,7 +35,8 @@ std::string segni(double delta) {
         double delta;
         const char *segni;
     };
-    constexpr Segno SEGNI[] = {{-23.44, "♑"}, {-20.15, "♒ ♐"}, {-11.47, "♓ ♏"}, {0, "♈ ♎"}, {11.47, "♉ ♍"}, {20.15, "♊ ♌"}, {23.44, "♋"}};
+    constexpr Segno SEGNI[] = {{-23.44, "♑"},  {-20.15, "♒ ♐"}, {-11.47, "♓ ♏"}, {0, "♈ ♎"},
+                               {11.47, "♉ ♍"}, {20.15, "♊ ♌"},  {23.44, "♋"}};
     for (const Segno &s : SEGNI)
         if (std::fabs(delta - s.delta) < 0.5) return s.segni;
     return {};
@@ -50,12 +51,17 @@ public:
             case Specie::Ora:
             case Specie::Italica:
             case Specie::Babilonica:
-            case Specie::Temporaria: return ora(specie, valore);
-            case Specie::Diurna: return giorno(valore);
-            case Specie::Equinoziale: return giorno(0);
+            case Specie::Temporaria:
+                return ora(specie, valore);
+            case Specie::Diurna:
+                return giorno(valore);
+            case Specie::Equinoziale:
+                return giorno(0);
             case Specie::Almucantarat:
-            case Specie::Azimut: return TestoNumero(std::round(valore * 100) / 100) + "°";
-            default: return {};
+            case Specie::Azimut:
+                return TestoNumero(std::round(valore * 100) / 100) + "°";
+            default:
+                return {};
         }
     }
 
@@ -79,8 +85,9 @@ private:
             } else {
                 const auto h = ombra::semiarco(posa_.quadrante.latitudine, delta);
                 if (!h) continue;
-                t = specie == Specie::Italica ? *h + (valore - 24) * 15 * RADIANTI
-                    : specie == Specie::Babilonica ? -*h + valore * 15 * RADIANTI : *h * (valore / 6 - 1);
+                t = specie == Specie::Italica      ? *h + (valore - 24) * 15 * RADIANTI
+                    : specie == Specie::Babilonica ? -*h + valore * 15 * RADIANTI
+                                                   : *h * (valore / 6 - 1);
             }
             if (piano_.getta(t, delta).luce == ombra::Luce::Si) return true;
         }
@@ -116,10 +123,11 @@ std::vector<std::string> righeCartiglio(const Sessione &s) {
     const auto angolo = [](const std::string &t) { return TestoNumero(Val(t).v) + "°"; };
     std::vector<std::string> righe;
     const std::string luogo = SenzaBlanks(in.txtLuogo), motto = SenzaBlanks(in.txtMotto), anno = SenzaBlanks(in.txtAnnoCartiglio);
-    const std::string sito = gradi(posa.quadrante.latitudine * ombra::GRADI, "N", "S") + "  " + gradi(Val(in.txtLonG).v, "O", "E");
+    const std::string sito =
+        gradi(posa.quadrante.latitudine * ombra::GRADI, "N", "S") + "  " + gradi(Val(in.txtLonG).v, "O", "E");
     righe.push_back(luogo.empty() ? sito : luogo + "  " + sito);
-    righe.push_back(s.Traduci("declinazione ") + angolo(in.txtDec) + "  " + s.Traduci("inclinazione ") + angolo(in.txtInc) + "  " +
-                    s.Traduci("gnomone ") + TestoNumero(Val(in.TxtStilo).v) + (in.ChCentimetro == 1 ? " mm" : " m"));
+    righe.push_back(s.Traduci("declinazione ") + angolo(in.txtDec) + "  " + s.Traduci("inclinazione ") + angolo(in.txtInc) +
+                    "  " + s.Traduci("gnomone ") + TestoNumero(Val(in.TxtStilo).v) + (in.ChCentimetro == 1 ? " mm" : " m"));
     if (!motto.empty() || !anno.empty()) righe.push_back(motto + (motto.empty() || anno.empty() ? "" : "  ") + anno);
     return righe;
 }
@@ -147,7 +155,8 @@ void TracciaEtichette(Sessione &s) {
         stile.specchiata = specchiata;
         stile.testo = Scritte(s);
         const officina::EsitoEtichette e = officina::Etichetta(s.tavolo, stile);
-        s.Messaggio(s.Traduci("Etichette scritte: ") + std::to_string(e.scritte) + s.Traduci(", senza posto: ") + std::to_string(e.senzaPosto));
+        s.Messaggio(s.Traduci("Etichette scritte: ") + std::to_string(e.scritte) + s.Traduci(", senza posto: ") +
+                    std::to_string(e.senzaPosto));
     }
     if (s.in.ckCartiglio == 1) officina::Cartiglio(s.tavolo, righeCartiglio(s), DEL_CARTIGLIO * altezza(s), specchiata);
 }

@@ -16,6 +16,7 @@ usage: ombrelia COMMAND ...
   gui       the window, also without any command where there is a display: ombrelia gui [--run] [PROJECT]
   draw      a dial from fields to files
   cut       a dial as paths for a plotter, laser or mill
+  solid     the style, the gnomon's socket and the plate as solids to print or mill
   report    the numbers of a dial as text, CSV or HTML
   certify   holds every drawn line against the shadow: is it true, is any missing, is any too much
   read      what a point of the dial says: hours, dates, the Sun that casts its shadow there
@@ -88,6 +89,26 @@ examples:
   ombrelia cut --set txtLAT=45.07 --set txtInc=0 --check chkOreAstronomiche --clip sheet --text none muro.svg
 
 endings:
+)";
+
+constexpr std::string_view SOLID = R"(usage: ombrelia solid [options of draw] [--part style|socket|plate|all] [--raised | --sunk] [--depth MM]
+                      [--thickness MM] [--plate MM] [--line MM] [--rod MM] FILE.stl
+
+Makes solids of a dial, closed and in millimetres, in one binary STL file, each lying as it is printed.
+
+  --part PART        style: the polar style as a plate with two tabs; socket: a boss for the rod of the gnomon; plate: the dial
+                     with its lines and labels; without it all, and the plate has slots for the tabs
+  --raised, --sunk   lines stand out (as without a choice) or are sunk
+  --depth MM         by so much; without it 1
+  --thickness MM     of the style's plate; without it 3
+  --plate MM         thickness of the dial's plate; without it 5
+  --line MM          width of a line; without it 0.8
+  --rod MM           diameter of the gnomon's rod; without it 4
+
+ombrelia draw --help tells the options of a dial.
+
+example:
+  ombrelia solid --project muro.omb --check ckEtichette --sunk --depth 0.6 muro.stl
 )";
 
 constexpr std::string_view BATCH = R"(usage: ombrelia batch FILE      (- for standard input)
@@ -253,6 +274,7 @@ std::string Aiuto(std::string_view comando) {
     if (comando == "read") return std::string(READ);
     if (comando == "shadow") return std::string(SHADOW);
     if (comando == "sun") return std::string(SUN);
+    if (comando == "solid") return std::string(SOLID);
     if (comando == "cut") {
         std::string t(CUT);
         for (const auto &f : officina::FormatiMacchina())

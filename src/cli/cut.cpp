@@ -1,123 +1,157 @@
-// Files for machines from a dial's options.
+// Files for machines from a dial's options: paths and solids.
 #include "cli/cut.h"
 
+#include <cmath>
 #include <cstdio>
 #include <optional>
 #include <string>
 #include <vector>
 
-#include "app/comandi.h"
-#include "cli/console.h"
+#include "certificato/posa.h"
 #include "cli/disegno.h"
 #include "cli/formati.h"
+#include "cli/opzioni.h"
 #include "officina/scrittori.h"
+#include "officina/solidi.h"
 #include "officina/tratti.h"
 
 namespace ombrelia::cli {
 
 namespace {
 
-struct Richiesta {
-    Disegno disegno;
-    officina::Opzioni opzioni;
-    std::optional<officina::Testi> testi;
-    officina::Foglio foglio;
-    std::vector<std::string> uscite;
-};
-
-int rifiuta(const std::string &motivo) {
-    std::fprintf(stderr, "ombrelia cut: %s\n", motivo.c_str());
-    return 2;
+// One word of a few, and what it stands for.
+template <class T>
+Opzione scelta(std::string_view nome, std::string_view cosa, std::vector<std::pair<std::string, T>> parole, T &dove) {
+    return {nome, 1, cosa, [=, &dove](const Valori &v) -> std::string {
+                for (const auto &[parola, valore] : parole)
+                    if (parola == v[0]) {
+                        dove = valore;
+                        return {};
+                    }
+                return std::string(nome) + " " + v[0] + ": it takes " + std::string(cosa);
+            }};
 }
 
-// An option with a word out of a few, or a length above 0 in mm.
-struct Opzione {
-    std::string_view nome, vuole;
-    bool (*prendi)(Richiesta &, const std::string &);
-};
+constexpr double MINIMO = 1e-4, MASSIMO = 1000;  // mm
 
-bool lunghezza(const std::string &testo, double &mm) { return Numero(testo, mm) && mm > 0; }
+Opzione lunghezza(std::string_view nome, std::string_view cosa, double &mm) {
+    return {nome, 1, cosa, [=, &mm](const Valori &v) -> std::string {
+                const std::string e = LeggiNumero(v[0], MINIMO, MASSIMO, mm);
+                return e.empty() ? e : std::string(nome) + ": " + e;
+            }};
+}
 
-constexpr Opzione OPZIONI[] = {
-    {"--text", "strokes, text or none",
-     [](Richiesta &r, const std::string &v) {
-         if (v != "strokes" && v != "text" && v != "none") return false;
-         r.testi = v == "strokes" ? officina::Testi::Tratti : v == "text" ? officina::Testi::Testo : officina::Testi::Niente;
-         return true;
-     }},
-    {"--tolerance", "a length in mm above 0",
-     [](Richiesta &r, const std::string &v) { return lunghezza(v, r.opzioni.tolleranza); }},
-    {"--dots", "the radius of a circle in mm above 0",
-     [](Richiesta &r, const std::string &v) { return lunghezza(v, r.opzioni.raggioPunti); }},
-    {"--units", "mm or in",
-     [](Richiesta &r, const std::string &v) {
-         r.foglio.unita = v == "in" ? officina::Unita::Pollici : officina::Unita::Millimetri;
-         return v == "in" || v == "mm";
-     }},
-    {"--clip", "frame or sheet",
-     [](Richiesta &r, const std::string &v) {
-         r.opzioni.ritaglio = v == "sheet" ? officina::Ritaglio::Foglio : officina::Ritaglio::Cornice;
-         return v == "frame" || v == "sheet";
-     }},
-    {"-o", "a file",
-     [](Richiesta &r, const std::string &v) {
-         r.uscite.push_back(v);
-         return true;
-     }},
-};
-
-std::string leggi(int argc, char **argv, Richiesta &r) {
-    for (int i = 0; i < argc; ++i) {
-        const std::string a = argv[i];
-        std::string errore;
-        if (r.disegno.Prendi(argc, argv, i, errore)) {
-            if (!errore.empty()) return errore;
-            continue;
-        }
-        const Opzione *trovata = nullptr;
-        for (const Opzione &o : OPZIONI)
-            if (o.nome == a) trovata = &o;
-        if (trovata) {
-            if (i + 1 >= argc) return a + " needs " + std::string(trovata->vuole);
-            const std::string v = argv[++i];
-            if (!trovata->prendi(r, v)) return a + " " + v + ": it takes " + std::string(trovata->vuole);
-        } else if (a.starts_with("-") && a != "-") {
-            return "unknown option " + a + "; see ombrelia cut --help";
-        } else {
-            r.uscite.push_back(a);
-        }
-    }
-    if (r.uscite.empty()) return "no output file: name one or more, as in muro.dxf muro.plt";
-    for (const std::string &u : r.uscite)
-        if (!officina::FormatoMacchinaDi(Estensione(u))) {
-            std::string note;
-            for (const auto &f : officina::FormatiMacchina()) note += " ." + std::string(f.estensione);
-            return u + ": unknown ending; I write" + note;
-        }
-    return {};
+std::string disegna(const Disegno &d, Sessione &s) {
+    std::string e = d.Applica(s);
+    return e.empty() ? d.Esegui(s) : e;
 }
 
 }  // namespace
 
 int Cut(int argc, char **argv) {
-    Richiesta r;
-    if (const std::string e = leggi(argc, argv, r); !e.empty()) return rifiuta(e);
-    Console console(stderr);
-    Sessione s(console);
-    app::Avvia(s);
-    if (const std::string e = r.disegno.Applica(s); !e.empty()) return rifiuta(e);
-    if (const std::string e = r.disegno.Esegui(s); !e.empty()) return rifiuta(e);
+    Disegno disegno;
+    officina::Opzioni come;
+    std::optional<officina::Testi> testi;
+    officina::Foglio foglio;
+    std::vector<std::string> uscite;
+    const auto uscita = [&](const std::string &p) -> std::string {
+        uscite.push_back(p);
+        if (officina::FormatoMacchinaDi(Estensione(p))) return {};
+        std::string note;
+        for (const auto &f : officina::FormatiMacchina()) note += " ." + std::string(f.estensione);
+        return p + ": unknown ending; I write" + note;
+    };
+    Opzioni o{.comando = "cut", .righe = {}, .parola = uscita};
+    disegno.opzioni(o);
+    using officina::Ritaglio, officina::Testi, officina::Unita;
+    o.righe.push_back(scelta<std::optional<Testi>>(
+        "--text", "strokes, text or none", {{"strokes", Testi::Tratti}, {"text", Testi::Testo}, {"none", Testi::Niente}}, testi));
+    o.righe.push_back(lunghezza("--tolerance", "a length in mm", come.tolleranza));
+    o.righe.push_back(lunghezza("--dots", "a radius in mm", come.raggioPunti));
+    o.righe.push_back(scelta<Unita>("--units", "mm or in", {{"mm", Unita::Millimetri}, {"in", Unita::Pollici}}, foglio.unita));
+    o.righe.push_back(
+        scelta<Ritaglio>("--clip", "frame or sheet", {{"frame", Ritaglio::Cornice}, {"sheet", Ritaglio::Foglio}}, come.ritaglio));
+    for (const char *nome : {"-o", "--out"})
+        o.righe.push_back({nome, 1, "a file", [&](const Valori &v) { return uscita(v[0]); }, true});
+    if (const std::string e = o.leggi(argc, argv); !e.empty()) return Rifiuta("cut", e);
+    if (uscite.empty()) return Rifiuta("cut", "no output file: name one or more, as in muro.dxf muro.plt");
     // Strokes where there are any, else texts as texts.
-    r.opzioni.testi = r.testi.value_or(officina::CiSonoTratti() ? officina::Testi::Tratti : officina::Testi::Testo);
+    come.testi = testi.value_or(officina::CiSonoTratti() ? Testi::Tratti : Testi::Testo);
+    SessioneDiComando c;
+    if (const std::string e = disegna(disegno, c.s); !e.empty()) return Rifiuta("cut", e);
     std::string errore;
-    const officina::Disegno d = officina::Prepara(s.tavolo, r.opzioni, errore);
-    if (!errore.empty()) return rifiuta(errore + ", and nothing is written");
-    r.foglio.titolo = "Ombrelia: " + s.in.txtLAT + "°, " + s.in.txtDec + "°, " + s.in.txtInc + "°";
-    for (const std::string &uscita : r.uscite) {
-        const std::string contenuto = officina::FormatoMacchinaDi(Estensione(uscita))->scrivi(d, r.foglio);
-        if (const std::string e = Consegna(uscita, contenuto); !e.empty()) return rifiuta(e);
+    const officina::Disegno d = officina::Prepara(c.s.tavolo, come, errore);
+    if (!errore.empty()) return Rifiuta("cut", errore + ", and nothing is written");
+    foglio.titolo = "Ombrelia: " + c.s.in.txtLAT + "°, " + c.s.in.txtDec + "°, " + c.s.in.txtInc + "°";
+    for (const std::string &p : uscite)
+        if (const std::string e = Consegna(p, officina::FormatoMacchinaDi(Estensione(p))->scrivi(d, foglio)); !e.empty())
+            return Rifiuta("cut", e);
+    std::fputs(officina::Racconto(d, come).c_str(), stdout);
+    return 0;
+}
+
+int Solid(int argc, char **argv) {
+    Disegno disegno;
+    officina::Misure m;
+    std::string parte = "all", uscita;
+    const auto file = [&](const std::string &p) -> std::string {
+        if (!uscita.empty()) return "one output file, not " + uscita + " and " + p;
+        uscita = p;
+        return UguaglianzaSenzaCaso(Estensione(p), "stl") ? "" : p + ": unknown ending; I write .stl";
+    };
+    Opzioni o{.comando = "solid", .righe = {}, .parola = file};
+    disegno.opzioni(o);
+    o.righe.push_back(scelta<std::string>("--part", "style, socket, plate or all",
+                                          {{"style", "style"}, {"socket", "socket"}, {"plate", "plate"}, {"all", "all"}}, parte));
+    o.righe.push_back(lunghezza("--thickness", "a length in mm", m.spessore));
+    o.righe.push_back(lunghezza("--plate", "a length in mm", m.lastra));
+    o.righe.push_back(lunghezza("--depth", "a length in mm", m.profondita));
+    o.righe.push_back(lunghezza("--line", "a width in mm", m.linea));
+    o.righe.push_back(lunghezza("--rod", "a diameter in mm", m.perno));
+    bool incavo = false, rilievo = false;
+    o.righe.push_back(Bandiera("--raised", rilievo));
+    o.righe.push_back(Bandiera("--sunk", incavo));
+    for (const char *nome : {"-o", "--out"}) o.righe.push_back({nome, 1, "a file", [&](const Valori &v) { return file(v[0]); }});
+    if (const std::string e = o.leggi(argc, argv); !e.empty()) return Rifiuta("solid", e);
+    if (uscita.empty()) return Rifiuta("solid", "no output file: name one, as in muro.stl");
+    if (incavo && rilievo) return Rifiuta("solid", "--raised or --sunk, not both");
+    m.rilievo = !incavo;
+    SessioneDiComando c;
+    if (const std::string e = disegna(disegno, c.s); !e.empty()) return Rifiuta("solid", e);
+    std::string errore;
+    officina::Opzioni come;
+    come.tolleranza = 0.02;
+    const officina::Disegno d = officina::Prepara(c.s.tavolo, come, errore);
+    if (!errore.empty()) return Rifiuta("solid", errore + ", and nothing is written");
+    const Posa posa = PosaDelDisegno(c.s);
+    officina::Gnomone g;
+    g.altezza = 1000 * posa.quadrante.gnomone;
+    if (const auto p = ombra::Piano(posa.quadrante).centro()) g.centro = officina::P2{1000 * p->x, 1000 * p->y};
+    // A centre beyond 50 gnomons is as good as none.
+    if (g.centro && officina::Lungo(*g.centro) > 50 * g.altezza)
+        g.centro = (50 * g.altezza / officina::Lungo(*g.centro)) * *g.centro;
+    officina::Solido tutto;
+    const officina::Riquadro b = officina::ContornoLastra(d);
+    const auto metti = [&](std::string_view nome, const officina::Solido &s, officina::P3 dove) {
+        tutto.aggiungi(s, dove);
+        std::printf("%.*s: %zu triangles, %.1f mm³\n", static_cast<int>(nome.size()), nome.data(), s.facce.size(), s.volume());
+    };
+    const bool stilo = parte == "all" || parte == "style";
+    officina::Solido piastra;
+    if (stilo) piastra = officina::PiastraStilo(g, b, m, errore);
+    if (!errore.empty() && parte == "style") return Rifiuta("solid", errore);
+    const bool conStilo = stilo && errore.empty();
+    if (!errore.empty()) std::printf("no style: %s\n", errore.c_str());
+    errore.clear();
+    if (parte == "all" || parte == "plate") {
+        const officina::Solido lastra = officina::Lastra(d, g, m, conStilo, errore);
+        if (!errore.empty()) return Rifiuta("solid", errore);
+        metti("plate", lastra, {});
     }
-    std::fputs(officina::Racconto(d, r.opzioni).c_str(), stdout);
+    // Beside the plate, each lying as it is printed.
+    if (conStilo) metti("style", piastra, {b.x1 + 20, 0, 0});
+    if (parte == "all" || parte == "socket") metti("socket", officina::Zoccolo(m), {b.x0 - 20 - 2 * m.perno, 0, 0});
+    if (const std::string e = Consegna(uscita, officina::Stl(tutto)); !e.empty()) return Rifiuta("solid", e);
     return 0;
 }
 

@@ -1,9 +1,10 @@
-// The command that makes files for machines.
+// The commands that make files for machines.
 #pragma once
 
 namespace ombrelia::cli {
 
-// The command `ombrelia cut`; gives the exit status.
+// The commands `ombrelia cut` and `ombrelia solid`; give the exit status.
 int Cut(int argc, char **argv);
+int Solid(int argc, char **argv);
 
 }  // namespace ombrelia::cli

@@ -38,6 +38,7 @@ constexpr Comando COMANDI[] = {
     {"read", ombrelia::cli::Read},
     {"report", ombrelia::cli::Report},
     {"shadow", ombrelia::cli::Shadow},
+    {"solid", ombrelia::cli::Solid},
     {"sun", ombrelia::cli::Sun},
 };
 

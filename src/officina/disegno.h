@@ -34,17 +34,17 @@ struct Cammino {
     enum class Tipo : std::uint8_t { Linea, Cerchio, Arco, Punto, Testo };
     Genere genere = Genere::Altro;
     Tipo tipo = Tipo::Linea;
-    bool chiuso = false;        // of a line: the last point is joined to the first
-    int linea = -1;             // number of the drawing's line it comes from; paths of one line share it
+    bool chiuso = false;              // of a line: the last point is joined to the first
+    int linea = -1;                   // number of the drawing's line it comes from; paths of one line share it
     Specie specie = Specie::Nessuna;  // what that line claims to be, and its value
     double valore = 0;
-    std::vector<P2> punti{};    // of a circle or arc its centre, of a point or text its place (left end of the base line)
-    double raggio = 0;          // of a circle or arc; height of a text's capitals
+    std::vector<P2> punti{};      // of a circle or arc its centre, of a point or text its place (left end of the base line)
+    double raggio = 0;            // of a circle or arc; height of a text's capitals
     double inizio = 0, fine = 0;  // of an arc, radians from the right, counter-clockwise
     std::string testo{};
 
-    [[nodiscard]] P2 capo() const;   // where the tool goes down
-    [[nodiscard]] P2 coda() const;   // and where it comes up
+    [[nodiscard]] P2 capo() const;  // where the tool goes down
+    [[nodiscard]] P2 coda() const;  // and where it comes up
     [[nodiscard]] double lunghezza() const;
     void rovescia();
 };
@@ -64,13 +64,13 @@ struct Resoconto {
     std::size_t corde = 0, puntini = 0, cerchi = 0, scritte = 0;  // of the list
     std::size_t cammini = 0, punti = 0, vertici = 0;              // of the drawing made ready
     std::size_t curve = 0, puntiUniti = 0;                        // paths made of points, and of how many
-    double lunga = 0;          // of the paths
-    double fuori = 0;          // outside, cut off
+    double lunga = 0;                                             // of the paths
+    double fuori = 0;                                             // outside, cut off
     std::size_t puntiFuori = 0, figureFuori = 0, scritteFuori = 0;
-    double doppia = 0;         // drawn on something already there, left out
+    double doppia = 0;  // drawn on something already there, left out
     std::size_t puntiDoppi = 0;
-    double scarto = 0;         // largest departure of a vertex of the list from the paths
-    double persa = 0;          // inside, but farther from every path than can be: 0 unless this room is at fault
+    double scarto = 0;                     // largest departure of a vertex of the list from the paths
+    double persa = 0;                      // inside, but farther from every path than can be: 0 unless this room is at fault
     double viaggio = 0, viaggioPrima = 0;  // of the head between cuts, in the order here and in the list's
 };
 
@@ -79,7 +79,7 @@ struct Disegno {
     Riquadro campo;                // frame or sheet that it was clipped to
     Riquadro estensione;           // of what is drawn
     Resoconto resoconto;
-    bool senzaCornice = false;     // asked for the frame, and there was none: the sheet served
+    bool senzaCornice = false;  // asked for the frame, and there was none: the sheet served
 };
 
 // errore tells why there is no drawing: nothing drawn, nothing inside, strokes without their font.

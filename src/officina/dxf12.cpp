@@ -98,8 +98,12 @@ private:
         gruppo(0, "VPORT");
         gruppo(2, "*ACTIVE");
         gruppo(70, 0);
-        for (const auto &[codice, x, y] : {std::tuple{10, 0.0, 0.0}, {11, 1.0, 1.0}, {12, k_ * (e.x0 + e.x1) / 2, k_ * (e.y0 + e.y1) / 2},
-                                           {13, 0.0, 0.0}, {14, 10.0, 10.0}, {15, 10.0, 10.0}}) {
+        for (const auto &[codice, x, y] : {std::tuple{10, 0.0, 0.0},
+                                           {11, 1.0, 1.0},
+                                           {12, k_ * (e.x0 + e.x1) / 2, k_ * (e.y0 + e.y1) / 2},
+                                           {13, 0.0, 0.0},
+                                           {14, 10.0, 10.0},
+                                           {15, 10.0, 10.0}}) {
             numero(codice, x);
             numero(codice + 10, y);
         }
@@ -113,7 +117,8 @@ private:
         numero(41, 1.5);
         numero(42, 50);
         for (const int codice : {43, 44, 50, 51}) numero(codice, 0);
-        for (const auto &[codice, n] : {std::pair{71, 0}, {72, 1000}, {73, 1}, {74, 3}, {75, 0}, {76, 0}, {77, 0}, {78, 0}}) gruppo(codice, n);
+        for (const auto &[codice, n] : {std::pair{71, 0}, {72, 1000}, {73, 1}, {74, 3}, {75, 0}, {76, 0}, {77, 0}, {78, 0}})
+            gruppo(codice, n);
         fineTavola();
         tavola("LTYPE", 1);
         gruppo(0, "LTYPE");

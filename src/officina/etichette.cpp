@@ -156,7 +156,9 @@ private:
                     if (q.asse.x < -1e-9 || (std::fabs(q.asse.x) <= 1e-9 && q.asse.y < 0)) q.asse = -1.0 * q.asse;
                 }
                 const P2 su{-q.asse.y, q.asse.x};
-                const auto mezzo = [&](P2 d) { return std::fabs(Scalare(d, q.asse)) * (q.a + 1.01 * aria) + std::fabs(Scalare(d, su)) * (q.b + 1.01 * aria); };
+                const auto mezzo = [&](P2 d) {
+                    return std::fabs(Scalare(d, q.asse)) * (q.a + 1.01 * aria) + std::fabs(Scalare(d, su)) * (q.b + 1.01 * aria);
+                };
                 const P2 lato{-posto->fuori.y, posto->fuori.x};
                 for (const P2 d : k < 0 ? std::vector{posto->fuori} : std::vector{lato, -1.0 * lato}) {
                     q.centro = posto->p + mezzo(d) * d;

@@ -93,7 +93,8 @@ void Griglia::celle(P2 a, P2 b, double margine, F &&f) const {
             yb = std::max(y1, y2);
         }
         const int r0 = riga(ya - margine), r1 = riga(yb + margine);
-        for (int r = r0; r <= r1; ++r) f(static_cast<std::size_t>(r) * static_cast<std::size_t>(nx_) + static_cast<std::size_t>(c));
+        for (int r = r0; r <= r1; ++r)
+            f(static_cast<std::size_t>(r) * static_cast<std::size_t>(nx_) + static_cast<std::size_t>(c));
     }
 }
 
@@ -136,7 +137,8 @@ bool Griglia::entra(P2 centro, P2 asse, double a, double b) const {
     const P2 su{-asse.y, asse.x}, mezzo{std::fabs(asse.x) * a + std::fabs(su.x) * b, std::fabs(asse.y) * a + std::fabs(su.y) * b};
     for (int c = colonna(centro.x - mezzo.x); c <= colonna(centro.x + mezzo.x); ++c)
         for (int r = riga(centro.y - mezzo.y); r <= riga(centro.y + mezzo.y); ++r)
-            for (const std::uint32_t n : celle_[static_cast<std::size_t>(r) * static_cast<std::size_t>(nx_) + static_cast<std::size_t>(c)]) {
+            for (const std::uint32_t n :
+                 celle_[static_cast<std::size_t>(r) * static_cast<std::size_t>(nx_) + static_cast<std::size_t>(c)]) {
                 P2 p{Scalare(segmenti_[n].a - centro, asse), Scalare(segmenti_[n].a - centro, su)};
                 P2 q{Scalare(segmenti_[n].b - centro, asse), Scalare(segmenti_[n].b - centro, su)};
                 if (Taglia({-a, -b, a, b}, p, q)) return true;

@@ -32,8 +32,8 @@ public:
             nomi += "/L" + std::to_string(i) + " " + std::to_string(primo + static_cast<int>(i)) + " 0 R ";
         }
         t = "%PDF-1.6\n%\xE2\xE3\xCF\xD3\n";
-        oggetto("<< /Type /Catalog /Pages 2 0 R /OCProperties << /OCGs [ " + elenco + "] /D << /Order [ " + elenco +
-                "] /ON [ " + elenco + "] >> >> /ViewerPreferences << /DisplayDocTitle true >> >>");
+        oggetto("<< /Type /Catalog /Pages 2 0 R /OCProperties << /OCGs [ " + elenco + "] /D << /Order [ " + elenco + "] /ON [ " +
+                elenco + "] >> >> /ViewerPreferences << /DisplayDocTitle true >> >>");
         oggetto("<< /Type /Pages /Kids [ 3 0 R ] /Count 1 >>");
         std::string p = "<< /Type /Page /Parent 2 0 R /MediaBox [ 0 0 ";
         AggiungiDecimali(p, k_ * (pagina_.x1 - pagina_.x0), 4);
@@ -120,8 +120,10 @@ private:
     void cammino(const Cammino &k) {
         constexpr double GIRO = 2 * std::numbers::pi;
         switch (k.tipo) {
-            case Cammino::Tipo::Cerchio: return arco(k.punti[0], k.raggio, 0, GIRO);
-            case Cammino::Tipo::Arco: return arco(k.punti[0], k.raggio, k.inizio, std::fmod(k.fine - k.inizio + 2 * GIRO, GIRO));
+            case Cammino::Tipo::Cerchio:
+                return arco(k.punti[0], k.raggio, 0, GIRO);
+            case Cammino::Tipo::Arco:
+                return arco(k.punti[0], k.raggio, k.inizio, std::fmod(k.fine - k.inizio + 2 * GIRO, GIRO));
             case Cammino::Tipo::Testo:
                 c += "BT /F ";
                 numero(k_ * CORPO * k.raggio);
@@ -130,7 +132,8 @@ private:
                 c += "Td " + stringa(k.testo) + " Tj ET\n";
                 return;
             case Cammino::Tipo::Punto:
-            case Cammino::Tipo::Linea: break;
+            case Cammino::Tipo::Linea:
+                break;
         }
         punto(k.punti[0]);
         c += "m ";

@@ -24,7 +24,8 @@ namespace {
 P2 sulCerchio(const Cammino &c, double a) { return c.punti[0] + c.raggio * P2{std::cos(a), std::sin(a)}; }
 
 // How far the vertices of the list lie from the paths. One within reach of none is lost.
-void misura(const std::vector<P2> &vertici, const std::vector<Cammino> &cammini, const Riquadro &campo, double tolleranza, Resoconto &r) {
+void misura(const std::vector<P2> &vertici, const std::vector<Cammino> &cammini, const Riquadro &campo, double tolleranza,
+            Resoconto &r) {
     Griglia g(campo);
     for (const Cammino &c : cammini) {
         if (c.tipo == Cammino::Tipo::Punto) g.aggiungi(c.punti[0], c.punti[0]);
@@ -104,7 +105,8 @@ Disegno Prepara(const Tavolo &tavolo, const Opzioni &o, std::string &errore) {
     errore.clear();
     if (tavolo.lista().Ordine.empty()) errore = "nothing is drawn";
     else if (!(o.tolleranza > 0)) errore = "the tolerance must be above 0";
-    else if (o.testi == Testi::Tratti && !CiSonoTratti()) errore = "texts as strokes take the Hershey alphabet (libhersheyfont), which is not here";
+    else if (o.testi == Testi::Tratti && !CiSonoTratti())
+        errore = "texts as strokes take the Hershey alphabet (libhersheyfont), which is not here";
     if (!errore.empty()) return d;
     Resoconto &r = d.resoconto;
     d.campo = Campo(tavolo, o.ritaglio, d.senzaCornice);
@@ -138,7 +140,8 @@ std::string Racconto(const Disegno &d, const Opzioni &o) {
     if (r.curve) t += frase("%zu points joined to %zu curves\n", r.puntiUniti, r.curve);
     t += metri(r.doppia) + " drawn twice left out";
     if (r.puntiDoppi) t += frase(" with %zu points", r.puntiDoppi);
-    t += "; " + metri(r.fuori) + (o.ritaglio == Ritaglio::Foglio || d.senzaCornice ? " off the sheet cut off" : " outside the frame cut off");
+    t += "; " + metri(r.fuori) +
+         (o.ritaglio == Ritaglio::Foglio || d.senzaCornice ? " off the sheet cut off" : " outside the frame cut off");
     if (r.puntiFuori || r.scritteFuori) t += frase(" with %zu points and %zu texts", r.puntiFuori, r.scritteFuori);
     if (d.senzaCornice) t += " (there is no frame)";
     t += frase("\nlargest departure %.4f mm, tolerance %g mm", r.scarto, o.tolleranza);

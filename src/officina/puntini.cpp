@@ -9,11 +9,11 @@ namespace ombrelia::officina {
 
 namespace {
 
-constexpr std::size_t PAZIENZA = 8;  // points of other branches before a track is given up
-constexpr double PASSO_MASSIMO = 3;  // times the track's last step; farther is a gap
-constexpr double SVOLTA = 0.4;       // least cosine of the turn at a point
+constexpr std::size_t PAZIENZA = 8;   // points of other branches before a track is given up
+constexpr double PASSO_MASSIMO = 3;   // times the track's last step; farther is a gap
+constexpr double SVOLTA = 0.4;        // least cosine of the turn at a point
 constexpr std::size_t LIMITE = 3000;  // more tracks than this are no curves
-constexpr double FERMO = 1e-7;       // mm: the same point again
+constexpr double FERMO = 1e-7;        // mm: the same point again
 
 struct Pista {
     std::vector<P2> punti;
@@ -94,7 +94,8 @@ void congiungi(std::vector<Pista> &piste, double solito) {
                     auto &b = piste[k].punti;
                     const P2 va = passo(piste[i], codaI), vb = passo(piste[k], codaK);
                     const P2 salto = (codaK ? b.back() : b.front()) - (codaI ? a.back() : a.front());
-                    const double d = Lungo(salto), l = std::min(std::max({Lungo(va), Lungo(vb), solito / 20}), 3 * (solito + FERMO));
+                    const double d = Lungo(salto),
+                                 l = std::min(std::max({Lungo(va), Lungo(vb), solito / 20}), 3 * (solito + FERMO));
                     if (d > PASSO_MASSIMO * l) continue;
                     if (Scalare(va, vb) > -SVOLTA * Lungo(va) * Lungo(vb)) continue;  // they must face each other
                     if (d > FERMO && Scalare(va, salto) < SVOLTA * Lungo(va) * d) continue;

@@ -65,16 +65,18 @@ private:
     Gruppo gruppo(IdNome id, Colore colore, Genere senzaNome = Genere::Figure) {
         if (pretesa < lista.pretese.size() && lista.pretese[pretesa].da <= posto) {
             const Pretesa &p = lista.pretese[pretesa];
-            if (p.specie == Specie::Etichetta) return {std::max(Genere::Etichette, GenereDi(lista.nomi.testo(id))), numero(linee, pretesa), p.specie, p.valore};
+            if (p.specie == Specie::Etichetta)
+                return {std::max(Genere::Etichette, GenereDi(lista.nomi.testo(id))), numero(linee, pretesa), p.specie, p.valore};
             // One line may be claimed in pieces, a point at a time.
-            if (p.specie != Specie::Nessuna) return {GenereDi(p.specie, p.valore), numero(linee, std::pair{p.specie, p.valore}), p.specie, p.valore};
+            if (p.specie != Specie::Nessuna)
+                return {GenereDi(p.specie, p.valore), numero(linee, std::pair{p.specie, p.valore}), p.specie, p.valore};
         }
         return {id == 0 ? senzaNome : GenereDi(lista.nomi.testo(id)), numero(linee, std::pair{id, colore})};
     }
 
     void chiudi(const Gruppo &g, std::vector<P2> &catena) {
         if (catena.size() < 2) return;
-        esito.vertici.insert(esito.vertici.end(), catena.begin(), catena.end());
+        if (g.genere != Genere::Figure) esito.vertici.insert(esito.vertici.end(), catena.begin(), catena.end());
         Cammino c = g.cammino();
         c.punti = std::move(catena);
         esito.cammini.push_back(std::move(c));
@@ -192,7 +194,8 @@ private:
         }
         // An ellipse: the longer half axis is the radius.
         const double rx = f.Y2 > 1 ? raggio / f.Y2 : raggio, ry = f.Y2 > 1 ? raggio : raggio * f.Y2;
-        const double da = intero ? 0 : inizio, giro = intero ? 2 * std::numbers::pi : std::fmod(fine - inizio + 4 * std::numbers::pi, 2 * std::numbers::pi);
+        const double da = intero ? 0 : inizio,
+                     giro = intero ? 2 * std::numbers::pi : std::fmod(fine - inizio + 4 * std::numbers::pi, 2 * std::numbers::pi);
         const int n = std::max(8, static_cast<int>(std::ceil(giro * std::sqrt(raggio / opzioni.tolleranza))));
         P2 prima{};
         for (int k = 0; k <= n; ++k) {
@@ -261,9 +264,9 @@ private:
         std::size_t k = 0;
         std::erase_if(esito.cammini, [&](const Cammino &) { return via[k++] != 0; });
         std::move(tagliati.begin(), tagliati.end(), std::back_inserter(esito.cammini));
-        // Vertices of what went are no measure of what stayed.
-        if (r.figureFuori != 0 || !tagliati.empty())
-            std::erase_if(esito.vertici, [&](P2 p) { return !campo.contiene(p); });
+        for (const Cammino &c : esito.cammini)
+            if (c.genere == Genere::Figure && c.tipo == Cammino::Tipo::Linea)
+                esito.vertici.insert(esito.vertici.end(), c.punti.begin(), c.punti.end());
     }
 
     void taglia(const Cammino &c, std::vector<Cammino> &pezzi) {
@@ -305,7 +308,12 @@ private:
             }
             const int linea = static_cast<int>(linee.size() + i);
             if (opzioni.testi == Testi::Testo) {
-                esito.cammini.push_back({.genere = Genere::Testi, .tipo = Cammino::Tipo::Testo, .linea = linea, .punti = {base}, .raggio = CORPO, .testo = t.Testo});
+                esito.cammini.push_back({.genere = Genere::Testi,
+                                         .tipo = Cammino::Tipo::Testo,
+                                         .linea = linea,
+                                         .punti = {base},
+                                         .raggio = CORPO,
+                                         .testo = t.Testo});
                 continue;
             }
             for (auto &tratto : TrattiDi(t.Testo, CORPO)) {

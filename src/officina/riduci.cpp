@@ -15,8 +15,8 @@ namespace {
 
 constexpr double PRIMA = 0.05;  // of the tolerance, spent before lines are compared
 constexpr double SPESA = 0.8;   // and after; the rest lets a line that is drawn again with other points be found
-constexpr double TRATTO = 0.3;                              // mm: shorter stretches are crossings
-constexpr double SVOLTA = 0.8 * std::numbers::pi;           // a piece that turns less does not come back upon itself
+constexpr double TRATTO = 0.3;  // mm: shorter stretches are crossings
+constexpr double SVOLTA = 0.8 * std::numbers::pi;  // a piece that turns less does not come back upon itself
 
 double angolo(P2 u, P2 v) { return std::fabs(std::atan2(Croce(u, v), Scalare(u, v))); }
 
@@ -49,7 +49,8 @@ double scoperto(const Cammino &c, const Griglia &tutti, const Griglia *suoi, dou
         if (suoi) suoi->coperto(c.punti[i - 1], c.punti[i], STESSO, parti);
         for (const auto &[p, q] : parti) {
             const double da = s[i - 1] + p * l, a = s[i - 1] + q * l;
-            if (!coperti.empty() && da <= coperti.back().second + 1e-6) coperti.back().second = std::max(coperti.back().second, a);
+            if (!coperti.empty() && da <= coperti.back().second + 1e-6)
+                coperti.back().second = std::max(coperti.back().second, a);
             else coperti.emplace_back(da, a);
         }
     }
@@ -87,8 +88,10 @@ double scoperto(const Cammino &c, const Griglia &tutti, const Griglia *suoi, dou
 bool uguali(const Cammino &a, const Cammino &b) {
     if (a.tipo == Cammino::Tipo::Linea || b.tipo == Cammino::Tipo::Linea) return false;
     const auto vicini = [](double x, double y) { return std::fabs(x - y) <= STESSO; };
-    if (a.tipo != b.tipo || Distanza(a.punti[0], b.punti[0]) > STESSO || !vicini(a.raggio, b.raggio) || a.testo != b.testo) return false;
-    return a.tipo != Cammino::Tipo::Arco || (vicini(a.inizio * a.raggio, b.inizio * b.raggio) && vicini(a.fine * a.raggio, b.fine * b.raggio));
+    if (a.tipo != b.tipo || Distanza(a.punti[0], b.punti[0]) > STESSO || !vicini(a.raggio, b.raggio) || a.testo != b.testo)
+        return false;
+    return a.tipo != Cammino::Tipo::Arco ||
+           (vicini(a.inizio * a.raggio, b.inizio * b.raggio) && vicini(a.fine * a.raggio, b.fine * b.raggio));
 }
 
 void pochiPunti(Cammino &c, double tolleranza) {
@@ -131,7 +134,8 @@ Cammino inCorde(const Cammino &c, double tolleranza) {
     Cammino k{.genere = c.genere, .linea = c.linea};
     const double giro = c.lunghezza() / c.raggio, da = c.tipo == Cammino::Tipo::Arco ? c.inizio : 0;
     const int n = std::max(8, static_cast<int>(std::ceil(giro * std::sqrt(c.raggio / (8 * tolleranza)))));
-    for (int i = 0; i <= n; ++i) k.punti.push_back(c.punti[0] + c.raggio * P2{std::cos(da + giro * i / n), std::sin(da + giro * i / n)});
+    for (int i = 0; i <= n; ++i)
+        k.punti.push_back(c.punti[0] + c.raggio * P2{std::cos(da + giro * i / n), std::sin(da + giro * i / n)});
     return k;
 }
 

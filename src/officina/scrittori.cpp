@@ -54,7 +54,8 @@ Riquadro Pagina(const Disegno &d) {
 std::vector<Genere> GeneriUsati(const Disegno &d) {
     std::vector<Genere> g;
     for (const RigaGenere &r : Generi())
-        if (std::any_of(d.cammini.begin(), d.cammini.end(), [&](const Cammino &c) { return c.genere == r.genere; })) g.push_back(r.genere);
+        if (std::any_of(d.cammini.begin(), d.cammini.end(), [&](const Cammino &c) { return c.genere == r.genere; }))
+            g.push_back(r.genere);
     return g;
 }
 

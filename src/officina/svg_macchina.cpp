@@ -17,11 +17,20 @@ std::string xml(std::string_view s) {
     std::string t;
     for (const char c : s) {
         switch (c) {
-            case '&': t += "&amp;"; break;
-            case '<': t += "&lt;"; break;
-            case '>': t += "&gt;"; break;
-            case '"': t += "&quot;"; break;
-            default: t += static_cast<unsigned char>(c) < ' ' ? ' ' : c;
+            case '&':
+                t += "&amp;";
+                break;
+            case '<':
+                t += "&lt;";
+                break;
+            case '>':
+                t += "&gt;";
+                break;
+            case '"':
+                t += "&quot;";
+                break;
+            default:
+                t += static_cast<unsigned char>(c) < ' ' ? ' ' : c;
         }
     }
     return t;
@@ -64,7 +73,8 @@ private:
         char colore[8];
         std::snprintf(colore, sizeof colore, "#%06x", r.rgb);
         const std::string nome(r.nome);
-        t += "<g inkscape:groupmode=\"layer\" id=\"" + nome + "\" inkscape:label=\"" + nome + "\" fill=\"none\" stroke=\"" + colore + "\"";
+        t += "<g inkscape:groupmode=\"layer\" id=\"" + nome + "\" inkscape:label=\"" + nome + "\" fill=\"none\" stroke=\"" +
+             colore + "\"";
         attributo("stroke-width", CAPELLO);
         t += " stroke-linecap=\"round\" stroke-linejoin=\"round\">\n";
         for (const Cammino &c : d_.cammini)

@@ -46,17 +46,20 @@ struct Accentata {
 };
 using enum Accento;
 constexpr Accentata ACCENTATE[] = {
-    {U'À', 'A', Grave},        {U'Á', 'A', Acuto},        {U'Â', 'A', Circonflesso}, {U'Ã', 'A', Tilde},        {U'Ä', 'A', Dieresi},
-    {U'Å', 'A', Anello},       {U'Ç', 'C', Cediglia},     {U'È', 'E', Grave},        {U'É', 'E', Acuto},        {U'Ê', 'E', Circonflesso},
-    {U'Ë', 'E', Dieresi},      {U'Ì', 'I', Grave},        {U'Í', 'I', Acuto},        {U'Î', 'I', Circonflesso}, {U'Ï', 'I', Dieresi},
-    {U'Ñ', 'N', Tilde},        {U'Ò', 'O', Grave},        {U'Ó', 'O', Acuto},        {U'Ô', 'O', Circonflesso}, {U'Õ', 'O', Tilde},
-    {U'Ö', 'O', Dieresi},      {U'Ù', 'U', Grave},        {U'Ú', 'U', Acuto},        {U'Û', 'U', Circonflesso}, {U'Ü', 'U', Dieresi},
-    {U'Ý', 'Y', Acuto},        {U'à', 'a', Grave},        {U'á', 'a', Acuto},        {U'â', 'a', Circonflesso}, {U'ã', 'a', Tilde},
-    {U'ä', 'a', Dieresi},      {U'å', 'a', Anello},       {U'ç', 'c', Cediglia},     {U'è', 'e', Grave},        {U'é', 'e', Acuto},
-    {U'ê', 'e', Circonflesso}, {U'ë', 'e', Dieresi},      {U'ì', 'i', Grave},        {U'í', 'i', Acuto},        {U'î', 'i', Circonflesso},
-    {U'ï', 'i', Dieresi},      {U'ñ', 'n', Tilde},        {U'ò', 'o', Grave},        {U'ó', 'o', Acuto},        {U'ô', 'o', Circonflesso},
-    {U'õ', 'o', Tilde},        {U'ö', 'o', Dieresi},      {U'ù', 'u', Grave},        {U'ú', 'u', Acuto},        {U'û', 'u', Circonflesso},
-    {U'ü', 'u', Dieresi},      {U'ý', 'y', Acuto},        {U'ÿ', 'y', Dieresi},
+    {U'À', 'A', Grave},        {U'Á', 'A', Acuto},        {U'Â', 'A', Circonflesso}, {U'Ã', 'A', Tilde},
+    {U'Ä', 'A', Dieresi},      {U'Å', 'A', Anello},       {U'Ç', 'C', Cediglia},     {U'È', 'E', Grave},
+    {U'É', 'E', Acuto},        {U'Ê', 'E', Circonflesso}, {U'Ë', 'E', Dieresi},      {U'Ì', 'I', Grave},
+    {U'Í', 'I', Acuto},        {U'Î', 'I', Circonflesso}, {U'Ï', 'I', Dieresi},      {U'Ñ', 'N', Tilde},
+    {U'Ò', 'O', Grave},        {U'Ó', 'O', Acuto},        {U'Ô', 'O', Circonflesso}, {U'Õ', 'O', Tilde},
+    {U'Ö', 'O', Dieresi},      {U'Ù', 'U', Grave},        {U'Ú', 'U', Acuto},        {U'Û', 'U', Circonflesso},
+    {U'Ü', 'U', Dieresi},      {U'Ý', 'Y', Acuto},        {U'à', 'a', Grave},        {U'á', 'a', Acuto},
+    {U'â', 'a', Circonflesso}, {U'ã', 'a', Tilde},        {U'ä', 'a', Dieresi},      {U'å', 'a', Anello},
+    {U'ç', 'c', Cediglia},     {U'è', 'e', Grave},        {U'é', 'e', Acuto},        {U'ê', 'e', Circonflesso},
+    {U'ë', 'e', Dieresi},      {U'ì', 'i', Grave},        {U'í', 'i', Acuto},        {U'î', 'i', Circonflesso},
+    {U'ï', 'i', Dieresi},      {U'ñ', 'n', Tilde},        {U'ò', 'o', Grave},        {U'ó', 'o', Acuto},
+    {U'ô', 'o', Circonflesso}, {U'õ', 'o', Tilde},        {U'ö', 'o', Dieresi},      {U'ù', 'u', Grave},
+    {U'ú', 'u', Acuto},        {U'û', 'u', Circonflesso}, {U'ü', 'u', Dieresi},      {U'ý', 'y', Acuto},
+    {U'ÿ', 'y', Dieresi},
 };
 
 // A character that another of the alphabet stands for.
@@ -83,7 +86,8 @@ public:
         l.largo = g->width;
         for (const hershey_path *p = g->paths; p; p = p->next) {
             std::vector<P2> t;
-            for (int i = 0; i < p->nverts; ++i) t.push_back({static_cast<double>(p->verts[i].x), static_cast<double>(p->verts[i].y)});
+            for (int i = 0; i < p->nverts; ++i)
+                t.push_back({static_cast<double>(p->verts[i].x), static_cast<double>(p->verts[i].y)});
             if (!t.empty()) l.tratti.push_back(std::move(t));
         }
         return l;
@@ -116,7 +120,8 @@ Tratti dentro(Tratti tratti, const Riquadro &dove, int quarti = 0) {
         for (auto &t : tratti)
             for (P2 &p : t) p = {-p.y, p.x};
     const Riquadro b = contorno(tratti);
-    const double kx = b.x1 > b.x0 ? (dove.x1 - dove.x0) / (b.x1 - b.x0) : 0, ky = b.y1 > b.y0 ? (dove.y1 - dove.y0) / (b.y1 - b.y0) : 0;
+    const double kx = b.x1 > b.x0 ? (dove.x1 - dove.x0) / (b.x1 - b.x0) : 0,
+                 ky = b.y1 > b.y0 ? (dove.y1 - dove.y0) / (b.y1 - b.y0) : 0;
     for (auto &t : tratti)
         for (P2 &p : t) p = {dove.x0 + kx * (p.x - b.x0), dove.y0 + ky * (p.y - b.y0)};
     return tratti;
@@ -127,19 +132,32 @@ void accenta(Lettera &l, Accento a, bool maiuscola) {
     const Riquadro b = contorno(l.tratti);
     const double x = (b.x0 + b.x1) / 2, y = (maiuscola ? ALTE : BASSE) + 2.5, su = 5;
     const auto metti = [&](char c, const Riquadro &dove, int quarti = 0) {
-        for (auto &t : dentro(romano().lettera(static_cast<unsigned char>(c)).tratti, dove, quarti)) l.tratti.push_back(std::move(t));
+        for (auto &t : dentro(romano().lettera(static_cast<unsigned char>(c)).tratti, dove, quarti))
+            l.tratti.push_back(std::move(t));
     };
     switch (a) {
-        case Grave: metti('\\', {x - 3.5, y, x + 1.5, y + su}); break;
-        case Acuto: metti('/', {x - 1.5, y, x + 3.5, y + su}); break;
-        case Circonflesso: metti('>', {x - 3.5, y, x + 3.5, y + 4}, 1); break;
-        case Tilde: metti('~', {x - 5, y, x + 5, y + 4}); break;
+        case Grave:
+            metti('\\', {x - 3.5, y, x + 1.5, y + su});
+            break;
+        case Acuto:
+            metti('/', {x - 1.5, y, x + 3.5, y + su});
+            break;
+        case Circonflesso:
+            metti('>', {x - 3.5, y, x + 3.5, y + 4}, 1);
+            break;
+        case Tilde:
+            metti('~', {x - 5, y, x + 5, y + 4});
+            break;
         case Dieresi:
             metti('.', {x - 4, y, x - 2.5, y + 1.5});
             metti('.', {x + 2.5, y, x + 4, y + 1.5});
             break;
-        case Anello: metti('o', {x - 2.5, y - 1, x + 2.5, y + 4}); break;
-        case Cediglia: metti(',', {x - 1, -6, x + 1.5, 0}); break;
+        case Anello:
+            metti('o', {x - 2.5, y - 1, x + 2.5, y + 4});
+            break;
+        case Cediglia:
+            metti(',', {x - 1, -6, x + 1.5, 0});
+            break;
     }
 }
 

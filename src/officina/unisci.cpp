@@ -11,8 +11,7 @@ namespace ombrelia::officina {
 namespace {
 
 constexpr double INCONTRO = 2 * STESSO;  // what was left out may leave so much between two ends
-constexpr double DRITTO = 20 * std::numbers::pi / 180;
-constexpr double PIEGA = 60 * std::numbers::pi / 180;
+constexpr double DRITTO = 8 * std::numbers::pi / 180;
 
 // End 2 i is the beginning of path i, end 2 i + 1 its end.
 struct Coppia {
@@ -37,14 +36,15 @@ public:
                     const auto i = celle_.find(chiave(cella(capo(e).x) + dx, cella(capo(e).y) + dy));
                     if (i == celle_.end()) continue;
                     for (const std::size_t f : i->second)
-                        if (f != e && c_[f / 2].genere == c_[e / 2].genere && Distanza(capo(e), capo(f)) <= INCONTRO) vicini.push_back(f);
+                        if (f != e && c_[f / 2].genere == c_[e / 2].genere && Distanza(capo(e), capo(f)) <= INCONTRO)
+                            vicini.push_back(f);
                 }
             for (const std::size_t f : vicini) {
                 if (f < e) continue;
                 if (f / 2 == e / 2 && c_[e / 2].punti.size() < 3) continue;
                 const double s = svolta(e, f);
                 const bool una = c_[e / 2].linea == c_[f / 2].linea;
-                if (s < DRITTO || (una && (vicini.size() == 1 || s < PIEGA))) esito.push_back({e, f, una ? s : s + 0.01});
+                if (s < DRITTO || (una && vicini.size() == 1)) esito.push_back({e, f, una ? s : s + 0.01});
             }
         }
         std::sort(esito.begin(), esito.end(), [](const Coppia &x, const Coppia &y) {

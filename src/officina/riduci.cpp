@@ -13,9 +13,10 @@ namespace ombrelia::officina {
 
 namespace {
 
-constexpr double PRIMA = 0.05;  // of the tolerance, spent before lines are compared
-constexpr double SPESA = 0.8;   // and after; the rest lets a line that is drawn again with other points be found
-constexpr double TRATTO = 0.3;  // mm: shorter stretches are crossings
+constexpr double PRIMA = 0.02;            // of the tolerance, spent before lines are compared
+constexpr double SPESA = 0.8;             // and after; the rest lets a line that is drawn again with other points be found
+constexpr double VICINO = 1 - 2 * PRIMA;  // so much of the distance is left when lines are compared
+constexpr double TRATTO = 0.3;            // mm: shorter stretches are crossings
 constexpr double SVOLTA = 0.8 * std::numbers::pi;  // a piece that turns less does not come back upon itself
 
 double angolo(P2 u, P2 v) { return std::fabs(std::atan2(Croce(u, v), Scalare(u, v))); }
@@ -114,14 +115,18 @@ double riduci(const Cammino &linea, Griglia &griglia, double tolleranza, std::ve
     double via = 0;
     for (const Cammino &p : pezzi) {
         const std::size_t prima = resto.size();
-        via += scoperto(p, griglia, suoi ? &*suoi : nullptr, std::max(STESSO, tolleranza), resto);
+        via += scoperto(p, griglia, suoi ? &*suoi : nullptr, VICINO * std::max(STESSO, tolleranza), resto);
         if (!suoi) continue;
         for (std::size_t k = prima; k < resto.size(); ++k)
             for (std::size_t i = 1; i < resto[k].punti.size(); ++i) suoi->aggiungi(resto[k].punti[i - 1], resto[k].punti[i]);
     }
     Unisci(resto);
     for (Cammino &c : resto) {
+        const Cammino fitta = c;
         pochiPunti(c, SPESA * tolleranza);
+        // With few points a line may come nearer to another than it is: it keeps its own then.
+        std::vector<Cammino> liberi;
+        if (scoperto(c, griglia, nullptr, STESSO, liberi) > 0) c = fitta;
         for (std::size_t i = 1; i < c.punti.size(); ++i) griglia.aggiungi(c.punti[i - 1], c.punti[i]);
         if (c.chiuso) griglia.aggiungi(c.punti.back(), c.punti.front());
         esito.push_back(std::move(c));
@@ -187,7 +192,7 @@ void Riduci(std::vector<Cammino> &cammini, const Riquadro &campo, double tollera
     for (Cammino &c : cammini) {
         const bool punto = c.tipo == Cammino::Tipo::Punto;
         if (!punto && c.tipo != Cammino::Tipo::Testo) continue;
-        const bool doppio = (punto && griglia.distanza(c.punti[0], STESSO) <= STESSO) ||
+        const bool doppio = (punto && griglia.distanza(c.punti[0], VICINO * STESSO) <= VICINO * STESSO) ||
                             std::any_of(esito.begin(), esito.end(), [&](const Cammino &e) { return uguali(e, c); });
         if (!doppio) esito.push_back(std::move(c));
         else if (punto) ++r.puntiDoppi;

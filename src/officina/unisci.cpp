@@ -11,6 +11,7 @@ namespace ombrelia::officina {
 namespace {
 
 constexpr double INCONTRO = 2 * STESSO;  // what was left out may leave so much between two ends
+constexpr double UGUALE = 1e-6;          // one point
 constexpr double DRITTO = 8 * std::numbers::pi / 180;
 
 // End 2 i is the beginning of path i, end 2 i + 1 its end.
@@ -93,7 +94,7 @@ void Unisci(std::vector<Cammino> &c) {
             auto &p = c[e / 2].punti;
             if (e % 2 == 1) std::reverse(p.begin(), p.end());
             auto &q = intero.punti;
-            const bool stesso = !q.empty() && Distanza(q.back(), p.front()) <= STESSO;
+            const bool stesso = !q.empty() && Distanza(q.back(), p.front()) <= UGUALE;
             q.insert(q.end(), p.begin() + (stesso ? 1 : 0), p.end());
             e = compagno[e ^ 1U];
         }
@@ -120,7 +121,7 @@ void Unisci(std::vector<Cammino> &c) {
         Cammino &n = esito.back();
         if (!anello || n.punti.size() < 3) continue;
         n.chiuso = true;
-        if (Distanza(n.punti.front(), n.punti.back()) <= INCONTRO) n.punti.pop_back();
+        if (Distanza(n.punti.front(), n.punti.back()) <= UGUALE) n.punti.pop_back();
     }
     c = std::move(esito);
 }

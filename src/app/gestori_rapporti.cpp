@@ -1,6 +1,7 @@
 // Handlers of the reports: which one a button or option opens, when it is refused, and the forms' "Stampa" menus.
 #include "app/azioni.h"
 #include "app/lingua.h"
+#include "gnomonica/originale.h"
 #include "reports/rapporti.h"
 
 namespace ombrelia::app {
@@ -11,6 +12,7 @@ using Routine = void (*)(Sessione &);
 
 void apri(Sessione &s, std::string_view modulo, Routine mostra) {
     CaricaForm(s, modulo);
+    RinfrescaOriginale(s, Lettura(s.in));
     mostra(s);
 }
 
@@ -57,6 +59,7 @@ void Option1_Click(Sessione &s, int) {
 
 template <Routine stampa>
 void menu(Sessione &s, int) {
+    RinfrescaOriginale(s, Lettura(s.in));
     stampa(s);
 }
 

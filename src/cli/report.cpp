@@ -8,6 +8,7 @@
 #include "app/comandi.h"
 #include "cli/disegno.h"
 #include "cli/formati.h"
+#include "gnomonica/longitudine.h"
 #include "reports/rapporti.h"
 
 namespace ombrelia::cli {
@@ -56,8 +57,10 @@ struct Forma {
     std::string_view opzione;
     std::string (*scrivi)(const Rapporto &);
 };
-constexpr Forma FORME[] = {
-    {"--text", reports::RapportoTesto}, {"--csv", reports::RapportoCsv}, {"--csv-it", reports::RapportoCsvItaliano}, {"--html", reports::RapportoHtml}};
+constexpr Forma FORME[] = {{"--text", reports::RapportoTesto},
+                           {"--csv", reports::RapportoCsv},
+                           {"--csv-it", reports::RapportoCsvItaliano},
+                           {"--html", reports::RapportoHtml}};
 
 std::string leggi(int argc, char **argv, Richiesta &r) {
     Opzioni o{.comando = "report", .righe = {}, .parola = [&r](const std::string &p) { return scegli(p, r); }};
@@ -83,6 +86,15 @@ std::string perche(const Sessione &s, const Voce &v) {
                "without its sign and mirror the numbers left to right";
     if (Val(s.in.txtInc) != 0) return chi + ": txtInc reads " + s.in.txtInc + ", this report is for walls only (txtInc 0)";
     return chi + ": the fields give no report";
+}
+
+// The report under a head that names the zone's meridian, when it is another than the start's.
+Rapporto intestato(const Sessione &s, Rapporto r) {
+    if (!AltroMeridiano(s.v)) return r;
+    RigaRapporto testa;
+    testa.voci = {s.Traduci("Longitudine del meridiano del fuso:  "), reports::Unito(s.v.meridiano), " °"};
+    r.righe.insert(r.righe.begin(), std::move(testa));
+    return r;
 }
 
 }  // namespace
@@ -111,7 +123,7 @@ int Report(int argc, char **argv) {
         if (!s.rapporti.stampa) return rifiuta(std::string(r.voce->nome) + " has no printed form");
         s.rapporti.stampa(s);
     }
-    const std::string errore = Consegna(r.uscita, r.forma(r.stampa ? s.rapporti.stampato : s.rapporti.aperto));
+    const std::string errore = Consegna(r.uscita, r.forma(intestato(s, r.stampa ? s.rapporti.stampato : s.rapporti.aperto)));
     return errore.empty() ? 0 : rifiuta(errore);
 }
 

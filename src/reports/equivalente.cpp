@@ -70,7 +70,7 @@ void inclinato(Variabili &v, Foglio &f, const Parete &p) {
     f.vuota();
     const Valore diff = Gradi(v.diffLong);
     f.riga({f.tr("differenza in longitudine delta lambda per ora vera locale = "_it), gradi(v.diffLong), "°  "});
-    f.riga({f.tr("longitudine per ora vera locale = "_it), Fmt(-15 - diff, "0.00000"), "°  "});
+    f.riga({f.tr("longitudine per ora vera locale = "_it), Fmt(v.meridiano - diff, "0.00000"), "°  "});
     f.riga({f.tr("longitudine per ora vera MEC = "_it), Fmt(v.lonCopia - diff, "0.00000"), "°  "});
     f.etichetta("da usarsi per avere l'ora vera MEC"_it);
     f.vuota();
@@ -170,6 +170,7 @@ void datiEquivalente(Sessione &s, Uscita uscita) {
     Foglio f(s, "Form10", uscita, StampaForm10);
     v.unita = s.in.ChCentimetro == 1 ? 0.001 : 1.0;
     v.lon = Val(s.in.txtLonG);
+    v.meridiano = Val(s.in.txtMeridiano);
     v.segnoLat2 = v.latR == 0 ? Valore(1) : Sgn(v.latR);
     v.latR = v.lat_o;
     v.decR = v.dec_o;

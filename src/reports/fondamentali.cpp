@@ -1,5 +1,6 @@
 // The fundamental data of a dial.
 #include "analytic/conica.h"
+#include "gnomonica/longitudine.h"
 #include "reports/rapporti.h"
 
 namespace ombrelia::reports {
@@ -31,6 +32,7 @@ void leggi(Sessione &s) {
     v.decR = v.declinSessag * PI / 180;
     v.deltaOpz = Val(s.in.txtDelta);
     v.lon = Val(s.in.txtLonG);
+    v.meridiano = Val(s.in.txtMeridiano);
 }
 
 Valore senoStilo(const Variabili &v) { return sin(v.incR) * sin(v.latR) - cos(v.incR) * cos(v.latR) * cos(v.decR); }
@@ -103,13 +105,16 @@ void primari(Sessione &s, Foglio &f, const Preparazione &p) {
     f.riga({f.tr("Elevazione dello stilo "_it), gradi(-v.altStilo), " °"});
     f.riga({f.tr("Angolo sustilare "_it), gradi(p.sigma), " °"});
     f.riga({f.tr("Angolo orario sustilare, angolo al polo "_it), gradi(v.angoloOra), " °"});
-    f.riga({f.tr("Longitudine per lemniscata sustilare "_it), Fmt(-(15 + Gradi(v.angoloOra)), "0.00000"), " °"});
+    f.riga({f.tr("Longitudine per lemniscata sustilare "_it), Fmt(-DalMeridiano(Gradi(v.angoloOra), v.meridiano), "0.00000"), " °"});
     f.etichetta("Eccentricità linee diurne "_it);
     f.riga({f.tr("Solstizi "_it), eccentricita(OBLIQUITA)});
     f.riga({f.tr("linee diurne 20° "_it), eccentricita(20)});
     f.riga({f.tr("linee diurne 11.5° "_it), eccentricita(11.5)});
     f.riga({f.tr("linee diurne "_it), Numero(v.deltaOpz), "°", eccentricita(v.deltaOpz)});
-    f.rigaUnita({f.tr("Costante locale = "_it), Unito(4 * (15 + v.lonCopia)), " p"});
+    const Elemento costante = Unito(CostanteLocale(v));
+    if (AltroMeridiano(v))
+        f.rigaUnita({f.tr("Costante locale = "_it), costante, " p (", f.tr("longitudine = "_it), Unito(v.meridiano), " °)"});
+    else f.rigaUnita({f.tr("Costante locale = "_it), costante, " p"});
 }
 
 void lunghezze(Sessione &s, Foglio &f, const Preparazione &p) {
@@ -187,7 +192,7 @@ void equinoziale(Sessione &s, Foglio &f) {
     Variabili &v = s.v;
     v.oraFuso = s.in.ck_Etna == 1 ? 1 : 0;
     v.lon = Val(s.in.txtLonG);
-    v.lonPiu15 = 15 + v.lon;
+    LasciaDalMeridiano(v);
     v.corrLong = (v.lonPiu15 * PI / 180) * v.oraFuso;
     Reale L, E;
     L = v.gn / cos(ArcSin(senoStilo(v)));

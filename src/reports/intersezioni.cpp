@@ -1,8 +1,9 @@
 // Where the hour lines meet the day lines, by spherical trigonometry and by analytic geometry.
 #include "analytic/analitica.h"
 #include "analytic/conica.h"
-#include "reports/rapporti.h"
+#include "gnomonica/longitudine.h"
 #include "gnomonica/proiezione.h"
+#include "reports/rapporti.h"
 
 namespace ombrelia::reports {
 
@@ -89,7 +90,7 @@ void analitica(Sessione &s, Uscita uscita) {
     analytic::CalcolaAngoliAnalitici(s);
     Foglio f(s, "Form7", uscita, StampaInterAnalitica);
     const Reale seno = sin(v.decR) * cos(v.incR) / cos(v.altStilo);
-    v.angoloOra = ArcSin(seno) + ((15 + v.lonCopia) * PI / 180) * v.oraFuso;
+    v.angoloOra = ArcSin(seno) + (DalMeridiano(v.lonCopia, v.meridiano) * PI / 180) * v.oraFuso;
     v.y0 = v.gn * tan(v.altStilo);
 
     f.etichetta(" Geometria Analitica "_it);

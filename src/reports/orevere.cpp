@@ -1,4 +1,5 @@
 // The true hours on any plane, on a wall and at the equator: angles and points before the tables.
+#include "gnomonica/longitudine.h"
 #include "reports/orevere.h"
 
 namespace ombrelia::reports {
@@ -38,7 +39,7 @@ void angoliInclinato(Sessione &s, bool schermo, Calcolo &c) {
         if (Abs(coseno) < 1) v.diffLong = ArcCos(coseno) * Sgn(w);
         else v.diffLong = 0;
     }
-    v.lon = (s.in.ck_Etna == 0 ? Valore(-15) : Valore(v.lonCopia)) - v.diffLong * 180 / PI;
+    v.lon = (s.in.ck_Etna == 0 ? Valore(v.meridiano) : Valore(v.lonCopia)) - v.diffLong * 180 / PI;
     if (v.dec == 0) {
         d1 = 0;
     } else if (Abs(v.dec) == 180) {
@@ -65,7 +66,7 @@ void angoliInclinato(Sessione &s, bool schermo, Calcolo &c) {
 // Longitude terms under the box of the zone meridian.
 void longitudine(Variabili &v) {
     v.segnoDec = v.dec == 0 ? Valore(1) : Sgn(v.decR);
-    v.lonPiu15 = 15 + v.lon;
+    LasciaDalMeridiano(v);
     v.corrLong = (v.lonPiu15 * PI / 180) * v.oraFuso;
 }
 
@@ -133,7 +134,7 @@ void oreVere(Sessione &s, Uscita uscita, Specie specie) {
         case Specie::Inclinato:
             angoliInclinato(s, f.schermo(), c);
             punti(v, c);
-            v.lonPiu15 = (15 + v.lon) + (v.diffLong * 180 / PI) * 0;
+            v.lonPiu15 = DalMeridiano(v.lon, v.meridiano) + (v.diffLong * 180 / PI) * 0;
             v.corrLong = v.lonPiu15 * PI / 180;  // whatever the box of the zone meridian says: it is in lon by now
             break;
         case Specie::Parete:

@@ -1,4 +1,5 @@
 // Under the tables of the true hours: equinoctial, substyle, fundamental points, legend.
+#include "gnomonica/longitudine.h"
 #include "reports/orevere.h"
 
 namespace ombrelia::reports::ore {
@@ -88,7 +89,8 @@ void Blocchi(Sessione &s, Foglio &f, Calcolo &c) {
 
     const Valore minuti = 60 * (c.oraSus - Int(c.oraSus));
     const Valore angolare = Gradi(equatore ? Valore(v.angoloOra) : v.angoloOra - v.diffLong);
-    const Valore longitudine = equatore ? -Round(15 + angolare, 4) : -(15 + angolare);
+    const Valore dalFuso = DalMeridiano(angolare, v.meridiano);
+    const Valore longitudine = equatore ? -Round(dalFuso, 4) : -dalFuso;
     f.riga({f.tr("ORA VERA SUSTILARE "_it), Arrotonda5(c.oraSus), Numero(Int(c.oraSus)), Numero(Int(minuti)),
             Arrotonda5(60 * (minuti - Int(minuti))), f.tr(" long.sustilare = "_it), Fmt(longitudine, "0.0000")});
     const std::string unita = s.Traduci(equatore ? " metri" : " unità");

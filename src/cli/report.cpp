@@ -3,9 +3,9 @@
 
 #include <cstdio>
 #include <string_view>
-#include <vector>
 
 #include "app/comandi.h"
+#include "app/rapporti.h"
 #include "cli/disegno.h"
 #include "cli/formati.h"
 #include "gnomonica/longitudine.h"
@@ -15,31 +15,10 @@ namespace ombrelia::cli {
 
 namespace {
 
-struct Voce {
-    std::string_view nome, contenuto;
-    std::vector<std::string_view> premi;  // controls pressed in turn
-    std::string_view modulo;              // the form that must open
-    int ckFunzione = -1;                  // its value when the report depends on it
-};
-
-const std::vector<Voce> &voci() {
-    static const std::vector<Voce> tutte{
-        {"data", "fundamental data", {"cmdData"}, "Form1"},
-        {"equivalent", "the equivalent vertical dial and the original one", {"cmdTrasforma", "cmdData"}, "Form10"},
-        {"hours", "true hours against two pairs of lines, shadow lengths", {"optHorae"}, "Form2"},
-        {"italic", "hours from sunset", {"OptIta"}, "Form9"},
-        {"babylonian", "hours from sunrise", {"OptBab"}, "Form4"},
-        {"temporary", "twelfths of the day", {"OptTEMP"}, "Form3"},
-        {"spherical", "hour lines against day lines, by spherical trigonometry", {"OptInter"}, "Form6", 0},
-        {"analytic", "the same by analytic geometry, walls only", {"OptInter"}, "Form7", 1},
-        {"daylines", "day lines by abscissa, walls only", {"Option1"}, "Form8"},
-        {"notice", "what the program does and does not promise", {"mnuAvviso"}, "Form5"},
-    };
-    return tutte;
-}
+using app::VoceRapporto;
 
 struct Richiesta {
-    const Voce *voce = nullptr;
+    const VoceRapporto *voce = nullptr;
     Campi campi;
     std::string uscita = "-";
     std::string (*forma)(const Rapporto &) = reports::RapportoTesto;
@@ -48,7 +27,7 @@ struct Richiesta {
 
 std::string scegli(const std::string &nome, Richiesta &r) {
     if (r.voce) return "one report at a time: " + std::string(r.voce->nome) + " or " + nome;
-    for (const Voce &v : voci())
+    for (const VoceRapporto &v : app::ElencoRapporti())
         if (v.nome == nome) r.voce = &v;
     return r.voce ? std::string() : "unknown report " + nome + "; they are:\n" + NomiRapporti();
 }
@@ -78,7 +57,7 @@ std::string leggi(int argc, char **argv, Richiesta &r) {
 }
 
 // Why a report did not open.
-std::string perche(const Sessione &s, const Voce &v) {
+std::string perche(const Sessione &s, const VoceRapporto &v) {
     const std::string chi(v.nome);
     if (Val(s.in.txtLAT) < 0)
         return chi + ": txtLAT reads " + s.in.txtLAT +
@@ -101,7 +80,7 @@ Rapporto intestato(const Sessione &s, Rapporto r) {
 
 std::string NomiRapporti() {
     std::string t;
-    for (const Voce &v : voci()) {
+    for (const VoceRapporto &v : app::ElencoRapporti()) {
         t.append("  ").append(v.nome).append(13 - v.nome.size(), ' ');
         t.append(v.contenuto).append("\n");
     }
@@ -116,8 +95,8 @@ int Report(int argc, char **argv) {
     Sessione &s = comando.s;
     if (const std::string e = r.campi.Applica(s); !e.empty()) return rifiuta(e);
     if (r.voce->ckFunzione >= 0) s.in.ckFunzione = r.voce->ckFunzione;
-    for (const std::string_view nome : r.voce->premi)
-        if (app::Premi(s, TrovaControllo(nome)) == app::Esito::Disabilitato) return rifiuta(perche(s, *r.voce));
+    for (const std::string_view nome : {r.voce->prima, r.voce->controllo})
+        if (!nome.empty() && app::Premi(s, TrovaControllo(nome)) == app::Esito::Disabilitato) return rifiuta(perche(s, *r.voce));
     if (s.rapporti.aperto.modulo != r.voce->modulo) return rifiuta(perche(s, *r.voce));
     if (r.stampa) {
         if (!s.rapporti.stampa) return rifiuta(std::string(r.voce->nome) + " has no printed form");

@@ -1,8 +1,6 @@
 // The table of controls as the page builds itself from it.
-#include <algorithm>
-#include <iterator>
-
 #include "app/gruppi.h"
+#include "app/rapporti.h"
 #include "web/json.h"
 #include "web/pagina.h"
 #include "web/testi.h"
@@ -25,14 +23,10 @@ std::string_view nomeDi(Classe c) {
     }
 }
 
-// Buttons and options that open a report.
-constexpr std::string_view RAPPORTI[] = {"optHorae", "OptInter", "OptIta", "OptBab", "OptTEMP", "Option1", "cmdData", "mnuAvviso"};
-
 void controllo(Json &j, const Dizionario &d, const Controllo &c) {
     j.apri('{').nome("nome").testo(c.nome).nome("classe").testo(nomeDi(c.classe));
     j.nome("caption").testo(d.Traduci(c.caption)).nome("tip").testo(d.Traduci(c.toolTip));
-    const bool rapporto = std::find(std::begin(RAPPORTI), std::end(RAPPORTI), c.nome) != std::end(RAPPORTI);
-    j.nome("rapporto").vero(rapporto).chiudi('}');
+    j.nome("rapporto").vero(app::ApreRapporto(c.nome)).chiudi('}');
 }
 
 // A group's rows: names of controls, and captions of its own as {"caption": text}.

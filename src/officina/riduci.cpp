@@ -121,15 +121,21 @@ double riduci(const Cammino &linea, Griglia &griglia, double tolleranza, std::ve
             for (std::size_t i = 1; i < resto[k].punti.size(); ++i) suoi->aggiungi(resto[k].punti[i - 1], resto[k].punti[i]);
     }
     Unisci(resto);
-    for (Cammino &c : resto) {
-        const Cammino fitta = c;
-        pochiPunti(c, SPESA * tolleranza);
-        // With few points a line may come nearer to another than it is: it keeps its own then.
-        std::vector<Cammino> liberi;
-        if (scoperto(c, griglia, nullptr, STESSO, liberi) > 0) c = fitta;
-        for (std::size_t i = 1; i < c.punti.size(); ++i) griglia.aggiungi(c.punti[i - 1], c.punti[i]);
-        if (c.chiuso) griglia.aggiungi(c.punti.back(), c.punti.front());
-        esito.push_back(std::move(c));
+    for (const Cammino &intero : resto) {
+        // Its own paths before this one now lie as they will be cut.
+        std::vector<Cammino> parti;
+        if (suoi && !intero.chiuso) via += scoperto(intero, griglia, nullptr, VICINO * std::max(STESSO, tolleranza), parti);
+        else parti.push_back(intero);
+        for (Cammino &c : parti) {
+            const Cammino fitta = c;
+            pochiPunti(c, SPESA * tolleranza);
+            // With few points a line may come nearer to another than it is: it keeps its own then.
+            std::vector<Cammino> liberi;
+            if (scoperto(c, griglia, nullptr, STESSO, liberi) > 0) c = fitta;
+            for (std::size_t i = 1; i < c.punti.size(); ++i) griglia.aggiungi(c.punti[i - 1], c.punti[i]);
+            if (c.chiuso) griglia.aggiungi(c.punti.back(), c.punti.front());
+            esito.push_back(std::move(c));
+        }
     }
     return via;
 }

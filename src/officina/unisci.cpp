@@ -10,8 +10,9 @@ namespace ombrelia::officina {
 
 namespace {
 
-constexpr double INCONTRO = 2 * STESSO;  // what was left out may leave so much between two ends
-constexpr double UGUALE = 1e-6;          // one point
+constexpr double INCONTRO = 2 * STESSO;                   // what was left out may leave so much between two ends
+constexpr double UGUALE = 1e-6;                           // one point
+constexpr double RITORNO = 150 * std::numbers::pi / 180;  // a line that comes back is another stroke
 constexpr double DRITTO = 8 * std::numbers::pi / 180;
 
 // End 2 i is the beginning of path i, end 2 i + 1 its end.
@@ -45,7 +46,7 @@ public:
                 if (f / 2 == e / 2 && c_[e / 2].punti.size() < 3) continue;
                 const double s = svolta(e, f);
                 const bool una = c_[e / 2].linea == c_[f / 2].linea;
-                if (s < DRITTO || (una && vicini.size() == 1)) esito.push_back({e, f, una ? s : s + 0.01});
+                if (s < DRITTO || (una && vicini.size() == 1 && s < RITORNO)) esito.push_back({e, f, una ? s : s + 0.01});
             }
         }
         std::sort(esito.begin(), esito.end(), [](const Coppia &x, const Coppia &y) {

@@ -1,28 +1,36 @@
 // Docks and boxes round the window.
 #include "desktop/aggiunte.h"
 
+#include <QCheckBox>
 #include <QDockWidget>
+#include <QLayout>
 #include <QMenuBar>
 #include <functional>
 #include <utility>
 
 #include "desktop/barra_tempo.h"
 #include "desktop/finestra.h"
+#include "desktop/pannello_certificato.h"
+#include "desktop/tavole_rapporto.h"
 
 namespace ombrelia::desktop {
 
 namespace {
 
-// Of the drawing and of how its dial is mounted.
-std::size_t impronta(const Sessione &s) {
-    const Lista &l = s.tavolo.lista();
-    const Posa p = PosaDelDisegno(s);
+void mescola(std::size_t &h, double x) { h = h * 1099511628211U ^ std::hash<double>{}(x); }
+
+std::size_t improntaDisegno(const Lista &l) {
     std::size_t h = std::hash<std::string_view>{}(l.Ordine);
-    const auto mescola = [&h](double x) { h = h * 1099511628211U ^ std::hash<double>{}(x); };
-    for (const RecLinea &r : l.Linee) mescola(r.X1), mescola(r.Y1), mescola(r.X2), mescola(r.Y2);
-    for (const RecPunto &r : l.Punti) mescola(r.X), mescola(r.Y);
+    for (const RecLinea &r : l.Linee) mescola(h, r.X1), mescola(h, r.Y1), mescola(h, r.X2), mescola(h, r.Y2);
+    for (const RecPunto &r : l.Punti) mescola(h, r.X), mescola(h, r.Y);
+    return h;
+}
+
+// How the dial is mounted, with its drawing.
+std::size_t improntaPosa(const Sessione &s, std::size_t h) {
+    const Posa p = PosaDelDisegno(s);
     const ombra::Quadrante &q = p.quadrante;
-    for (const double x : {q.latitudine, q.declinazione, q.inclinazione, q.gnomone, p.longitudine, p.meridiano}) mescola(x);
+    for (const double x : {q.latitudine, q.declinazione, q.inclinazione, q.gnomone, p.longitudine, p.meridiano}) mescola(h, x);
     return h;
 }
 
@@ -33,6 +41,22 @@ Aggiunte::Aggiunte(Finestra &finestra, Dialoghi &dialoghi) : QObject(&finestra),
     sopra_ = new SopraFoglio(f_.quadro().foglio(), f_.sessione().tavolo);
     tempo_ = new BarraTempo(ponte, *sopra_, &f_);
     molo(ponte.Traduci("Ombra nel tempo"), "tempo", tempo_, Qt::BottomDockWidgetArea, QStringLiteral("Ctrl+Shift+T"));
+    certificato_ = new PannelloCertificato(ponte, dialoghi_, *sopra_, &f_);
+    QDockWidget *certificato = molo(ponte.Traduci("Certificato"), "certificato", certificato_, Qt::BottomDockWidgetArea, QStringLiteral("Ctrl+Shift+V"));
+    certificato_->suCorreggi = [this] { correggi(); };
+    connect(certificato_->distintivo(), &QToolButton::clicked, certificato, [certificato] {
+        certificato->setVisible(certificato->isHidden());
+        if (!certificato->isHidden()) certificato->raise();
+    });
+    if (auto *piede = f_.findChild<QWidget *>(QStringLiteral("piede")); piede && piede->layout()) piede->layout()->addWidget(certificato_->distintivo());
+    // The points of a report's row, as the report counts them.
+    for (const char *nome : {"Form1", "Form2", "Form3", "Form4", "Form6", "Form7", "Form8", "Form9", "Form10"})
+        if (TavoleRapporto *t = f_.moduli().tavole(nome))
+            t->suPunti = [this](std::vector<ombra::Punto> punti) {
+                const double mm = PosaDelDisegno(f_.sessione()).unita * 1000;
+                for (ombra::Punto &p : punti) p.x *= mm, p.y *= mm;
+                sopra_->accendi({}, std::move(punti), false);
+            };
     constexpr int CALMA = 150;
     calma_.setInterval(CALMA);
     calma_.setSingleShot(true);
@@ -62,10 +86,25 @@ QMenu *Aggiunte::menu(const QString &titolo) {
 
 // What is laid over the sheet has it painted too: only another drawing counts.
 void Aggiunte::dipinto() {
-    const std::size_t nuova = impronta(f_.sessione());
-    if (nuova == std::exchange(impronta_, nuova)) return;
-    sopra_->accendi({}, {}, false);
-    tempo_->aggiorna();
+    const std::size_t disegno = improntaDisegno(f_.sessione().tavolo.lista()), tutto = improntaPosa(f_.sessione(), disegno);
+    if (disegno != std::exchange(disegno_, disegno)) {
+        sopra_->accendi({}, {}, false);
+        certificato_->giudica();
+    }
+    if (tutto != std::exchange(impronta_, tutto)) tempo_->aggiorna();
+}
+
+// True lines, on a sheet of their own: what is there goes.
+void Aggiunte::correggi() {
+    auto *vivo = f_.findChild<QCheckBox *>(QStringLiteral("disegnaMentreScrivi"));
+    auto *casella = qobject_cast<QAbstractButton *>(f_.ponte().widget("ckCorretta"));
+    if (casella && !casella->isChecked()) casella->click();
+    if (vivo && vivo->isChecked()) return;
+    auto *pulisci = f_.findChild<QCheckBox *>(QStringLiteral("pulisciPrima"));
+    const bool prima = pulisci && pulisci->isChecked();
+    if (pulisci) pulisci->setChecked(true);
+    f_.esegui();
+    if (pulisci) pulisci->setChecked(prima);
 }
 
 }  // namespace ombrelia::desktop

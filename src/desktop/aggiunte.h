@@ -14,6 +14,7 @@ namespace ombrelia::desktop {
 
 class BarraTempo;
 class Finestra;
+class PannelloCertificato;
 class SopraFoglio;
 
 class Aggiunte final : public QObject {
@@ -26,12 +27,14 @@ private:
     // A menu of the window by its caption; never null: the bar gets a new one where it has none.
     QMenu *menu(const QString &titolo);
     void dipinto();
+    void correggi();
 
     Finestra &f_;
     Dialoghi &dialoghi_;
     SopraFoglio *sopra_ = nullptr;
     BarraTempo *tempo_ = nullptr;
-    std::size_t impronta_ = 0;
+    PannelloCertificato *certificato_ = nullptr;
+    std::size_t disegno_ = 0, impronta_ = 0;
     QTimer calma_;  // between the last painting and what follows from it
 };
 

@@ -19,6 +19,7 @@
 
 #include "core/file.h"
 #include "desktop/figure.h"
+#include "desktop/tavole_rapporto.h"
 #include "paint/tinte.h"
 #include "reports/rapporti.h"
 
@@ -93,7 +94,7 @@ void Moduli::rapporto(std::string_view nome) {
     w->setObjectName(Q(nome));
     auto *testo = lettura(w);
     testo->setObjectName(QStringLiteral("testo"));
-    w->setCentralWidget(testo);
+    w->setCentralWidget(new TavoleRapporto(ponte_, dialoghi_, testo, w));
     w->resize(900, 560);
     for (const auto &[modulo, menu] : RAPPORTI) {
         if (modulo != nome) continue;
@@ -126,7 +127,13 @@ void Moduli::mostra(const Rapporto &r) {
     if (!w) return;
     contenuti_[r.modulo] = r;
     if (auto *testo = w->findChild<QPlainTextEdit *>(QStringLiteral("testo"))) riempi(testo, r);
+    if (TavoleRapporto *t = tavole(r.modulo)) t->mostra(r);
     apri(r.modulo, true);
+}
+
+TavoleRapporto *Moduli::tavole(std::string_view nome) const {
+    const auto *w = qobject_cast<QMainWindow *>(modulo(nome));
+    return w ? dynamic_cast<TavoleRapporto *>(w->centralWidget()) : nullptr;
 }
 
 void Moduli::stampa(const Rapporto &r) {

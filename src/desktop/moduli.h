@@ -14,6 +14,8 @@ class QPlainTextEdit;
 
 namespace ombrelia::desktop {
 
+class TavoleRapporto;
+
 class Moduli {
 public:
     Moduli(Ponte &ponte, Dialoghi &dialoghi, QWidget *finestra);
@@ -26,6 +28,8 @@ public:
     void stampa(const Rapporto &r);
     // A form's window; null when there is none.
     [[nodiscard]] QWidget *modulo(std::string_view nome) const;
+    // Of a report's form, its tables; null for the others.
+    [[nodiscard]] TavoleRapporto *tavole(std::string_view nome) const;
 
 private:
     void rapporto(std::string_view nome);

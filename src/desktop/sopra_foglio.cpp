@@ -31,15 +31,15 @@ bool SopraFoglio::eventFilter(QObject *chi, QEvent *e) {
 
 void SopraFoglio::ombra(std::optional<Ombra> o) {
     ombra_ = std::move(o);
-    setVisible(ombra_ || segno_ || !accese_.empty());
+    setVisible(ombra_ || !segni_.empty() || !accese_.empty());
     update();
 }
 
-void SopraFoglio::accendi(std::vector<std::pair<std::size_t, std::size_t>> tratti, std::optional<ombra::Punto> segno, bool australe) {
+void SopraFoglio::accendi(std::vector<std::pair<std::size_t, std::size_t>> tratti, std::vector<ombra::Punto> segni, bool australe) {
     accese_ = std::move(tratti);
-    segno_ = segno;
+    segni_ = std::move(segni);
     australe_ = australe;
-    setVisible(ombra_ || segno_ || !accese_.empty());
+    setVisible(ombra_ || !segni_.empty() || !accese_.empty());
     update();
 }
 
@@ -95,8 +95,8 @@ void SopraFoglio::dipingiAccese(QPainter &p) const {
             }
         }
     }
-    if (segno_) {
-        const QPointF qui = dot({segno_->x / 1000, segno_->y / 1000}, australe_);
+    for (const ombra::Punto &segno : segni_) {
+        const QPointF qui = dot({segno.x / 1000, segno.y / 1000}, australe_);
         p.setBrush(Qt::NoBrush);
         p.setPen(QPen(Qt::white, 4.5));
         p.drawEllipse(qui, 11, 11);

@@ -24,8 +24,8 @@ public:
         bool australe = false;
     };
     void ombra(std::optional<Ombra> o);
-    // Records of the list that are lit (ranges of its order), and a place, millimetres as mounted.
-    void accendi(std::vector<std::pair<std::size_t, std::size_t>> tratti, std::optional<ombra::Punto> segno, bool australe);
+    // Records of the list that are lit (ranges of its order), and places, millimetres as mounted.
+    void accendi(std::vector<std::pair<std::size_t, std::size_t>> tratti, std::vector<ombra::Punto> segni, bool australe);
     // The sheet was painted anew.
     std::function<void()> suDipinto;
 
@@ -43,7 +43,7 @@ private:
     const Tavolo &tavolo_;
     std::optional<Ombra> ombra_;
     std::vector<std::pair<std::size_t, std::size_t>> accese_;
-    std::optional<ombra::Punto> segno_;
+    std::vector<ombra::Punto> segni_;
     bool australe_ = false;
 };
 

@@ -1,5 +1,6 @@
 // A report given out: text in print zones, CSV, HTML.
 #include <cstdio>
+#include <utility>
 
 #include "reports/rapporti.h"
 
@@ -175,24 +176,37 @@ std::string RapportoTesto(const Rapporto &r) {
     return t;
 }
 
+std::vector<Blocco> RapportoBlocchi(const Rapporto &r) {
+    std::vector<Blocco> blocchi;
+    int aperta = -2;  // the table that the last line belongs to; -1 is that of labelled values
+    for (const RigaRapporto &riga : r.righe) {
+        if (riga.tabella < 0 && !haNumeri(riga)) continue;
+        if (riga.tabella != std::exchange(aperta, riga.tabella)) {
+            Blocco &b = blocchi.emplace_back();
+            b.tabella = aperta;
+            if (aperta >= 0) {
+                const TabellaRapporto &tabella = r.tabelle[static_cast<std::size_t>(aperta)];
+                b.titolo = SenzaBlanks(tabella.titolo);
+                b.colonne = tabella.colonne;
+            }
+        }
+        if (riga.tabella < 0 || riga.genere == Genere::Dati) blocchi.back().righe.push_back(celle(riga));
+    }
+    return blocchi;
+}
+
 namespace {
 
 std::string csv(const Rapporto &r, bool virgola) {
     Celle t{.virgola = virgola};
     t.riga({SenzaBlanks(r.caption)});
-    int aperta = -2;  // the table that the last line belongs to; -1 is that of labelled values
-    for (const RigaRapporto &riga : r.righe) {
-        if (riga.tabella < 0 && !haNumeri(riga)) continue;
-        if (riga.tabella != aperta) {
-            t.testo += "\r\n";
-            aperta = riga.tabella;
-            if (aperta >= 0) {
-                const TabellaRapporto &tabella = r.tabelle[static_cast<std::size_t>(aperta)];
-                if (!tabella.titolo.empty()) t.riga({SenzaBlanks(tabella.titolo)});
-                t.riga(tabella.colonne);
-            }
+    for (const Blocco &b : RapportoBlocchi(r)) {
+        t.testo += "\r\n";
+        if (b.tabella >= 0) {
+            if (!b.titolo.empty()) t.riga({b.titolo});
+            t.riga(b.colonne);
         }
-        if (riga.tabella < 0 || riga.genere == Genere::Dati) t.riga(celle(riga));
+        for (const std::vector<std::string> &riga : b.righe) t.riga(riga);
     }
     return std::move(t.testo);
 }

@@ -56,6 +56,14 @@ void StampaForm10(Sessione &s);  // by flagVerticale
 
 // The report as text, in print zones, a line end behind each line.
 [[nodiscard]] std::string RapportoTesto(const Rapporto &r);
+// What exports hold: labelled values, or a table with its title and the names of its columns; numbers have all their digits.
+struct Blocco {
+    int tabella = -1;  // which of the report's; -1 for labelled values
+    std::string titolo;
+    std::vector<std::string> colonne;
+    std::vector<std::vector<std::string>> righe;
+};
+[[nodiscard]] std::vector<Blocco> RapportoBlocchi(const Rapporto &r);
 // Labelled values first as they come, a value a cell; each table a block of its own with its title and the names of its
 // columns; a blank line between blocks. Numbers have all their digits. Cells are parted by commas and lines by CR LF.
 [[nodiscard]] std::string RapportoCsv(const Rapporto &r);

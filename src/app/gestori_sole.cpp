@@ -74,6 +74,9 @@ void mnuAusiliaria_Click(Sessione &s, int) {
     testo(s, ANGOLI[0].decimale) = s.in.txtLAT;
     testo(s, ANGOLI[1].decimale) = s.in.txtLonG;
     for (const Angolo &a : ANGOLI) inSessagesimali(s, a);
+    // Another zone than the start's is the board's too; at the start's the box keeps what was typed there.
+    if (const Valore meridiano = Val(s.in.txtMeridiano); meridiano.esiste() && meridiano != -15)
+        testo(s, std::string(MODULO) + ".TxtFuso") = TestoNumero((meridiano / 15).v);
     // The boxes are UT, so the clock is read as UT.
     const std::time_t adesso = std::time(nullptr);
     if (const std::tm *m = std::gmtime(&adesso)) {

@@ -65,6 +65,17 @@ TEST(Zona, CostanteNominaIlMeridiano) {
     EXPECT_EQ(RigaCon(qui.apri("cmdData"), "Costante locale = "), "Costante locale = 32 p");
 }
 
+// Hours of the zones by an atlas, West positive.
+TEST(Zona, LaSchedaDelSoleApreColFuso) {
+    for (const auto &[meridiano, fuso] :
+         {std::pair{"75", "5"}, {"-82.5", "-5.5"}, {"-86.25", "-5.75"}, {"52.5", "3.5"}, {"-15", "2"}}) {
+        BancoRapporti b(std::string("txtMeridiano=") + meridiano);
+        b.imposta({{"frmDeclin.TxtFuso", "2"}});
+        b.premi("mnuAusiliaria");
+        EXPECT_EQ(b.s.testo(TrovaControllo("frmDeclin.TxtFuso")), fuso) << meridiano;
+    }
+}
+
 TEST(Originale, UnRapportoEDeiCampi) {
     for (const char *controllo : {"OptIta", "OptBab", "OptTEMP", "optHorae"}) {
         BancoRapporti nuovo("txtLAT=47;txtInc=0;txtDec=10"), altro("txtLAT=30;txtInc=0;txtDec=40"),

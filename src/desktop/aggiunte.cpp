@@ -10,6 +10,7 @@
 
 #include "desktop/barra_tempo.h"
 #include "desktop/finestra.h"
+#include "desktop/manuale.h"
 #include "desktop/pannello_certificato.h"
 #include "desktop/tavole_rapporto.h"
 
@@ -57,6 +58,16 @@ Aggiunte::Aggiunte(Finestra &finestra, Dialoghi &dialoghi) : QObject(&finestra),
                 for (ombra::Punto &p : punti) p.x *= mm, p.y *= mm;
                 sopra_->accendi({}, std::move(punti), false);
             };
+    // F1 is the manual's: at the field that has the keys, where the manual names it.
+    const QKeySequence f1(Qt::Key_F1);
+    for (QAction *a : f_.findChildren<QAction *>())
+        if (a->shortcut() == f1) a->setShortcut({});
+    QAction *manuale = menu(QStringLiteral("&?"))->addAction(ponte.Traduci("Manuale"));
+    manuale->setShortcut(f1);
+    connect(manuale, &QAction::triggered, this, [this] {
+        const QWidget *qui = f_.focusWidget();
+        if (!ApriManuale(f_.ponte(), &f_, qui ? qui->objectName() : QString())) dialoghi_.avviso(&f_, f_.ponte().Traduci("Il manuale non è installato"));
+    });
     constexpr int CALMA = 150;
     calma_.setInterval(CALMA);
     calma_.setSingleShot(true);

@@ -143,8 +143,9 @@ void PannelloCertificato::arrivato(const DatiCertificato &dati, const Certificat
                 tavola_->item(i, k)->setFont(f);
             }
     }
+    // In the order of drawing, until a head is pressed.
+    tavola_->horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
     tavola_->setSortingEnabled(true);
-    tavola_->sortByColumn(-1, Qt::AscendingOrder);
     tavola_->resizeColumnsToContents();
 }
 

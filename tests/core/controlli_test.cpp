@@ -96,11 +96,11 @@ TEST(Controlli, FormsLieOneAfterTheOther) {
     EXPECT_TRUE(ControlliDi("Form11").empty());
 }
 
-// So that no engine meets an empty text.
+// So that no engine meets an empty text; the year alone is empty to mean the current one.
 TEST(Controlli, FieldsStartAsNumbersAndBoxesUnchecked) {
     const DialInputs in = InputsIniziali();
     for (const Controllo &riga : TavolaControlli()) {
-        const bool testo = riga.testo && riga.classe == Classe::Testo;
+        const bool testo = riga.testo && riga.classe == Classe::Testo && riga.nome != "txtAnno";
         EXPECT_TRUE(!testo || (in.*riga.testo).find_first_of("0123456789") != std::string::npos) << riga.nome;
         EXPECT_TRUE(!riga.casella || in.*riga.casella == 0) << riga.nome;
     }

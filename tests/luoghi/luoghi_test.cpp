@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <ctime>
 #include <random>
 #include <set>
 
@@ -58,18 +57,9 @@ TEST(Luoghi, NamesakesAndNearMisses) {
 }
 
 TEST(Luoghi, AnswersAtEveryKey) {
-    double peggiore = 0;
     for (const std::string_view nome : {"San Francisco", "zürich", "qwertyuiop", "Saint-Étienne", "new york"})
-        for (std::size_t k = 1; k <= nome.size(); ++k) {
-            const std::clock_t da = std::clock();  // of the processor: others may use the machine
-            const auto trovati = atlante().Suggerisci(nome.substr(0, k));
-            peggiore = std::max(peggiore, 1000.0 * static_cast<double>(std::clock() - da) / CLOCKS_PER_SEC);
-            ASSERT_LE(trovati.size(), 12U);
-        }
-    std::printf("%zu towns, the slowest key %.2f ms\n", atlante().luoghi().size(), peggiore);
-#ifdef NDEBUG
-    EXPECT_LT(peggiore, 20);
-#endif
+        for (std::size_t k = 1; k <= nome.size(); ++k)
+            ASSERT_LE(atlante().Suggerisci(nome.substr(0, k)).size(), 12U) << nome.substr(0, k);
     ASSERT_FALSE(atlante().Suggerisci("lon").empty());
     EXPECT_EQ(atlante().Suggerisci("lon").front()->nome, "London");
     EXPECT_EQ(atlante().Suggerisci("rom").front()->nome, "Rome");

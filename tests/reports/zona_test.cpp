@@ -87,7 +87,9 @@ TEST(Originale, UnRapportoEDeiCampi) {
         }
         const auto atteso = Righe(nuovo.apri(controllo));
         EXPECT_EQ(Righe(altro.apri(controllo)), atteso) << controllo;
-        if (controllo[0] == 'O') EXPECT_NE(Righe(vecchio.apri(controllo)), atteso) << controllo;
+        if (controllo[0] == 'O') {
+            EXPECT_NE(Righe(vecchio.apri(controllo)), atteso) << controllo;
+        }
     }
 }
 

@@ -1,6 +1,7 @@
 // The calls of the page.
 #include "web/chiamate.h"
 
+#include <algorithm>
 #include <stdexcept>
 #include <utility>
 
@@ -53,9 +54,12 @@ constexpr Chiamata CHIAMATE[] = {
     {"leggi",
      [](Pagina &p, Sv a) {
          const auto [x, resto] = spezza(a);
-         const auto [y, anno] = spezza(resto);
-         return p.Leggi(numero(x), numero(y), static_cast<int>(numero(anno)));
+         const auto [y, coda] = spezza(resto);
+         const auto [anno, entro] = spezza(coda);
+         return p.Leggi(numero(x), numero(y), static_cast<int>(numero(anno)), numero(entro));
      }},
+    {"linea", [](Pagina &p, Sv a) { return p.Linea(static_cast<std::size_t>(std::max(numero(a), 0.0))); }},
+    {"certificato", [](Pagina &p, Sv) { return p.Certificato(); }},
     {"ombra", [](Pagina &p, Sv a) { return p.Ombra(spezza(a).first, numero(spezza(a).second)); }},
     {"giornata", [](Pagina &p, Sv a) { return p.Giornata(a); }},
     {"rapporto", [](Pagina &p, Sv a) { return p.ApriRapporto(a); }},

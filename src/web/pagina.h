@@ -69,8 +69,13 @@ public:
     // Towns whose name begins so, the larger first. JSON: [name, country or state, latitude, longitude, zone meridian], the numbers
     // as texts for the fields.
     [[nodiscard]] static std::string Luoghi(std::string_view inizio);
-    // What a point of the sheet says, x and y in millimetres from its corner, and the dates in a year. JSON.
-    [[nodiscard]] std::string Leggi(double x, double y, int anno);
+    // What a point of the sheet says, x and y in millimetres from its corner, the dates in a year, and the line that lies
+    // within so many millimetres. JSON.
+    [[nodiscard]] std::string Leggi(double x, double y, int anno, double entro);
+    // The chords of a claimed line, by its number, as the "d" of a path.
+    [[nodiscard]] std::string Linea(std::size_t pretesa);
+    // The drawing held against the shadow: verdict and a row a line. JSON; null when nothing is drawn.
+    [[nodiscard]] std::string Certificato();
     // The shadow at a date and hours of the zone's mean time, x and y as above. JSON.
     [[nodiscard]] std::string Ombra(std::string_view data, double ore);
     // The way of the shadow through that day: JSON, points or null where there is none.

@@ -1,4 +1,7 @@
 // Towns, points that are read back and the shadow that moves over the dial, as the page asks for them.
+#include <cmath>
+
+#include "certificato/certificato.h"
 #include "certificato/istante.h"
 #include "luoghi/atlante.h"
 #include "web/json.h"
@@ -44,7 +47,7 @@ std::string Pagina::Luoghi(std::string_view inizio) {
     return std::move(j.chiudi(']')).fine();
 }
 
-std::string Pagina::Leggi(double x, double y, int anno) {
+std::string Pagina::Leggi(double x, double y, int anno, double entro) {
     const Sessione &s = disegno();
     const Posa posa = PosaDelDisegno(s);
     const Vista vista(s.tavolo, posa);
@@ -52,6 +55,10 @@ std::string Pagina::Leggi(double x, double y, int anno) {
     Json j;
     j.apri('{').nome("x").numero(p.x * MM).nome("y").numero(p.y * MM);
     if (posa.quadrante.gnomone == 0) return std::move(j.nome("luce").testo("mai").chiudi('}')).fine();
+    if (const auto vicina = TrovaLinea(DatiDelCertificato(s), s.tavolo.lista(), p, entro / MM)) {
+        j.nome("linea").testo(TestoPretesa(dizionario(), vicina->specie, vicina->valore));
+        j.nome("pretesa").numero(static_cast<double>(vicina->pretesa));
+    }
     const LetturaPunto l = LeggiPunto(posa, p, anno);
     j.nome("luce").testo(parola(l.sole.luce)).nome("vera").testo(Orologio(l.oraVera));
     j.nome("altezza").numero(l.sole.altezza * ombra::GRADI).nome("azimut").numero(l.sole.azimut * ombra::GRADI);
@@ -60,6 +67,56 @@ std::string Pagina::Leggi(double x, double y, int anno) {
     // The zone's clock at each of the dates: true time, the meridian and that day's equation of time.
     j.chiudi(']').nome("fuso").apri('[');
     for (const double jd : l.momenti) j.testo(Orologio(l.oraVera + (posa.minutiDelFuso() - ombra::soleDi(jd).equazione) / 60));
+    return std::move(j.chiudi(']').chiudi('}')).fine();
+}
+
+std::string Pagina::Linea(std::size_t pretesa) {
+    const Tavolo &t = disegno().tavolo;
+    const Lista &l = t.lista();
+    if (pretesa >= l.pretese.size()) return {};
+    const Pretesa &p = l.pretese[pretesa];
+    std::string d = "<path d=\"";
+    std::size_t linea = p.linea, punto = p.punto;
+    const RecLinea *prima = nullptr;
+    const auto scrivi = [&](char c, double x, double y) {
+        d += c;
+        AggiungiNumero(d, std::round((x * t.FattoreX + t.ShiftX()) * 1e6) / 1e3);
+        d += ' ';
+        AggiungiNumero(d, std::round((y * t.FattoreY + t.ShiftY()) * 1e6) / 1e3);
+    };
+    for (std::size_t k = p.da; k < p.a && k < l.Ordine.size(); ++k) {
+        if (l.Ordine[k] == 'L') {
+            const RecLinea &r = l.Linee[linea++];
+            const bool segue = prima && prima->X1 == r.X2 && prima->Y1 == r.Y2;
+            if (!segue) scrivi('M', r.X2, r.Y2);
+            scrivi('L', r.X1, r.Y1);
+            prima = &r;
+        } else if (l.Ordine[k] == 'P') {
+            const RecPunto &r = l.Punti[punto++];
+            scrivi('M', r.X, r.Y);
+            d += "h0";
+            prima = nullptr;
+        }
+    }
+    return d.substr(d.find('"') + 1);
+}
+
+std::string Pagina::Certificato() {
+    const Sessione &s = disegno();
+    const Lista &lista = s.tavolo.lista();
+    const DatiCertificato dati = DatiDelCertificato(s);
+    const ombrelia::Certificato c = Certifica(dati, lista);
+    if (c.righe.empty()) return "null";
+    const Dizionario &d = dizionario();
+    const Vista vista(s.tavolo, PosaDelDisegno(s));
+    Json j;
+    j.apri('{').nome("vero").vero(c.vero()).nome("verdetto").testo(Verdetto(d, c)).nome("righe").apri('[');
+    for (const RigaCertificato &r : c.righe) {
+        j.apri('{').nome("linea").testo(TestoPretesa(d, r.specie, r.valore)).nome("vera").vero(r.vera).nome("doppia").vero(r.doppia);
+        j.nome("misure").apri('[');
+        for (const double n : {r.disegnati, r.massimo, r.medio, r.mancanti, r.superflui}) j.numero(n);
+        vista.foglio(j.chiudi(']').nome("peggio"), {r.xPeggiore / MM, r.yPeggiore / MM}).chiudi('}');
+    }
     return std::move(j.chiudi(']').chiudi('}')).fine();
 }
 

@@ -143,6 +143,11 @@ try {
     await p.waitForSelector('#trovati li', { timeout: 5000 });
     await p.keyboard.press('Enter');
     vale('a town fills the place', (await valore(p, 'txtLAT')).startsWith('44.3'), `${await valore(p, 'cerca')} ${await valore(p, 'txtLAT')} ${await valore(p, 'txtLonG')}`);
+    // The certificate.
+    await p.waitForSelector('#sigillo:not([hidden])', { timeout: 5000 });
+    await p.click('#sigillo');
+    vale('the certificate has its lines', (await p.$$eval('#foglietto[open] tbody tr', (r) => r.length)) > 10, await p.$eval('#foglietto h2', (h) => h.textContent));
+    await p.click('#foglietto .chiudi');
     // Downloads, into a folder.
     const posta = join(cartella, 'scaricati');
     await (await browser.target().createCDPSession()).send('Browser.setDownloadBehavior', { behavior: 'allow', downloadPath: posta, eventsEnabled: true });

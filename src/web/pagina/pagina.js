@@ -85,6 +85,7 @@
       vista = null;
     }
     inquadra();
+    sigilla();
     if (d.avvisi.length) avvisa(d.avvisi.join(' '));
     else if (!d.strati.some((id) => !id.endsWith('-Cornice'))) avvisa(testi.vuoto);
   }
@@ -153,7 +154,10 @@
         if (!dita.size) foglio.classList.remove('preso');
       });
     }
-    foglio.addEventListener('pointerleave', () => cerca('letto').replaceChildren());
+    foglio.addEventListener('pointerleave', () => {
+      cerca('letto').replaceChildren();
+      illumina();
+    });
     const centro = () => {
       const s = foglio.getBoundingClientRect();
       return [s.left + s.width / 2, s.top + s.height / 2];
@@ -193,7 +197,8 @@
   function leggi(e) {
     const [x, y] = sulFoglio(e);
     if (x < 0 || y < 0 || x > misura[0] * 1000 || y > misura[1] * 1000) return cerca('letto').replaceChildren();
-    const p = chiedi('leggi', x, y, anno);
+    const p = chiedi('leggi', x, y, anno, riquadro().l / foglio.clientWidth * 9);
+    illumina(p.pretesa);
     const pezzi = [`${p.x.toFixed(0)}, ${p.y.toFixed(0)} mm`];
     if (p.luce === 'si') {
       pezzi.push(`${p.vera} ${testi.vera}`);
@@ -202,7 +207,14 @@
     } else {
       pezzi.push(testi[p.luce]);
     }
-    cerca('letto').textContent = pezzi.join('  ·  ');
+    if (p.linea) pezzi.push(p.linea);
+    return cerca('letto').replaceChildren(pezzi.join('  ·  '));
+  }
+  // The line of that number shines; none without one.
+  function illumina(pretesa) {
+    if (illumina.ultima === pretesa) return;
+    illumina.ultima = pretesa;
+    sopra.querySelector('.vicina').setAttribute('d', pretesa === undefined ? '' : chiama('linea', pretesa));
   }
 
   let moto = 0;  // the animation's request
@@ -214,7 +226,7 @@
     cerca('giornoDetto').textContent = giornoScritto(data);
     cerca('oraDetta').textContent = o.ore;
     cerca('luce').textContent = o.luce === 'si' ? `${o.vera} ${testi.vera} · ${testi.sole} ${o.altezza.toFixed(0)}°` : testi[o.luce];
-    const [via, linea, punta] = sopra.children;
+    const [, via, linea, punta] = sopra.children;
     const cade = o.luce === 'si';
     for (const e of [linea, punta]) e.toggleAttribute('hidden', !cade);
     if (cade) {
@@ -264,7 +276,7 @@
       ombra();
     };
     if (!sopra.children.length) {
-      sopra.append(figura('path', { class: 'via' }), figura('path', { class: 'ombra' }), figura('circle', { class: 'punta', r: 5 }));
+      sopra.append(figura('path', { class: 'vicina' }), figura('path', { class: 'via' }), figura('path', { class: 'ombra' }), figura('circle', { class: 'punta', r: 5 }));
     }
     muovi(false);
     cerca('tempo').hidden = false;
@@ -568,6 +580,40 @@
     }));
     return mostraFoglietto(r.titolo, corpo, forme);
   }
+  // --- the certificate ---------------------------------------------------------------------------------------------------
+
+  // The verdict stands below the sheet a moment after each drawing; a press opens the table.
+  function sigilla() {
+    clearTimeout(sigilla.attesa);
+    sigilla.attesa = setTimeout(() => prova(() => {
+      const c = chiedi('certificato');
+      cerca('sigillo').hidden = !c;
+      cerca('sigillo').textContent = c ? `${c.vero ? '✓' : '⚠'} ${c.verdetto}` : '';
+      cerca('sigillo').classList.toggle('falso', Boolean(c) && !c.vero);
+    }), 300);
+  }
+  function certificato() {
+    const c = chiedi('certificato');
+    if (!c) return;
+    const teste = ['linea', 'disegnati', 'massimo', 'medio', 'mancanti', 'superflui'].map((k) => crea('th', { textContent: testi[k] }));
+    const righe = c.righe.map((r) => crea('tr', {
+      className: r.vera ? '' : 'falsa', onclick: () => {
+        cerca('foglietto').close();
+        const l = misura[0] * 250;
+        vista = { x: r.peggio[0] - l / 2, y: r.peggio[1] - l * foglio.clientHeight / foglio.clientWidth / 2, l };
+        inquadra();
+      },
+    }, crea('td', { textContent: r.linea + (r.doppia ? `, ${testi.doppia}` : '') }),
+    ...r.misure.map((n, i) => crea('td', { textContent: n.toFixed(i === 0 ? 0 : 3) }))));
+    const vere = cerca('ckCorretta');
+    const pulsanti = c.vero || !vere || vere.checked ? [] : [crea('button', { type: 'button', textContent: testi.correggi, onclick: () => {
+      cerca('foglietto').close();
+      premi('ckCorretta');
+    } })];
+    mostraFoglietto(`${testi.certificato}: ${c.verdetto}`,
+      [crea('div', { className: 't' }, crea('table', {}, crea('thead', {}, crea('tr', {}, ...teste)), crea('tbody', {}, ...righe)))], pulsanti);
+  }
+
   function mostraFoglietto(titolo, corpo, pulsanti = []) {
     const f = cerca('foglietto');
     f.querySelector('h2').textContent = titolo;
@@ -641,6 +687,7 @@
       e.target.value = '';
       scriviIndirizzo();
     };
+    cerca('sigillo').onclick = certificato;
     cerca('apri').onclick = () => cerca('scegli').click();
     cerca('scegli').onchange = (e) => apriFile(e.target.files[0]);
     cerca('copia').onclick = async () => {

@@ -28,16 +28,15 @@ Opzione scelta(std::string_view nome, std::string_view cosa, std::vector<std::pa
                         dove = valore;
                         return {};
                     }
-                return std::string(nome) + " " + v[0] + ": it takes " + std::string(cosa);
+                return v[0] + ": it takes " + std::string(cosa);
             }};
 }
 
 constexpr double MINIMO = 1e-4, MASSIMO = 1000;  // mm
 
 Opzione lunghezza(std::string_view nome, std::string_view cosa, double &mm) {
-    return {nome, 1, cosa, [=, &mm](const Valori &v) -> std::string {
-                const std::string e = LeggiNumero(v[0], MINIMO, MASSIMO, mm);
-                return e.empty() ? e : std::string(nome) + ": " + e;
+    return {nome, 1, cosa, [&mm](const Valori &v) -> std::string {
+                return LeggiNumero(v[0], MINIMO, MASSIMO, mm);
             }};
 }
 

@@ -141,8 +141,8 @@ void Piega::apri() {
 }
 
 Piega *Piega::trova(const QObject *dove, std::string_view titolo) {
-    for (Piega *p : dove->findChildren<Piega *>())
-        if (p->chiave_ == QStringLiteral("pieghe/") + Q(titolo)) return p;
+    for (QWidget *w : dove->findChildren<QWidget *>())
+        if (auto *p = dynamic_cast<Piega *>(w); p && p->chiave_ == QStringLiteral("pieghe/") + Q(titolo)) return p;
     return nullptr;
 }
 

@@ -7,8 +7,8 @@
 #include "app/comandi.h"
 #include "comuni.h"
 #include "core/conteggio.h"
-#include "plot/dxf.h"
 #include "gnomonica/proiezione.h"
+#include "plot/dxf.h"
 
 namespace {
 

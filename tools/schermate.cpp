@@ -30,7 +30,10 @@ int main(int argc, char **argv) {
     f.show();
     const auto scatta = [&](QWidget *w, const char *nome) {
         QTest::qWait(150);
-        w->grab().toImage().convertToFormat(QImage::Format_RGB888).save(QStringLiteral("%1/%2-%3.png").arg(dove, QString::fromLatin1(nome), lingua), "PNG", 0);
+        w->grab()
+            .toImage()
+            .convertToFormat(QImage::Format_RGB888)
+            .save(QStringLiteral("%1/%2-%3.png").arg(dove, QString::fromLatin1(nome), lingua), "PNG", 0);
     };
     const auto imposta = [&](std::initializer_list<std::pair<const char *, const char *>> campi) {
         for (const auto &[nome, testo] : campi) app::Imposta(f.sessione(), TrovaControllo(nome), testo);
@@ -44,8 +47,15 @@ int main(int argc, char **argv) {
 
     premi({"mnuAusiliaria"});
     QWidget *strumenti = f.moduli().modulo("frmDeclin");
-    imposta({{"frmDeclin.txtLAT", "45.0703"}, {"frmDeclin.txtLON", "-7.6869"}, {"frmDeclin.txtDay", "21"}, {"frmDeclin.txtMonth", "6"}, {"frmDeclin.txtYear", "2026"},
-             {"frmDeclin.txtHH", "9"}, {"frmDeclin.txtMM", "40"}, {"frmDeclin.txtSS", "0"}, {"frmDeclin.txtAngle", "-57.3"}});
+    imposta({{"frmDeclin.txtLAT", "45.0703"},
+             {"frmDeclin.txtLON", "-7.6869"},
+             {"frmDeclin.txtDay", "21"},
+             {"frmDeclin.txtMonth", "6"},
+             {"frmDeclin.txtYear", "2026"},
+             {"frmDeclin.txtHH", "9"},
+             {"frmDeclin.txtMM", "40"},
+             {"frmDeclin.txtSS", "0"},
+             {"frmDeclin.txtAngle", "-57.3"}});
     premi({"frmDeclin.cmdCalcola", "frmDeclin.cmdTrans"});
     scatta(strumenti, "strumenti");
     premi({"frmDeclin.cmdInfo"});
@@ -53,8 +63,16 @@ int main(int argc, char **argv) {
     f.moduli().modulo("frmInfoDec")->close();
     premi({"frmDeclin.cmdExit", "ChCentimetro"});
 
-    imposta({{"txtDec", "18"}, {"txtInc", "0"}, {"TxtStilo", "200"}, {"txtX0", "-500"}, {"txtX1", "500"}, {"txtY0", "40"}, {"txtY1", "-760"}, {"TxtFraz", "1"},
-             {"txtArabi", "30"}, {"txtDelta", "23.445"}});
+    imposta({{"txtDec", "18"},
+             {"txtInc", "0"},
+             {"TxtStilo", "200"},
+             {"txtX0", "-500"},
+             {"txtX1", "500"},
+             {"txtY0", "40"},
+             {"txtY1", "-760"},
+             {"TxtFraz", "1"},
+             {"txtArabi", "30"},
+             {"txtDelta", "23.445"}});
     premi({"ck_Etna", "chkOreAstronomiche", "Ck_DayLightCurves", "ck_Equinoziale", "ck_Lemniscate", "ck_Triangolo"});
     adatta();
     premi({"cmdRun"});
@@ -63,7 +81,9 @@ int main(int argc, char **argv) {
     const Tavolo &t = f.sessione().tavolo;
     for (const auto &[c, r] : {std::pair{1, 0}, std::pair{2, 0}, std::pair{1, 1}, std::pair{2, 1}}) {
         const double k = t.ScalaCorrente();
-        f.ponte().fai(NESSUN_CONTROLLO, [&] { f.sessione().tavolo.MouseDown((c + 0.5) * t.LarghezzaPagina() * k, (r + 0.5) * t.AltezzaPagina() * k); });
+        f.ponte().fai(NESSUN_CONTROLLO, [&] {
+            f.sessione().tavolo.MouseDown((c + 0.5) * t.LarghezzaPagina() * k, (r + 0.5) * t.AltezzaPagina() * k);
+        });
     }
     premi({"Tavolo1.cmdStampa", "Tavolo1.optSelected"});
     scatta(&f, "pagine");

@@ -62,8 +62,10 @@ constexpr Riga CARATTERISTICHE[] = {
     {&In::ck_babiloniche, Specie::Babilonica, "hours from sunrise", LineeBabiloniche, TracciaBabilonicheAnalitiche, nullptr,
      PreparaTangenti},
     {&In::ck_Lemniscate, Specie::Analemma, "mean noon of the zone",
-     [](const Corsa &, LineeAttese &l) { l.push_back({0, 12, "", QB(12)}); }, TracciaLemniscataAnalitica, nullptr,
-     PreparaLemniscata},
+     [](const Corsa &, LineeAttese &l) {
+         l.push_back({0, 12, "", QB(12)});
+     },
+     TracciaLemniscataAnalitica, nullptr, PreparaLemniscata},
 };
 
 }  // namespace

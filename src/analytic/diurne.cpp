@@ -14,7 +14,8 @@ namespace {
 // of a wall that looks to the equator lies on the winter's side, of one that looks away on the summer's.
 class Lato {
 public:
-    Lato(const Variabili &v, double delta) : delta_(std::fabs(delta)), ss_(sin(v.angSustilare)), cs_(cos(v.angSustilare)), y0_(v.y0) {}
+    Lato(const Variabili &v, double delta)
+        : delta_(std::fabs(delta)), ss_(sin(v.angSustilare)), cs_(cos(v.angSustilare)), y0_(v.y0) {}
     // The claim of a point of the dial's frame, y upward: recorded while it lives.
     [[nodiscard]] Pretendi operator()(Tavolo &t, Valore x, Valore y) const {
         if (delta_ == 0) return Pretendi(t, Specie::Equinoziale);
@@ -127,7 +128,8 @@ void TracciaLineeDiurneAnalitiche(Corsa &c, const LineeAttese &) {
     const Valore m2345 = QuadratoCotangente(OBLIQUITA_2345), m20 = QuadratoCotangente(DELTA_SEGNI),
                  m115 = QuadratoCotangente(DELTA_SEGNI_VICINI);
     if (v.lat != 0) {
-        std::array linee{Diurna(v, m2345, OBLIQUITA, 15), Diurna(v, m20, DELTA_SEGNI, 14), Diurna(v, m115, DELTA_SEGNI_VICINI, 13)};
+        std::array linee{Diurna(v, m2345, OBLIQUITA, 15), Diurna(v, m20, DELTA_SEGNI, 14),
+                         Diurna(v, m115, DELTA_SEGNI_VICINI, 13)};
         for (const double x : Conteggio(-1, 1, v.passo))
             for (Diurna &linea : linee) linea.punto(tavolo, x);
     } else if (!paralleloAlPolo(v)) {

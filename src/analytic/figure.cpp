@@ -44,7 +44,8 @@ void PreparaOre(Corsa &c) {
 }
 
 void LineeOre(const Corsa &c, LineeAttese &linee) {
-    for (const double h : Conteggio(-90, 90, 15 / c.s.v.fraz)) linee.push_back({h, 12 + h / 15, "Ore_astro", QB(h == 0 ? 12 : 15)});
+    for (const double h : Conteggio(-90, 90, 15 / c.s.v.fraz))
+        linee.push_back({h, 12 + h / 15, "Ore_astro", QB(h == 0 ? 12 : 15)});
 }
 
 void TracciaOreAstronomiche(Corsa &c, const LineeAttese &linee) {

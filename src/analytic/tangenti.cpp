@@ -27,7 +27,9 @@ void traccia(Corsa &c, const LineeAttese &linee, Specie specie, double verso) {
     k.calcola(T * T, v.altStilo, v.gn);
     const Valore R = k.R, Q = k.Q, P = k.P;
     const RiferimentoSustilare dial(v.angSustilare, v.y0);
-    const auto punto = [&](Valore u, Valore w, Colore colore) { tavolo.xPset(dial.x(u, w), -dial.y(u, w), colore, SENZA_STRATO); };
+    const auto punto = [&](Valore u, Valore w, Colore colore) {
+        tavolo.xPset(dial.x(u, w), -dial.y(u, w), colore, SENZA_STRATO);
+    };
 
     const Valore q4 = Q * Q / 4 - P, mezzo = -Q / 2;
     for (const double u : Conteggio(-0.5, 0.5, v.passo / 100)) {
@@ -44,7 +46,8 @@ void traccia(Corsa &c, const LineeAttese &linee, Specie specie, double verso) {
     for (const LineaAttesa &l : linee) {
         h = obliqua * tan(t0 + l.parametro * PI / 180);
         const Valore hh = h * h, RR = R * R, QQ = Q * Q;
-        g = (-2 * R * Q * h + verso * (2 * Sqr(RR * QQ * hh + R * P * QQ - 4 * R * (P * P) - 4 * RR * P * hh))) / (QQ - 4 * P - 4 * R * hh);
+        g = (-2 * R * Q * h + verso * (2 * Sqr(RR * QQ * hh + R * P * QQ - 4 * R * (P * P) - 4 * RR * P * hh))) /
+            (QQ - 4 * P - 4 * R * hh);
         const Valore pendenza = g, piede = h;
         const Pretendi pretendi(tavolo, specie, l.valore);
         for (const double u : Conteggio(-1, 1, v.passo / 10)) punto(u, pendenza * (u - piede), l.colore);

@@ -20,7 +20,8 @@ const Controllo &riga(IdControllo id) { return TavolaControlli()[static_cast<std
 class Registro {
 public:
     Registro() {
-        for (const auto gestori : {GestoriPrincipale(), GestoriTavolo(), GestoriRapporti(), GestoriFile(), GestoriSole(), GestoriMappa()})
+        for (const auto gestori :
+             {GestoriPrincipale(), GestoriTavolo(), GestoriRapporti(), GestoriFile(), GestoriSole(), GestoriMappa()})
             for (const Gestore &g : gestori)
                 for (const Controllo &c : ControlliDi(g.modulo))
                     if (c.nome == g.nome) azioni_.insert_or_assign(chiave(IdDi(c), g.evento), g.azione);
@@ -103,7 +104,8 @@ Esito Imposta(Sessione &s, IdControllo id, const std::string &testo) {
 
 namespace {
 
-Esito conCasella(Sessione &s, IdControllo id, Esito (*azione)(Sessione &, IdControllo, const std::string &), const std::string &testo) {
+Esito conCasella(Sessione &s, IdControllo id, Esito (*azione)(Sessione &, IdControllo, const std::string &),
+                 const std::string &testo) {
     if (riga(id).classe != Classe::Testo) return Esito::Impossibile;
     if (!s.stato(id).abilitato) return Esito::Disabilitato;
     return azione(s, id, testo);
@@ -153,13 +155,16 @@ Esito Spunta(Sessione &s, IdControllo id, int valore) {
 
 Esito Premi(Sessione &s, IdControllo id) {
     switch (riga(id).classe) {
-        case Classe::Casella: return Spunta(s, id, s.valore(id) == 1 ? 0 : 1);
+        case Classe::Casella:
+            return Spunta(s, id, s.valore(id) == 1 ? 0 : 1);
         case Classe::Pulsante:
-        case Classe::Menu: break;
+        case Classe::Menu:
+            break;
         case Classe::Opzione:
             if (s.stato(id).abilitato) scegliOpzione(s, id);
             break;
-        default: return Esito::Impossibile;
+        default:
+            return Esito::Impossibile;
     }
     if (!s.stato(id).abilitato) return Esito::Disabilitato;
     return avvisa(s, id, Evento::Clic);
@@ -180,11 +185,18 @@ char FiltraTasto(Sessione &s, IdControllo id, char tasto) {
     bool beep = false;
     std::uint16_t esito = codice;
     switch (riga(id).filtro) {
-        case Filtro::Nessuno: break;
+        case Filtro::Nessuno:
+            break;
         case Filtro::Tasti:
-        case Filtro::Numeri: esito = FiltroTasti(codice, beep); break;
-        case Filtro::SoloCifre: esito = SoloNumeri(codice, false); break;
-        case Filtro::SoloCifreSegno: esito = SoloNumeri(codice, true); break;
+        case Filtro::Numeri:
+            esito = FiltroTasti(codice, beep);
+            break;
+        case Filtro::SoloCifre:
+            esito = SoloNumeri(codice, false);
+            break;
+        case Filtro::SoloCifreSegno:
+            esito = SoloNumeri(codice, true);
+            break;
     }
     if (beep) s.utente.Beep();
     return static_cast<char>(esito);

@@ -19,7 +19,8 @@ constexpr std::string_view ESTENSIONE = "omb", FILTRO = "*.omb";
 
 Esito mnuApri_Click(Sessione &s, int) {
     const std::string &aperto = s.titolo("frmTavolo");
-    if (!aperto.empty() && !s.utente.Box(s.Traduci("Attenzione! Vuoi chiudere il file ") + aperto + "?", Domanda::SiNo)) return Esito::Annullato;
+    if (!aperto.empty() && !s.utente.Box(s.Traduci("Attenzione! Vuoi chiudere il file ") + aperto + "?", Domanda::SiNo))
+        return Esito::Annullato;
     const auto nome = s.utente.File({false, ESTENSIONE, FILTRO, {}});
     return nome ? ApriProgetto(s, *nome) : Esito(Esito::Annullato);
 }
@@ -63,10 +64,13 @@ Esito cambiaLingua(Sessione &s, std::string_view lingua, std::string_view voce, 
 constexpr Gestore GESTORI[] = {
     {"MDIForm1", "mnuApri", Evento::Clic, mnuApri_Click},
     {"MDIForm1", "mnuSalva", Evento::Clic, mnuSalva_Click},
-    {"MDIForm1", "cmdSave", Evento::Clic, [](Sessione &s, int) { return EsitoScrittura(s, std::string(Parametri::NOME_FILE), ScriviDefault(s)); }},
+    {"MDIForm1", "cmdSave", Evento::Clic,
+     [](Sessione &s, int) { return EsitoScrittura(s, std::string(Parametri::NOME_FILE), ScriviDefault(s)); }},
     {"MDIForm1", "mnuItalian", Evento::Clic, mnuItalian_Click},
     {"MDIForm1", "mnuFrancais", Evento::Clic,
-     [](Sessione &s, int) { return cambiaLingua(s, "FranceseC2008", "mnuFrancais", "Il faut sortir avant d'exécuter Ombrelia!!"); }},
+     [](Sessione &s, int) {
+         return cambiaLingua(s, "FranceseC2008", "mnuFrancais", "Il faut sortir avant d'exécuter Ombrelia!!");
+     }},
     {"MDIForm1", "mnuInglese", Evento::Clic,
      [](Sessione &s, int) { return cambiaLingua(s, "IngleseC2008", "mnuInglese", "You must restart Ombrelia!!"); }},
 };

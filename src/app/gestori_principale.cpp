@@ -67,7 +67,8 @@ void cmdTrasforma_Click(Sessione &s, int) {
     s.v.flagVerticale = 1;
     // What does not apply to an equivalent dial.
     for (const std::string_view nome : {"CkQibla", "ckAlt", "ckAsr"}) s.stato(nome).abilitato = false;
-    for (int DialInputs::*casella : {&DialInputs::CkQibla, &DialInputs::ckAlt, &DialInputs::ckAsr}) SpuntaDaProgramma(s, casella, 0);
+    for (int DialInputs::*casella : {&DialInputs::CkQibla, &DialInputs::ckAlt, &DialInputs::ckAsr})
+        SpuntaDaProgramma(s, casella, 0);
 }
 
 constexpr Gestore GESTORI[] = {
@@ -90,7 +91,8 @@ std::span<const Gestore> GestoriPrincipale() { return GESTORI; }
 
 void AbilitaPerInclinazione(Sessione &s) {
     const bool parete = Val(s.in.txtInc) == 0;
-    for (const std::string_view nome : {"Option1", "cmdEqui", "ckZodiac", "ckRomani", "ckArabi"}) s.stato(nome).abilitato = parete;
+    for (const std::string_view nome : {"Option1", "cmdEqui", "ckZodiac", "ckRomani", "ckArabi"})
+        s.stato(nome).abilitato = parete;
 }
 
 void cmdRun(Sessione &s) {
@@ -99,8 +101,8 @@ void cmdRun(Sessione &s) {
     if (lat < 0) {
         // A run that is refused leaves the South as it is typed.
         if (direct::TroppoFitta(s)) return;
-        // A southern dial is the northern one of the mirrored latitude. The drawing is mirrored by the user, or at once; then the field
-        // keeps the latitude that the dial has.
+        // A southern dial is the northern one of the mirrored latitude. The drawing is mirrored by the user, or at once; then the
+        // field keeps the latitude that the dial has.
         const std::string scritta = s.in.txtLAT;
         if (!s.australeMontato) s.utente.Box(s.Traduci("A grafico ottenuto usare il tasto InvertX"));
         s.Scrivi(&DialInputs::txtLAT, TestoNumero((-lat).v));

@@ -23,7 +23,8 @@ std::string nomeDxf() {
     const std::tm *m = std::localtime(&adesso);
     std::string nome = CartellaDisegni() + "/DXF";
     if (m)
-        for (const int parte : {m->tm_year + 1900, m->tm_mon + 1, m->tm_mday, m->tm_hour, m->tm_min, m->tm_sec}) nome += std::to_string(parte);
+        for (const int parte : {m->tm_year + 1900, m->tm_mon + 1, m->tm_mday, m->tm_hour, m->tm_min, m->tm_sec})
+            nome += std::to_string(parte);
     return nome;
 }
 

@@ -31,29 +31,35 @@ struct Disegno {
     Sessione &s;
     const Attesa &attesa;
     Scena scena;
-    bool fuso;    // hours are the zone's
-    bool punti;   // the engine would draw dots
+    bool fuso;   // hours are the zone's
+    bool punti;  // the engine would draw dots
 
     [[nodiscard]] Tratto tratto(const LineaAttesa &l) const { return {l.colore, l.strato, punti}; }
-    void percorso(const LineaAttesa &l, Specie specie, double valore, const Percorso &p, double da, double a, int passi, bool annua) const {
+    void percorso(const LineaAttesa &l, Specie specie, double valore, const Percorso &p, double da, double a, int passi,
+                  bool annua) const {
         const Pretendi pretendi(s.tavolo, specie, valore);
         Traccia(s.tavolo, scena, p, da, a, passi, tratto(l), annua);
     }
     // Along the year at an hour angle that follows the declination; none where there is none.
     template <typename Angolo>
     void lungoLAnno(const LineaAttesa &l, Specie specie, double valore, Angolo angolo) const {
-        percorso(l, specie, valore, [&angolo](double delta) -> std::optional<Vettore> {
-            const std::optional<double> t = angolo(delta);
-            if (!t) return {};
-            return ombra::Piano::sole(*t, delta);
-        }, -SOLSTIZIO, SOLSTIZIO, 48, false);
+        percorso(
+            l, specie, valore,
+            [&angolo](double delta) -> std::optional<Vettore> {
+                const std::optional<double> t = angolo(delta);
+                if (!t) return {};
+                return ombra::Piano::sole(*t, delta);
+            },
+            -SOLSTIZIO, SOLSTIZIO, 48, false);
     }
     // Along a vertical circle, by altitude.
     void lungoIlVerticale(const LineaAttesa &l, Specie specie, double valore, double azimut) const {
         const ombra::Piano &piano = scena.piano();
         const Vettore verso = std::cos(azimut) * piano.sud() + std::sin(azimut) * Vettore{0, 1, 0};
-        percorso(l, specie, valore, [&](double h) -> std::optional<Vettore> { return std::cos(h) * verso + std::sin(h) * piano.zenit(); },
-                 0, MEZZO_GIRO / 2, 48, true);
+        percorso(
+            l, specie, valore,
+            [&](double h) -> std::optional<Vettore> { return std::cos(h) * verso + std::sin(h) * piano.zenit(); }, 0,
+            MEZZO_GIRO / 2, 48, true);
     }
 };
 
@@ -121,8 +127,9 @@ std::vector<double> oreMancanti(const Disegno &d) {
 void giorno(const Disegno &d, const LineaAttesa &l, Specie specie, double gradi) {
     const double delta = gradi * RAD;
     if (std::fabs(gradi) > SOLSTIZIO_GRADI + 0.005) return;  // no Sun there
-    d.percorso(l, specie, gradi, [delta](double t) -> std::optional<Vettore> { return ombra::Piano::sole(t, delta); }, -MEZZO_GIRO,
-               MEZZO_GIRO, 96, false);
+    d.percorso(
+        l, specie, gradi, [delta](double t) -> std::optional<Vettore> { return ombra::Piano::sole(t, delta); }, -MEZZO_GIRO,
+        MEZZO_GIRO, 96, false);
 }
 
 void stagionali(const Disegno &d) {
@@ -170,9 +177,12 @@ void almucantarat(const Disegno &d) {
         fatte.push_back(l.valore);
         if (!(l.valore < 90)) continue;  // the zenith is a point
         const double h = l.valore * RAD;
-        d.percorso(l, Specie::Almucantarat, l.valore, [&piano, h](double a) -> std::optional<Vettore> {
-            return std::sin(h) * piano.zenit() + std::cos(h) * (std::cos(a) * piano.sud() + std::sin(a) * Vettore{0, 1, 0});
-        }, -MEZZO_GIRO, MEZZO_GIRO, 96, true);
+        d.percorso(
+            l, Specie::Almucantarat, l.valore,
+            [&piano, h](double a) -> std::optional<Vettore> {
+                return std::sin(h) * piano.zenit() + std::cos(h) * (std::cos(a) * piano.sud() + std::sin(a) * Vettore{0, 1, 0});
+            },
+            -MEZZO_GIRO, MEZZO_GIRO, 96, true);
     }
 }
 
@@ -191,12 +201,14 @@ void asr(const Disegno &d, const LineaAttesa &l) {
 // Bearing of a place from another, radians from South, West positive: the great circle's.
 double rilevamento(double lat, double lon, double latMeta, double lonMeta) {
     const double l = lon - lonMeta;  // eastward
-    return std::atan2(-std::sin(l) * std::cos(latMeta), std::sin(lat) * std::cos(latMeta) * std::cos(l) - std::cos(lat) * std::sin(latMeta));
+    return std::atan2(-std::sin(l) * std::cos(latMeta),
+                      std::sin(lat) * std::cos(latMeta) * std::cos(l) - std::cos(lat) * std::sin(latMeta));
 }
 
 void qibla(const Disegno &d) {
     const Posa &p = d.scena.posa();
-    const double q = rilevamento(p.quadrante.latitudine, p.longitudine, numero(d.s.in.txtQlat) * RAD, numero(d.s.in.txtQlon) * RAD);
+    const double q =
+        rilevamento(p.quadrante.latitudine, p.longitudine, numero(d.s.in.txtQlat) * RAD, numero(d.s.in.txtQlon) * RAD);
     if (d.attesa.rilevamento) *d.attesa.rilevamento = q * ombra::GRADI;
     if (d.attesa.linee.empty()) return;
     d.lungoIlVerticale(d.attesa.linee.back(), Specie::Qibla, 0, q);
@@ -207,8 +219,7 @@ void qibla(const Disegno &d) {
 // The Sun at the same hour of mean time in the zone, through the days of a year.
 class TempoMedio {
 public:
-    TempoMedio(const Disegno &d, double ora)
-        : longitudine_(d.scena.posa().longitudine), ora_(ora) {
+    TempoMedio(const Disegno &d, double ora) : longitudine_(d.scena.posa().longitudine), ora_(ora) {
         int anno = static_cast<int>(numero(d.s.in.txtAnno));
         if (anno < 1 || anno > 9999) anno = d.s.rapporti.orologio().tm_year + 1900;
         inizio_ = ombra::giornoGiuliano({anno, 1, 1}) + (ora - d.scena.posa().fuso()) / 24;
@@ -228,10 +239,13 @@ constexpr double GIORNI_DELL_ANNO = 365.2422;
 void lemniscata(const Disegno &d) {
     for (const LineaAttesa &l : d.attesa.linee) {
         const TempoMedio medio(d, l.valore);
-        d.percorso(l, Specie::Analemma, l.valore, [&medio](double giorno) -> std::optional<Vettore> {
-            const auto [t, delta] = medio.sole(giorno);
-            return ombra::Piano::sole(t, delta);
-        }, 0, GIORNI_DELL_ANNO, 122, false);
+        d.percorso(
+            l, Specie::Analemma, l.valore,
+            [&medio](double giorno) -> std::optional<Vettore> {
+                const auto [t, delta] = medio.sole(giorno);
+                return ombra::Piano::sole(t, delta);
+            },
+            0, GIORNI_DELL_ANNO, 122, false);
     }
 }
 
@@ -261,7 +275,8 @@ void orizzonte(const Disegno &d) {
     const ombra::Retta r = d.scena.piano().orizzonte();
     if ((r.a == 0 && r.b == 0) || d.attesa.linee.empty()) return;
     const LineaAttesa &l = d.attesa.linee.front();
-    const double lunga = std::hypot(d.scena.xMax - d.scena.xMin, d.scena.yMax - d.scena.yMin) + std::hypot(d.scena.xMin, d.scena.yMin) + std::fabs(r.c);
+    const double lunga = std::hypot(d.scena.xMax - d.scena.xMin, d.scena.yMax - d.scena.yMin) +
+                         std::hypot(d.scena.xMin, d.scena.yMin) + std::fabs(r.c);
     const Punto a{r.a * r.c - r.b * lunga, r.b * r.c + r.a * lunga}, b{r.a * r.c + r.b * lunga, r.b * r.c - r.a * lunga};
     const Pretendi pretendi(d.s.tavolo, Specie::Orizzonte);
     TracciaSegmento(d.s.tavolo, d.scena, d.scena.nellaLista(a), d.scena.nellaLista(b), d.tratto(l));
@@ -275,7 +290,9 @@ void etichette(const Disegno &d) {
     const Colore prima = d.s.tavolo.ForeColor;
     for (const LineaAttesa &l : d.attesa.linee) {
         const double k = l.valore;
-        const double t = d.attesa.di == Specie::Italica ? *h0 - (24 - k) * ORA : d.attesa.di == Specie::Babilonica ? k * ORA - *h0 : *h0 * (k / 6 - 1);
+        const double t = d.attesa.di == Specie::Italica      ? *h0 - (24 - k) * ORA
+                         : d.attesa.di == Specie::Babilonica ? k * ORA - *h0
+                                                             : *h0 * (k / 6 - 1);
         const Vettore sole = ombra::Piano::sole(std::clamp(t, -*h0 + ORLO, *h0 - ORLO), delta);
         if (std::fabs(t) > *h0 + ORLO || !d.scena.visibile(sole)) continue;
         const auto p = d.scena.punto(sole);
@@ -333,9 +350,10 @@ void tacche(const Disegno &d) {
             prima = ora;
         }
         if (angoli.size() < 2) continue;
-        d.percorso(l, l.valore == 0 ? Specie::Equinoziale : Specie::Diurna, l.valore,
-                   [delta](double t) -> std::optional<Vettore> { return ombra::Piano::sole(t, delta); }, std::min(angoli[0], angoli[1]),
-                   std::max(angoli[0], angoli[1]), 8, false);
+        d.percorso(
+            l, l.valore == 0 ? Specie::Equinoziale : Specie::Diurna, l.valore,
+            [delta](double t) -> std::optional<Vettore> { return ombra::Piano::sole(t, delta); }, std::min(angoli[0], angoli[1]),
+            std::max(angoli[0], angoli[1]), 8, false);
     }
 }
 
@@ -377,27 +395,50 @@ bool TracciaVera(Sessione &s, const Attesa &attesa) {
     if (attesa.specie == Specie::Stilo && attesa.motore == Motore::Verticale) return false;  // true as it is
     if (!d.scena.esiste()) return true;
     switch (attesa.specie) {
-        case Specie::Ora: ore(d); break;
-        case Specie::Diurna: attesa.di == Specie::Analemma ? tacche(d) : giorni(d); break;
-        case Specie::Equinoziale: giorni(d); break;
+        case Specie::Ora:
+            ore(d);
+            break;
+        case Specie::Diurna:
+            attesa.di == Specie::Analemma ? tacche(d) : giorni(d);
+            break;
+        case Specie::Equinoziale:
+            giorni(d);
+            break;
         case Specie::Italica:
         case Specie::Babilonica:
-        case Specie::Temporaria: stagionali(d); break;
-        case Specie::Almucantarat: almucantarat(d); break;
+        case Specie::Temporaria:
+            stagionali(d);
+            break;
+        case Specie::Almucantarat:
+            almucantarat(d);
+            break;
         case Specie::Azimut:
             for (const LineaAttesa &l : attesa.linee) d.lungoIlVerticale(l, Specie::Azimut, l.valore, l.valore * RAD);
             break;
         case Specie::Asr:
             if (!attesa.linee.empty()) asr(d, attesa.linee.front());
             break;
-        case Specie::Analemma: lemniscata(d); break;
-        case Specie::Mezzogiorno: mezzogiorno(d); break;
+        case Specie::Analemma:
+            lemniscata(d);
+            break;
+        case Specie::Mezzogiorno:
+            mezzogiorno(d);
+            break;
         case Specie::OraSustilare:
-        case Specie::Sustilare: sustilare(d); break;
-        case Specie::Orizzonte: orizzonte(d); break;
-        case Specie::Stilo: triangolo(d); break;
-        case Specie::Etichetta: etichette(d); break;
-        default: return false;
+        case Specie::Sustilare:
+            sustilare(d);
+            break;
+        case Specie::Orizzonte:
+            orizzonte(d);
+            break;
+        case Specie::Stilo:
+            triangolo(d);
+            break;
+        case Specie::Etichetta:
+            etichette(d);
+            break;
+        default:
+            return false;
     }
     return true;
 }

@@ -135,8 +135,8 @@ private:
         if (livello < 24 && m != a && m != b) {
             const auto pm = punto(m);
             // Even a short chord is looked at once, lest a bend hide in its middle.
-            if (pm && (livello < 2 || std::hypot(pb.x - pa.x, pb.y - pa.y) > lunga || std::hypot(pm->x - pa.x, pm->y - pa.y) > lunga ||
-                       distanza(*pm, pa, pb) > scena_.freccia)) {
+            if (pm && (livello < 2 || std::hypot(pb.x - pa.x, pb.y - pa.y) > lunga ||
+                       std::hypot(pm->x - pa.x, pm->y - pa.y) > lunga || distanza(*pm, pa, pb) > scena_.freccia)) {
                 segui(a, pa, m, *pm, livello + 1);
                 segui(m, *pm, b, pb, livello + 1);
                 return;
@@ -231,7 +231,8 @@ private:
 
 }  // namespace
 
-void Traccia(Tavolo &t, const Scena &scena, const Percorso &percorso, double da, double a, int passi, const Tratto &tratto, bool annua) {
+void Traccia(Tavolo &t, const Scena &scena, const Percorso &percorso, double da, double a, int passi, const Tratto &tratto,
+             bool annua) {
     const std::size_t facce = annua ? Scena::FACCE : 6;
     const std::vector<double> tagli = Confini(scena, percorso, facce).tagli(da, a, passi);
 

@@ -70,7 +70,8 @@ struct Tratto {
 
 // Draws what is visible of a path between two values of its parameter, looked at in that many steps to begin with.
 // annua: the Sun's declination is bounded by the year; false for a path that stays within it by itself.
-void Traccia(Tavolo &t, const Scena &scena, const Percorso &percorso, double da, double a, int passi, const Tratto &tratto, bool annua = true);
+void Traccia(Tavolo &t, const Scena &scena, const Percorso &percorso, double da, double a, int passi, const Tratto &tratto,
+             bool annua = true);
 // A straight segment of the drawing, cut to the frame unless intero.
 void TracciaSegmento(Tavolo &t, const Scena &scena, ombra::Punto a, ombra::Punto b, const Tratto &tratto, bool intero = false);
 

@@ -91,7 +91,8 @@ examples:
 endings:
 )";
 
-constexpr std::string_view SOLID = R"(usage: ombrelia solid [options of draw] [--part style|socket|plate|all] [--raised | --sunk] [--depth MM]
+constexpr std::string_view SOLID =
+    R"(usage: ombrelia solid [options of draw] [--part style|socket|plate|all] [--raised | --sunk] [--depth MM]
                       [--thickness MM] [--plate MM] [--line MM] [--rod MM] FILE.stl
 
 Makes solids of a dial, closed and in millimetres, in one binary STL file, each lying as it is printed.

@@ -35,9 +35,7 @@ Opzione scelta(std::string_view nome, std::string_view cosa, std::vector<std::pa
 constexpr double MINIMO = 1e-4, MASSIMO = 1000;  // mm
 
 Opzione lunghezza(std::string_view nome, std::string_view cosa, double &mm) {
-    return {nome, 1, cosa, [&mm](const Valori &v) -> std::string {
-                return LeggiNumero(v[0], MINIMO, MASSIMO, mm);
-            }};
+    return {nome, 1, cosa, [&mm](const Valori &v) -> std::string { return LeggiNumero(v[0], MINIMO, MASSIMO, mm); }};
 }
 
 std::string disegna(const Disegno &d, Sessione &s) {

@@ -30,15 +30,9 @@ struct Comando {
     int (*esegui)(int argc, char **argv);
 };
 constexpr Comando COMANDI[] = {
-    {"batch", ombrelia::cli::Batch},
-    {"certify", ombrelia::cli::Certify},
-    {"cut", ombrelia::cli::Cut},
-    {"draw", ombrelia::cli::Draw},
-    {"place", ombrelia::cli::Place},
-    {"read", ombrelia::cli::Read},
-    {"report", ombrelia::cli::Report},
-    {"shadow", ombrelia::cli::Shadow},
-    {"solid", ombrelia::cli::Solid},
+    {"batch", ombrelia::cli::Batch},   {"certify", ombrelia::cli::Certify}, {"cut", ombrelia::cli::Cut},
+    {"draw", ombrelia::cli::Draw},     {"place", ombrelia::cli::Place},     {"read", ombrelia::cli::Read},
+    {"report", ombrelia::cli::Report}, {"shadow", ombrelia::cli::Shadow},   {"solid", ombrelia::cli::Solid},
     {"sun", ombrelia::cli::Sun},
 };
 

@@ -28,7 +28,9 @@ std::size_t Scientifico(std::span<char> b, double numero, int decimali) {
     return conPunto(b, std::snprintf(b.data(), b.size(), "%.*e", decimali, numero));
 }
 
-std::size_t Diciassette(std::span<char> b, double numero) { return conPunto(b, std::snprintf(b.data(), b.size(), "%.17g", numero)); }
+std::size_t Diciassette(std::span<char> b, double numero) {
+    return conPunto(b, std::snprintf(b.data(), b.size(), "%.17g", numero));
+}
 
 bool Leggi(const char *da, const char *a, double &numero) {
     const std::string testo(da, a);

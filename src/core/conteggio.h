@@ -44,9 +44,7 @@ public:
             return *this;
         }
         constexpr void operator++(int) { ++*this; }
-        constexpr bool operator==(std::default_sentinel_t) const {
-            return finito_ || !(passo_ > 0 ? v_ <= fine_ : v_ >= fine_);
-        }
+        constexpr bool operator==(std::default_sentinel_t) const { return finito_ || !(passo_ > 0 ? v_ <= fine_ : v_ >= fine_); }
 
     private:
         double v_, fine_, passo_;

@@ -62,14 +62,16 @@ constexpr Controllo RIGHE_FORM10[] = {Menu("mnuDatiQ", STAMPA)};
 
 constexpr Controllo RIGHE_FORM5[] = {Testo(
     "Text1",
-    "Ombrelia calcola e disegna quadranti solari con la geometria dello gnomone e del Sole, dai soli numeri che riceve. Non sa se "
+    "Ombrelia calcola e disegna quadranti solari con la geometria dello gnomone e del Sole, dai soli numeri che riceve. Non sa "
+    "se "
     "latitudine, longitudine, declinazione e inclinazione sono quelle del muro, e non promette che una linea sia giusta.\r\n"
     "Un quadrante si incide nella pietra e non si corregge: prima di tracciarlo si confronti il disegno con quello di un secondo "
     "metodo e con le tabelle, e qualche ora con un'ombra vera.\r\n"
     "Il programma è dato così com'è, senza garanzia alcuna: l'autore non risponde dei danni che derivano dal suo uso.\r\n"
     "\r\n"
     "Ombrelia computes and draws sundials by the geometry of the gnomon and the Sun, from the numbers it is given and nothing "
-    "else. It cannot know whether latitude, longitude, declination and inclination are those of the wall, and it does not promise "
+    "else. It cannot know whether latitude, longitude, declination and inclination are those of the wall, and it does not "
+    "promise "
     "that a line is right.\r\n"
     "A sundial is cut in stone and cannot be corrected: before tracing it, check the drawing against that of a second method and "
     "against the tables, and some hours against a true shadow.\r\n"

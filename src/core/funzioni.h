@@ -1,6 +1,7 @@
 // Sine, cosine, tangent and arc tangent rounded to the nearest double, but for one value in some thousands. Libraries differ in
-// the last bit here, and a dial's tests (does this chord touch the frame, is the Sun up on the horizon's own line) turn such a bit into
-// a record more or less. A build whose library rounds more loosely takes these, so that its lists are those of the others.
+// the last bit here, and a dial's tests (does this chord touch the frame, is the Sun up on the horizon's own line) turn such a
+// bit into a record more or less. A build whose library rounds more loosely takes these, so that its lists are those of the
+// others.
 #pragma once
 
 namespace ombrelia::portatile {

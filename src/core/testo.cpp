@@ -271,7 +271,8 @@ std::string SenzaBlanks(std::string_view testo) {
 
 bool UguaglianzaSenzaCaso(std::string_view a, std::string_view b) {
     const auto basso = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c; };
-    return a.size() == b.size() && std::equal(a.begin(), a.end(), b.begin(), [&](char x, char y) { return basso(x) == basso(y); });
+    return a.size() == b.size() &&
+           std::equal(a.begin(), a.end(), b.begin(), [&](char x, char y) { return basso(x) == basso(y); });
 }
 
 std::string DaFile(std::string grezzo) {

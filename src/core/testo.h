@@ -27,7 +27,7 @@ void AggiungiNumero(std::string &testo, double numero);
 // 17 significant digits, as "%.17g" prints them: the form of the display list.
 void AggiungiNumero17(std::string &testo, double numero);
 
-[[nodiscard]] std::string SenzaBlanks(std::string_view testo);  // without leading and trailing blanks
+[[nodiscard]] std::string SenzaBlanks(std::string_view testo);                    // without leading and trailing blanks
 [[nodiscard]] bool UguaglianzaSenzaCaso(std::string_view a, std::string_view b);  // ASCII letters
 
 // Text read from a file of ours: as it stands when it is valid UTF-8 (a byte order mark dropped), else decoded from Windows-1252.
@@ -44,8 +44,8 @@ void AggiungiCp1252(std::string &uscita, std::string_view utf8);
 class Frase {
 public:
     Frase() = default;
-    Frase(std::string_view t) : testo_(t) {}  // NOLINT: a label is a phrase
-    Frase(const char *t) : testo_(t) {}       // NOLINT
+    Frase(std::string_view t) : testo_(t) {}        // NOLINT: a label is a phrase
+    Frase(const char *t) : testo_(t) {}             // NOLINT
     Frase(std::string t) : testo_(std::move(t)) {}  // NOLINT
     Frase &operator<<(std::string_view t) {
         testo_ += t;

@@ -43,13 +43,15 @@ Aggiunte::Aggiunte(Finestra &finestra, Dialoghi &dialoghi) : QObject(&finestra),
     tempo_ = new BarraTempo(ponte, *sopra_, &f_);
     molo(ponte.Traduci("Ombra nel tempo"), "tempo", tempo_, Qt::BottomDockWidgetArea, QStringLiteral("Ctrl+Shift+T"));
     certificato_ = new PannelloCertificato(ponte, dialoghi_, *sopra_, &f_);
-    QDockWidget *certificato = molo(ponte.Traduci("Certificato"), "certificato", certificato_, Qt::BottomDockWidgetArea, QStringLiteral("Ctrl+Shift+V"));
+    QDockWidget *certificato =
+        molo(ponte.Traduci("Certificato"), "certificato", certificato_, Qt::BottomDockWidgetArea, QStringLiteral("Ctrl+Shift+V"));
     certificato_->suCorreggi = [this] { correggi(); };
     connect(certificato_->distintivo(), &QToolButton::clicked, certificato, [certificato] {
         certificato->setVisible(certificato->isHidden());
         if (!certificato->isHidden()) certificato->raise();
     });
-    if (auto *piede = f_.findChild<QWidget *>(QStringLiteral("piede")); piede && piede->layout()) piede->layout()->addWidget(certificato_->distintivo());
+    if (auto *piede = f_.findChild<QWidget *>(QStringLiteral("piede")); piede && piede->layout())
+        piede->layout()->addWidget(certificato_->distintivo());
     // The points of a report's row, as the report counts them.
     for (const char *nome : {"Form1", "Form2", "Form3", "Form4", "Form6", "Form7", "Form8", "Form9", "Form10"})
         if (TavoleRapporto *t = f_.moduli().tavole(nome))
@@ -66,7 +68,8 @@ Aggiunte::Aggiunte(Finestra &finestra, Dialoghi &dialoghi) : QObject(&finestra),
     manuale->setShortcut(f1);
     connect(manuale, &QAction::triggered, this, [this] {
         const QWidget *qui = f_.focusWidget();
-        if (!ApriManuale(f_.ponte(), &f_, qui ? qui->objectName() : QString())) dialoghi_.avviso(&f_, f_.ponte().Traduci("Il manuale non è installato"));
+        if (!ApriManuale(f_.ponte(), &f_, qui ? qui->objectName() : QString()))
+            dialoghi_.avviso(&f_, f_.ponte().Traduci("Il manuale non è installato"));
     });
     constexpr int CALMA = 150;
     calma_.setInterval(CALMA);
@@ -77,7 +80,8 @@ Aggiunte::Aggiunte(Finestra &finestra, Dialoghi &dialoghi) : QObject(&finestra),
     };
 }
 
-QDockWidget *Aggiunte::molo(const QString &titolo, const char *nome, QWidget *contenuto, Qt::DockWidgetArea dove, const QString &tasti) {
+QDockWidget *Aggiunte::molo(const QString &titolo, const char *nome, QWidget *contenuto, Qt::DockWidgetArea dove,
+                            const QString &tasti) {
     auto *d = new QDockWidget(titolo, &f_);
     d->setObjectName(QString::fromLatin1(nome));
     d->setFeatures(QDockWidget::DockWidgetMovable | QDockWidget::DockWidgetClosable | QDockWidget::DockWidgetFloatable);

@@ -199,13 +199,22 @@ void BarraTempo::cambiato() {
     QString testo;
     switch (istante_.ombra.luce) {
         case ombra::Luce::Si:
-            testo = ponte_.Traduci("Ombra a x %1, y %2 mm dal piede").arg(istante_.ombra.punto.x * 1000, 0, 'f', 1).arg(istante_.ombra.punto.y * 1000, 0, 'f', 1);
+            testo = ponte_.Traduci("Ombra a x %1, y %2 mm dal piede")
+                        .arg(istante_.ombra.punto.x * 1000, 0, 'f', 1)
+                        .arg(istante_.ombra.punto.y * 1000, 0, 'f', 1);
             break;
-        case ombra::Luce::Notte: testo = ponte_.Traduci("Niente ombra: il Sole è sotto l'orizzonte"); break;
-        case ombra::Luce::Dietro: testo = ponte_.Traduci("Niente ombra: il Sole è dietro la parete"); break;
-        default: testo = ponte_.Traduci("Niente ombra: il Sole rade la parete"); break;
+        case ombra::Luce::Notte:
+            testo = ponte_.Traduci("Niente ombra: il Sole è sotto l'orizzonte");
+            break;
+        case ombra::Luce::Dietro:
+            testo = ponte_.Traduci("Niente ombra: il Sole è dietro la parete");
+            break;
+        default:
+            testo = ponte_.Traduci("Niente ombra: il Sole rade la parete");
+            break;
     }
-    testo += QStringLiteral("  ·  ") + ponte_.Traduci("ora vera") + QLatin1Char(' ') + Q(Orologio(ombra::oraVera(istante_.cielo.t))) + QStringLiteral("  ·  ") +
+    testo += QStringLiteral("  ·  ") + ponte_.Traduci("ora vera") + QLatin1Char(' ') +
+             Q(Orologio(ombra::oraVera(istante_.cielo.t))) + QStringLiteral("  ·  ") +
              ponte_.Traduci("Sole alto %1°, azimut %2°, declinazione %3°")
                  .arg(istante_.cielo.altezza * ombra::GRADI, 0, 'f', 1)
                  .arg(istante_.cielo.azimut * ombra::GRADI, 0, 'f', 1)

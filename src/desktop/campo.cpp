@@ -28,14 +28,37 @@ const Controllo &riga(IdControllo id) { return TavolaControlli()[static_cast<std
 const QString DELL_ANGOLO = QString::fromUtf8("°'′″ NSEWO");
 
 constexpr MisuraCampo MISURE[] = {
-    {"txtLAT", 'g', 0.5, -90, 90},      {"txtLonG", 'g', 0.5, -180, 180},  {"txtDec", 'g', 1, -180, 180},     {"txtInc", 'g', 1, -90, 90},
-    {"txtMeridiano", 'g', 15, -180, 180}, {"TxtStilo", 'l', 0.005},         {"txtSUBSTYLE", 'l', 0.005},       {"txtX0", 'l', 0.01},
-    {"txtY0", 'l', 0.01},               {"txtX1", 'l', 0.01},              {"txtY1", 'l', 0.01},              {"txtEqx", 'l', 0.01},
-    {"txtEqy", 'l', 0.01},              {"txtSusx", 'l', 0.01},            {"txtSusy", 'l', 0.01},            {"txtOriz", 'l', 0.01},
-    {"TxtFraz", 0, 1, 1, 60},           {"TxtInizio", 'h', 0.5, 0, 24},    {"TxtFine", 'h', 0.5, 0, 24},      {"txtDelta", 'g', 0.5, -23.45, 23.45},
-    {"txtAO", 'g', 1, -180, 180},       {"txtMinus", 'l', 0.05},           {"txtMax", 'l', 0.05},             {"txtDensity", 0, 0.001, 0.0001, 1},
-    {"txtNumbersize", 'l', 0.002},      {"txtArabi", 'l', 0.002},          {"txtZodiacsize", 'l', 0.002},     {"txtQlat", 'g', 0.5, -90, 90},
-    {"txtQlon", 'g', 0.5, -180, 180},   {"textDelta", 'g', 0.5, -30, 30},  {"txtH", 'g', 1, -180, 180},
+    {"txtLAT", 'g', 0.5, -90, 90},
+    {"txtLonG", 'g', 0.5, -180, 180},
+    {"txtDec", 'g', 1, -180, 180},
+    {"txtInc", 'g', 1, -90, 90},
+    {"txtMeridiano", 'g', 15, -180, 180},
+    {"TxtStilo", 'l', 0.005},
+    {"txtSUBSTYLE", 'l', 0.005},
+    {"txtX0", 'l', 0.01},
+    {"txtY0", 'l', 0.01},
+    {"txtX1", 'l', 0.01},
+    {"txtY1", 'l', 0.01},
+    {"txtEqx", 'l', 0.01},
+    {"txtEqy", 'l', 0.01},
+    {"txtSusx", 'l', 0.01},
+    {"txtSusy", 'l', 0.01},
+    {"txtOriz", 'l', 0.01},
+    {"TxtFraz", 0, 1, 1, 60},
+    {"TxtInizio", 'h', 0.5, 0, 24},
+    {"TxtFine", 'h', 0.5, 0, 24},
+    {"txtDelta", 'g', 0.5, -23.45, 23.45},
+    {"txtAO", 'g', 1, -180, 180},
+    {"txtMinus", 'l', 0.05},
+    {"txtMax", 'l', 0.05},
+    {"txtDensity", 0, 0.001, 0.0001, 1},
+    {"txtNumbersize", 'l', 0.002},
+    {"txtArabi", 'l', 0.002},
+    {"txtZodiacsize", 'l', 0.002},
+    {"txtQlat", 'g', 0.5, -90, 90},
+    {"txtQlon", 'g', 0.5, -180, 180},
+    {"textDelta", 'g', 0.5, -30, 30},
+    {"txtH", 'g', 1, -180, 180},
 };
 
 }  // namespace
@@ -46,7 +69,10 @@ const MisuraCampo *TrovaMisura(std::string_view nome) {
 }
 
 CampoTesto::CampoTesto(Ponte &ponte, IdControllo id, QWidget *genitore)
-    : QLineEdit(genitore), ponte_(ponte), id_(id), misura_(riga(id).modulo == "MDIForm1" ? TrovaMisura(riga(id).nome) : nullptr),
+    : QLineEdit(genitore),
+      ponte_(ponte),
+      id_(id),
+      misura_(riga(id).modulo == "MDIForm1" ? TrovaMisura(riga(id).nome) : nullptr),
       angolo_(riga(id).modulo == "MDIForm1" && luoghi::TrovaCampoAngolo(riga(id).nome) != nullptr) {
     if (riga(id).filtro != Filtro::Nessuno) setInputMethodHints(Qt::ImhPreferNumbers);
     if (misura_ && misura_->unita) setTextMargins(0, 0, fontMetrics().horizontalAdvance(QStringLiteral("mm")) + 3, 0);
@@ -55,10 +81,14 @@ CampoTesto::CampoTesto(Ponte &ponte, IdControllo id, QWidget *genitore)
 
 QString CampoTesto::unita() const {
     switch (misura_ ? misura_->unita : 0) {
-        case 'g': return QStringLiteral("°");
-        case 'h': return QStringLiteral("h");
-        case 'l': return ponte_.sessione().in.ChCentimetro == 1 ? QStringLiteral("mm") : QStringLiteral("m");
-        default: return {};
+        case 'g':
+            return QStringLiteral("°");
+        case 'h':
+            return QStringLiteral("h");
+        case 'l':
+            return ponte_.sessione().in.ChCentimetro == 1 ? QStringLiteral("mm") : QStringLiteral("m");
+        default:
+            return {};
     }
 }
 
@@ -116,14 +146,17 @@ void CampoTesto::concludi() {
     if (misura_ && misura_->da < misura_->a) {
         const Valore v = Val(text().toStdString());
         fuori = !v.esiste() || v.v < misura_->da || v.v > misura_->a;
-        if (fuori) detto = t("da"_it) + QLatin1Char(' ') + Q(TestoNumero(misura_->da)) + QLatin1Char(' ') + t("a"_it) + QLatin1Char(' ') + Q(TestoNumero(misura_->a)) + QLatin1Char(' ') + unita();
+        if (fuori)
+            detto = t("da"_it) + QLatin1Char(' ') + Q(TestoNumero(misura_->da)) + QLatin1Char(' ') + t("a"_it) +
+                    QLatin1Char(' ') + Q(TestoNumero(misura_->a)) + QLatin1Char(' ') + unita();
     }
     if (property("fuori").toBool() != fuori) {
         setProperty("fuori", fuori);
         style()->unpolish(this);
         style()->polish(this);
     }
-    if (!detto.isEmpty() && isVisible()) QToolTip::showText(mapToGlobal(QPoint(width() + 4, -4)), SoloTesto(detto), this, {}, 5000);
+    if (!detto.isEmpty() && isVisible())
+        QToolTip::showText(mapToGlobal(QPoint(width() + 4, -4)), SoloTesto(detto), this, {}, 5000);
 }
 
 void CampoTesto::immetti(const QString &testo) {
@@ -160,10 +193,12 @@ bool CampoTesto::event(QEvent *e) {
 }
 
 void CampoTesto::keyPressEvent(QKeyEvent *e) {
-    if (misura_ && e->modifiers() == Qt::NoModifier && (e->key() == Qt::Key_Up || e->key() == Qt::Key_Down)) return scatta(e->key() == Qt::Key_Up ? 1 : -1);
+    if (misura_ && e->modifiers() == Qt::NoModifier && (e->key() == Qt::Key_Up || e->key() == Qt::Key_Down))
+        return scatta(e->key() == Qt::Key_Up ? 1 : -1);
     const bool incolla = e->matches(QKeySequence::Paste);
     const QString testo = incolla ? QGuiApplication::clipboard()->text().trimmed() : e->text();
-    const bool stampabile = !testo.isEmpty() && testo.at(0).isPrint() && !(e->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier));
+    const bool stampabile = !testo.isEmpty() && testo.at(0).isPrint() &&
+                            !(e->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier));
     if (!incolla && !stampabile) return QLineEdit::keyPressEvent(e);
     immetti(testo);
     e->accept();

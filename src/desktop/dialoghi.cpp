@@ -18,7 +18,8 @@ QString Q(std::string_view testo) { return QString::fromUtf8(testo.data(), stati
 namespace {
 
 // A box that shows its text as it stands: names of files and projects may hold marks.
-QMessageBox::StandardButton domanda(QWidget *sopra, QMessageBox::Icon icona, const QString &testo, QMessageBox::StandardButtons bottoni) {
+QMessageBox::StandardButton domanda(QWidget *sopra, QMessageBox::Icon icona, const QString &testo,
+                                    QMessageBox::StandardButtons bottoni) {
     QMessageBox b(icona, QStringLiteral("Ombrelia"), testo, bottoni, sopra);
     b.setTextFormat(Qt::PlainText);
     return static_cast<QMessageBox::StandardButton>(b.exec());
@@ -26,7 +27,9 @@ QMessageBox::StandardButton domanda(QWidget *sopra, QMessageBox::Icon icona, con
 
 }  // namespace
 
-void DialoghiQt::avviso(QWidget *sopra, const QString &testo) { domanda(sopra, QMessageBox::Information, testo, QMessageBox::Ok); }
+void DialoghiQt::avviso(QWidget *sopra, const QString &testo) {
+    domanda(sopra, QMessageBox::Information, testo, QMessageBox::Ok);
+}
 
 bool DialoghiQt::siNo(QWidget *sopra, const QString &testo) {
     return domanda(sopra, QMessageBox::Question, testo, QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes;
@@ -34,11 +37,13 @@ bool DialoghiQt::siNo(QWidget *sopra, const QString &testo) {
 
 QString DialoghiQt::testo(QWidget *sopra, const QString &domanda, const QString &titolo, const QString &proposta) {
     bool dato = false;
-    const QString t = QInputDialog::getText(sopra, titolo, Qt::mightBeRichText(domanda) ? domanda.toHtmlEscaped() : domanda, QLineEdit::Normal, proposta, &dato);
+    const QString t = QInputDialog::getText(sopra, titolo, Qt::mightBeRichText(domanda) ? domanda.toHtmlEscaped() : domanda,
+                                            QLineEdit::Normal, proposta, &dato);
     return dato ? t : QString();
 }
 
-std::optional<QString> DialoghiQt::file(QWidget *sopra, bool salva, const QString &estensione, const QString &filtro, const QString &proposta) {
+std::optional<QString> DialoghiQt::file(QWidget *sopra, bool salva, const QString &estensione, const QString &filtro,
+                                        const QString &proposta) {
     QFileDialog d(sopra, QString(), QString(), filtro);
     d.setAcceptMode(salva ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     d.setFileMode(salva ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
@@ -54,9 +59,12 @@ std::optional<QString> DialoghiQt::file(QWidget *sopra, bool salva, const QStrin
 
 Salvataggio DialoghiQt::salvaPrima(QWidget *sopra, const QString &testo) {
     switch (domanda(sopra, QMessageBox::Question, testo, QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel)) {
-        case QMessageBox::Save: return Salvataggio::Salva;
-        case QMessageBox::Discard: return Salvataggio::Scarta;
-        default: return Salvataggio::Annulla;
+        case QMessageBox::Save:
+            return Salvataggio::Salva;
+        case QMessageBox::Discard:
+            return Salvataggio::Scarta;
+        default:
+            return Salvataggio::Annulla;
     }
 }
 
@@ -92,7 +100,8 @@ std::optional<std::string> UtenteFinestra::File(const RichiestaFile &r) {
 
 // The overwrite question, the ending and the cancel button are the file box's.
 std::optional<std::string> UtenteFinestra::NomeDxf(std::string_view, std::string_view, std::string_view proposta) {
-    const auto f = dialoghi_.file(sopra, true, QStringLiteral("dxf"), QStringLiteral("*.dxf"), Q(proposta) + QStringLiteral(".dxf"));
+    const auto f =
+        dialoghi_.file(sopra, true, QStringLiteral("dxf"), QStringLiteral("*.dxf"), Q(proposta) + QStringLiteral(".dxf"));
     if (!f || f->isEmpty()) return {};
     return f->toStdString();
 }

@@ -103,7 +103,9 @@ void pianta(QPainter &p, const Sessione &s, const QColor &testo) {
     tenue.setAlpha(90);
     p.setPen(penna(tenue, 0.8, Qt::DashLine));
     p.drawLine(QPointF(0, -34), QPointF(0, 36));
-    for (const auto &[dove, lettera] : {std::pair{QPointF(0, -42), QStringLiteral("N")}, std::pair{QPointF(0, 43), QStringLiteral("S")}, std::pair{QPointF(-48, 0), ovest}, std::pair{QPointF(48, 0), QStringLiteral("E")}})
+    for (const auto &[dove, lettera] :
+         {std::pair{QPointF(0, -42), QStringLiteral("N")}, std::pair{QPointF(0, 43), QStringLiteral("S")},
+          std::pair{QPointF(-48, 0), ovest}, std::pair{QPointF(48, 0), QStringLiteral("E")}})
         scritta(p, dove, lettera, tenue);
     p.save();
     if (meridionale(s)) p.scale(1, -1);
@@ -177,15 +179,18 @@ QWidget *figura(QWidget *genitore, QSizeF misura, QSize minima, std::function<vo
 }  // namespace
 
 QWidget *FiguraPianta(const Sessione &s, QWidget *genitore) {
-    return figura(genitore, {112, 104}, {104, 92}, [&s, genitore](QPainter &p) { pianta(p, s, genitore->palette().windowText().color()); });
+    return figura(genitore, {112, 104}, {104, 92},
+                  [&s, genitore](QPainter &p) { pianta(p, s, genitore->palette().windowText().color()); });
 }
 
 QWidget *FiguraFianco(const Sessione &s, QWidget *genitore) {
-    return figura(genitore, {112, 104}, {104, 92}, [&s, genitore](QPainter &p) { fianco(p, s, genitore->palette().windowText().color()); });
+    return figura(genitore, {112, 104}, {104, 92},
+                  [&s, genitore](QPainter &p) { fianco(p, s, genitore->palette().windowText().color()); });
 }
 
 QWidget *FiguraIstruzioni(const Sessione &s, QWidget *genitore) {
-    return figura(genitore, {340, 240}, {520, 360}, [&s, genitore](QPainter &p) { misura(p, s, genitore->palette().windowText().color()); });
+    return figura(genitore, {340, 240}, {520, 360},
+                  [&s, genitore](QPainter &p) { misura(p, s, genitore->palette().windowText().color()); });
 }
 
 }  // namespace ombrelia::desktop

@@ -13,9 +13,9 @@
 
 #include "app/progetto.h"
 #include "desktop/aggiunte.h"
+#include "desktop/gruppi.h"
 #include "desktop/lingua_finestra.h"
 #include "desktop/stile.h"
-#include "desktop/gruppi.h"
 #include "paint/file_disegno.h"
 
 namespace ombrelia::desktop {
@@ -26,7 +26,8 @@ const Controllo &riga(IdControllo id) { return TavolaControlli()[static_cast<std
 
 // A field whose change another run would show.
 bool campo(IdControllo id) {
-    return id != NESSUN_CONTROLLO && riga(id).modulo == "MDIForm1" && (riga(id).classe == Classe::Testo || riga(id).classe == Classe::Casella);
+    return id != NESSUN_CONTROLLO && riga(id).modulo == "MDIForm1" &&
+           (riga(id).classe == Classe::Testo || riga(id).classe == Classe::Casella);
 }
 
 // Of the fields: what the live dial goes by.
@@ -91,7 +92,8 @@ Finestra::Finestra(Dialoghi &dialoghi) : dialoghi_(dialoghi), utente_(dialoghi),
         if (!linea) return;
         for (const Linea &l : LineeDi(s_.tavolo))
             if (l.strato == linea->strato && l.valore == linea->valore)
-                messaggio(NomeLinea(s_, l.strato, l.valore) + QStringLiteral(": ") + QString::number(l.metri * 1000, 'f', 0) + QStringLiteral(" mm"));
+                messaggio(NomeLinea(s_, l.strato, l.valore) + QStringLiteral(": ") + QString::number(l.metri * 1000, 'f', 0) +
+                          QStringLiteral(" mm"));
     };
     moduli_ = std::make_unique<Moduli>(ponte_, dialoghi_, this);
     passi_ = std::make_unique<Passi>(s_, this, [this](bool rifai) { rimesso(rifai); });
@@ -110,7 +112,9 @@ Finestra::Finestra(Dialoghi &dialoghi) : dialoghi_(dialoghi), utente_(dialoghi),
     ponte_.prima = [this](IdControllo id) { return prima(id); };
     ponte_.dopo = [this](IdControllo id, const app::Esito &esito) { dopo(id, esito); };
     ponte_.suInterrotto = [this](bool memoria) { interrotto(memoria); };
-    ponte_.suVirgolette = [this] { messaggio(ponte_.Traduci("Le virgolette non entrano in un campo: chiuderebbero il file del progetto")); };
+    ponte_.suVirgolette = [this] {
+        messaggio(ponte_.Traduci("Le virgolette non entrano in un campo: chiuderebbero il file del progetto"));
+    };
     vivo_ = std::make_unique<Vivo>(this, s_.dizionario, [this](Vivo::Esito &e) { disegnoVivo(e); });
 
     new Aggiunte(*this, dialoghi_);
@@ -199,29 +203,36 @@ void Finestra::dopo(IdControllo id, const app::Esito &esito) {
         salvato_ = improntaProgetto();
     }
     if (nome == "mnuItalian" || nome == "mnuFrancais" || nome == "mnuInglese") RicordaLingua(nome, esito);
-    if ((nome == "cmdDxf" || nome == "cmdSave") && esito && !esito.file.empty()) messaggio(ponte_.Traduci("Scritto") + QLatin1Char(' ') + Q(esito.file));
+    if ((nome == "cmdDxf" || nome == "cmdSave") && esito && !esito.file.empty())
+        messaggio(ponte_.Traduci("Scritto") + QLatin1Char(' ') + Q(esito.file));
     const bool segue = vivo_acceso();
     const bool chiesto = segue && nome != "cmdRun" && impronta(s_) != improntaCampi_;
     if (chiesto) chiediVivo();
     // Some boxes draw when they are set.
-    if (!campo(id) ? id == NESSUN_CONTROLLO || riga(id).classe != Classe::Testo : !chiesto && riga(id).classe == Classe::Casella) {
+    if (!campo(id) ? id == NESSUN_CONTROLLO || riga(id).classe != Classe::Testo
+                   : !chiesto && riga(id).classe == Classe::Casella) {
         quadro_->foglio().cambiato();
         strati_->aggiorna();
     }
     quadro_->aggiorna();
-    passi_->annota(id, id == NESSUN_CONTROLLO ? std::exchange(ponte_.passo, {}) : NomeUmano(s_, id), segue && (campo(id) || nome == "cmdRun"));
+    passi_->annota(id, id == NESSUN_CONTROLLO ? std::exchange(ponte_.passo, {}) : NomeUmano(s_, id),
+                   segue && (campo(id) || nome == "cmdRun"));
     titolo();
     for (const char *figura : {"Picture2", "Picture3"}) ponte_.widget(figura)->update();
     if (nome == "cmdCalcola" && riga(id).modulo == "frmDeclin") soleDelGiorno();
     if (nome == "M_about") moduli_->apri("frmAbout", true);
-    if (nome == "mnuEsci") QMetaObject::invokeMethod(this, [this] { close(); }, Qt::QueuedConnection);
+    if (nome == "mnuEsci")
+        QMetaObject::invokeMethod(
+            this, [this] { close(); }, Qt::QueuedConnection);
 }
 
 // The utility board's run leaves the day's Sun in two fields of the dial. The user is told, and may have them back.
 void Finestra::soleDelGiorno() {
     std::vector<Quadro::Offerta> offerte;
     if (s_.in.txtDelta != deltaPrima_ || s_.in.txtAO != aoPrima_)
-        offerte.push_back({ponte_.Traduci("rimetti") + QLatin1Char(' ') + Q(deltaPrima_) + QStringLiteral("°, ") + Q(aoPrima_) + QStringLiteral("°"), [this, d = deltaPrima_, a = aoPrima_] {
+        offerte.push_back({ponte_.Traduci("rimetti") + QLatin1Char(' ') + Q(deltaPrima_) + QStringLiteral("°, ") + Q(aoPrima_) +
+                               QStringLiteral("°"),
+                           [this, d = deltaPrima_, a = aoPrima_] {
                                ponte_.passo = ponte_.Traduci("Declinazione del Sole rimessa");
                                ponte_.fai(NESSUN_CONTROLLO, [&] {
                                    s_.Scrivi(&DialInputs::txtDelta, d);
@@ -233,13 +244,17 @@ void Finestra::soleDelGiorno() {
     const QString riga2 = Q(s_.testo(TrovaControllo("frmDeclin.txtResult"))).section(QLatin1Char('\n'), 1, 1);
     const auto trovato = QRegularExpression(QStringLiteral("-?\\d+\\.\\d+")).match(riga2);
     if (trovato.hasMatch() && Val(s_.testo(TrovaControllo("frmDeclin.txtAngle"))) != 0)
-        offerte.push_back({ponte_.Traduci("usa come declinazione della parete") + QLatin1Char(' ') + trovato.captured() + QStringLiteral("°"), [this, d = trovato.captured().toStdString()] {
-                               ponte_.passo = ponte_.Traduci("Declinazione della parete");
-                               ponte_.fai(NESSUN_CONTROLLO, [&] { s_.Scrivi(&DialInputs::txtDec, d); });
-                               if (vivo_acceso()) chiediVivo();
-                           }});
+        offerte.push_back(
+            {ponte_.Traduci("usa come declinazione della parete") + QLatin1Char(' ') + trovato.captured() + QStringLiteral("°"),
+             [this, d = trovato.captured().toStdString()] {
+                 ponte_.passo = ponte_.Traduci("Declinazione della parete");
+                 ponte_.fai(NESSUN_CONTROLLO, [&] { s_.Scrivi(&DialInputs::txtDec, d); });
+                 if (vivo_acceso()) chiediVivo();
+             }});
     if (offerte.empty()) return;
-    quadro_->offri(ponte_.Traduci("Il Sole di quel giorno sta ora nella linea diurna opzionale:") + QLatin1Char(' ') + Q(s_.in.txtDelta) + QStringLiteral("°."), std::move(offerte));
+    quadro_->offri(ponte_.Traduci("Il Sole di quel giorno sta ora nella linea diurna opzionale:") + QLatin1Char(' ') +
+                       Q(s_.in.txtDelta) + QStringLiteral("°."),
+                   std::move(offerte));
 }
 
 bool Finestra::vivo_acceso() const { return vivoAcceso_->isChecked(); }
@@ -299,7 +314,8 @@ void Finestra::disegnoVivo(Vivo::Esito &e) {
     const Variabili prima = s_.v;
     s_.v = e.v;
     // What the live dial read is not the user's run.
-    for (Reale Variabili::*o : {&Variabili::letture, &Variabili::lat_o, &Variabili::dec_o, &Variabili::iz_o, &Variabili::lon_o, &Variabili::inc_o, &Variabili::diffLong})
+    for (Reale Variabili::*o : {&Variabili::letture, &Variabili::lat_o, &Variabili::dec_o, &Variabili::iz_o, &Variabili::lon_o,
+                                &Variabili::inc_o, &Variabili::diffLong})
         s_.v.*o = prima.*o;
     if (t.ShiftX() != e.tavolo->ShiftX()) t.ShiftX(e.tavolo->ShiftX());
     if (t.ShiftY() != e.tavolo->ShiftY()) t.ShiftY(e.tavolo->ShiftY());
@@ -329,7 +345,9 @@ void Finestra::esegui() { ponte_.premi("cmdRun"); }
 void Finestra::primoQuadrante() {
     for (const Controllo &c : ControlliDi("MDIForm1"))
         if (c.classe == Classe::Casella && s_.valore(IdDi(c)) != 0) return;
-    for (int DialInputs::*casella : {&DialInputs::chkOreAstronomiche, &DialInputs::Ck_DayLightCurves, &DialInputs::ck_Equinoziale}) s_.in.*casella = 1;
+    for (int DialInputs::*casella :
+         {&DialInputs::chkOreAstronomiche, &DialInputs::Ck_DayLightCurves, &DialInputs::ck_Equinoziale})
+        s_.in.*casella = 1;
     app::Adatta(s_);
     salvato_ = improntaProgetto();
     passi_->aggiorna(true);

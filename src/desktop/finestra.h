@@ -108,7 +108,7 @@ private:
     std::string salvato_, improntaCampi_;
     QString percorso_;
     std::unique_ptr<Passi> passi_;
-    Tavolo scorta_;      // the drawing that a run replaces, until the run has drawn
+    Tavolo scorta_;  // the drawing that a run replaces, until the run has drawn
     bool inScorta_ = false;
     std::vector<std::pair<int DialInputs::*, int>> mascherate_;  // boxes that don't answer, set aside while a run lasts
     std::string deltaPrima_, aoPrima_;

@@ -28,9 +28,12 @@ bool Finestra::lasciaAndare() {
     if (!modificato()) return true;
     const QString nome = percorso_.isEmpty() ? ponte_.Traduci("Senza nome") : QFileInfo(percorso_).fileName();
     switch (dialoghi_.salvaPrima(this, nome + QStringLiteral(": ") + ponte_.Traduci("Il progetto è cambiato. Vuoi salvarlo?"))) {
-        case Salvataggio::Annulla: return false;
-        case Salvataggio::Scarta: return true;
-        case Salvataggio::Salva: break;
+        case Salvataggio::Annulla:
+            return false;
+        case Salvataggio::Scarta:
+            return true;
+        case Salvataggio::Salva:
+            break;
     }
     return salva(false);
 }
@@ -44,7 +47,8 @@ void Finestra::offriRipresa(const QString &percorso) {
     const QStringList rimaste = Ripresa::rimaste(percorso);
     if (rimaste.isEmpty()) return;
     const QString chi = percorso.isEmpty() ? ponte_.Traduci("Senza nome") : QFileInfo(percorso).fileName();
-    if (dialoghi_.siNo(this, chi + QStringLiteral(": ") + ponte_.Traduci("c'è lavoro non salvato di una volta precedente. Vuoi riprenderlo?"))) {
+    if (dialoghi_.siNo(this, chi + QStringLiteral(": ") +
+                                 ponte_.Traduci("c'è lavoro non salvato di una volta precedente. Vuoi riprenderlo?"))) {
         ponte_.passo = ponte_.Traduci("Lavoro ripreso");
         ponte_.fai(NESSUN_CONTROLLO, [&] {
             const app::Esito e = app::ApriProgetto(s_, rimaste.front().toStdString());
@@ -108,7 +112,8 @@ void Finestra::nuovo() {
         Tavolo &t = s_.tavolo;
         s_.in = vergine.in;
         s_.v = vergine.v;
-        for (std::size_t i = 0; i < s_.stati.size(); ++i) s_.stati[i].abilitato = true, s_.stati[i].visibile = vergine.stati[i].visibile;
+        for (std::size_t i = 0; i < s_.stati.size(); ++i)
+            s_.stati[i].abilitato = true, s_.stati[i].visibile = vergine.stati[i].visibile;
         t.Clear();
         t.QuadranteL(vergine.tavolo.QuadranteL());
         t.QuadranteH(vergine.tavolo.QuadranteH());
@@ -140,7 +145,8 @@ void Finestra::riempiRecenti() {
 
 // Runs what goes from tile to tile under a progress box with its stop button.
 bool Finestra::piastrelle(const std::function<bool(const paint::Avanzamento &)> &lavoro) {
-    QProgressDialog attesa(ponte_.Traduci("Disegno delle pagine..."), ponte_.Traduci("Ferma"), 0, static_cast<int>(s_.tavolo.lista().Aree.size()), this);
+    QProgressDialog attesa(ponte_.Traduci("Disegno delle pagine..."), ponte_.Traduci("Ferma"), 0,
+                           static_cast<int>(s_.tavolo.lista().Aree.size()), this);
     attesa.setWindowModality(Qt::WindowModal);
     return lavoro([&attesa](std::size_t fatte, std::size_t) {
         attesa.setValue(static_cast<int>(fatte));
@@ -158,16 +164,20 @@ void Finestra::stampa(bool aree) {
 }
 
 void Finestra::esportaPdf() {
-    const bool aree = !s_.tavolo.lista().Aree.empty() &&
-                      dialoghi_.siNo(this, ponte_.Traduci("Solo le pagine scelte, una per foglio A4? Con No tutto il foglio su una pagina sola."));
-    const auto f = dialoghi_.file(this, true, QStringLiteral("pdf"), QStringLiteral("*.pdf"), Q(app::CartellaDisegni()) + QStringLiteral("/quadrante.pdf"));
+    const bool aree =
+        !s_.tavolo.lista().Aree.empty() &&
+        dialoghi_.siNo(this,
+                       ponte_.Traduci("Solo le pagine scelte, una per foglio A4? Con No tutto il foglio su una pagina sola."));
+    const auto f = dialoghi_.file(this, true, QStringLiteral("pdf"), QStringLiteral("*.pdf"),
+                                  Q(app::CartellaDisegni()) + QStringLiteral("/quadrante.pdf"));
     if (!f || f->isEmpty()) return;
     std::string errore;
     QByteArray pdf;
-    if (aree) piastrelle([&](const paint::Avanzamento &avanza) {
-        pdf = paint::PdfPiastrelle(perCarta(), avanza);
-        return true;
-    });
+    if (aree)
+        piastrelle([&](const paint::Avanzamento &avanza) {
+            pdf = paint::PdfPiastrelle(perCarta(), avanza);
+            return true;
+        });
     else pdf = paint::PdfFoglio(perCarta(), errore);
     if (!errore.empty()) return dialoghi_.avviso(this, ponte_.Traduci(errore));
     if (pdf.isEmpty()) return messaggio(ponte_.Traduci("Nessun file scritto"));

@@ -45,23 +45,27 @@ void Finestra::costruisciMenu() {
     recenti_ = file->addMenu(ponte_.Traduci("Aperti di recente"));
     connect(recenti_, &QMenu::aboutToShow, this, [this] { riempiRecenti(); });
     voce(file, "mnuSalva", QKeySequence::Save);
-    file->addAction(comando(ponte_.Traduci("Salva con nome..."), QKeySequence(QStringLiteral("Ctrl+Shift+S")), [this] { salva(true); }));
+    file->addAction(
+        comando(ponte_.Traduci("Salva con nome..."), QKeySequence(QStringLiteral("Ctrl+Shift+S")), [this] { salva(true); }));
     file->addSeparator();
     file->addAction(comando(ponte_.Traduci("Esporta PDF..."), QKeySequence(QStringLiteral("Ctrl+E")), [this] { esportaPdf(); }));
-    file->addAction(comando(ponte_.Traduci("Esporta disegno..."), QKeySequence(QStringLiteral("Ctrl+Shift+E")), [this] { esporta(); }));
+    file->addAction(
+        comando(ponte_.Traduci("Esporta disegno..."), QKeySequence(QStringLiteral("Ctrl+Shift+E")), [this] { esporta(); }));
     file->addAction(bottone("Tavolo1.cmdStampa", QKeySequence::Print));
     file->addSeparator();
     voce(file, "mnuEsci", QKeySequence(QStringLiteral("Ctrl+Q")));
 
     QMenu *modifica = menuBar()->addMenu(ponte_.Traduci("&Modifica"));
-    QAction *annulla = passi_->createUndoAction(this, ponte_.Traduci("Annulla")), *rifai = passi_->createRedoAction(this, ponte_.Traduci("Ripeti"));
+    QAction *annulla = passi_->createUndoAction(this, ponte_.Traduci("Annulla")),
+            *rifai = passi_->createRedoAction(this, ponte_.Traduci("Ripeti"));
     annulla->setObjectName(QStringLiteral("annulla"));
     rifai->setObjectName(QStringLiteral("ripeti"));
     annulla->setShortcut(QKeySequence::Undo);
     rifai->setShortcuts({QKeySequence(QStringLiteral("Ctrl+Shift+Z")), QKeySequence(QStringLiteral("Ctrl+Y"))});
     modifica->addActions({annulla, rifai});
     modifica->addSeparator();
-    modifica->addAction(comando(ponte_.Traduci("Copia come immagine"), QKeySequence(QStringLiteral("Ctrl+Shift+C")), [this] { copia(false); }));
+    modifica->addAction(
+        comando(ponte_.Traduci("Copia come immagine"), QKeySequence(QStringLiteral("Ctrl+Shift+C")), [this] { copia(false); }));
     modifica->addAction(comando(ponte_.Traduci("Copia come SVG"), {}, [this] { copia(true); }));
 
     QMenu *quadrante = menuBar()->addMenu(ponte_.Traduci("&Quadrante"));
@@ -69,12 +73,15 @@ void Finestra::costruisciMenu() {
         {"cmdRun", "F5"}, {"cmdEqui", "F6"}, {"cmdData", "F7"}, {"cmdTrasforma", "F8"}, {"Tavolo1.cmdPulisci", "Ctrl+L"}};
     for (const auto &[nome, tasti] : comandi) quadrante->addAction(bottone(nome, QKeySequence(QString::fromLatin1(tasti))));
     quadrante->addSeparator();
-    quadrante->addAction(comando(ponte_.Traduci("Scegli le pagine con linee"), QKeySequence(QStringLiteral("Ctrl+Shift+P")), [this] {
-        ponte_.passo = ponte_.Traduci("Pagina scelta");
-        ponte_.fai(NESSUN_CONTROLLO, [this] { s_.tavolo.ScegliPiene(); });
-    }));
-    quadrante->addAction(comando(ponte_.Traduci("Adatta il foglio"), QKeySequence(QStringLiteral("Ctrl+T")), [this] { adatta(); }));
-    quadrante->addAction(comando(ponte_.Traduci("Disegna mentre scrivi"), QKeySequence(QStringLiteral("F9")), [this] { vivoAcceso_->toggle(); }));
+    quadrante->addAction(
+        comando(ponte_.Traduci("Scegli le pagine con linee"), QKeySequence(QStringLiteral("Ctrl+Shift+P")), [this] {
+            ponte_.passo = ponte_.Traduci("Pagina scelta");
+            ponte_.fai(NESSUN_CONTROLLO, [this] { s_.tavolo.ScegliPiene(); });
+        }));
+    quadrante->addAction(
+        comando(ponte_.Traduci("Adatta il foglio"), QKeySequence(QStringLiteral("Ctrl+T")), [this] { adatta(); }));
+    quadrante->addAction(
+        comando(ponte_.Traduci("Disegna mentre scrivi"), QKeySequence(QStringLiteral("F9")), [this] { vivoAcceso_->toggle(); }));
 
     QMenu *vedi = menuBar()->addMenu(ponte_.Traduci("&Vista"));
     constexpr double PASSO = 1.25;
@@ -100,8 +107,10 @@ void Finestra::costruisciMenu() {
         connect(a, &QAction::toggled, this, azione);
         vedi->addAction(a);
     };
-    interruttore(ponte_.Traduci("Misura sul foglio"), "misura", QKeySequence(QStringLiteral("Ctrl+M")), false, [&f](bool si) { f.misura(si); });
-    interruttore(ponte_.Traduci("Lente a grandezza vera"), "lente", QKeySequence(QStringLiteral("Ctrl+Shift+L")), false, [&f](bool si) { f.lente(si); });
+    interruttore(ponte_.Traduci("Misura sul foglio"), "misura", QKeySequence(QStringLiteral("Ctrl+M")), false,
+                 [&f](bool si) { f.misura(si); });
+    interruttore(ponte_.Traduci("Lente a grandezza vera"), "lente", QKeySequence(QStringLiteral("Ctrl+Shift+L")), false,
+                 [&f](bool si) { f.lente(si); });
     interruttore(ponte_.Traduci("Legenda"), "legenda", {}, true, [&f](bool si) { f.mostraLegenda(si); });
     interruttore(ponte_.Traduci("Righelli"), "righelli", {}, true, [&f](bool si) { f.mostraRighelli(si); });
     vedi->addSeparator();

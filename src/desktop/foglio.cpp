@@ -167,7 +167,8 @@ void Foglio::disponi() {
     const auto inizio = [](const QScrollBar *b, double lungo, double pagina) {
         return b->maximum() > 0 ? MARGINE - b->value() : std::floor((pagina - lungo) / 2);
     };
-    vista_.origine = {inizio(horizontalScrollBar(), l * vista_.fattore, finestra.width()), inizio(verticalScrollBar(), h * vista_.fattore, finestra.height())};
+    vista_.origine = {inizio(horizontalScrollBar(), l * vista_.fattore, finestra.width()),
+                      inizio(verticalScrollBar(), h * vista_.fattore, finestra.height())};
     vista_.misura = viewport()->size();
     vista_.rapporto = devicePixelRatioF();
     disponendo_ = false;
@@ -249,10 +250,14 @@ void Foglio::keyPressEvent(QKeyEvent *e) {
     constexpr double PASSO = 1.25;
     switch (e->key()) {
         case Qt::Key_Plus:
-        case Qt::Key_Equal: return ingrandisci(PASSO);
-        case Qt::Key_Minus: return ingrandisci(1 / PASSO);
-        case Qt::Key_Home: return tutto();
-        default: QAbstractScrollArea::keyPressEvent(e);
+        case Qt::Key_Equal:
+            return ingrandisci(PASSO);
+        case Qt::Key_Minus:
+            return ingrandisci(1 / PASSO);
+        case Qt::Key_Home:
+            return tutto();
+        default:
+            QAbstractScrollArea::keyPressEvent(e);
     }
 }
 

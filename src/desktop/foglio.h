@@ -46,9 +46,9 @@ public:
     void misura(bool si);
     void lente(bool si);
 
-    std::function<void(const QPointF &)> suClic;                       // a point of the picture
-    std::function<void(std::optional<QPointF>)> suPosizione;           // world millimetres under the pointer
-    std::function<void(const QPointF &)> suSotto;                      // world metres as painted
+    std::function<void(const QPointF &)> suClic;              // a point of the picture
+    std::function<void(std::optional<QPointF>)> suPosizione;  // world millimetres under the pointer
+    std::function<void(const QPointF &)> suSotto;             // world metres as painted
     std::function<void(const Vista &)> suDipinto;
     std::function<QString(double millimetri, double gradi)> testoMisura;
 
@@ -83,8 +83,8 @@ private:
     std::vector<std::pair<QString, QColor>> legenda_;
     bool conLegenda_ = true, conRighelli_ = true, conMisura_ = false, conLente_ = false;
     QString fumetto_;
-    std::optional<QPointF> segno_, puntatore_;                     // world metres; a point of the picture
-    std::optional<std::pair<QPointF, QPointF>> misurata_;          // world metres
+    std::optional<QPointF> segno_, puntatore_;             // world metres; a point of the picture
+    std::optional<std::pair<QPointF, QPointF>> misurata_;  // world metres
 };
 
 }  // namespace ombrelia::desktop

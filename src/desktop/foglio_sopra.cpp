@@ -56,7 +56,8 @@ void Foglio::sopra(QPainter &p) {
     if (conRighelli_) righelli(p);
     if (conLegenda_ && !legenda_.empty()) dipingiLegenda(p);
     if (!fumetto_.isEmpty()) {
-        QRectF r = p.boundingRect(QRectF(0, 0, viewport()->width() - RIGHELLO - 24, 200), Qt::AlignLeft | Qt::TextWordWrap, fumetto_);
+        QRectF r =
+            p.boundingRect(QRectF(0, 0, viewport()->width() - RIGHELLO - 24, 200), Qt::AlignLeft | Qt::TextWordWrap, fumetto_);
         r.moveBottomLeft(QPointF(RIGHELLO + 10, viewport()->height() - 8));
         p.setPen(t.bordo);
         p.setBrush(t.fondo);
@@ -84,7 +85,8 @@ void Foglio::righelli(QPainter &p) {
     p.drawLine(RIGHELLO, 0, RIGHELLO, h);
     const QPointF inizio = suMondo({0, 0}) * 1000, fine = suMondo(QPointF(l, h)) * 1000;
     const auto tacche = [&](double da, double a, const auto &disegna) {
-        for (double x = std::ceil(da / tacca) * tacca; x <= a; x += tacca) disegna(x, std::fabs(std::remainder(x, numero)) < tacca / 2);
+        for (double x = std::ceil(da / tacca) * tacca; x <= a; x += tacca)
+            disegna(x, std::fabs(std::remainder(x, numero)) < tacca / 2);
     };
     tacche(inizio.x(), fine.x(), [&](double x, bool lunga) {
         const int dove = static_cast<int>(std::lround(daMondo({x / 1000, 0}).x()));

@@ -97,7 +97,8 @@ QScrollArea *colonna(Ponte &ponte, const std::vector<app::Gruppo> &gruppi, QWidg
 
 }  // namespace
 
-Piega::Piega(const QString &titolo, const QString &chiave, bool piegato, QWidget *genitore) : QWidget(genitore), chiave_(QStringLiteral("pieghe/") + chiave) {
+Piega::Piega(const QString &titolo, const QString &chiave, bool piegato, QWidget *genitore)
+    : QWidget(genitore), chiave_(QStringLiteral("pieghe/") + chiave) {
     setObjectName(QStringLiteral("piega"));
     auto *giu = new QVBoxLayout(this);
     giu->setContentsMargins(0, 0, 0, 0);
@@ -158,13 +159,15 @@ QWidget *ColonnaQuadrante(Ponte &ponte, QWidget *genitore) {
 QWidget *ColonnaDisegno(Ponte &ponte, QWidget *genitore) {
     std::vector<app::Gruppo> gruppi = app::GruppiDisegno();
     std::set<std::string_view> nominati;
-    for (const std::vector<app::Gruppo> *tavola : {&app::GruppiQuadrante(), static_cast<const std::vector<app::Gruppo> *>(&gruppi)})
+    for (const std::vector<app::Gruppo> *tavola :
+         {&app::GruppiQuadrante(), static_cast<const std::vector<app::Gruppo> *>(&gruppi)})
         for (const app::Gruppo &g : *tavola)
             for (const app::Gruppo::Riga &r : g.righe) nominati.insert(r.begin(), r.end());
     app::Gruppo altro{"Altro"_it, {}, true};
     for (const Controllo &c : ControlliDi("MDIForm1")) {
         if (!c.nostro || nominati.contains(c.nome)) continue;
-        if (c.classe == Classe::Testo && !altro.righe.empty() && altro.righe.back().size() == 1) altro.righe.back().push_back(c.nome);
+        if (c.classe == Classe::Testo && !altro.righe.empty() && altro.righe.back().size() == 1)
+            altro.righe.back().push_back(c.nome);
         else altro.righe.push_back({c.nome});
     }
     if (!altro.righe.empty()) gruppi.push_back(std::move(altro));

@@ -23,7 +23,8 @@ struct Lingua {
     std::string_view apri;
     const char *codice, *aggiunta;  // of the toolkit's catalogue; the dictionary of the window's own texts
 };
-constexpr Lingua LINGUE[] = {{"Open...", "en", "DBFinestraInglese.txt"}, {"Ouvrir...", "fr", "DBFinestraFrancese.txt"}, {"", "it", ""}};
+constexpr Lingua LINGUE[] = {
+    {"Open...", "en", "DBFinestraInglese.txt"}, {"Ouvrir...", "fr", "DBFinestraFrancese.txt"}, {"", "it", ""}};
 
 const Lingua &linguaDi(const Sessione &s) {
     const std::string apri = s.Traduci("Apri...");
@@ -43,7 +44,9 @@ void traduciQt(const char *codice) {
     static QTranslator *catalogo = nullptr;
     if (catalogo) QCoreApplication::removeTranslator(catalogo);
     else catalogo = new QTranslator(QCoreApplication::instance());
-    if (catalogo->load(QStringLiteral("qtbase_") + QString::fromLatin1(codice), QLibraryInfo::path(QLibraryInfo::TranslationsPath))) QCoreApplication::installTranslator(catalogo);
+    if (catalogo->load(QStringLiteral("qtbase_") + QString::fromLatin1(codice),
+                       QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QCoreApplication::installTranslator(catalogo);
 }
 
 }  // namespace

@@ -74,10 +74,11 @@ QWidget *CercaLuogo(Ponte &ponte, QWidget *genitore) {
         });
         cerca->selectAll();
     };
-    QObject::connect(guida, qOverload<const QModelIndex &>(&QCompleter::activated), cerca, [trovati, scegli](const QModelIndex &quale) {
-        const auto n = static_cast<std::size_t>(quale.row());
-        if (quale.isValid() && n < trovati->size()) scegli(*(*trovati)[n]);
-    });
+    QObject::connect(guida, qOverload<const QModelIndex &>(&QCompleter::activated), cerca,
+                     [trovati, scegli](const QModelIndex &quale) {
+                         const auto n = static_cast<std::size_t>(quale.row());
+                         if (quale.isValid() && n < trovati->size()) scegli(*(*trovati)[n]);
+                     });
     cerca->suPrimo = [trovati, scegli, guida] {
         guida->popup()->hide();
         if (!trovati->empty()) scegli(*trovati->front());

@@ -32,7 +32,8 @@ bool ApriManuale(Ponte &ponte, QWidget *sopra, const QString &parola) {
     giu->addWidget(cerca);
     auto *testo = new QTextBrowser(w);
     testo->setOpenExternalLinks(true);
-    testo->setSearchPaths({Q(dato->parent_path().string()) + QStringLiteral("/../docs"), Q(dato->parent_path().string()) + QStringLiteral("/../doc/ombrelia")});
+    testo->setSearchPaths({Q(dato->parent_path().string()) + QStringLiteral("/../docs"),
+                           Q(dato->parent_path().string()) + QStringLiteral("/../doc/ombrelia")});
     testo->setMarkdown(QString::fromUtf8(file.readAll()));
     giu->addWidget(testo, 1);
     QObject::connect(cerca, &QLineEdit::returnPressed, testo, [cerca, testo] {

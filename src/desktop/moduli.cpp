@@ -29,8 +29,8 @@ namespace {
 
 // The report forms with their one menu entry.
 constexpr std::pair<std::string_view, std::string_view> RAPPORTI[] = {
-    {"Form1", "menuFond"},    {"Form2", "mnuPrinta"},  {"Form3", "mnustampat"}, {"Form4", "mnubabprint"}, {"Form6", "mnu_Print"},
-    {"Form7", "menustampa"},  {"Form8", "menuprinta"}, {"Form9", "mnuStammpa"}, {"Form10", "mnuDatiQ"},
+    {"Form1", "menuFond"},   {"Form2", "mnuPrinta"},  {"Form3", "mnustampat"}, {"Form4", "mnubabprint"}, {"Form6", "mnu_Print"},
+    {"Form7", "menustampa"}, {"Form8", "menuprinta"}, {"Form9", "mnuStammpa"}, {"Form10", "mnuDatiQ"},
 };
 
 QPlainTextEdit *lettura(QWidget *genitore) {
@@ -114,7 +114,8 @@ void Moduli::rapporto(std::string_view nome) {
 }
 
 void Moduli::salvaTesto(QWidget *sopra, const Rapporto &r) {
-    const auto f = dialoghi_.file(sopra, true, QStringLiteral("txt"), QStringLiteral("*.txt;;*.csv;;*.html"), Q(r.modulo) + QStringLiteral(".txt"));
+    const auto f = dialoghi_.file(sopra, true, QStringLiteral("txt"), QStringLiteral("*.txt;;*.csv;;*.html"),
+                                  Q(r.modulo) + QStringLiteral(".txt"));
     if (!f || f->isEmpty()) return;
     const std::string contenuto = f->endsWith(QStringLiteral(".csv"), Qt::CaseInsensitive)    ? reports::RapportoCsv(r)
                                   : f->endsWith(QStringLiteral(".html"), Qt::CaseInsensitive) ? reports::RapportoHtml(r)
@@ -195,8 +196,10 @@ void Moduli::strumenti() {
 
     QWidget *f2 = metti("Frame2", w);
     auto *g2 = new QGridLayout(f2);
-    const std::vector<std::vector<std::string_view>> declinazione{
-        {"lblData", "txtDay", "txtMonth", "txtYear"}, {"lblUT", "txtHH", "txtMM", "txtSS"}, {"lblAngle", "txtAngle", "cmdInfo"}, {"lblFuso", "TxtFuso", "ckDst"}};
+    const std::vector<std::vector<std::string_view>> declinazione{{"lblData", "txtDay", "txtMonth", "txtYear"},
+                                                                  {"lblUT", "txtHH", "txtMM", "txtSS"},
+                                                                  {"lblAngle", "txtAngle", "cmdInfo"},
+                                                                  {"lblFuso", "TxtFuso", "ckDst"}};
     int r = 0;
     for (const auto &riga : declinazione) {
         int k = 0;
@@ -233,7 +236,8 @@ void Moduli::istruzioni() {
         ponte_.Traduci("Appoggia alla parete una tavoletta orizzontale e traccia la perpendicolare alla parete."),
         ponte_.Traduci("Tieni un filo a piombo sopra la perpendicolare: la sua ombra fa con essa l'angolo az."),
         ponte_.Traduci("Guardando la parete, az è positivo se l'ombra cade a destra, negativo se cade a sinistra."),
-        ponte_.Traduci("Annota l'angolo in gradi, la data e l'ora in tempo universale (UT), scrivili nella tavola e premi Esegui."),
+        ponte_.Traduci(
+            "Annota l'angolo in gradi, la data e l'ora in tempo universale (UT), scrivili nella tavola e premi Esegui."),
         ponte_.Traduci("Ripeti in ore diverse: la media di più misure è più sicura di una sola."),
     };
     int n = 0;
@@ -283,7 +287,9 @@ void Moduli::informazioni() {
     ok->setDefault(true);
     QObject::connect(ok, &QPushButton::clicked, w, &QWidget::hide);
     QObject::connect(info, &QPushButton::clicked, w, [sistema, w] {
-        sistema->setText(QStringLiteral("%1, %2\nQt %3, %4").arg(QSysInfo::prettyProductName(), QSysInfo::currentCpuArchitecture(), QString::fromLatin1(qVersion()), QLocale::system().name()));
+        sistema->setText(QStringLiteral("%1, %2\nQt %3, %4")
+                             .arg(QSysInfo::prettyProductName(), QSysInfo::currentCpuArchitecture(),
+                                  QString::fromLatin1(qVersion()), QLocale::system().name()));
         sistema->setVisible(true);
         w->adjustSize();
     });

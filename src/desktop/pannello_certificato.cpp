@@ -21,7 +21,9 @@ namespace {
 // Numbers that sort as numbers.
 class Cifra final : public QTableWidgetItem {
 public:
-    Cifra(double valore, int decimali) : QTableWidgetItem(QString::number(valore, 'f', decimali)), valore_(valore) { setTextAlignment(Qt::AlignRight | Qt::AlignVCenter); }
+    Cifra(double valore, int decimali) : QTableWidgetItem(QString::number(valore, 'f', decimali)), valore_(valore) {
+        setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    }
     bool operator<(const QTableWidgetItem &altra) const override {
         const auto *c = dynamic_cast<const Cifra *>(&altra);
         return c ? valore_ < c->valore_ : QTableWidgetItem::operator<(altra);
@@ -31,18 +33,24 @@ private:
     double valore_;
 };
 
-constexpr std::array<std::string_view, 7> COLONNE{"Linea"_it,       "Lunga mm"_it,     "Scarto massimo mm"_it, "Scarto in tempo o angolo"_it,
-                                                  "Mancanti mm"_it, "Superflui mm"_it, "Esito"_it};
+constexpr std::array<std::string_view, 7> COLONNE{
+    "Linea"_it,        "Lunga mm"_it, "Scarto massimo mm"_it, "Scarto in tempo o angolo"_it, "Mancanti mm"_it,
+    "Superflui mm"_it, "Esito"_it};
 
 }  // namespace
 
 PannelloCertificato::PannelloCertificato(Ponte &ponte, Dialoghi &dialoghi, SopraFoglio &sopra, QWidget *genitore)
-    : QWidget(genitore), ponte_(ponte), dialoghi_(dialoghi), sopra_(sopra), custode_(this, [this](const DatiCertificato &d, const Certificato &c) { arrivato(d, c); }) {
+    : QWidget(genitore),
+      ponte_(ponte),
+      dialoghi_(dialoghi),
+      sopra_(sopra),
+      custode_(this, [this](const DatiCertificato &d, const Certificato &c) { arrivato(d, c); }) {
     setObjectName(QStringLiteral("pannelloCertificato"));
     distintivo_ = new QToolButton(this);
     distintivo_->setObjectName(QStringLiteral("distintivo"));
     distintivo_->setAutoRaise(true);
-    distintivo_->setToolTip(ponte_.Traduci("Ogni linea disegnata, riletta dall'ombra calcolata per vettori: premi per il certificato"));
+    distintivo_->setToolTip(
+        ponte_.Traduci("Ogni linea disegnata, riletta dall'ombra calcolata per vettori: premi per il certificato"));
     distintivo_->hide();
 
     auto *giu = new QVBoxLayout(this);
@@ -60,18 +68,21 @@ PannelloCertificato::PannelloCertificato(Ponte &ponte, Dialoghi &dialoghi, Sopra
         fila->addWidget(b);
         return b;
     };
-    correggi_ = bottone(ponte_.Traduci("Correggi"), ponte_.Traduci("Accende Geometria corretta e disegna di nuovo: ogni linea è allora quella vera"), [this] {
-        if (suCorreggi) suCorreggi();
-    });
-    stampa_ = bottone(ponte_.Traduci("Stampa il certificato..."), ponte_.Traduci("Una pagina con titolo, luogo, piano e data, da tenere col quadrante"), [this] {
-        dialoghi_.stampa(this, ponte_.Traduci("Certificato"), [testo = Q(pagina())](QPrinter &stampante) {
-            QTextDocument d;
-            d.setHtml(testo);
-            d.print(&stampante);
-        });
-    });
+    correggi_ = bottone(ponte_.Traduci("Correggi"),
+                        ponte_.Traduci("Accende Geometria corretta e disegna di nuovo: ogni linea è allora quella vera"), [this] {
+                            if (suCorreggi) suCorreggi();
+                        });
+    stampa_ = bottone(ponte_.Traduci("Stampa il certificato..."),
+                      ponte_.Traduci("Una pagina con titolo, luogo, piano e data, da tenere col quadrante"), [this] {
+                          dialoghi_.stampa(this, ponte_.Traduci("Certificato"), [testo = Q(pagina())](QPrinter &stampante) {
+                              QTextDocument d;
+                              d.setHtml(testo);
+                              d.print(&stampante);
+                          });
+                      });
     salva_ = bottone(ponte_.Traduci("Salva il certificato..."), ponte_.Traduci("La stessa pagina come file HTML"), [this] {
-        const auto f = dialoghi_.file(this, true, QStringLiteral("html"), QStringLiteral("*.html"), QStringLiteral("certificato.html"));
+        const auto f =
+            dialoghi_.file(this, true, QStringLiteral("html"), QStringLiteral("*.html"), QStringLiteral("certificato.html"));
         if (!f || f->isEmpty()) return;
         if (const auto errore = ScriviFile(f->toStdString(), pagina())) dialoghi_.avviso(this, Q(*errore));
     });
@@ -79,7 +90,8 @@ PannelloCertificato::PannelloCertificato(Ponte &ponte, Dialoghi &dialoghi, Sopra
     tavola_ = new QTableWidget(0, static_cast<int>(COLONNE.size()), this);
     tavola_->setObjectName(QStringLiteral("tavolaCertificato"));
     tavola_->setAccessibleName(ponte_.Traduci("Certificato"));
-    tavola_->setToolTip(ponte_.Traduci("Premi una riga: la linea si accende sul foglio, con un cerchio dov'è più lontana dal vero"));
+    tavola_->setToolTip(
+        ponte_.Traduci("Premi una riga: la linea si accende sul foglio, con un cerchio dov'è più lontana dal vero"));
     QStringList titoli;
     for (const std::string_view c : COLONNE) titoli << ponte_.Traduci(c);
     tavola_->setHorizontalHeaderLabels(titoli);
@@ -97,7 +109,8 @@ PannelloCertificato::PannelloCertificato(Ponte &ponte, Dialoghi &dialoghi, Sopra
 void PannelloCertificato::giudica() {
     const Sessione &s = ponte_.sessione();
     DatiCertificato dati = DatiDelCertificato(s);
-    if (const QString titolo = window()->windowTitle(); !titolo.isEmpty()) dati.titolo = titolo.section(QStringLiteral(" - "), 0, 0).remove(QStringLiteral("[*]")).trimmed().toStdString();
+    if (const QString titolo = window()->windowTitle(); !titolo.isEmpty())
+        dati.titolo = titolo.section(QStringLiteral(" - "), 0, 0).remove(QStringLiteral("[*]")).trimmed().toStdString();
     distintivo_->setEnabled(false);
     custode_.chiedi(std::move(dati), s.tavolo.lista());
 }
@@ -112,8 +125,12 @@ void PannelloCertificato::arrivato(const DatiCertificato &dati, const Certificat
     distintivo_->setText((c.vero() ? QStringLiteral("✓ ") : QStringLiteral("✗ ")) + detto);
     // Both hold 4.5 to 1 on the panel, light or dark.
     const bool scuro = palette().color(QPalette::Window).lightness() < 128;
-    distintivo_->setStyleSheet(QStringLiteral("QToolButton { font-weight: 600; color: %1; }").arg(c.vero() ? (scuro ? "#7fd49a" : "#17663a") : (scuro ? "#ff9a7a" : "#9a3b12")));
-    verdetto_->setText(qualcosa ? detto + (c.ignoti > 0 ? QStringLiteral("  ·  ") + ponte_.Traduci("%1 tratti senza pretesa").arg(c.ignoti) : QString()) : ponte_.Traduci("Nessun disegno da certificare"));
+    distintivo_->setStyleSheet(QStringLiteral("QToolButton { font-weight: 600; color: %1; }")
+                                   .arg(c.vero() ? (scuro ? "#7fd49a" : "#17663a") : (scuro ? "#ff9a7a" : "#9a3b12")));
+    verdetto_->setText(qualcosa ? detto + (c.ignoti > 0
+                                               ? QStringLiteral("  ·  ") + ponte_.Traduci("%1 tratti senza pretesa").arg(c.ignoti)
+                                               : QString())
+                                : ponte_.Traduci("Nessun disegno da certificare"));
     stampa_->setEnabled(qualcosa);
     salva_->setEnabled(qualcosa);
     correggi_->setEnabled(!c.vero() && ponte_.sessione().in.ckCorretta != 1);
@@ -134,7 +151,8 @@ void PannelloCertificato::arrivato(const DatiCertificato &dati, const Certificat
         tavola_->setItem(i, 3, naturale);
         tavola_->setItem(i, 4, new Cifra(r.mancanti, 1));
         tavola_->setItem(i, 5, new Cifra(r.superflui, 1));
-        auto *esito = new QTableWidgetItem(r.vera ? QStringLiteral("✓ ") + ponte_.Traduci("vera") : QStringLiteral("✗ ") + ponte_.Traduci("non vera"));
+        auto *esito = new QTableWidgetItem(r.vera ? QStringLiteral("✓ ") + ponte_.Traduci("vera")
+                                                  : QStringLiteral("✗ ") + ponte_.Traduci("non vera"));
         tavola_->setItem(i, 6, esito);
         if (!r.vera)
             for (int k = 0; k < tavola_->columnCount(); ++k) {
@@ -156,7 +174,9 @@ void PannelloCertificato::mostraRiga(int riga) {
     constexpr double UGUALE = 1e-9;
     for (const Pretesa &p : ponte_.sessione().tavolo.lista().pretese)
         if (p.specie == r.specie && std::fabs(p.valore - r.valore) < UGUALE) tratti.emplace_back(p.da, p.a);
-    sopra_.accendi(std::move(tratti), r.doppia ? std::vector<ombra::Punto>() : std::vector{ombra::Punto{r.xPeggiore, r.yPeggiore}}, dati_.posa.australe);
+    sopra_.accendi(std::move(tratti),
+                   r.doppia ? std::vector<ombra::Punto>() : std::vector{ombra::Punto{r.xPeggiore, r.yPeggiore}},
+                   dati_.posa.australe);
 }
 
 std::string PannelloCertificato::pagina() const { return CertificatoHtml(dati_, certificato_, &ponte_.sessione().dizionario); }

@@ -19,7 +19,9 @@ namespace {
 
 constexpr int STRATO = Qt::UserRole, VALORE = Qt::UserRole + 1, LINEA = Qt::UserRole + 2;
 
-std::pair<std::size_t, double> chiave(const QTreeWidgetItem *v) { return {v->data(0, STRATO).toULongLong(), v->data(0, VALORE).toDouble()}; }
+std::pair<std::size_t, double> chiave(const QTreeWidgetItem *v) {
+    return {v->data(0, STRATO).toULongLong(), v->data(0, VALORE).toDouble()};
+}
 
 QIcon campione(const QColor &tinta) {
     QPixmap q(14, 14);
@@ -29,7 +31,8 @@ QIcon campione(const QColor &tinta) {
 
 }  // namespace
 
-PannelloStrati::PannelloStrati(Ponte &ponte, Foglio &foglio, QWidget *genitore) : QWidget(genitore), ponte_(ponte), foglio_(foglio) {
+PannelloStrati::PannelloStrati(Ponte &ponte, Foglio &foglio, QWidget *genitore)
+    : QWidget(genitore), ponte_(ponte), foglio_(foglio) {
     auto *giu = new QVBoxLayout(this);
     giu->setContentsMargins(6, 6, 6, 6);
     albero_ = new QTreeWidget(this);
@@ -98,7 +101,8 @@ void PannelloStrati::mostraLegenda() {
         if (p.specie != Specie::Nessuna && p.specie != Specie::Etichetta) presenti.insert(Strato(p.specie));
     std::vector<std::pair<QString, QColor>> voci;
     for (const std::size_t i : presenti)
-        if (!foglio_.stile().strati[i].nascosto) voci.emplace_back(NomeStrato(ponte_.sessione(), i), TintaDi(foglio_.stile().strati[i].colore));
+        if (!foglio_.stile().strati[i].nascosto)
+            voci.emplace_back(NomeStrato(ponte_.sessione(), i), TintaDi(foglio_.stile().strati[i].colore));
     foglio_.legenda(std::move(voci));
 }
 
@@ -125,7 +129,8 @@ void PannelloStrati::riempi() {
         somma += l.metri;
         strato->setText(1, QString::number(somma * 1000, 'f', 0));
         if (l.strato == Strato(Specie::Nessuna)) continue;
-        auto *linea = new QTreeWidgetItem(strato, {NomeLinea(ponte_.sessione(), l.strato, l.valore), QString::number(l.metri * 1000, 'f', 0)});
+        auto *linea = new QTreeWidgetItem(
+            strato, {NomeLinea(ponte_.sessione(), l.strato, l.valore), QString::number(l.metri * 1000, 'f', 0)});
         linea->setData(0, STRATO, static_cast<qulonglong>(l.strato));
         linea->setData(0, VALORE, l.valore);
         linea->setData(0, LINEA, true);

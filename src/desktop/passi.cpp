@@ -61,7 +61,8 @@ private:
     bool fatto_ = false;
 };
 
-Passi::Passi(Sessione &s, QObject *genitore, std::function<void(bool)> rimesso) : QUndoStack(genitore), s_(s), rimesso_(std::move(rimesso)) {
+Passi::Passi(Sessione &s, QObject *genitore, std::function<void(bool)> rimesso)
+    : QUndoStack(genitore), s_(s), rimesso_(std::move(rimesso)) {
     constexpr int PASSI_MASSIMI = 200;
     setUndoLimit(PASSI_MASSIMI);
     ora_ = ritrai(false);
@@ -69,8 +70,21 @@ Passi::Passi(Sessione &s, QObject *genitore, std::function<void(bool)> rimesso) 
 
 std::shared_ptr<Passi::Istantanea> Passi::ritrai(bool segue) const {
     const Tavolo &t = s_.tavolo;
-    auto i = std::make_shared<Istantanea>(Istantanea{s_.in, s_.v, s_.stati, s_.titoli, t.pannello, t.QuadranteL(), t.QuadranteH(), t.ShiftX(), t.ShiftY(), t.FattoreX,
-                                                     t.FattoreY, t.Scala(), nullptr, {}, 0});
+    auto i = std::make_shared<Istantanea>(Istantanea{s_.in,
+                                                     s_.v,
+                                                     s_.stati,
+                                                     s_.titoli,
+                                                     t.pannello,
+                                                     t.QuadranteL(),
+                                                     t.QuadranteH(),
+                                                     t.ShiftX(),
+                                                     t.ShiftY(),
+                                                     t.FattoreX,
+                                                     t.FattoreY,
+                                                     t.Scala(),
+                                                     nullptr,
+                                                     {},
+                                                     0});
     std::string &f = i->impronta;
     const auto tavola = TavolaControlli();
     for (std::size_t k = 0; k < tavola.size(); ++k) {
@@ -82,13 +96,16 @@ std::shared_ptr<Passi::Istantanea> Passi::ritrai(bool segue) const {
         f += '\n';
     }
     for (const double x : {i->l, i->h, i->sx, i->sy, i->fx, i->fy, static_cast<double>(i->scala)}) f += std::to_string(x) + '\n';
-    for (const Reale Variabili::*v : {&Variabili::flagVerticale, &Variabili::flagTrasformato, &Variabili::lonEq}) f += std::to_string((s_.v.*v).numero()) + '\n';
+    for (const Reale Variabili::*v : {&Variabili::flagVerticale, &Variabili::flagTrasformato, &Variabili::lonEq})
+        f += std::to_string((s_.v.*v).numero()) + '\n';
     f += s_.titoli.empty() ? "" : s_.titolo("frmTavolo");
     if (!segue) {
         i->campione = campioneDi(t.lista());
         f += '\n' + std::to_string(i->campione);
         // A drawing that stays is kept once.
-        i->disegno = ora_ && ora_->disegno && ora_->campione == i->campione ? ora_->disegno : std::make_shared<const Tavolo::Disegno>(t.CopiaDisegno());
+        i->disegno = ora_ && ora_->disegno && ora_->campione == i->campione
+                         ? ora_->disegno
+                         : std::make_shared<const Tavolo::Disegno>(t.CopiaDisegno());
     }
     return i;
 }

@@ -117,24 +117,36 @@ QWidget *Ponte::crea(std::string_view nome, QWidget *genitore) {
     const IdControllo id = cerca(nome);
     QWidget *w = nullptr;
     switch (riga(id).classe) {
-        case Classe::Testo: w = new CampoTesto(*this, id, genitore); break;
-        case Classe::Casella: w = new QCheckBox(genitore); break;
+        case Classe::Testo:
+            w = new CampoTesto(*this, id, genitore);
+            break;
+        case Classe::Casella:
+            w = new QCheckBox(genitore);
+            break;
         case Classe::Opzione: {
             auto *o = new QRadioButton(genitore);
             o->setAutoExclusive(false);  // the session clears the others
             w = o;
             break;
         }
-        case Classe::Pulsante: w = new QPushButton(genitore); break;
+        case Classe::Pulsante:
+            w = new QPushButton(genitore);
+            break;
         case Classe::Etichetta: {
             auto *l = new QLabel(genitore);
             l->setTextFormat(Qt::PlainText);
             w = l;
             break;
         }
-        case Classe::Elenco: w = new QComboBox(genitore); break;
-        case Classe::Cornice: w = riga(id).caption.empty() ? new QWidget(genitore) : new QGroupBox(genitore); break;
-        default: w = new QWidget(genitore); break;
+        case Classe::Elenco:
+            w = new QComboBox(genitore);
+            break;
+        case Classe::Cornice:
+            w = riga(id).caption.empty() ? new QWidget(genitore) : new QGroupBox(genitore);
+            break;
+        default:
+            w = new QWidget(genitore);
+            break;
     }
     w->setObjectName(nomeOggetto(riga(id)));
     collega(id, w);
@@ -147,13 +159,15 @@ void Ponte::collega(IdControllo id, QWidget *w) {
     const auto premuto = [this, id] { fai(id, [&] { return app::Premi(s_, id); }); };
     if (auto *b = qobject_cast<QAbstractButton *>(w)) {
         if (riga(id).classe == Classe::Casella)
-            QObject::connect(b, &QAbstractButton::clicked, b, [this, id](bool su) { fai(id, [&] { app::Spunta(s_, id, su ? 1 : 0); }); });
-        else
-            QObject::connect(b, &QAbstractButton::clicked, b, premuto);
+            QObject::connect(b, &QAbstractButton::clicked, b,
+                             [this, id](bool su) { fai(id, [&] { app::Spunta(s_, id, su ? 1 : 0); }); });
+        else QObject::connect(b, &QAbstractButton::clicked, b, premuto);
     } else if (auto *c = qobject_cast<QComboBox *>(w)) {
-        QObject::connect(c, &QComboBox::textActivated, c, [this, id](const QString &v) { fai(id, [&] { app::Imposta(s_, id, v.toStdString()); }); });
+        QObject::connect(c, &QComboBox::textActivated, c,
+                         [this, id](const QString &v) { fai(id, [&] { app::Imposta(s_, id, v.toStdString()); }); });
     } else if (auto *e = qobject_cast<QLineEdit *>(w)) {
-        QObject::connect(e, &QLineEdit::textEdited, e, [this, id](const QString &v) { fai(id, [&] { app::Cambia(s_, id, v.toStdString()); }); });
+        QObject::connect(e, &QLineEdit::textEdited, e,
+                         [this, id](const QString &v) { fai(id, [&] { app::Cambia(s_, id, v.toStdString()); }); });
     }
 }
 
@@ -188,7 +202,8 @@ void Ponte::mostra(const Legame &l) {
             b->setChecked(s_.valore(l.id) == 1 && (stato.abilitato || !riga(l.id).casella));
         }
     } else if (auto *lab = qobject_cast<QLabel *>(w)) {
-        if (riga(l.id).classe == Classe::Etichetta) secambia(lab, riga(l.id).pannello ? Q(app::Didascalia(s_, l.id)) : Leggibile(stato.caption));
+        if (riga(l.id).classe == Classe::Etichetta)
+            secambia(lab, riga(l.id).pannello ? Q(app::Didascalia(s_, l.id)) : Leggibile(stato.caption));
     } else if (auto *g = qobject_cast<QGroupBox *>(w)) {
         if (g->title() != Leggibile(stato.caption)) g->setTitle(Leggibile(stato.caption));
     } else if (auto *p = qobject_cast<QPlainTextEdit *>(w)) {

@@ -50,9 +50,9 @@ public:
     // Asked before each action, which false keeps from happening; told after it.
     std::function<bool(IdControllo)> prima;
     std::function<void(IdControllo, const app::Esito &)> dopo;
-    QString passo;                          // name of the action in hand for the list of steps, when no control names it
+    QString passo;                                   // name of the action in hand for the list of steps, when no control names it
     std::function<void(bool memoria)> suInterrotto;  // an action ran out of memory, or its user stopped it
-    std::function<void()> suVirgolette;     // a double quote was typed: it would end the project's text
+    std::function<void()> suVirgolette;              // a double quote was typed: it would end the project's text
 
     [[nodiscard]] Sessione &sessione() { return s_; }
     // Through the dictionary.

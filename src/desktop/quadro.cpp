@@ -2,8 +2,8 @@
 #include "desktop/quadro.h"
 
 #include <QComboBox>
-#include <QGroupBox>
 #include <QGridLayout>
+#include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLineEdit>
 #include <QResizeEvent>
@@ -58,8 +58,10 @@ Quadro::Quadro(Ponte &ponte, QWidget *genitore) : QWidget(genitore), ponte_(pont
     colonna->addWidget(avviso_);
     colonna->addWidget(piede());
     pannelli_ = {
-        {pannello("PicAssi", {{"lblX", "txtX"}, {"lblY", "txtY"}, {"cmdAssiAgg", "cmdAssiChiudi"}}), findChild<QWidget *>("cmdAssi")},
-        {pannello("picDimensioni", {{"lblQL", "txtQL"}, {"lblQH", "txtQH"}, {"cmdQAggiorna", "cmdQAnnulla"}}), findChild<QWidget *>("cmdDim")},
+        {pannello("PicAssi", {{"lblX", "txtX"}, {"lblY", "txtY"}, {"cmdAssiAgg", "cmdAssiChiudi"}}),
+         findChild<QWidget *>("cmdAssi")},
+        {pannello("picDimensioni", {{"lblQL", "txtQL"}, {"lblQH", "txtQH"}, {"cmdQAggiorna", "cmdQAnnulla"}}),
+         findChild<QWidget *>("cmdDim")},
         {pannello("picPrint", {{"optAll"}, {"optSelected"}, {"cmdPOk", "cmdPCancel"}}), findChild<QWidget *>("cmdStampa")},
     };
     foglio_->suClic = [this](const QPointF &punto) { clic(punto); };
@@ -131,12 +133,14 @@ QWidget *Quadro::piede() {
     posizione_->setMinimumWidth(posizione_->fontMetrics().horizontalAdvance(QStringLiteral("x -00000.0   y -00000.0 mm")));
     posizione_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     fila->addWidget(posizione_);
-    for (const auto &[nome, aiuto] : {std::pair{"lblXYval", ponte_.Traduci("Ultimo punto premuto, millimetri: x verso destra, y verso il basso")},
-                                      std::pair{"lblDimVal", ponte_.Traduci("Foglio, metri")}, std::pair{"lblScala", ponte_.Traduci("Scala del foglio")}}) {
+    for (const auto &[nome, aiuto] :
+         {std::pair{"lblXYval", ponte_.Traduci("Ultimo punto premuto, millimetri: x verso destra, y verso il basso")},
+          std::pair{"lblDimVal", ponte_.Traduci("Foglio, metri")}, std::pair{"lblScala", ponte_.Traduci("Scala del foglio")}}) {
         fila->addWidget(riga(p));
         QWidget *w = ponte_.crea(intero(nome), p);
         w->setToolTip(aiuto);
-        w->setMinimumWidth(w->fontMetrics().horizontalAdvance(QString::fromLatin1(nome == std::string_view("lblScala") ? "1:100" : "-0000 : -0000")));
+        w->setMinimumWidth(w->fontMetrics().horizontalAdvance(
+            QString::fromLatin1(nome == std::string_view("lblScala") ? "1:100" : "-0000 : -0000")));
         fila->addWidget(w);
     }
     return p;
@@ -183,10 +187,14 @@ void Quadro::offri(const QString &testo, std::vector<Offerta> offerte) {
 }
 
 void Quadro::mostraAvviso() {
-    const auto legame = [](const QString &dove, const QString &testo) { return QStringLiteral(" &nbsp;<a href=\"%1\">%2</a>").arg(dove, testo.toHtmlEscaped()); };
+    const auto legame = [](const QString &dove, const QString &testo) {
+        return QStringLiteral(" &nbsp;<a href=\"%1\">%2</a>").arg(dove, testo.toHtmlEscaped());
+    };
     QString t = detto_.toHtmlEscaped();
     for (std::size_t i = 0; i < offerte_.size(); ++i) t += legame(QString::number(i), offerte_[i].testo);
-    if (t.isEmpty() && corniceFuori()) t = ponte_.Traduci("La cornice esce dal foglio:").toHtmlEscaped() + legame(QStringLiteral("a"), ponte_.Traduci("Adatta il foglio"));
+    if (t.isEmpty() && corniceFuori())
+        t = ponte_.Traduci("La cornice esce dal foglio:").toHtmlEscaped() +
+            legame(QStringLiteral("a"), ponte_.Traduci("Adatta il foglio"));
     avviso_->setText(t);
     avviso_->setVisible(!t.isEmpty());
 }
@@ -211,7 +219,8 @@ void Quadro::sotto(const QPointF &mondo) {
     if (s.tavolo.lista().pretese.empty()) return foglio_->fumetto({});
     QString testo;
     if (const auto linea = lineaPresso(mondo)) testo = NomeLinea(s, linea->strato, linea->valore);
-    if (const QString letto = LetturaDi(s, mondo); !letto.isEmpty()) testo += (testo.isEmpty() ? QString() : QStringLiteral("\n")) + letto;
+    if (const QString letto = LetturaDi(s, mondo); !letto.isEmpty())
+        testo += (testo.isEmpty() ? QString() : QStringLiteral("\n")) + letto;
     foglio_->fumetto(testo);
 }
 

@@ -35,7 +35,8 @@ void SopraFoglio::ombra(std::optional<Ombra> o) {
     update();
 }
 
-void SopraFoglio::accendi(std::vector<std::pair<std::size_t, std::size_t>> tratti, std::vector<ombra::Punto> segni, bool australe) {
+void SopraFoglio::accendi(std::vector<std::pair<std::size_t, std::size_t>> tratti, std::vector<ombra::Punto> segni,
+                          bool australe) {
     accese_ = std::move(tratti);
     segni_ = std::move(segni);
     australe_ = australe;
@@ -45,7 +46,8 @@ void SopraFoglio::accendi(std::vector<std::pair<std::size_t, std::size_t>> tratt
 
 QPointF SopraFoglio::dot(double x, double y) const {
     const double k = Tavolo::ScalaBase / tavolo_.Scala() * foglio_.vista().fattore;
-    return foglio_.vista().origine + k * QPointF(x * tavolo_.FattoreX + tavolo_.ShiftX(), y * tavolo_.FattoreY + tavolo_.ShiftY());
+    return foglio_.vista().origine +
+           k * QPointF(x * tavolo_.FattoreX + tavolo_.ShiftX(), y * tavolo_.FattoreY + tavolo_.ShiftY());
 }
 
 void SopraFoglio::paintEvent(QPaintEvent *) {
@@ -65,7 +67,8 @@ void SopraFoglio::dipingiOmbra(QPainter &p) const {
     if (r.a != 0 || r.b != 0) {
         const ombra::Punto qui{r.c * r.a, r.c * r.b};
         p.setPen(QPen(STILO, 1.2, Qt::DashLine));
-        p.drawLine(dot({qui.x - LONTANO * r.b, qui.y + LONTANO * r.a}, o.australe), dot({qui.x + LONTANO * r.b, qui.y - LONTANO * r.a}, o.australe));
+        p.drawLine(dot({qui.x - LONTANO * r.b, qui.y + LONTANO * r.a}, o.australe),
+                   dot({qui.x + LONTANO * r.b, qui.y - LONTANO * r.a}, o.australe));
     }
     if (o.centro && std::hypot(o.centro->x, o.centro->y) < LONTANO) {
         p.setPen(QPen(STILO, 4, Qt::SolidLine, Qt::RoundCap));
@@ -88,7 +91,8 @@ void SopraFoglio::dipingiAccese(QPainter &p) const {
         for (const auto &[da, a] : accese_) {
             for (; i < std::min(a, l.Ordine.size()); ++i) {
                 const char tipo = l.Ordine[i];
-                if (i >= da && tipo == 'L' && linea < l.Linee.size()) p.drawLine(dot(l.Linee[linea].X1, l.Linee[linea].Y1), dot(l.Linee[linea].X2, l.Linee[linea].Y2));
+                if (i >= da && tipo == 'L' && linea < l.Linee.size())
+                    p.drawLine(dot(l.Linee[linea].X1, l.Linee[linea].Y1), dot(l.Linee[linea].X2, l.Linee[linea].Y2));
                 if (i >= da && tipo == 'P' && punto < l.Punti.size()) p.drawPoint(dot(l.Punti[punto].X, l.Punti[punto].Y));
                 linea += tipo == 'L';
                 punto += tipo == 'P';

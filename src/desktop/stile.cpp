@@ -15,10 +15,13 @@ namespace {
 
 // Colours of a theme by name; the sheet of style names them with a $.
 struct Tinte {
-    const char *finestra, *testo, *base, *pannello, *bordo, *filo, *spento, *fondoSpento, *titolo, *accento, *accentoScuro, *suAccento, *premuto, *barra, *testata, *avviso, *fondoAvviso, *legame;
+    const char *finestra, *testo, *base, *pannello, *bordo, *filo, *spento, *fondoSpento, *titolo, *accento, *accentoScuro,
+        *suAccento, *premuto, *barra, *testata, *avviso, *fondoAvviso, *legame;
 };
-constexpr Tinte CHIARO{"#f4f5f5", "#22272c", "#ffffff", "#fcfcfb", "#8b939b", "#d5d9de", "#6f767d", "#eceeef", "#6b4e0b", "#8a5a00", "#6f4800", "#ffffff", "#f3ead6", "#f4f5f5", "#e9ebec", "#7c2d0c", "#fff6df", "#7a4f00"};
-constexpr Tinte SCURO{"#20262d", "#e4e8ec", "#171c22", "#262d35", "#7b858f", "#3a434c", "#8f98a1", "#2a3038", "#e3b85a", "#e0a63a", "#f0bd5c", "#1a1408", "#3b3424", "#20262d", "#2a3139", "#ffc69e", "#3a3220", "#f0bd5c"};
+constexpr Tinte CHIARO{"#f4f5f5", "#22272c", "#ffffff", "#fcfcfb", "#8b939b", "#d5d9de", "#6f767d", "#eceeef", "#6b4e0b",
+                       "#8a5a00", "#6f4800", "#ffffff", "#f3ead6", "#f4f5f5", "#e9ebec", "#7c2d0c", "#fff6df", "#7a4f00"};
+constexpr Tinte SCURO{"#20262d", "#e4e8ec", "#171c22", "#262d35", "#7b858f", "#3a434c", "#8f98a1", "#2a3038", "#e3b85a",
+                      "#e0a63a", "#f0bd5c", "#1a1408", "#3b3424", "#20262d", "#2a3139", "#ffc69e", "#3a3220", "#f0bd5c"};
 
 constexpr auto FOGLIO = R"(
 QWidget#piega { background: transparent; }
@@ -66,9 +69,23 @@ bool scuroInVigore = false;
 QString foglioDi(const Tinte &t) {
     QString f = QString::fromLatin1(FOGLIO);
     // The longer name of two goes first.
-    for (const auto &[nome, tinta] : {std::pair{"$accentoScuro", t.accentoScuro}, {"$accento", t.accento}, {"$suAccento", t.suAccento}, {"$fondoSpento", t.fondoSpento}, {"$fondoAvviso", t.fondoAvviso},
-                                      {"$finestra", t.finestra}, {"$testata", t.testata}, {"$testo", t.testo}, {"$base", t.base}, {"$pannello", t.pannello}, {"$bordo", t.bordo}, {"$filo", t.filo},
-                                      {"$spento", t.spento}, {"$titolo", t.titolo}, {"$premuto", t.premuto}, {"$barra", t.barra}, {"$avviso", t.avviso}})
+    for (const auto &[nome, tinta] : {std::pair{"$accentoScuro", t.accentoScuro},
+                                      {"$accento", t.accento},
+                                      {"$suAccento", t.suAccento},
+                                      {"$fondoSpento", t.fondoSpento},
+                                      {"$fondoAvviso", t.fondoAvviso},
+                                      {"$finestra", t.finestra},
+                                      {"$testata", t.testata},
+                                      {"$testo", t.testo},
+                                      {"$base", t.base},
+                                      {"$pannello", t.pannello},
+                                      {"$bordo", t.bordo},
+                                      {"$filo", t.filo},
+                                      {"$spento", t.spento},
+                                      {"$titolo", t.titolo},
+                                      {"$premuto", t.premuto},
+                                      {"$barra", t.barra},
+                                      {"$avviso", t.avviso}})
         f.replace(QLatin1String(nome), QLatin1String(tinta));
     return f;
 }
@@ -84,11 +101,24 @@ void VestiApplicazione(QApplication &a, Tema tema) {
     const auto c = [](const char *tinta) { return QColor(QLatin1String(tinta)); };
     a.setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     QPalette p;
-    for (const auto &[ruolo, tinta] : {std::pair{QPalette::Window, t.finestra}, {QPalette::WindowText, t.testo}, {QPalette::Base, t.base}, {QPalette::AlternateBase, t.pannello}, {QPalette::Text, t.testo},
-                                       {QPalette::Button, t.testata}, {QPalette::ButtonText, t.testo}, {QPalette::BrightText, t.suAccento}, {QPalette::Highlight, t.accento}, {QPalette::HighlightedText, t.suAccento},
-                                       {QPalette::Link, t.legame}, {QPalette::LinkVisited, t.legame}, {QPalette::ToolTipBase, t.fondoAvviso}, {QPalette::ToolTipText, t.testo}, {QPalette::PlaceholderText, t.spento}})
+    for (const auto &[ruolo, tinta] : {std::pair{QPalette::Window, t.finestra},
+                                       {QPalette::WindowText, t.testo},
+                                       {QPalette::Base, t.base},
+                                       {QPalette::AlternateBase, t.pannello},
+                                       {QPalette::Text, t.testo},
+                                       {QPalette::Button, t.testata},
+                                       {QPalette::ButtonText, t.testo},
+                                       {QPalette::BrightText, t.suAccento},
+                                       {QPalette::Highlight, t.accento},
+                                       {QPalette::HighlightedText, t.suAccento},
+                                       {QPalette::Link, t.legame},
+                                       {QPalette::LinkVisited, t.legame},
+                                       {QPalette::ToolTipBase, t.fondoAvviso},
+                                       {QPalette::ToolTipText, t.testo},
+                                       {QPalette::PlaceholderText, t.spento}})
         p.setColor(ruolo, c(tinta));
-    for (const auto ruolo : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) p.setColor(QPalette::Disabled, ruolo, c(t.spento));
+    for (const auto ruolo : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        p.setColor(QPalette::Disabled, ruolo, c(t.spento));
     a.setPalette(p);
     a.setStyleSheet(foglioDi(t));
     a.setWindowIcon(Icona());

@@ -84,7 +84,9 @@ StileFoglio StileDi(bool scuro) {
 }
 
 bool Ritoccato(const StileFoglio &stile) {
-    return !stile.nascoste.empty() || std::any_of(stile.strati.begin(), stile.strati.end(), [](const StileFoglio::Tratto &t) { return t.nascosto || t.mio || t.spessore > 0; });
+    return !stile.nascoste.empty() || std::any_of(stile.strati.begin(), stile.strati.end(), [](const StileFoglio::Tratto &t) {
+        return t.nascosto || t.mio || t.spessore > 0;
+    });
 }
 
 Tavolo::Disegno Vesti(const Tavolo &t, const StileFoglio &stile, bool perCarta) {
@@ -156,8 +158,8 @@ std::optional<Linea> LineaSotto(const Tavolo &t, const StileFoglio &stile, const
         double d = vicino;
         if (tipo == 'L') {
             const RecLinea &r = l.Linee[k];
-            if (std::min(r.X1, r.X2) > qui.x() + vicino || std::max(r.X1, r.X2) < qui.x() - vicino || std::min(r.Y1, r.Y2) > qui.y() + vicino ||
-                std::max(r.Y1, r.Y2) < qui.y() - vicino)
+            if (std::min(r.X1, r.X2) > qui.x() + vicino || std::max(r.X1, r.X2) < qui.x() - vicino ||
+                std::min(r.Y1, r.Y2) > qui.y() + vicino || std::max(r.Y1, r.Y2) < qui.y() - vicino)
                 return;
             d = lontano(qui, {r.X1, r.Y1}, {r.X2, r.Y2});
         } else {
@@ -180,12 +182,16 @@ QString NomeLinea(const Sessione &s, std::size_t strato, double valore) {
         case Specie::Ora:
         case Specie::Italica:
         case Specie::Babilonica:
-        case Specie::Analemma: return nome + QLatin1Char(' ') + oreMinuti(valore);
-        case Specie::Temporaria: return nome + QLatin1Char(' ') + QString::number(valore);
+        case Specie::Analemma:
+            return nome + QLatin1Char(' ') + oreMinuti(valore);
+        case Specie::Temporaria:
+            return nome + QLatin1Char(' ') + QString::number(valore);
         case Specie::Diurna:
         case Specie::Almucantarat:
-        case Specie::Azimut: return nome + QLatin1Char(' ') + gradi(valore);
-        default: return nome;
+        case Specie::Azimut:
+            return nome + QLatin1Char(' ') + gradi(valore);
+        default:
+            return nome;
     }
 }
 
@@ -201,8 +207,9 @@ QString LetturaDi(const Sessione &s, const QPointF &punto) {
     QStringList date;
     for (const ombra::Data &d : l.date) date << QStringLiteral("%1/%2").arg(d.giorno).arg(d.mese);
     if (!date.isEmpty()) testo += QStringLiteral("   ") + t("giorni"_it) + QLatin1Char(' ') + date.join(QStringLiteral(", "));
-    testo += QStringLiteral("   δ ") + gradi(l.sole.delta * ombra::GRADI) + QStringLiteral("   ") + t("altezza"_it) + QLatin1Char(' ') + gradi(l.sole.altezza * ombra::GRADI) +
-             QStringLiteral("   ") + t("azimut"_it) + QLatin1Char(' ') + gradi(l.sole.azimut * ombra::GRADI);
+    testo += QStringLiteral("   δ ") + gradi(l.sole.delta * ombra::GRADI) + QStringLiteral("   ") + t("altezza"_it) +
+             QLatin1Char(' ') + gradi(l.sole.altezza * ombra::GRADI) + QStringLiteral("   ") + t("azimut"_it) + QLatin1Char(' ') +
+             gradi(l.sole.azimut * ombra::GRADI);
     return testo;
 }
 

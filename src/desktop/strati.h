@@ -29,8 +29,8 @@ struct StileFoglio {
     };
     bool scuro = false;
     std::array<Tratto, STRATI> strati{};
-    std::set<std::pair<std::size_t, double>> nascoste;           // single lines: layer and value
-    std::optional<std::pair<std::size_t, double>> scelta;        // the chosen line
+    std::set<std::pair<std::size_t, double>> nascoste;     // single lines: layer and value
+    std::optional<std::pair<std::size_t, double>> scelta;  // the chosen line
     bool operator==(const StileFoglio &) const = default;
 };
 

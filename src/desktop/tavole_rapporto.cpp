@@ -52,7 +52,8 @@ bool comincia(const std::string &colonna, std::initializer_list<std::string_view
 
 }  // namespace
 
-TavoleRapporto::TavoleRapporto(Ponte &ponte, Dialoghi &dialoghi, QWidget *testo, QWidget *genitore) : QTabWidget(genitore), ponte_(ponte), dialoghi_(dialoghi) {
+TavoleRapporto::TavoleRapporto(Ponte &ponte, Dialoghi &dialoghi, QWidget *testo, QWidget *genitore)
+    : QTabWidget(genitore), ponte_(ponte), dialoghi_(dialoghi) {
     setDocumentMode(true);
     pagina_ = new QWidget(this);
     auto *giu = new QVBoxLayout(pagina_);
@@ -84,7 +85,8 @@ TavoleRapporto::TavoleRapporto(Ponte &ponte, Dialoghi &dialoghi, QWidget *testo,
     };
     bottone(ponte_.Traduci("Copia"), ponte_.Traduci("Le righe scelte, o tutte, negli appunti (Ctrl+C)"), [this] { copia(); });
     for (const char *forma : {"csv", "html", "pdf"})
-        bottone(QString::fromLatin1(forma).toUpper(), ponte_.Traduci("Scrive il rapporto intero in un file"), [this, forma] { salva(QString::fromLatin1(forma)); });
+        bottone(QString::fromLatin1(forma).toUpper(), ponte_.Traduci("Scrive il rapporto intero in un file"),
+                [this, forma] { salva(QString::fromLatin1(forma)); });
 
     modello_ = new QStandardItemModel(this);
     filtro_ = new QSortFilterProxyModel(this);
@@ -137,7 +139,9 @@ void TavoleRapporto::mostra(const Rapporto &r) {
         int n = 0;
         for (const reports::Blocco &b : blocchi_) {
             ++n;
-            quale_->addItem(!b.titolo.empty() ? Q(b.titolo) : b.tabella < 0 ? QStringLiteral("%1. ").arg(n) + ponte_.Traduci("Valori") : QStringLiteral("%1").arg(n));
+            quale_->addItem(!b.titolo.empty() ? Q(b.titolo)
+                            : b.tabella < 0   ? QStringLiteral("%1. ").arg(n) + ponte_.Traduci("Valori")
+                                              : QStringLiteral("%1").arg(n));
         }
     }
     // The first block of more than a few rows is what the reader came for.
@@ -178,7 +182,8 @@ void TavoleRapporto::riempi(int quale) {
 bool TavoleRapporto::eventFilter(QObject *chi, QEvent *e) {
     if (e->type() == QEvent::Resize || e->type() == QEvent::Show) {
         prima_->horizontalHeader()->setFixedHeight(tavola_->horizontalHeader()->height());
-        prima_->setGeometry(tavola_->frameWidth(), tavola_->frameWidth(), tavola_->columnWidth(0), tavola_->viewport()->height() + tavola_->horizontalHeader()->height());
+        prima_->setGeometry(tavola_->frameWidth(), tavola_->frameWidth(), tavola_->columnWidth(0),
+                            tavola_->viewport()->height() + tavola_->horizontalHeader()->height());
     }
     if (e->type() == QEvent::ShortcutOverride || e->type() == QEvent::KeyPress) {
         auto *tasto = dynamic_cast<QKeyEvent *>(e);
@@ -213,7 +218,8 @@ void TavoleRapporto::copia() {
 }
 
 void TavoleRapporto::salva(const QString &forma) {
-    const auto f = dialoghi_.file(this, true, forma, QStringLiteral("*.") + forma, Q(rapporto_.modulo) + QLatin1Char('.') + forma);
+    const auto f =
+        dialoghi_.file(this, true, forma, QStringLiteral("*.") + forma, Q(rapporto_.modulo) + QLatin1Char('.') + forma);
     if (!f || f->isEmpty()) return;
     if (forma == QStringLiteral("pdf")) {
         QPdfWriter pdf(*f);
@@ -227,7 +233,9 @@ void TavoleRapporto::salva(const QString &forma) {
         d.print(&pdf);
         return;
     }
-    if (const auto errore = ScriviFile(f->toStdString(), forma == QStringLiteral("csv") ? reports::RapportoCsv(rapporto_) : reports::RapportoHtml(rapporto_))) dialoghi_.avviso(this, Q(*errore));
+    if (const auto errore = ScriviFile(f->toStdString(), forma == QStringLiteral("csv") ? reports::RapportoCsv(rapporto_)
+                                                                                        : reports::RapportoHtml(rapporto_)))
+        dialoghi_.avviso(this, Q(*errore));
 }
 
 // An abscissa with an ordinate beside it is a point of the drawing.
@@ -239,7 +247,9 @@ void TavoleRapporto::scelta() {
     const auto &riga = b.righe[static_cast<std::size_t>(filtro_->mapToSource(i).row())];
     std::vector<ombra::Punto> punti;
     for (std::size_t c = 0; c + 1 < std::min(riga.size(), b.colonne.size()); ++c) {
-        if (!comincia(b.colonne[c], {"ascissa", "abscisse", "abscissa"}) || !comincia(b.colonne[c + 1], {"ordinata", "ordonnée", "ordinate"})) continue;
+        if (!comincia(b.colonne[c], {"ascissa", "abscisse", "abscissa"}) ||
+            !comincia(b.colonne[c + 1], {"ordinata", "ordonnée", "ordinate"}))
+            continue;
         bool x = false, y = false;
         const ombra::Punto p{Q(riga[c]).toDouble(&x), Q(riga[c + 1]).toDouble(&y)};
         if (x && y) punti.push_back(p);

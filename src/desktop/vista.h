@@ -13,10 +13,10 @@
 namespace ombrelia::desktop {
 
 struct Vista {
-    QSize misura;           // of the window's picture, in its own dots
-    double rapporto = 1;    // dots of the screen in one of those
-    double fattore = 1;     // dots in a device unit of the sheet
-    QPointF origine;        // of the sheet's top left corner, in dots
+    QSize misura;         // of the window's picture, in its own dots
+    double rapporto = 1;  // dots of the screen in one of those
+    double fattore = 1;   // dots in a device unit of the sheet
+    QPointF origine;      // of the sheet's top left corner, in dots
     StileFoglio stile;
     bool operator==(const Vista &) const = default;
 

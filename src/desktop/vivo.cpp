@@ -70,7 +70,8 @@ void Vivo::ferma() {
 
 void Vivo::chiedi(const Sessione &s, const Vista &vista) {
     const Tavolo &t = s.tavolo;
-    Richiesta r{s.in, s.v, s.stati, t.QuadranteL(), t.QuadranteH(), t.ShiftX(), t.ShiftY(), t.Scala(), t.FattoreX, t.FattoreY, vista};
+    Richiesta r{s.in,       s.v,       s.stati,    t.QuadranteL(), t.QuadranteH(), t.ShiftX(),
+                t.ShiftY(), t.Scala(), t.FattoreX, t.FattoreY,     vista};
     {
         const std::lock_guard chiave(mutex_);
         prossima_ = std::move(r);
@@ -115,7 +116,8 @@ void Vivo::lavora() {
             t.dispositivo = &guardia;
             for (const Controllo &c : ControlliDi("MDIForm1"))
                 if (c.classe == Classe::Casella && c.casella && !s.stato(IdDi(c)).abilitato) s.in.*c.casella = 0;
-            const bool disegnati = s.in.CkUNI == 1 && Val(s.in.txtInc) == 0 && Val(s.in.txtLAT) >= 0;  // that run draws the numerals
+            const bool disegnati =
+                s.in.CkUNI == 1 && Val(s.in.txtInc) == 0 && Val(s.in.txtLAT) >= 0;  // that run draws the numerals
             app::cmdRun(s);
             // These boxes draw when they are set.
             for (const std::string_view nome : {"ckRomani", "ckArabi"}) {

@@ -44,9 +44,9 @@ void TracciaRetteOrarie(Corsa &c, const LineeAttese &linee);
 void LineeItaliche(const Corsa &c, LineeAttese &linee);
 void LineeBabiloniche(const Corsa &c, LineeAttese &linee);
 void LineeTemporarie(const Corsa &c, LineeAttese &linee);
-void TracciaOreItaliche(Corsa &c, const LineeAttese &linee);    // hours from sunset
-void TracciaOreBabiloniche(Corsa &c, const LineeAttese &linee); // hours from sunrise
-void TracciaOreTemporarie(Corsa &c, const LineeAttese &linee);  // twelfths of the day
+void TracciaOreItaliche(Corsa &c, const LineeAttese &linee);     // hours from sunset
+void TracciaOreBabiloniche(Corsa &c, const LineeAttese &linee);  // hours from sunrise
+void TracciaOreTemporarie(Corsa &c, const LineeAttese &linee);   // twelfths of the day
 void LineeDiurne(const Corsa &c, LineeAttese &linee);
 void TracciaLineeDiurne(Corsa &c, const LineeAttese &linee);
 void TracciaEquinoziale(Corsa &c, const LineeAttese &linee);

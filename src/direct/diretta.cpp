@@ -87,14 +87,21 @@ using Riga = Caratteristica<Corsa>;
 
 constexpr Riga CARATTERISTICHE[] = {
     {&In::chkOreAstronomiche, Specie::Ora, "true hours, halves and quarters", LineeOrarie, TracciaRetteOrarie, nullptr, cornice},
-    {&In::Ck_DayLightCurves, Specie::Diurna, "days of solstice, signs and choice", LineeDiurne, TracciaLineeDiurne, nullptr, cornice},
+    {&In::Ck_DayLightCurves, Specie::Diurna, "days of solstice, signs and choice", LineeDiurne, TracciaLineeDiurne, nullptr,
+     cornice},
     {&In::ck_Equinoziale, Specie::Equinoziale, "the equinoctial",
-     [](const Corsa &, LineeAttese &l) { l.push_back({0, 0, "equinox", QB(9)}); }, TracciaEquinoziale},
+     [](const Corsa &, LineeAttese &l) {
+         l.push_back({0, 0, "equinox", QB(9)});
+     },
+     TracciaEquinoziale},
     {&In::ck_Italiche, Specie::Italica, "hours from sunset", LineeItaliche, TracciaOreItaliche},
     {&In::ck_babiloniche, Specie::Babilonica, "hours from sunrise", LineeBabiloniche, TracciaOreBabiloniche},
     {&In::ckTemp, Specie::Temporaria, "twelfths of the day", LineeTemporarie, TracciaOreTemporarie},
     {&In::ck_Sustilare, Specie::OraSustilare, "hour line of the substyle",
-     [](const Corsa &, LineeAttese &l) { l.push_back({0, 0, "substyle hour", QB(9)}); }, TracciaSustilare},
+     [](const Corsa &, LineeAttese &l) {
+         l.push_back({0, 0, "substyle hour", QB(9)});
+     },
+     TracciaSustilare},
     {&In::ck_Triangolo, Specie::Stilo, "triangle of the polar style",
      [](const Corsa &, LineeAttese &l) {
          l.push_back({0, 0, "polar style", QB(9)});
@@ -106,8 +113,13 @@ constexpr Riga CARATTERISTICHE[] = {
     {&In::ckZodiac, Specie::Nessuna, "signs of the zodiac", nullptr, zodiaco},
     {&In::ckAlt, Specie::Almucantarat, "equal altitudes", [](const Corsa &c, LineeAttese &l) { LineeAlmucantarat(c.letto, l); },
      almucantarat},
-    {&In::ck_Lemniscate, Specie::Analemma, "mean noon of the zone", LineeLemniscata, TracciaLemniscata, nullptr, PreparaLemniscata},
-    {&In::ckAsr, Specie::Asr, "afternoon prayer", [](const Corsa &, LineeAttese &l) { l.push_back({0, 1, "", QB(7)}); }, TracciaAsr},
+    {&In::ck_Lemniscate, Specie::Analemma, "mean noon of the zone", LineeLemniscata, TracciaLemniscata, nullptr,
+     PreparaLemniscata},
+    {&In::ckAsr, Specie::Asr, "afternoon prayer",
+     [](const Corsa &, LineeAttese &l) {
+         l.push_back({0, 1, "", QB(7)});
+     },
+     TracciaAsr},
 };
 
 // After the Qibla and the centre.

@@ -12,7 +12,11 @@ namespace ombrelia {
 class Sbarramento {
 public:
     Sbarramento(const Cornice &c, const Variabili &v)
-        : xMin_(c.xMin.numero()), xMax_(c.xMax.numero()), yMin_(c.yMin.numero()), yMax_(c.yMax.numero()), yOriz_(v.yOriz.numero()),
+        : xMin_(c.xMin.numero()),
+          xMax_(c.xMax.numero()),
+          yMin_(c.yMin.numero()),
+          yMax_(c.yMax.numero()),
+          yOriz_(v.yOriz.numero()),
           sotto_(v.incR < PI / 2.0) {}
     // Variables have a value, so plain comparisons do.
     [[nodiscard]] bool operator()(Reale X, Reale Y) const {

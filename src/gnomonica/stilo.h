@@ -23,8 +23,18 @@ inline Valore SegnoLatitudine(Valore lat) { return lat == 0 ? Valore(1) : Sgn(la
 // triangle of pole, zenith and plane's normal (Rohr, Sundials). Departure: the program's ten digits of PI.
 struct Piano {
     Piano(Valore phi_, Valore g_, Valore i_, Valore gn_, Valore unita_)
-        : phi(phi_), g(g_), i(i_), gn(gn_), unita(unita_), sphi(sin(phi)), cphi(cos(phi)), tphi(tan(phi)), sg(sin(g)),
-          cg(cos(g)), si(sin(i)), ci(cos(i)) {}
+        : phi(phi_),
+          g(g_),
+          i(i_),
+          gn(gn_),
+          unita(unita_),
+          sphi(sin(phi)),
+          cphi(cos(phi)),
+          tphi(tan(phi)),
+          sg(sin(g)),
+          cg(cos(g)),
+          si(sin(i)),
+          ci(cos(i)) {}
     // The plane of the shared variables, as they stand.
     explicit Piano(const Variabili &v) : Piano(v.latR, v.decR, v.incR, v.gn, v.unita) {}
 

@@ -46,7 +46,11 @@ std::string testoDi(std::string_view nome) {
 class Contorni {
 public:
     explicit Contorni(Sessione &s)
-        : s_((LeggiUnita(s), s)), cornice_(LeggiCornice(s)), filtro_(Val(s.in.Filtertxt)), zenit_(s), strato_(s.tavolo.nome("")) {}
+        : s_((LeggiUnita(s), s)),
+          cornice_(LeggiCornice(s)),
+          filtro_(Val(s.in.Filtertxt)),
+          zenit_(s),
+          strato_(s.tavolo.nome("")) {}
 
     // Only a point in front of the plane is stored and joined to the one before; what lies behind leaves its place as
     // an earlier run left it, so a coast that comes out of the night may start from a stale point. The filter drops that.

@@ -88,23 +88,39 @@ Genere GenereDi(Specie specie, double valore) {
             return minuti < 0.5 ? Ore : std::fabs(minuti - 30) < 0.5 ? MezzeOre : Quarti;
         }
         case Specie::Diurna:
-        case Specie::Tacca: return valore == 0 ? Equinoziale : Diurne;
-        case Specie::Equinoziale: return Equinoziale;
-        case Specie::Italica: return Italiche;
-        case Specie::Babilonica: return Babiloniche;
-        case Specie::Temporaria: return Temporarie;
-        case Specie::Almucantarat: return Almucantarat;
-        case Specie::Azimut: return Azimutali;
-        case Specie::Asr: return Asr;
-        case Specie::Qibla: return Qibla;
-        case Specie::Analemma: return Analemma;
-        case Specie::Mezzogiorno: return Mezzogiorno;
+        case Specie::Tacca:
+            return valore == 0 ? Equinoziale : Diurne;
+        case Specie::Equinoziale:
+            return Equinoziale;
+        case Specie::Italica:
+            return Italiche;
+        case Specie::Babilonica:
+            return Babiloniche;
+        case Specie::Temporaria:
+            return Temporarie;
+        case Specie::Almucantarat:
+            return Almucantarat;
+        case Specie::Azimut:
+            return Azimutali;
+        case Specie::Asr:
+            return Asr;
+        case Specie::Qibla:
+            return Qibla;
+        case Specie::Analemma:
+            return Analemma;
+        case Specie::Mezzogiorno:
+            return Mezzogiorno;
         case Specie::OraSustilare:
-        case Specie::Sustilare: return Sustilare;
-        case Specie::Orizzonte: return Orizzonte;
-        case Specie::Stilo: return Stilo;
-        case Specie::Etichetta: return Etichette;
-        case Specie::Nessuna: break;
+        case Specie::Sustilare:
+            return Sustilare;
+        case Specie::Orizzonte:
+            return Orizzonte;
+        case Specie::Stilo:
+            return Stilo;
+        case Specie::Etichetta:
+            return Etichette;
+        case Specie::Nessuna:
+            break;
     }
     return Altro;
 }

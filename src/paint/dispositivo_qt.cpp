@@ -18,7 +18,8 @@ constexpr Colore NESSUNO = -1;
 DispositivoQt::DispositivoQt(QPainter &pittore, Supporto supporto, const Posa &posa)
     : pittore_(pittore), supporto_(supporto), posa_(posa) {
     if (supporto != Supporto::Carta && !posa.vista.isEmpty())
-        celle_.assign(static_cast<std::size_t>(posa.vista.width() + 1) * static_cast<std::size_t>(posa.vista.height() + 1), NESSUNO);
+        celle_.assign(static_cast<std::size_t>(posa.vista.width() + 1) * static_cast<std::size_t>(posa.vista.height() + 1),
+                      NESSUNO);
 }
 
 bool DispositivoQt::fuori(const QPointF &a, const QPointF &b) const {
@@ -195,14 +196,17 @@ void DispositivoQt::Cerchio(double x, double y, double raggio, Colore colore, Co
     if (arco < 0) arco += GIRO;
     constexpr double INTERO = 1e-6, SEDICESIMI = 16 * 180 / std::numbers::pi;
     if (fine == 0 || arco < INTERO || arco > GIRO - INTERO) pittore_.drawEllipse(dove);
-    else pittore_.drawArc(dove, static_cast<int>(std::lround(std::fmod(inizio, GIRO) * SEDICESIMI)), static_cast<int>(std::lround(arco * SEDICESIMI)));
+    else
+        pittore_.drawArc(dove, static_cast<int>(std::lround(std::fmod(inizio, GIRO) * SEDICESIMI)),
+                         static_cast<int>(std::lround(arco * SEDICESIMI)));
     pittore_.setBrush(Qt::NoBrush);
 }
 
 void DispositivoQt::Testo(double x, double y, std::string_view testo, Colore colore) {
     vuota();
     const QPointF p = porta(x, y);
-    if (!posa_.vista.isEmpty() && (p.y() > posa_.vista.bottom() || p.x() > posa_.vista.right() || p.y() + 2 * posa_.corpo < posa_.vista.top()))
+    if (!posa_.vista.isEmpty() &&
+        (p.y() > posa_.vista.bottom() || p.x() > posa_.vista.right() || p.y() + 2 * posa_.corpo < posa_.vista.top()))
         return;
     QFont f = pittore_.font();
     constexpr double MINIMO = 1;

@@ -15,13 +15,13 @@ namespace ombrelia::paint {
 
 // How device units lie on a painter, in the painter's own units.
 struct Posa {
-    double fattore = 1;         // painter units of a device unit
-    double x0 = 0, y0 = 0;      // where the sheet's top left corner lies
-    double penna = 1;           // stroke of width 1
-    double punto = 1.5;         // diameter of a point
-    double corpo = 12;          // height of the letters
-    double tolleranza = 0.3;    // how far a line may be simplified
-    QRectF vista{};             // what lies outside is not painted; empty: everything is
+    double fattore = 1;       // painter units of a device unit
+    double x0 = 0, y0 = 0;    // where the sheet's top left corner lies
+    double penna = 1;         // stroke of width 1
+    double punto = 1.5;       // diameter of a point
+    double corpo = 12;        // height of the letters
+    double tolleranza = 0.3;  // how far a line may be simplified
+    QRectF vista{};           // what lies outside is not painted; empty: everything is
 };
 
 class DispositivoQt final : public Dispositivo {

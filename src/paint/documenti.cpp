@@ -204,7 +204,8 @@ QImage Immagine(Tavolo &t, std::string &errore) {
     if (vuoto(t, errore)) return {};
     AssicuraApplicazione();
     const double u = PUNTI_AL_POLLICE / POLLICE;
-    const int l = static_cast<int>(std::lround(t.QuadranteL() / t.Scala() * u)), h = static_cast<int>(std::lround(t.QuadranteH() / t.Scala() * u));
+    const int l = static_cast<int>(std::lround(t.QuadranteL() / t.Scala() * u)),
+              h = static_cast<int>(std::lround(t.QuadranteH() / t.Scala() * u));
     QImage immagine(std::max(l, 1), std::max(h, 1), QImage::Format_RGB32);
     if (immagine.isNull()) {
         errore = "not enough memory for this picture";

@@ -56,8 +56,7 @@ QByteArray ConPagineEsatte(const QByteArray &pdf, const QSizeF &punti) {
         const QList<QByteArray> parole = riga.trimmed().split(' ');
         if (parole.size() == 3 && parole[2] == "n")
             nuovo += QByteArray::number(spostato(parole[0].toLongLong())).rightJustified(10, '0') + ' ' + parole[1] + " n \n";
-        else if (!riga.isEmpty())
-            nuovo += riga + '\n';
+        else if (!riga.isEmpty()) nuovo += riga + '\n';
     }
     return nuovo + "startxref\n" + QByteArray::number(spostato(tavola)) + "\n%%EOF\n";
 }

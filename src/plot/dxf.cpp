@@ -181,7 +181,7 @@ private:
 
     const Lista &lista;
     const Specchio specchio;
-    const double F, G;  // its factors
+    const double F, G;          // its factors
     std::size_t contatore = 0;  // in Figure
     std::vector<std::string> strati;
     std::optional<IdNome> ultima;

@@ -163,7 +163,8 @@ std::size_t Tavolo::ScegliPiene() {
     for (const auto &[riga, colonna] : d.tessere) {
         const double x = (colonna + 0.5) * larghezzaPagina_, y = (riga + 0.5) * altezzaPagina_;
         const auto dove = casella(x, larghezzaPagina_), sotto = casella(y, altezzaPagina_);
-        const bool gia = std::any_of(lista_.Aree.begin(), lista_.Aree.end(), [&](const RecArea &a) { return a.X == dove->bordo && a.Y == sotto->bordo; });
+        const bool gia = std::any_of(lista_.Aree.begin(), lista_.Aree.end(),
+                                     [&](const RecArea &a) { return a.X == dove->bordo && a.Y == sotto->bordo; });
         // The middle of a last, narrow tile lies beside the sheet.
         if (!gia) scegli(*dove, *sotto);
     }

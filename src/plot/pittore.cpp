@@ -69,9 +69,8 @@ void Pittore::cerchio(const RecFigura &f) const {
 }
 
 void Pittore::polilinea(const Lista &l, IdNome Id) const {
-    PercorriPolilinea(l, Id, [&](const RecFigura &a, const RecFigura &b) {
-        linea(a.X1, a.Y1, b.X1, b.Y1, b.colore, penna, specchia(Id));
-    });
+    PercorriPolilinea(
+        l, Id, [&](const RecFigura &a, const RecFigura &b) { linea(a.X1, a.Y1, b.X1, b.Y1, b.colore, penna, specchia(Id)); });
 }
 
 void Pittore::figura(const Lista &l, const RecFigura &r) const {

@@ -25,9 +25,9 @@ struct Pittore {
     Dispositivo &dispositivo;
     Quadrante quadrante;
     Specchio specchio;
-    double scala;        // device units a metre
-    bool nero;           // paper without colours
-    std::int32_t penna;  // of polylines
+    double scala;                  // device units a metre
+    bool nero;                     // paper without colours
+    std::int32_t penna;            // of polylines
     IdNome assi, pagina, griglia;  // names of what does not mirror; and of what is dotted
 
     // One primitive, world metres.

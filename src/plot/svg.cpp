@@ -365,8 +365,12 @@ private:
         constexpr double INTERO = 1e-6;
         const bool intero = r.B == 0 || arco < INTERO || arco > GIRO - INTERO;
         if (intero) da = 0, arco = GIRO;
-        const Ellisse e{static_cast<double>(c.x) / PASSI_AL_MM, static_cast<double>(c.y) / PASSI_AL_MM,
-                        aspetto > 1 ? mm / aspetto : mm, aspetto > 1 ? mm : mm * aspetto, da, arco};
+        const Ellisse e{static_cast<double>(c.x) / PASSI_AL_MM,
+                        static_cast<double>(c.y) / PASSI_AL_MM,
+                        aspetto > 1 ? mm / aspetto : mm,
+                        aspetto > 1 ? mm : mm * aspetto,
+                        da,
+                        arco};
         Strato &st = strato(r.Id);
         st.chiudiPercorso();
         const double L = q.L * MILLIMETRI, H = q.H * MILLIMETRI;
@@ -382,7 +386,8 @@ private:
         for (const double x : {0.0, L})
             if (const double k = (x - e.x) / e.rx; std::fabs(k) < 1) taglia(std::acos(k)), taglia(-std::acos(k));
         for (const double y : {0.0, H})
-            if (const double k = (e.y - y) / e.ry; std::fabs(k) < 1) taglia(std::asin(k)), taglia(std::numbers::pi - std::asin(k));
+            if (const double k = (e.y - y) / e.ry; std::fabs(k) < 1)
+                taglia(std::asin(k)), taglia(std::numbers::pi - std::asin(k));
         if (dentro) tagli.resize(2);
         std::sort(tagli.begin(), tagli.end());
         for (std::size_t i = 1; i < tagli.size(); ++i) {

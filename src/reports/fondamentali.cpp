@@ -105,7 +105,8 @@ void primari(Sessione &s, Foglio &f, const Preparazione &p) {
     f.riga({f.tr("Elevazione dello stilo "_it), gradi(-v.altStilo), " °"});
     f.riga({f.tr("Angolo sustilare "_it), gradi(p.sigma), " °"});
     f.riga({f.tr("Angolo orario sustilare, angolo al polo "_it), gradi(v.angoloOra), " °"});
-    f.riga({f.tr("Longitudine per lemniscata sustilare "_it), Fmt(-DalMeridiano(Gradi(v.angoloOra), v.meridiano), "0.00000"), " °"});
+    f.riga(
+        {f.tr("Longitudine per lemniscata sustilare "_it), Fmt(-DalMeridiano(Gradi(v.angoloOra), v.meridiano), "0.00000"), " °"});
     f.etichetta("Eccentricità linee diurne "_it);
     f.riga({f.tr("Solstizi "_it), eccentricita(OBLIQUITA)});
     f.riga({f.tr("linee diurne 20° "_it), eccentricita(20)});

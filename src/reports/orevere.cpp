@@ -1,6 +1,7 @@
 // The true hours on any plane, on a wall and at the equator: angles and points before the tables.
-#include "gnomonica/longitudine.h"
 #include "reports/orevere.h"
+
+#include "gnomonica/longitudine.h"
 
 namespace ombrelia::reports {
 

@@ -1,8 +1,8 @@
 // Hours from sunset, from sunrise and twelfths of the day: an hour line is taken straight through its two solstice points.
 #include <functional>
 
-#include "reports/rapporti.h"
 #include "gnomonica/proiezione.h"
+#include "reports/rapporti.h"
 
 namespace ombrelia::reports {
 

@@ -6,11 +6,31 @@
 namespace ombrelia {
 
 Lettura::Lettura(const DialInputs &in)
-    : lat(Val(in.txtLAT)), dec(Val(in.txtDec)), inc(Val(in.txtInc)), lon(Val(in.txtLonG)), gn(Val(in.TxtStilo)),
-      meridiano(Val(in.txtMeridiano)), x0(Val(in.txtX0)), y0(Val(in.txtY0)), x1(Val(in.txtX1)), y1(Val(in.txtY1)),
-      xEq(Val(in.txtEqx)), yEq(Val(in.txtEqy)), xSus(Val(in.txtSusx)), ySus(Val(in.txtSusy)), oriz(Val(in.txtOriz)),
-      fraz(Val(in.TxtFraz)), delta(Val(in.txtDelta)), passo(Val(in.txtDensity)), limMin(Val(in.txtMinus)),
-      limMax(Val(in.txtMax)), inizio(Val(in.TxtInizio)), fine(Val(in.TxtFine)), qLat(Val(in.txtQlat)),
-      qLon(Val(in.txtQlon)), unita(in.ChCentimetro == 1 ? 0.001 : 1.0), fuso(in.ck_Etna == 1) {}
+    : lat(Val(in.txtLAT)),
+      dec(Val(in.txtDec)),
+      inc(Val(in.txtInc)),
+      lon(Val(in.txtLonG)),
+      gn(Val(in.TxtStilo)),
+      meridiano(Val(in.txtMeridiano)),
+      x0(Val(in.txtX0)),
+      y0(Val(in.txtY0)),
+      x1(Val(in.txtX1)),
+      y1(Val(in.txtY1)),
+      xEq(Val(in.txtEqx)),
+      yEq(Val(in.txtEqy)),
+      xSus(Val(in.txtSusx)),
+      ySus(Val(in.txtSusy)),
+      oriz(Val(in.txtOriz)),
+      fraz(Val(in.TxtFraz)),
+      delta(Val(in.txtDelta)),
+      passo(Val(in.txtDensity)),
+      limMin(Val(in.txtMinus)),
+      limMax(Val(in.txtMax)),
+      inizio(Val(in.TxtInizio)),
+      fine(Val(in.TxtFine)),
+      qLat(Val(in.txtQlat)),
+      qLon(Val(in.txtQlon)),
+      unita(in.ChCentimetro == 1 ? 0.001 : 1.0),
+      fuso(in.ck_Etna == 1) {}
 
 }  // namespace ombrelia

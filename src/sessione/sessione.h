@@ -65,7 +65,9 @@ struct Sessione {
 
     // Whether somebody else drew these lines, true ones, in place of the engine's.
     // Whether a numeral there would stand where no shadow ever falls.
-    [[nodiscard]] bool senzaLuce(Valore t, Valore delta) const { return in.ckCorretta == 1 && suLuce && !suLuce(*this, t.v, delta.v); }
+    [[nodiscard]] bool senzaLuce(Valore t, Valore delta) const {
+        return in.ckCorretta == 1 && suLuce && !suLuce(*this, t.v, delta.v);
+    }
     [[nodiscard]] bool corretta(const Attesa &attesa) { return in.ckCorretta == 1 && suCorretta && suCorretta(*this, attesa); }
     [[nodiscard]] std::string Traduci(std::string_view testo) const { return dizionario.Traduci(testo); }
     void Messaggio(std::string_view testo) { tavolo.Messaggio(testo); }

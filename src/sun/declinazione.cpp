@@ -74,7 +74,8 @@ private:
 
 constexpr std::string_view segno(Valore v) { return v >= 0 ? " " : "-"; }
 
-std::string componi(const DatiDeclinazione &d, const EsitoDeclinazione &e, Valore segnoLat, const Dizionario &dizionario, Valore oraSolare) {
+std::string componi(const DatiDeclinazione &d, const EsitoDeclinazione &e, Valore segnoLat, const Dizionario &dizionario,
+                    Valore oraSolare) {
     constexpr std::string_view TRE = "   ", DUE = "  ";
     const auto orologio = [&d](Valore ore) {
         Sessagesimale s = OreMinutiSecondi(ore);
@@ -134,7 +135,8 @@ void calcola(const DatiDeclinazione &d, const Dizionario &dizionario, EsitoDecli
     e.txtAO = TestoNumero(H.v);
     const Valore Hd = PI * H / 180;
 
-    e.azimut = preteso(azimut(d.lat, phi, Hd, delta), "il Sole è allo zenit o sul primo verticale, e il suo azimut divide per zero."_it);
+    e.azimut =
+        preteso(azimut(d.lat, phi, Hd, delta), "il Sole è allo zenit o sul primo verticale, e il suo azimut divide per zero."_it);
     const Valore h = ArcSin(sin(phi) * sin(delta) + cos(phi) * cos(delta) * cos(Hd));
     e.altezza = 180 * preteso(h, "il Sole è allo zenit o al nadir, e la sua altezza divide per zero."_it) / PI;
     e.declinazione = preteso(e.azimut - segnoLat * d.angolo, "l'angolo è troppo grande."_it);

@@ -14,9 +14,9 @@ struct DatiDeclinazione {
     Valore lat = 0, lon = 0;  // degrees; North and West positive
     Valore giorno = 0, mese = 0, anno = 0;
     Valore ore = 0, minuti = 0, secondi = 0;  // UT
-    Valore angolo = 0;  // measured on the wall, degrees; 0 asks for the Sun's azimuth
-    Valore fuso = 0;    // zone, hours, West positive: Italy is -1
-    bool dst = false;   // clock times of noon, sunrise and sunset one hour later
+    Valore angolo = 0;                        // measured on the wall, degrees; 0 asks for the Sun's azimuth
+    Valore fuso = 0;                          // zone, hours, West positive: Italy is -1
+    bool dst = false;                         // clock times of noon, sunrise and sunset one hour later
 };
 
 // What the calculation leaves. A fault ends it (it is no routine that goes on with old values): what was written before
@@ -30,11 +30,11 @@ struct EsitoDeclinazione {
     bool corrLong = false;                       // the shared corrLong becomes 1; otherwise it is left alone
 
     Sole sole;
-    Valore equazione = 0;             // minutes
-    Valore oraAngolo = 0;             // degrees from noon
-    Valore azimut = 0, altezza = 0;   // the Sun, degrees; azimuth from South, West positive
-    Valore declinazione = 0;          // the wall, degrees, West positive; not reduced
-    Valore mezzodi = 0, arco = 0;     // noon on the clock without dst, not reduced; day arc; hours
+    Valore equazione = 0;            // minutes
+    Valore oraAngolo = 0;            // degrees from noon
+    Valore azimut = 0, altezza = 0;  // the Sun, degrees; azimuth from South, West positive
+    Valore declinazione = 0;         // the wall, degrees, West positive; not reduced
+    Valore mezzodi = 0, arco = 0;    // noon on the clock without dst, not reduced; day arc; hours
 };
 
 // The labels of the report go through the dictionary.

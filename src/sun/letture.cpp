@@ -91,7 +91,8 @@ double Girato(double gradi) {
 std::string LeggiData(std::string_view testo, DatiDeclinazione &dati) {
     std::array<int, 3> n{};
     std::size_t quanti = 0;
-    if (!interi(testo, '-', n, quanti) || quanti != 3) return "no date: " + std::string(testo) + "; write year-month-day, as in 2026-06-21";
+    if (!interi(testo, '-', n, quanti) || quanti != 3)
+        return "no date: " + std::string(testo) + "; write year-month-day, as in 2026-06-21";
     const auto [anno, mese, giorno] = n;
     const bool saltato = anno == 1582 && mese == 10 && giorno > 4 && giorno < 15;
     if (anno < 1 || mese < 1 || mese > 12 || giorno < 1 || giorno > giorniDelMese(anno, mese) || saltato)
@@ -105,7 +106,8 @@ std::string LeggiData(std::string_view testo, DatiDeclinazione &dati) {
 std::string LeggiOra(std::string_view testo, DatiDeclinazione &dati) {
     std::array<int, 3> n{};
     std::size_t quanti = 0;
-    if (!interi(testo, ':', n, quanti) || quanti < 2) return "no time: " + std::string(testo) + "; write hours:minutes, UT, as in 9:40 or 9:40:30";
+    if (!interi(testo, ':', n, quanti) || quanti < 2)
+        return "no time: " + std::string(testo) + "; write hours:minutes, UT, as in 9:40 or 9:40:30";
     const auto [ore, minuti, secondi] = n;
     if (ore > 23 || minuti > 59 || secondi > 59) return "there is no such time: " + std::string(testo);
     dati.ore = ore;

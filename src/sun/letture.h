@@ -31,11 +31,11 @@ struct Lettura {
 [[nodiscard]] std::vector<Lettura> LeggiLetture(std::string_view testo, const DatiDeclinazione &comune, std::string &errore);
 
 struct Riassunto {
-    double media = 0;     // degrees, -180..180
-    double scarto = 0;    // standard deviation of one reading (n - 1)
+    double media = 0;              // degrees, -180..180
+    double scarto = 0;             // standard deviation of one reading (n - 1)
     std::vector<double> distanze;  // of each from the mean of the others, degrees, -180..180
-    std::size_t lontana = 0;  // the farthest reading; of equal ones the first
-    bool stona = false;       // it lies farther out than chance explains
+    std::size_t lontana = 0;       // the farthest reading; of equal ones the first
+    bool stona = false;            // it lies farther out than chance explains
 };
 
 // Angles are taken on the circle, about the first one. A reading stands out when honest readings of this spread would

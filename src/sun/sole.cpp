@@ -47,7 +47,8 @@ Sessagesimale OreMinutiSecondi(Valore ore) {
     return {Int(ore), Int(60 * f), Int(60 * (60 * f - Int(60 * f)))};
 }
 
-Valore EqTempo(const std::string &Anno, std::string &Mese, std::string &Giorno, Valore Ora, Valore Minuti, Valore Secondi, Sole &sole) {
+Valore EqTempo(const std::string &Anno, std::string &Mese, std::string &Giorno, Valore Ora, Valore Minuti, Valore Secondi,
+               Sole &sole) {
     // One carry of a day at most. 24 h sharp carries nothing: its fraction prints as 1.00000 behind the day's digits,
     // which makes day 15 a day 151. That is meant.
     Valore t = Ora + Minuti / 60 + Secondi / 3600;
@@ -95,7 +96,8 @@ Valore EqTempo(const std::string &Anno, std::string &Mese, std::string &Giorno, 
     sole.delta = ArcSin(sin(e) * sin(S));
 
     const Valore z = (cos(e) - 1) / (cos(e) + 1);
-    const Valore a = S + z * sin(2 * S) + (z * z / 2) * sin(4 * S) + (z * z * z / 3) * sin(6 * S) + (z * z * z * z / 4) * sin(8 * S);
+    const Valore a =
+        S + z * sin(2 * S) + (z * z / 2) * sin(4 * S) + (z * z * z / 3) * sin(6 * S) + (z * z * z * z / 4) * sin(8 * S);
     sole.ascensione = 12 * a / PI;
     return equazione;
 }

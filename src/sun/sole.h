@@ -25,12 +25,12 @@ struct Sessagesimale {
 
 // What EqTempo finds on its way. A quantity that faulted has no value, nor has any that follows from it.
 struct Sole {
-    Valore giuliano = 0;   // Julian day, taken as it is for the series' ephemeris time
-    Valore secoli = 0;     // Julian centuries from 1900 January 0.5
-    Valore minuti = 0;     // equation of time: whole minutes, signed
-    Valore resto = 0;      // and the signed rest, minutes
-    Valore delta = 0;      // declination, radians, North positive
-    Valore ascensione = 0; // right ascension, hours; not reduced, may pass 24
+    Valore giuliano = 0;    // Julian day, taken as it is for the series' ephemeris time
+    Valore secoli = 0;      // Julian centuries from 1900 January 0.5
+    Valore minuti = 0;      // equation of time: whole minutes, signed
+    Valore resto = 0;       // and the signed rest, minutes
+    Valore delta = 0;       // declination, radians, North positive
+    Valore ascensione = 0;  // right ascension, hours; not reduced, may pass 24
 };
 
 // The Sun at a moment, UT: gives the equation of time in minutes (apparent less mean), everything else in sole.
@@ -38,7 +38,7 @@ struct Sole {
 // characters behind "00", Giorno likewise after the carry of the hours.
 // Dates whose number is below 1582 10 15 are of the Julian calendar. No range is tested: a month 0 or 13 goes through the sums.
 // Source: Newcomb's elements with the equation of time of Smart's Spherical Astronomy. No aberration, no nutation.
-[[nodiscard]] Valore EqTempo(const std::string &Anno, std::string &Mese, std::string &Giorno, Valore Ora, Valore Minuti, Valore Secondi,
-                             Sole &sole);
+[[nodiscard]] Valore EqTempo(const std::string &Anno, std::string &Mese, std::string &Giorno, Valore Ora, Valore Minuti,
+                             Valore Secondi, Sole &sole);
 
 }  // namespace ombrelia::sun

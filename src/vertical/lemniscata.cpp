@@ -17,7 +17,7 @@ struct Tacche {
     double delta, Emax, Emin;
 };
 constexpr Tacche TACCHE[] = {
-    {-DELTA_SEGNI, 14, -10.98},      {-DELTA_SEGNI_VICINI, 15.65, -13.85}, {0, 7.3666, -7.28},
+    {-DELTA_SEGNI, 14, -10.98},           {-DELTA_SEGNI_VICINI, 15.65, -13.85}, {0, 7.3666, -7.28},
     {DELTA_SEGNI_VICINI, 1.0666, -2.466}, {DELTA_SEGNI, 3.58, -6.25},
 };
 

@@ -117,18 +117,22 @@ constexpr Riga CARATTERISTICHE[] = {
      [](const Corsa &c) { return c.s.in.ck_Italiche != 1 && c.s.in.ck_babiloniche != 1 && !conRomani(c); }, nullptr,
      Specie::Temporaria},
     {&In::ck_Equinoziale, Specie::Equinoziale, "the equinoctial of a wall that declines",
-     [](const Corsa &, LineeAttese &l) { l.push_back({0, 0, "21 III or 23 IX Eq", QB(9)}); }, TracciaEquinoziale,
-     [](const Corsa &c) { return !(c.s.v.declinSessag == 0); }, PreparaEquinoziale},
+     [](const Corsa &, LineeAttese &l) {
+         l.push_back({0, 0, "21 III or 23 IX Eq", QB(9)});
+     },
+     TracciaEquinoziale, [](const Corsa &c) { return !(c.s.v.declinSessag == 0); }, PreparaEquinoziale},
     {&In::ck_Equinoziale, Specie::Equinoziale, "the equinoctial of one that does not", unaLinea<9>, PuntiEquinozialeDecZero,
      [](const Corsa &c) { return c.s.v.declinSessag == 0; }, PreparaEquinoziale},
     {&In::ck_Orizzonte, Specie::Orizzonte, "the horizon", unaLinea<2>, TracciaOrizzonte, nullptr, PreparaOrizzonte},
     {&In::ck_Lemniscate, Specie::Analemma, "mean noon of the zone",
-     [](const Corsa &, LineeAttese &l) { l.push_back({0, 12, "Lemniscata", QB(13)}); }, TracciaLemniscata, nullptr,
-     PreparaLemniscata},
+     [](const Corsa &, LineeAttese &l) {
+         l.push_back({0, 12, "Lemniscata", QB(13)});
+     },
+     TracciaLemniscata, nullptr, PreparaLemniscata},
     {&In::ck_Lemniscate, Specie::Tacca, "day marks across it", LineeTacche, TracciaTacche, piena},
     // ckZodiac has no step of its own: the signs come with the lemniscate.
-    {&In::ck_Lemniscate, Specie::Nessuna, "signs of the zodiac", nullptr, [](Corsa &c, const LineeAttese &) { DisegnaZodiaco(c.s); },
-     [](const Corsa &c) { return piena(c) && c.s.in.ckZodiac == 1; }},
+    {&In::ck_Lemniscate, Specie::Nessuna, "signs of the zodiac", nullptr,
+     [](Corsa &c, const LineeAttese &) { DisegnaZodiaco(c.s); }, [](const Corsa &c) { return piena(c) && c.s.in.ckZodiac == 1; }},
     {&In::ck_Lemniscate, Specie::Mezzogiorno, "the noon line", unaLinea<12>, RettaMezzogiorno, piena, PreparaMezzogiorno},
     {&In::ck_Sustilare, Specie::OraSustilare, "hour line of the substyle", unaLinea<9>, TracciaSustilare},
     {&In::ck_Triangolo, Specie::Stilo, "triangle of the polar style", LineeTriangolo, TracciaTriangoloStilo},
@@ -152,7 +156,10 @@ constexpr Riga ORIZZONTE_DI_NUOVO[] = {
 // After the caption.
 constexpr Riga ULTIME[] = {
     {&In::ckAsr, Specie::Asr, "afternoon prayer",
-     [](const Corsa &, LineeAttese &l) { l.push_back({0, 1, "", Rgb(0, 193, 97)}); }, TracciaAsr, nullptr, RileggiPiano},
+     [](const Corsa &, LineeAttese &l) {
+         l.push_back({0, 1, "", Rgb(0, 193, 97)});
+     },
+     TracciaAsr, nullptr, RileggiPiano},
 };
 
 }  // namespace

@@ -30,7 +30,10 @@ public:
 
     // The wall of the shared variables as they stand: latR with its sign, decR, gn and unita.
     explicit Sfera(const Variabili &v)
-        : senLat_(std::sin(Valore(v.latR).v)), cosLat_(std::cos(Valore(v.latR).v)), decR_(v.decR.numero()), gn_(v.gn.numero()),
+        : senLat_(std::sin(Valore(v.latR).v)),
+          cosLat_(std::cos(Valore(v.latR).v)),
+          decR_(v.decR.numero()),
+          gn_(v.gn.numero()),
           unita_(v.unita.numero()) {}
 
     // Degrees.
@@ -38,7 +41,9 @@ public:
         const double dr = PI * delta / 180;
         return giorno(std::tan(dr), std::sin(dr), std::cos(dr));
     }
-    [[nodiscard]] Giorno giorno(double tanD, double senD, double cosD) const { return {cosLat_ * tanD, senLat_ * senD, cosLat_ * cosD}; }
+    [[nodiscard]] Giorno giorno(double tanD, double senD, double cosD) const {
+        return {cosLat_ * tanD, senLat_ * senD, cosLat_ * cosD};
+    }
 
     // Denominator of the azimuth's tangent.
     [[nodiscard]] double denominatore(const Orario &o, const Giorno &g) const { return senLat_ * o.cos - g.cosTan; }

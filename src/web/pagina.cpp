@@ -33,7 +33,8 @@ constexpr std::string_view MACCHINA = "macchina.";  // before the ending of a fo
 // What a change of asks for another sheet.
 bool dellaCornice(const Controllo &c) {
     using In = DialInputs;
-    return c.casella == &In::ChCentimetro || (c.testo && (c.testo == &In::txtX0 || c.testo == &In::txtX1 || c.testo == &In::txtY0 || c.testo == &In::txtY1));
+    return c.casella == &In::ChCentimetro ||
+           (c.testo && (c.testo == &In::txtX0 || c.testo == &In::txtX1 || c.testo == &In::txtY0 || c.testo == &In::txtY1));
 }
 
 // Boxes that draw when they are set.
@@ -165,7 +166,8 @@ void Pagina::Lingua(std::string_view codice) {
     for (const Lingua &l : LINGUE)
         if (l.codice == codice)
             for (const char *nome : l.file)
-                if (const auto file = TrovaDato(nome)) d.Aggiungi(LeggiFile(file->string(), FILE_MASSIMO).value_or(std::string()));
+                if (const auto file = TrovaDato(nome))
+                    d.Aggiungi(LeggiFile(file->string(), FILE_MASSIMO).value_or(std::string()));
 }
 
 std::string Pagina::Stato() {

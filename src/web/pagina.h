@@ -54,8 +54,8 @@ public:
     // What the controls hold. JSON: name to [text or value, enabled].
     [[nodiscard]] std::string Stato();
 
-    // The dial drawn anew from the fields, or what a script has drawn if nobody touched a field since. JSON: the sheet, its layers in
-    // their order, and an SVG of the layers that changed since the last call.
+    // The dial drawn anew from the fields, or what a script has drawn if nobody touched a field since. JSON: the sheet, its
+    // layers in their order, and an SVG of the layers that changed since the last call.
     [[nodiscard]] std::string Disegna();
     // The same with all layers, for a page that starts over.
     void Dimentica() { mostrati_.clear(); }
@@ -66,8 +66,8 @@ public:
     [[nodiscard]] std::string ApriRapporto(std::string_view nome);
     [[nodiscard]] std::string RapportoCome(std::string_view forma) const;
 
-    // Towns whose name begins so, the larger first. JSON: [name, country or state, latitude, longitude, zone meridian], the numbers
-    // as texts for the fields.
+    // Towns whose name begins so, the larger first. JSON: [name, country or state, latitude, longitude, zone meridian], the
+    // numbers as texts for the fields.
     [[nodiscard]] static std::string Luoghi(std::string_view inizio);
     // What a point of the sheet says, x and y in millimetres from its corner, the dates in a year, and the line that lies
     // within so many millimetres. JSON.

@@ -26,10 +26,14 @@ struct Vista {
 
 const char *parola(ombra::Luce l) {
     switch (l) {
-        case ombra::Luce::Si: return "si";
-        case ombra::Luce::Notte: return "notte";
-        case ombra::Luce::Mai: return "mai";
-        default: return "dietro";
+        case ombra::Luce::Si:
+            return "si";
+        case ombra::Luce::Notte:
+            return "notte";
+        case ombra::Luce::Mai:
+            return "mai";
+        default:
+            return "dietro";
     }
 }
 
@@ -112,7 +116,13 @@ std::string Pagina::Certificato() {
     Json j;
     j.apri('{').nome("vero").vero(c.vero()).nome("verdetto").testo(Verdetto(d, c)).nome("righe").apri('[');
     for (const RigaCertificato &r : c.righe) {
-        j.apri('{').nome("linea").testo(TestoPretesa(d, r.specie, r.valore)).nome("vera").vero(r.vera).nome("doppia").vero(r.doppia);
+        j.apri('{')
+            .nome("linea")
+            .testo(TestoPretesa(d, r.specie, r.valore))
+            .nome("vera")
+            .vero(r.vera)
+            .nome("doppia")
+            .vero(r.doppia);
         j.nome("misure").apri('[');
         for (const double n : {r.disegnati, r.massimo, r.medio, r.mancanti, r.superflui}) j.numero(n);
         vista.foglio(j.chiudi(']').nome("peggio"), {r.xPeggiore / MM, r.yPeggiore / MM}).chiudi('}');

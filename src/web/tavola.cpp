@@ -12,14 +12,22 @@ namespace {
 // Names the page's script knows the classes by.
 std::string_view nomeDi(Classe c) {
     switch (c) {
-        case Classe::Testo: return "testo";
-        case Classe::Casella: return "casella";
-        case Classe::Opzione: return "opzione";
-        case Classe::Pulsante: return "pulsante";
-        case Classe::Etichetta: return "etichetta";
-        case Classe::Elenco: return "elenco";
-        case Classe::Menu: return "menu";
-        default: return "";
+        case Classe::Testo:
+            return "testo";
+        case Classe::Casella:
+            return "casella";
+        case Classe::Opzione:
+            return "opzione";
+        case Classe::Pulsante:
+            return "pulsante";
+        case Classe::Etichetta:
+            return "etichetta";
+        case Classe::Elenco:
+            return "elenco";
+        case Classe::Menu:
+            return "menu";
+        default:
+            return "";
     }
 }
 
@@ -31,12 +39,21 @@ void controllo(Json &j, const Dizionario &d, const Controllo &c) {
 
 // A group's rows: names of controls, and captions of its own as {"caption": text}.
 void gruppo(Json &j, const Dizionario &d, const app::Gruppo &g) {
-    j.apri('{').nome("titolo").testo(d.Traduci(g.titolo)).nome("chiave").testo(g.titolo).nome("aperto").vero(!g.piegato).nome("righe").apri('[');
+    j.apri('{')
+        .nome("titolo")
+        .testo(d.Traduci(g.titolo))
+        .nome("chiave")
+        .testo(g.titolo)
+        .nome("aperto")
+        .vero(!g.piegato)
+        .nome("righe")
+        .apri('[');
     for (const app::Gruppo::Riga &r : g.righe) {
         j.apri('[');
         for (const std::string_view nome : r) {
             const IdControllo id = TrovaControllo(nome);
-            if (id == NESSUN_CONTROLLO) j.apri('{').nome("classe").testo("etichetta").nome("caption").testo(d.Traduci(nome)).chiudi('}');
+            if (id == NESSUN_CONTROLLO)
+                j.apri('{').nome("classe").testo("etichetta").nome("caption").testo(d.Traduci(nome)).chiudi('}');
             else controllo(j, d, TavolaControlli()[static_cast<std::size_t>(id)]);
         }
         j.chiudi(']');
@@ -56,7 +73,8 @@ std::string Pagina::Tavola() const {
     for (const auto *gruppi : {&app::GruppiQuadrante(), &app::GruppiDisegno()})
         for (const app::Gruppo &g : *gruppi) gruppo(j, d, g);
     j.chiudi(']').nome("comandi").apri('[');
-    for (const std::string_view nome : COMANDI) controllo(j, d, TavolaControlli()[static_cast<std::size_t>(TrovaControllo(nome))]);
+    for (const std::string_view nome : COMANDI)
+        controllo(j, d, TavolaControlli()[static_cast<std::size_t>(TrovaControllo(nome))]);
     j.chiudi(']').nome("testi").apri('{');
     for (const TestoPagina &t : TestiPagina()) j.nome(t.chiave).testo(d.Traduci(t.testo));
     return std::move(j.chiudi('}').chiudi('}')).fine();

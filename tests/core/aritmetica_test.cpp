@@ -166,14 +166,16 @@ TEST(Funzioni, ArrotondateAlPiuVicino) {
         conta(portatile::atan(t), std::atan(static_cast<long double>(t)));
     }
     EXPECT_LT(diversi, PROVE / 200);
-    for (const double x : {0.0, -0.0, 1e-300, -3e-9, 1.5707963267948966, 3.141592653589793, 3.141592654, 1e300, 0.78539816339744828}) {
+    for (const double x :
+         {0.0, -0.0, 1e-300, -3e-9, 1.5707963267948966, 3.141592653589793, 3.141592654, 1e300, 0.78539816339744828}) {
         EXPECT_DOUBLE_EQ(portatile::sin(x), std::sin(x)) << x;
         EXPECT_DOUBLE_EQ(portatile::cos(x), std::cos(x)) << x;
         EXPECT_DOUBLE_EQ(portatile::tan(x), std::tan(x)) << x;
         EXPECT_DOUBLE_EQ(portatile::atan(x), std::atan(x)) << x;
     }
     const double infinito = std::numeric_limits<double>::infinity();
-    EXPECT_TRUE(std::isnan(portatile::sin(infinito)) && std::isnan(portatile::tan(-infinito)) && std::isnan(portatile::atan(std::nan(""))));
+    EXPECT_TRUE(std::isnan(portatile::sin(infinito)) && std::isnan(portatile::tan(-infinito)) &&
+                std::isnan(portatile::atan(std::nan(""))));
     EXPECT_EQ(portatile::atan(-infinito), std::atan(-infinito));
 }
 

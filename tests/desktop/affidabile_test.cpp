@@ -22,7 +22,8 @@ namespace {
 using prova::BancoFinestra;
 
 // The drawing of a session that was never anything else.
-std::string disegnoDi(const std::vector<std::pair<std::string_view, std::string_view>> &campi, const std::vector<std::string_view> &caselle) {
+std::string disegnoDi(const std::vector<std::pair<std::string_view, std::string_view>> &campi,
+                      const std::vector<std::string_view> &caselle) {
     prova::UtenteDiProva utente;
     Sessione s(utente);
     app::Avvia(s);
@@ -40,7 +41,11 @@ TEST(Affidabile, AFailedSaveOrOpenKeepsTheMark) {
     EXPECT_EQ(b.dialoghi.avvisi.size(), 1U);
     EXPECT_TRUE(b.f.modificato() && b.f.isWindowModified());
     EXPECT_TRUE(b.f.percorso().isEmpty());
-    EXPECT_FALSE(QSettings().value(QStringLiteral("recenti")).toStringList().join(QLatin1Char(' ')).contains(QStringLiteral("no such folder")));
+    EXPECT_FALSE(QSettings()
+                     .value(QStringLiteral("recenti"))
+                     .toStringList()
+                     .join(QLatin1Char(' '))
+                     .contains(QStringLiteral("no such folder")));
     b.dialoghi.risposte = {"missing.omb"};
     b.f.ponte().premi("mnuApri");
     EXPECT_TRUE(b.f.modificato());
@@ -303,7 +308,8 @@ TEST(Affidabile, NumbersKnowNoLocale) {
     const std::string attesa = csv("c.csv");
     ASSERT_NE(attesa.find("45.0703"), std::string::npos);
     QProcess p;
-    p.start(QStringLiteral("localedef"), {QStringLiteral("-i"), QStringLiteral("it_IT"), QStringLiteral("-f"), QStringLiteral("UTF-8"), QDir::currentPath() + QStringLiteral("/it_IT.UTF-8")});
+    p.start(QStringLiteral("localedef"), {QStringLiteral("-i"), QStringLiteral("it_IT"), QStringLiteral("-f"),
+                                          QStringLiteral("UTF-8"), QDir::currentPath() + QStringLiteral("/it_IT.UTF-8")});
     p.waitForFinished();
     qputenv("LOCPATH", QDir::currentPath().toLocal8Bit());
     if (!std::setlocale(LC_ALL, "it_IT.UTF-8")) GTEST_SKIP() << "no Italian locale here";
@@ -323,14 +329,20 @@ TEST(Affidabile, EveryStepIsTakenBackAndDoneAgain) {
         {"box", [&] { b.spunta("chkOreAstronomiche"); }},
         {"run", [&] { b.premi("cmdRun"); }},
         {"numerals", [&] { b.spunta("ckArabi"); }},
-        {"tile", [&] { b.f.quadro().foglio().suClic(b.f.quadro().foglio().daMondo({-0.5, -0.4})); }},
+        {"tile",
+         [&] {
+             b.f.quadro().foglio().suClic(b.f.quadro().foglio().daMondo({-0.5, -0.4}));
+         }},
         {"mirror", [&] { b.premi("Tavolo1.cmdInvX"); }},
         {"second run", [&] { b.premi("cmdRun"); }},
         {"transform", [&] { b.premi("cmdTrasforma"); }},
         {"clear", [&] { b.premi("Tavolo1.cmdPulisci"); }},
         {"open", [&] { b.f.apri(QStringLiteral("passi.omb")); }},
     };
-    const auto stato = [&] { return app::ScriviProgetto(b.s()) + b.lista() + std::to_string(b.s().tavolo.FattoreX) + std::to_string(b.s().tavolo.lista().Aree.size()); };
+    const auto stato = [&] {
+        return app::ScriviProgetto(b.s()) + b.lista() + std::to_string(b.s().tavolo.FattoreX) +
+               std::to_string(b.s().tavolo.lista().Aree.size());
+    };
     std::vector<std::string> stati{stato()};
     const int primo = b.f.passi().index();
     for (const auto &[nome, azione] : azioni) {

@@ -35,7 +35,9 @@ double luce(const QColor &c) {
     const auto l = [](double x) { return x <= 0.03928 ? x / 12.92 : std::pow((x + 0.055) / 1.055, 2.4); };
     return 0.2126 * l(c.redF()) + 0.7152 * l(c.greenF()) + 0.0722 * l(c.blueF());
 }
-double contrasto(const QColor &a, const QColor &b) { return (std::max(luce(a), luce(b)) + 0.05) / (std::min(luce(a), luce(b)) + 0.05); }
+double contrasto(const QColor &a, const QColor &b) {
+    return (std::max(luce(a), luce(b)) + 0.05) / (std::min(luce(a), luce(b)) + 0.05);
+}
 
 TEST(Aspetto, AWholeDialStandsThereAtOnce) {
     BancoFinestra b;
@@ -51,7 +53,9 @@ TEST(Aspetto, AWholeDialStandsThereAtOnce) {
     std::map<QRgb, int> quanti;
     for (int y = 0; y < i.height(); ++y)
         for (int x = 0; x < i.width(); ++x) ++quanti[i.pixel(x, y)];
-    EXPECT_EQ(std::max_element(quanti.begin(), quanti.end(), [](const auto &u, const auto &v) { return u.second < v.second; })->first, qRgb(255, 255, 255));
+    EXPECT_EQ(
+        std::max_element(quanti.begin(), quanti.end(), [](const auto &u, const auto &v) { return u.second < v.second; })->first,
+        qRgb(255, 255, 255));
     b.vivo()->setChecked(false);
 }
 
@@ -64,11 +68,14 @@ TEST(Aspetto, NothingLeavesTheWindowWhereItIsSmall) {
         EXPECT_LE(b.f.height(), misura.height());
         for (const QWidget *w : b.f.findChildren<QWidget *>()) {
             bool scorre = w->isWindow();
-            for (const QWidget *p = w; p && p != &b.f; p = p->parentWidget()) scorre |= p->isWindow() || qobject_cast<const QAbstractScrollArea *>(p) != nullptr;
-            for (const QWidget *p = w; p && p != &b.f; p = p->parentWidget()) scorre |= p->x() + p->width() < 0;  // a tab behind another
+            for (const QWidget *p = w; p && p != &b.f; p = p->parentWidget())
+                scorre |= p->isWindow() || qobject_cast<const QAbstractScrollArea *>(p) != nullptr;
+            for (const QWidget *p = w; p && p != &b.f; p = p->parentWidget())
+                scorre |= p->x() + p->width() < 0;  // a tab behind another
             if (!w->isVisible() || scorre) continue;
             const QRect r(w->mapTo(&b.f, QPoint(0, 0)), w->size());
-            EXPECT_TRUE(b.f.rect().contains(r)) << misura.width() << ' ' << w->metaObject()->className() << ' ' << w->objectName().toStdString() << ' ' << r.right() << ' ' << r.bottom();
+            EXPECT_TRUE(b.f.rect().contains(r)) << misura.width() << ' ' << w->metaObject()->className() << ' '
+                                                << w->objectName().toStdString() << ' ' << r.right() << ' ' << r.bottom();
         }
         EXPECT_GE(b.f.quadro().foglio().viewport()->width(), 240);
     }
@@ -88,13 +95,17 @@ TEST(Aspetto, TextsAndLinesStandOut) {
             const auto *l = qobject_cast<QLabel *>(w);
             const auto *p = qobject_cast<QAbstractButton *>(w);
             const QString testo = l ? l->text() : p ? p->text() : QString();
-            if (!w->isVisible() || !w->isEnabled() || testo.trimmed().size() < 3 || w->visibleRegion().boundingRect().size() != w->size()) continue;
+            if (!w->isVisible() || !w->isEnabled() || testo.trimmed().size() < 3 ||
+                w->visibleRegion().boundingRect().size() != w->size())
+                continue;
             const QImage i = b.f.grab(QRect(w->mapTo(&b.f, QPoint(0, 0)), w->size())).toImage();
             // The ground is what most points show, the text what stands farthest from it.
             std::map<QRgb, int> quanti;
             for (int y = 0; y < i.height(); ++y)
                 for (int x = 0; x < i.width(); ++x) ++quanti[i.pixel(x, y)];
-            const QColor fondo = QColor::fromRgb(std::max_element(quanti.begin(), quanti.end(), [](const auto &u, const auto &v) { return u.second < v.second; })->first);
+            const QColor fondo = QColor::fromRgb(std::max_element(quanti.begin(), quanti.end(), [](const auto &u, const auto &v) {
+                                                     return u.second < v.second;
+                                                 })->first);
             double migliore = 1;
             for (const auto &[c, n] : quanti) migliore = std::max(migliore, contrasto(QColor::fromRgb(c), fondo));
             EXPECT_GE(migliore, 4.5) << testo.toStdString() << ' ' << scuro;
@@ -119,11 +130,13 @@ TEST(Aspetto, TheSheetTellsItsLines) {
     ASSERT_NE(dieci, nullptr);
     const RecLinea r = t.lista().Linee[dieci->linea + (dieci->a - dieci->da) / 3];
     const QPointF mondo((r.X1 + r.X2) / 2, (r.Y1 + r.Y2) / 2);
-    const auto linea = desktop::LineaSotto(t, foglio.stile(), mondo + QPointF(0, foglio.metriAlPunto()), 5 * foglio.metriAlPunto());
+    const auto linea =
+        desktop::LineaSotto(t, foglio.stile(), mondo + QPointF(0, foglio.metriAlPunto()), 5 * foglio.metriAlPunto());
     ASSERT_TRUE(linea);
     EXPECT_EQ(desktop::NomeLinea(b.s(), linea->strato, linea->valore), QStringLiteral("Ora 10:00"));
     // The witness reads the same hour there.
-    EXPECT_TRUE(desktop::LetturaDi(b.s(), mondo).contains(QStringLiteral("ora vera 10:00"))) << desktop::LetturaDi(b.s(), mondo).toStdString();
+    EXPECT_TRUE(desktop::LetturaDi(b.s(), mondo).contains(QStringLiteral("ora vera 10:00")))
+        << desktop::LetturaDi(b.s(), mondo).toStdString();
     QElapsedTimer orologio;
     orologio.start();
     constexpr int VOLTE = 20;
@@ -171,7 +184,8 @@ TEST(Aspetto, FieldsStepReadAnglesAndTellTheirRange) {
     b.scrivi("txtLAT", "45");
     QTest::keyClick(lat, Qt::Key_Up);
     EXPECT_EQ(b.campo("txtLAT"), "45.5");
-    QWheelEvent giu({5, 5}, lat->mapToGlobal(QPointF(5, 5)), {}, {0, -120}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+    QWheelEvent giu({5, 5}, lat->mapToGlobal(QPointF(5, 5)), {}, {0, -120}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase,
+                    false);
     QCoreApplication::sendEvent(lat, &giu);
     EXPECT_EQ(b.campo("txtLAT"), "45");
     b.spunta("ChCentimetro");
@@ -233,7 +247,8 @@ TEST(Aspetto, ALongRunIsStopped) {
 // --- languages ------------------------------------------------------------------------------------------------------------
 
 std::set<QString> testi(BancoFinestra &b) {
-    for (const char *modulo : {"mnuAusiliaria", "frmDeclin.cmdInfo", "M_about", "mnuAvviso", "cmdData"}) b.f.ponte().premi(modulo);  // forms are translated when they open
+    for (const char *modulo : {"mnuAusiliaria", "frmDeclin.cmdInfo", "M_about", "mnuAvviso", "cmdData"})
+        b.f.ponte().premi(modulo);  // forms are translated when they open
     for (const Modulo &m : TavolaModuli()) app::CaricaForm(b.s(), m.nome);
     b.f.ponte().sincronizza();
     QWidget &f = b.f;
@@ -272,12 +287,15 @@ TEST(Aspetto, NoTextStaysItalian) {
     ASSERT_GT(italiani.size(), 150U);
     for (const char *lingua : {"DBIngleseC2008.txt", "DBFranceseC2008.txt"}) {
         QFile::remove(QStringLiteral("DBC2008.txt"));
-        ASSERT_TRUE(QFile::copy(QStringLiteral(OMBRELIA_RADICE "/data/") + QString::fromLatin1(lingua), QStringLiteral("DBC2008.txt")));
+        ASSERT_TRUE(
+            QFile::copy(QStringLiteral(OMBRELIA_RADICE "/data/") + QString::fromLatin1(lingua), QStringLiteral("DBC2008.txt")));
         BancoFinestra b;
         // What the dictionaries keep as it is.
         std::set<QString> tenuti;
         for (const auto &[da, a] : b.s().dizionario.Voci())
-            if (QString d = desktop::Q(da).remove(QLatin1Char('&')).simplified(); d.compare(desktop::Q(a).remove(QLatin1Char('&')).simplified(), Qt::CaseInsensitive) == 0) tenuti.insert(d);
+            if (QString d = desktop::Q(da).remove(QLatin1Char('&')).simplified();
+                d.compare(desktop::Q(a).remove(QLatin1Char('&')).simplified(), Qt::CaseInsensitive) == 0)
+                tenuti.insert(d);
         for (const QString &t : testi(b))
             if (italiani.contains(t) && !tenuti.contains(t)) ADD_FAILURE() << lingua << ": " << t.toStdString();
     }

@@ -31,7 +31,10 @@ TEST(Finestra, EachRowOfTheTableHasItsWidget) {
     for (const Controllo &c : TavolaControlli()) {
         QString nome = desktop::Q(c.nome);
         if (c.indice >= 0) nome += QStringLiteral("(%1)").arg(c.indice);
-        QObject *dove = c.modulo == "MDIForm1" ? &b.f : c.modulo == "Tavolo1" || c.modulo == "frmTavolo" ? &b.f.quadro() : static_cast<QObject *>(b.f.moduli().modulo(c.modulo));
+        QObject *dove = c.modulo == "MDIForm1" ? &b.f
+                        : c.modulo == "Tavolo1" || c.modulo == "frmTavolo"
+                            ? &b.f.quadro()
+                            : static_cast<QObject *>(b.f.moduli().modulo(c.modulo));
         ASSERT_NE(dove, nullptr) << c.modulo;
         QObject *w = dove->objectName() == nome ? dove : dove->findChild<QObject *>(nome);
         EXPECT_NE(w, nullptr) << c.modulo << '.' << c.nome;
@@ -54,10 +57,19 @@ TEST(Finestra, TheSameUserAtWindowAndScriptLeavesTheSameDrawing) {
         std::vector<std::string_view> caselle, pulsanti;
     };
     const std::vector<Caso> casi{
-        {"wall", {{"txtLAT", "45.07"}, {"txtDec", "18"}, {"txtInc", "0"}, {"TxtFraz", "1"}}, {"chkOreAstronomiche", "Ck_DayLightCurves", "ck_Triangolo"}, {"cmdRun"}},
-        {"leaning, added up", {{"txtDec", "-12.5"}, {"txtInc", "33"}}, {"chkOreAstronomiche", "ck_Equinoziale"}, {"cmdRun", "cmdRun", "Tavolo1.cmdAssi"}},
+        {"wall",
+         {{"txtLAT", "45.07"}, {"txtDec", "18"}, {"txtInc", "0"}, {"TxtFraz", "1"}},
+         {"chkOreAstronomiche", "Ck_DayLightCurves", "ck_Triangolo"},
+         {"cmdRun"}},
+        {"leaning, added up",
+         {{"txtDec", "-12.5"}, {"txtInc", "33"}},
+         {"chkOreAstronomiche", "ck_Equinoziale"},
+         {"cmdRun", "cmdRun", "Tavolo1.cmdAssi"}},
         {"southern", {{"txtLAT", "-33"}}, {"chkOreAstronomiche"}, {"cmdRun", "Tavolo1.cmdInvX"}},
-        {"italic against babylonian", {{"txtInc", "0"}}, {"ck_babiloniche", "ck_Italiche", "ck_babiloniche"}, {"cmdRun", "Tavolo1.CmdGriglia"}},
+        {"italic against babylonian",
+         {{"txtInc", "0"}},
+         {"ck_babiloniche", "ck_Italiche", "ck_babiloniche"},
+         {"cmdRun", "Tavolo1.CmdGriglia"}},
         {"analytic", {{"txtInc", "0"}, {"txtDec", "10"}}, {"chkOreAstronomiche", "ck_Equinoziale"}, {"cmdEqui"}},
     };
     for (const Caso &c : casi) {
@@ -92,10 +104,9 @@ TEST(Finestra, KeysPassTheirFilter) {
         int beep;
     };
     const Caso casi[] = {
-        {"txtLAT", "45,7x5", "45.75", 1},          // a comma is a point
-        {"txtDec", "-1e2", "-12", 1},
-        {"txtInc", "2e1", "2e1", 0},               // no filter there
-        {"frmDeclin.txtAngle", "+3a", "+3", 0},    // the board's filter is silent
+        {"txtLAT", "45,7x5", "45.75", 1},                                     // a comma is a point
+        {"txtDec", "-1e2", "-12", 1},           {"txtInc", "2e1", "2e1", 0},  // no filter there
+        {"frmDeclin.txtAngle", "+3a", "+3", 0},                               // the board's filter is silent
         {"frmDeclin.txtHH", "-9.5", "9.5", 0},
     };
     for (const Caso &c : casi) {
@@ -115,7 +126,8 @@ TEST(Finestra, FieldsFollowTheirRules) {
     BancoFinestra b;
     EXPECT_FALSE(b.w("cmdEqui")->isEnabled());
     b.scrivi("txtInc", "0");
-    for (const std::string_view nome : {"cmdEqui", "ckZodiac", "ckRomani", "ckArabi", "Option1"}) EXPECT_TRUE(b.w(nome)->isEnabled()) << nome;
+    for (const std::string_view nome : {"cmdEqui", "ckZodiac", "ckRomani", "ckArabi", "Option1"})
+        EXPECT_TRUE(b.w(nome)->isEnabled()) << nome;
     b.spunta("ck_Italiche");
     EXPECT_EQ(b.w<QLineEdit>("TxtInizio")->text(), QStringLiteral("13"));
     b.scrivi("txtInc", "5");
@@ -128,8 +140,9 @@ TEST(Finestra, EachReportOpensWithItsTextAndPrints) {
         std::string_view comando, modulo, menu;
     };
     const Caso casi[] = {
-        {"cmdData", "Form1", "menuFond"},    {"optHorae", "Form2", "mnuPrinta"}, {"OptTEMP", "Form3", "mnustampat"}, {"OptBab", "Form4", "mnubabprint"},
-        {"OptInter", "Form6", "mnu_Print"}, {"Option1", "Form8", "menuprinta"}, {"OptIta", "Form9", "mnuStammpa"},
+        {"cmdData", "Form1", "menuFond"},   {"optHorae", "Form2", "mnuPrinta"}, {"OptTEMP", "Form3", "mnustampat"},
+        {"OptBab", "Form4", "mnubabprint"}, {"OptInter", "Form6", "mnu_Print"}, {"Option1", "Form8", "menuprinta"},
+        {"OptIta", "Form9", "mnuStammpa"},
     };
     BancoFinestra b;
     b.scrivi("txtInc", "0");
@@ -241,7 +254,8 @@ TEST(Finestra, AClickOnTheSheetReadsOutAndChoosesItsTile) {
     ASSERT_EQ(t.lista().Aree.size(), 1U);
     EXPECT_EQ(t.lista().Aree[0].Pagina, 2);
     const QString letto = b.w<QLabel>("Tavolo1.lblXYval")->text();
-    EXPECT_NEAR(letto.split(QStringLiteral(" : ")).at(0).toInt(), (t.LarghezzaPagina() + 0.03 - t.ShiftX()) * 1000, 2.5) << letto.toStdString();
+    EXPECT_NEAR(letto.split(QStringLiteral(" : ")).at(0).toInt(), (t.LarghezzaPagina() + 0.03 - t.ShiftX()) * 1000, 2.5)
+        << letto.toStdString();
     // With a tile chosen the print button opens its panel.
     b.premi("Tavolo1.cmdStampa");
     EXPECT_TRUE(b.w("Tavolo1.picPrint")->isVisible());
@@ -291,7 +305,8 @@ TEST(Finestra, TheWheelZoomsAboutThePointer) {
     desktop::Foglio &foglio = b.f.quadro().foglio();
     const QPointF punta(foglio.viewport()->width() * 0.4, foglio.viewport()->height() * 0.6);
     const auto gira = [&](int scatti) {
-        QWheelEvent e(punta, foglio.viewport()->mapToGlobal(punta), {}, {0, 120 * scatti}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+        QWheelEvent e(punta, foglio.viewport()->mapToGlobal(punta), {}, {0, 120 * scatti}, Qt::NoButton, Qt::NoModifier,
+                      Qt::NoScrollPhase, false);
         QCoreApplication::sendEvent(foglio.viewport(), &e);
         QCoreApplication::processEvents();
     };

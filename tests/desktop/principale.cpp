@@ -5,7 +5,6 @@
 #include <QDir>
 #include <QSettings>
 #include <QTemporaryDir>
-
 #include <cstdio>
 
 #include "desktop/stile.h"

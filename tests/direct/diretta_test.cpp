@@ -13,7 +13,8 @@ namespace {
 using prova::Banco;
 
 // A wide frame, so that nothing but the horizon cuts.
-constexpr std::pair<std::string_view, std::string_view> LARGA[] = {{"txtX0", "-6"}, {"txtX1", "6"}, {"txtY0", "6"}, {"txtY1", "-6"}};
+constexpr std::pair<std::string_view, std::string_view> LARGA[] = {
+    {"txtX0", "-6"}, {"txtX1", "6"}, {"txtY0", "6"}, {"txtY1", "-6"}};
 
 void allarga(Banco &b) {
     for (const auto &c : LARGA) b.imposta({c});
@@ -27,8 +28,9 @@ double scarto(const RecLinea &a, const RecLinea &b) {  // distance of a's first 
 struct Piano {
     const char *lat, *dec, *inc;
 };
-constexpr Piano PIANI[] = {{"0", "0", "0"},   {"0", "30", "10"}, {"20", "-80", "0"},  {"45.7", "-20", "25.2"}, {"45", "110", "-30"},
-                           {"60", "170", "5"}, {"80", "15", "60"}, {"51.5", "0", "90"}, {"35", "-135", "80"}};
+constexpr Piano PIANI[] = {{"0", "0", "0"},         {"0", "30", "10"},    {"20", "-80", "0"},
+                           {"45.7", "-20", "25.2"}, {"45", "110", "-30"}, {"60", "170", "5"},
+                           {"80", "15", "60"},      {"51.5", "0", "90"},  {"35", "-135", "80"}};
 
 TEST(Diretta, LeRetteOrarieSonoRette) {
     for (const Piano &p : PIANI) {
@@ -76,8 +78,8 @@ TEST(Diretta, MattinaSpecchioDelPomeriggio) {
 
 TEST(Diretta, ColoriEStratiDiOgniLinea) {
     Banco b({{"txtLAT", "42"}, {"txtDec", "15"}, {"txtInc", "10"}, {"txtDelta", "-17"}, {"TxtFraz", "4"}, {"txtLonG", "-12"}},
-            {"chkOreAstronomiche", "Ck_DayLightCurves", "ckFunzione", "ck_Equinoziale", "ck_Lemniscate", "ck_Triangolo", "ck_Sustilare",
-             "ckTemp", "ck_Italiche", "ck_Orizzonte", "ckAssi", "CkQibla", "ckAsr", "ckAlt", "ckAz"});
+            {"chkOreAstronomiche", "Ck_DayLightCurves", "ckFunzione", "ck_Equinoziale", "ck_Lemniscate", "ck_Triangolo",
+             "ck_Sustilare", "ckTemp", "ck_Italiche", "ck_Orizzonte", "ckAssi", "CkQibla", "ckAsr", "ckAlt", "ckAz"});
     b.spunta("ckTemp");
     b.imposta({{"TxtInizio", "13"}, {"TxtFine", "24"}});
     allarga(b);
@@ -180,8 +182,9 @@ TEST(Diretta, OrigineOrizzonteEDidascalia) {
     b.esegui();
     EXPECT_DOUBLE_EQ(b.s.tavolo.ShiftX(), 0.7) << "a user's shift is kept";
     EXPECT_EQ(b.s.in.txtOriz, TestoNumero(0.195 * std::tan(25.2 * PI / 180.0)));
-    for (const char *riga : {"DATI QUADRANTE ", "latitudine  = 45.74805 °", "declinazione  = -20 °", "inclinazione = 25.2 °",
-                             "longitudine = -12.34568 °", "ortostilo = 0.195 m", "Costante locale = 10.6172844 p", "-0.5", "0.6", "0.4", "-0.8"})
+    for (const char *riga :
+         {"DATI QUADRANTE ", "latitudine  = 45.74805 °", "declinazione  = -20 °", "inclinazione = 25.2 °",
+          "longitudine = -12.34568 °", "ortostilo = 0.195 m", "Costante locale = 10.6172844 p", "-0.5", "0.6", "0.4", "-0.8"})
         EXPECT_TRUE(b.testo(riga) || b.testo(SenzaBlanks(riga))) << riga;
     // Twice the same dial adds the same records again.
     const std::size_t righe = b.lista().Ordine.size();
@@ -234,16 +237,27 @@ TEST(Diretta, CampiAssurdiSonoRifiutatiOInnocui) {
         {{"TxtFine", "1e12"}, "TxtFine = 1e12: troppo fitto"},
         {{"TxtInizio", "-3e8"}, "TxtInizio = -3e8: troppo fitto"},
         {{"txtDensity", "1e-9"}, "txtDensity = 1e-9: troppo fitto"},
-        {{"txtDensity", "0"}, ""},     {{"txtDensity", "-1"}, ""},  {{"txtDensity", "1e-300"}, ""},
-        {{"TxtFraz", "-2"}, ""},       {{"TxtFraz", "1e400"}, ""},  {{"TxtFraz", "abc"}, ""},
-        {{"TxtFine", "1e400"}, ""},    {{"txtLAT", "1e308"}, ""},   {{"txtLAT", "9e999"}, ""},
-        {{"txtInc", "1e308"}, ""},     {{"TxtStilo", "1e308"}, ""}, {{"TxtStilo", ""}, ""},
-        {{"txtX0", "nan"}, ""},        {{"txtDec", "inf"}, ""},     {{"txtQlat", "90"}, ""},
-        {{"txtLAT", "90"}, ""},        {{"txtLAT", "66.555"}, ""},
+        {{"txtDensity", "0"}, ""},
+        {{"txtDensity", "-1"}, ""},
+        {{"txtDensity", "1e-300"}, ""},
+        {{"TxtFraz", "-2"}, ""},
+        {{"TxtFraz", "1e400"}, ""},
+        {{"TxtFraz", "abc"}, ""},
+        {{"TxtFine", "1e400"}, ""},
+        {{"txtLAT", "1e308"}, ""},
+        {{"txtLAT", "9e999"}, ""},
+        {{"txtInc", "1e308"}, ""},
+        {{"TxtStilo", "1e308"}, ""},
+        {{"TxtStilo", ""}, ""},
+        {{"txtX0", "nan"}, ""},
+        {{"txtDec", "inf"}, ""},
+        {{"txtQlat", "90"}, ""},
+        {{"txtLAT", "90"}, ""},
+        {{"txtLAT", "66.555"}, ""},
     };
     for (const Caso &c : casi) {
-        Banco b({}, {"chkOreAstronomiche", "Ck_DayLightCurves", "ck_Equinoziale", "ckTemp", "ck_Italiche", "ckAlt", "ck_Lemniscate", "CkQibla",
-                     "ckAsr", "ckAz", "ck_Triangolo", "ck_Sustilare"});
+        Banco b({}, {"chkOreAstronomiche", "Ck_DayLightCurves", "ck_Equinoziale", "ckTemp", "ck_Italiche", "ckAlt",
+                     "ck_Lemniscate", "CkQibla", "ckAsr", "ckAz", "ck_Triangolo", "ck_Sustilare"});
         b.spunta("ckTemp");
         b.imposta({c.campo});
         b.esegui();

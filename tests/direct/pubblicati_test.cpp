@@ -28,7 +28,13 @@ TEST(Pubblicati, PuntiDelPiano) {
 
 // From the drawn lines, not from the formula: the angle of each hour line of a horizontal dial with the noon line.
 TEST(Pubblicati, AngoliOrariOrizzontali) {
-    prova::Banco banco({{"txtLAT", "54.8"}, {"txtInc", "90"}, {"TxtStilo", "1"}, {"txtX0", "-5"}, {"txtX1", "5"}, {"txtY0", "5"}, {"txtY1", "-5"},
+    prova::Banco banco({{"txtLAT", "54.8"},
+                        {"txtInc", "90"},
+                        {"TxtStilo", "1"},
+                        {"txtX0", "-5"},
+                        {"txtX1", "5"},
+                        {"txtY0", "5"},
+                        {"txtY1", "-5"},
                         {"TxtFraz", "1"}},
                        {"chkOreAstronomiche"});
     banco.esegui();

@@ -19,15 +19,16 @@ struct Motrice {
     bool piana, australe;
 };
 constexpr Motrice MOTRICI[] = {
-    {"direct, wall", "-18", "0", "cmdRun", false, true}, {"direct, reclining", "25", "30", "cmdRun", false, true},
-    {"direct, level", "0", "90", "cmdRun", false, true}, {"vertical", "-18", "0", "cmdRun", true, false},
+    {"direct, wall", "-18", "0", "cmdRun", false, true},  {"direct, reclining", "25", "30", "cmdRun", false, true},
+    {"direct, level", "0", "90", "cmdRun", false, true},  {"vertical", "-18", "0", "cmdRun", true, false},
     {"vertical, west", "65", "0", "cmdRun", true, false}, {"analytic", "-18", "0", "cmdEqui", false, false},
 };
 
 // The dial as it is mounted: what a southern run draws is mirrored in x, and its plane declines from the North.
 ombra::Piano montato(const Motrice &m, double lat) {
     const double g = std::atof(m.dec);
-    return ombra::Piano({lat * RADIANTI, (lat < 0 ? (g < 0 ? -180 - g : 180 - g) : g) * RADIANTI, std::atof(m.inc) * RADIANTI, 0.1});
+    return ombra::Piano(
+        {lat * RADIANTI, (lat < 0 ? (g < 0 ? -180 - g : 180 - g) : g) * RADIANTI, std::atof(m.inc) * RADIANTI, 0.1});
 }
 
 // Calls punto(claim, x, y) for both ends of each claimed chord, y upward, as mounted.
@@ -52,8 +53,17 @@ TEST(Corsa, LineeDiOgniZonaDoveCadeLOmbra) {
                 const double lat = std::stod(r[1]), scarto = zona ? std::stod(r[2]) - std::stod(r[3]) : 0;
                 const bool australe = lat < 0;
                 if (australe && !m.australe) continue;
-                Banco b({{"txtLAT", r[1]}, {"txtLonG", r[2]}, {"txtMeridiano", r[3]}, {"txtDec", m.dec}, {"txtInc", m.inc},
-                         {"TxtStilo", "0.1"}, {"txtX0", "-2"}, {"txtX1", "2"}, {"txtY0", "2"}, {"txtY1", "-2"}, {"TxtFraz", "2"},
+                Banco b({{"txtLAT", r[1]},
+                         {"txtLonG", r[2]},
+                         {"txtMeridiano", r[3]},
+                         {"txtDec", m.dec},
+                         {"txtInc", m.inc},
+                         {"TxtStilo", "0.1"},
+                         {"txtX0", "-2"},
+                         {"txtX1", "2"},
+                         {"txtY0", "2"},
+                         {"txtY1", "-2"},
+                         {"TxtFraz", "2"},
                          {"txtDelta", "-7"}},
                         {"chkOreAstronomiche", "Ck_DayLightCurves"});
                 b.spunta("ck_Etna", zona);
@@ -64,7 +74,8 @@ TEST(Corsa, LineeDiOgniZonaDoveCadeLOmbra) {
                 double oraPeggiore = 0, giornoPeggiore = 0;
                 perOgniEstremo(b.lista(), australe, [&](const Pretesa &p, double x, double y) {
                     if (p.specie == Specie::Diurna)
-                        giornoPeggiore = std::max(giornoPeggiore, std::fabs(piano.leggi(ombra::Punto{x, y}).delta / RADIANTI - p.valore));
+                        giornoPeggiore =
+                            std::max(giornoPeggiore, std::fabs(piano.leggi(ombra::Punto{x, y}).delta / RADIANTI - p.valore));
                     if (p.specie != Specie::Ora || std::fabs(x) > 5) return;
                     ore.insert(p.valore);
                     const ombra::Retta retta = piano.ombraDelloStilo(((p.valore - 12) * 15 - scarto) * RADIANTI);
@@ -81,8 +92,15 @@ TEST(Corsa, AnalemmaDelMeridianoDellaZona) {
     for (const auto &r : prova::Tabella("meridiani.txt")) {
         const double lat = std::stod(r[1]);
         if (std::fabs(lat) > 60) continue;
-        Banco b({{"txtLAT", r[1]}, {"txtLonG", r[2]}, {"txtMeridiano", r[3]}, {"txtInc", "90"}, {"TxtStilo", "0.1"}, {"txtX0", "-4"},
-                 {"txtX1", "4"}, {"txtY0", "4"}, {"txtY1", "-4"}},
+        Banco b({{"txtLAT", r[1]},
+                 {"txtLonG", r[2]},
+                 {"txtMeridiano", r[3]},
+                 {"txtInc", "90"},
+                 {"TxtStilo", "0.1"},
+                 {"txtX0", "-4"},
+                 {"txtX1", "4"},
+                 {"txtY0", "4"},
+                 {"txtY1", "-4"}},
                 {"ck_Lemniscate"});
         b.premi("cmdRun");
         const ombra::Piano piano = montato(MOTRICI[2], lat);

@@ -128,7 +128,8 @@ TEST(Dizionari, EachTextOfTheProgramIsTranslatedAndEachEntryUsed) {
             std::set<std::string> sue;
             for (const Dizionario::Voce &v : d.Voci()) {
                 EXPECT_TRUE(sue.insert(Maiuscolo(v.first)).second) << nome << " has twice: " << v.first;
-                EXPECT_TRUE(tutti.contains(Maiuscolo(v.first)) || RIMASTE.contains(v.first)) << nome << " has an entry that no text uses: \"" << v.first << '"';
+                EXPECT_TRUE(tutti.contains(Maiuscolo(v.first)) || RIMASTE.contains(v.first))
+                    << nome << " has an entry that no text uses: \"" << v.first << '"';
             }
             sorgenti.merge(sue);
         }
@@ -161,8 +162,9 @@ TEST(Dizionari, FilesAreWholeAndKeepTheBlanksAround) {
 // A file that translates what is no literal has marked its literals, unless it only hands texts on.
 TEST(Dizionari, TextsTranslatedByVariableAreMarked) {
     const auto &[testi, variabili] = DelProgramma();
-    const std::set<std::string> senzaTesti{"cli/disegno.cpp", "lang/dizionario.h", "lang/dizionario.cpp", "sessione/sessione.h", "app/lingua.cpp",
-                                           "reports/foglio.h",  "desktop/ponte.h",     "desktop/ponte.cpp", "web/tavola.cpp"};
+    const std::set<std::string> senzaTesti{"cli/disegno.cpp",     "lang/dizionario.h", "lang/dizionario.cpp",
+                                           "sessione/sessione.h", "app/lingua.cpp",    "reports/foglio.h",
+                                           "desktop/ponte.h",     "desktop/ponte.cpp", "web/tavola.cpp"};
     for (const std::string &file : variabili) {
         bool segnati = false;
         for (const TestoSorgente &t : testi) segnati |= t.file == file;

@@ -8,8 +8,8 @@
 #include <random>
 
 #include "comuni/prova.h"
-#include "ombra/sole.h"
 #include "gnomonica/proiezione.h"
+#include "ombra/sole.h"
 
 namespace ombrelia::ombra {
 namespace {

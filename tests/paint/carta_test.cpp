@@ -16,8 +16,8 @@ namespace ombrelia {
 namespace {
 
 constexpr int DPI = 600;
-constexpr double MM = DPI / 25.4;      // dots
-constexpr double ESATTO = 0.1;         // millimetres: a saw cut is wider
+constexpr double MM = DPI / 25.4;  // dots
+constexpr double ESATTO = 0.1;     // millimetres: a saw cut is wider
 constexpr double A4_L = 210, A4_H = 297;
 
 bool ceStrumento(const char *nome) { return !QStandardPaths::findExecutable(QString::fromLatin1(nome)).isEmpty(); }
@@ -39,7 +39,8 @@ void salva(const QByteArray &pdf, const char *nome) {
 QImage striscia(const char *pdf, int pagina, double x, double y, double l, double h) {
     const auto n = [](double mm) { return QString::number(std::lround(mm * MM)); };
     const QString p = QString::number(pagina);
-    const QByteArray pgm = chiama("pdftoppm", {"-r", QString::number(DPI), "-f", p, "-l", p, "-x", n(x), "-y", n(y), "-W", n(l), "-H", n(h), "-gray", QString::fromLatin1(pdf)});
+    const QByteArray pgm = chiama("pdftoppm", {"-r", QString::number(DPI), "-f", p, "-l", p, "-x", n(x), "-y", n(y), "-W", n(l),
+                                               "-H", n(h), "-gray", QString::fromLatin1(pdf)});
     return QImage::fromData(pgm, "PGM").convertToFormat(QImage::Format_Grayscale8);
 }
 
@@ -124,7 +125,8 @@ TEST(Carta, TilesShowWhatTheirOutlineHoldsAndMeet) {
     t.xLine(mondo(30), 0.20, mondo(80), 0.30, 0, "L");
     t.Marchio = "Prova";
     // Twice the first: it is then printed twice.
-    for (const auto &[x, y] : {std::pair{0.1, 0.1}, std::pair{0.25, 0.1}, std::pair{0.1, 0.4}, std::pair{0.1, 0.1}}) t.xTrovaA4(x, y);
+    for (const auto &[x, y] : {std::pair{0.1, 0.1}, std::pair{0.25, 0.1}, std::pair{0.1, 0.4}, std::pair{0.1, 0.1}})
+        t.xTrovaA4(x, y);
     const std::string prima = ListaTesto(t.lista());
 
     const double bordoX = (A4_L - l) / 2, bordoY = (A4_H - h) / 2;
@@ -192,9 +194,11 @@ TEST(Carta, PicturesHaveTheSheetsSizeAndAreDarkOnWhite) {
         EXPECT_EQ(i.width(), std::lround(0.6 * u));
         EXPECT_EQ(i.height(), std::lround(0.3 * u));
         EXPECT_EQ(i.dotsPerMeterX(), std::lround(u)) << "a print has the true size";
-        const auto punto = [&](double x, double y) { return i.pixelColor(static_cast<int>((x + 0.1) * u), static_cast<int>((y + 0.1) * u)); };
-        EXPECT_EQ(punto(0.1, 0.02), QColor(Qt::white));     // the frame does not cover the dial
-        EXPECT_LT(punto(0.1, 0.0).lightness(), 130);        // its outline is dark
+        const auto punto = [&](double x, double y) {
+            return i.pixelColor(static_cast<int>((x + 0.1) * u), static_cast<int>((y + 0.1) * u));
+        };
+        EXPECT_EQ(punto(0.1, 0.02), QColor(Qt::white));  // the frame does not cover the dial
+        EXPECT_LT(punto(0.1, 0.0).lightness(), 130);     // its outline is dark
         EXPECT_GT(punto(0.3, 0.05).red(), punto(0.3, 0.05).blue() + 80);
     }
 }

@@ -46,10 +46,10 @@ TEST(Dispositivo, SimplifiedLinesStayWhereTheyAre) {
     constexpr int PASSI = 3000;
     for (int i = 0; i <= PASSI; ++i) {
         const double f = i / double(PASSI), t = f * 2 * std::numbers::pi;
-        casi[0].push_back({200 + 150 * std::cos(t), 200 + 150 * std::sin(t)});      // a circle of tiny chords
-        casi[1].push_back({200 + 8 * std::cos(9 * t), 20 + 360 * f});               // a tight wave
-        casi[2].push_back({20 + 360 * std::fabs(2 * f - 1), 60.5});                 // to and fro on itself
-        casi[3].push_back({20 + 360 * f, 200 + 150 * f * f});                       // bends slowly
+        casi[0].push_back({200 + 150 * std::cos(t), 200 + 150 * std::sin(t)});  // a circle of tiny chords
+        casi[1].push_back({200 + 8 * std::cos(9 * t), 20 + 360 * f});           // a tight wave
+        casi[2].push_back({20 + 360 * std::fabs(2 * f - 1), 60.5});             // to and fro on itself
+        casi[3].push_back({20 + 360 * f, 200 + 150 * f * f});                   // bends slowly
     }
     casi[4] = {{50, 50}, {350, 50.2}, {50.1, 50}, {50.2, 300}};  // far out and back to where it began
     for (const Linea &punti : casi) {

@@ -99,12 +99,8 @@ TEST(Stampa, TuttoIlFoglio) {
     schermo.atti.clear();
     t.PrintAll(carta);
     // In black, with the line's own width, and a filled box as its outline.
-    const Atti nero{"T 0 850.5 0 marchio",
-                    "T 0 1045.5 0 testo",
-                    "T 5670 5670 0 testo",
-                    "L 0 0 5670 0 0 1",
-                    "B 0 0 5670 5670 0 vuoto",
-                    "C 0 0 567 0 0 0 0 1"};
+    const Atti nero{"T 0 850.5 0 marchio", "T 0 1045.5 0 testo",      "T 5670 5670 0 testo",
+                    "L 0 0 5670 0 0 1",    "B 0 0 5670 5670 0 vuoto", "C 0 0 567 0 0 0 0 1"};
     EXPECT_EQ(carta.atti, nero);
     EXPECT_TRUE(schermo.atti.empty());
     EXPECT_FALSE(t.OutputToPRN);
@@ -137,7 +133,8 @@ TEST(Pagine, ScelteAVicenda) {
     EXPECT_EQ(ListaTesto(t.lista()), senza);
     t.dispositivo = &d;
     t.xTrovaA4(0.1, 0.1);
-    EXPECT_EQ(std::count_if(d.atti.begin(), d.atti.end(), [](const auto &a) { return a.ends_with(" 33023 1"); }), 3) << "repainted; the lower edge lies off the sheet";
+    EXPECT_EQ(std::count_if(d.atti.begin(), d.atti.end(), [](const auto &a) { return a.ends_with(" 33023 1"); }), 3)
+        << "repainted; the lower edge lies off the sheet";
     ASSERT_EQ(t.lista().Aree.size(), 1U);
     EXPECT_EQ(t.lista().Linee[t.lista().Aree[0].linea].X1, 0.25 - 0.1);
     EXPECT_EQ(t.lista().Testi[t.lista().Aree[0].testo].Testo, "5");
@@ -154,13 +151,13 @@ TEST(Pagine, PieneDelDisegno) {
     // Tiles of 0.25 by 0.5 on a sheet of 0.6 by 1.1: three columns, three rows. Steps; numbers of the tiles.
     const std::pair<const char *, std::vector<int>> casi[] = {
         {"L 0.05 0.05 0.2 0.2 0 a", {1}},
-        {"L 0.05 0.05 0.59 1.05 0 a", {1, 2, 5, 6, 9}},           // a slant touches no tile beside it
-        {"L 0.3 0.1 9 0.1 0 a", {2, 3}},                          // clipped at the sheet
-        {"L 0.05 0.05 0.2 0.2 0 Page;A;T 0.3 0.1 testo", {}},     // grid, axes and texts are no drawing
+        {"L 0.05 0.05 0.59 1.05 0 a", {1, 2, 5, 6, 9}},        // a slant touches no tile beside it
+        {"L 0.3 0.1 9 0.1 0 a", {2, 3}},                       // clipped at the sheet
+        {"L 0.05 0.05 0.2 0.2 0 Page;A;T 0.3 0.1 testo", {}},  // grid, axes and texts are no drawing
         {"M -1 1;F 0.6 1.1 0.3 0;L 0.05 0.05 0.2 0.2 0 a", {1}},
         {"P 0.55 0.55 0", {6}},
         {"B 0.05 0.05 0.3 0.6 0 1", {1, 2, 4, 5}},
-        {"C 0.25 0.5 0.1 0 -1 1 3.2 4.6", {4}},                   // a quarter, down and left of its centre
+        {"C 0.25 0.5 0.1 0 -1 1 3.2 4.6", {4}},  // a quarter, down and left of its centre
         {"S p;V 0.3 0.1 0 p;V 0.3 0.7 0 p;E p", {2, 5}}};
     for (const auto &[passi, numeri] : casi) {
         Tavolo t = tavoloDiProva();

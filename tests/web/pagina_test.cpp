@@ -16,7 +16,18 @@ std::string Chiama(Pagina &p, std::string_view nome, std::string_view argomento 
 }
 
 TEST(Json, QualunqueByteDaJsonValido) {
-    EXPECT_EQ(std::move(Json().apri('{').nome("a\"").testo("\\\n\x01\xE0").nome("b").apri('[').numero(0.5).numero(1.0 / 0.0).vero(true).chiudi(']').chiudi('}')).fine(),
+    EXPECT_EQ(std::move(Json()
+                            .apri('{')
+                            .nome("a\"")
+                            .testo("\\\n\x01\xE0")
+                            .nome("b")
+                            .apri('[')
+                            .numero(0.5)
+                            .numero(1.0 / 0.0)
+                            .vero(true)
+                            .chiudi(']')
+                            .chiudi('}'))
+                  .fine(),
               "{\"a\\\"\":\"\\\\\\u000a\\u0001à\",\"b\":[0.5,null,true]}");
 }
 
@@ -28,7 +39,9 @@ TEST(Pagina, IlCollegamentoPortaIlQuadrante) {
     EXPECT_NE(link.find("[\"txtLAT\",\"-33.87\"]"), std::string::npos) << link;
     EXPECT_NE(link.find("[\"txtDec\",\"12\"]"), std::string::npos) << "keys that the filter drops: " << link;
     EXPECT_NE(link.find("[\"TxtInizio\",\"13\"]"), std::string::npos) << link;
-    Chiama(q, "collega", "TxtInizio\t13\nTxtFine\t24\ntxtLAT\t-33.87\ntxtDec\t12\ntxtX1\t1.5\nck_Italiche\t1\nnessuno\tx\ncmdRun\t1\nfrmDeclin.txtAngle\t9\n");
+    Chiama(q, "collega",
+           "TxtInizio\t13\nTxtFine\t24\ntxtLAT\t-33.87\ntxtDec\t12\ntxtX1\t1.5\nck_Italiche\t1\nnessuno\tx\ncmdRun\t1\nfrmDeclin."
+           "txtAngle\t9\n");
     EXPECT_EQ(Chiama(q, "collegamento"), link);
     EXPECT_EQ(Chiama(q, "disegna"), Chiama(p, "disegna"));
 }
@@ -49,15 +62,19 @@ TEST(Pagina, IDisegniNonToccanoLoScript) {
     Chiama(p, "disegna");
     Chiama(p, "rapporto", "cmdData");
     for (Pagina *x : {&p, &q})
-        for (const char *riga : {"set txtLAT 40", "check ck_babiloniche", "click cmdRun"}) EXPECT_EQ(Chiama(*x, "esegui", riga), "");
+        for (const char *riga : {"set txtLAT 40", "check ck_babiloniche", "click cmdRun"})
+            EXPECT_EQ(Chiama(*x, "esegui", riga), "");
     EXPECT_EQ(p.Esporta("txt"), q.Esporta("txt"));
     EXPECT_EQ(Chiama(p, "esegui", "nonsense"), "unknown action: nonsense");
 }
 
 TEST(Snello, TieneLaFormaELasciaIlResto) {
-    const std::string piena = "<a d=\"M0 0L1 0 2 0.001 3 0 3 4.5 3 9Z\"/><b d=\"M1 1h0M2 2h0\"/><c d=\"M0 0A1 2\"/><d d=\"M0 0L-5 1\" e=\"x\"/>";
-    EXPECT_EQ(Snello(piena, 0.01), "<a d=\"M0 0L3 0 3 9Z\"/><b d=\"M1 1h0M2 2h0\"/><c d=\"M0 0A1 2\"/><d d=\"M0 0L-5 1\" e=\"x\"/>");
-    for (const char *rotto : {" d=\"", " d=\"M\"", " d=\"M1\"", " d=\"ML\"", " d=\"M1 2L3\"", " d=\"M1 2L3 4 5\"", ""}) EXPECT_EQ(Snello(rotto, 1), rotto);
+    const std::string piena =
+        "<a d=\"M0 0L1 0 2 0.001 3 0 3 4.5 3 9Z\"/><b d=\"M1 1h0M2 2h0\"/><c d=\"M0 0A1 2\"/><d d=\"M0 0L-5 1\" e=\"x\"/>";
+    EXPECT_EQ(Snello(piena, 0.01),
+              "<a d=\"M0 0L3 0 3 9Z\"/><b d=\"M1 1h0M2 2h0\"/><c d=\"M0 0A1 2\"/><d d=\"M0 0L-5 1\" e=\"x\"/>");
+    for (const char *rotto : {" d=\"", " d=\"M\"", " d=\"M1\"", " d=\"ML\"", " d=\"M1 2L3\"", " d=\"M1 2L3 4 5\"", ""})
+        EXPECT_EQ(Snello(rotto, 1), rotto);
 }
 
 // Steps of an angle as people write it; what the field holds are degrees.

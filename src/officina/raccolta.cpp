@@ -20,7 +20,7 @@ constexpr double INTERO = 150;  // mm: a larger figure is no glyph and is clippe
 class Raccoglitore {
 public:
     Raccoglitore(const Tavolo &t, const Riquadro &campo, const Opzioni &o, Resoconto &r)
-        : tavolo(t), lista(t.lista()), campo(campo), opzioni(o), r(r), F(t.FattoreX), G(t.FattoreY) {
+        : lista(t.lista()), campo(campo), opzioni(o), r(r), F(t.FattoreX), G(t.FattoreY) {
         mezzoFoglio = MM / 2 * std::min(t.QuadranteL(), t.QuadranteH());
     }
 
@@ -324,7 +324,6 @@ private:
         }
     }
 
-    const Tavolo &tavolo;
     const Lista &lista;
     const Riquadro campo;
     const Opzioni &opzioni;

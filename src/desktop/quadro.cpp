@@ -66,7 +66,7 @@ Quadro::Quadro(Ponte &ponte, QWidget *genitore) : QWidget(genitore), ponte_(pont
     };
     foglio_->suClic = [this](const QPointF &punto) { clic(punto); };
     foglio_->suSotto = [this](const QPointF &mondo) { sotto(mondo); };
-    foglio_->testoMisura = [this](double mm, double gradi) {
+    foglio_->testoMisura = [](double mm, double gradi) {
         return QStringLiteral("%1 mm   %2°").arg(mm, 0, 'f', 1).arg(gradi, 0, 'f', 1);
     };
     foglio_->suPosizione = [this](std::optional<QPointF> mm) {

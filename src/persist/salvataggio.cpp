@@ -21,8 +21,12 @@ std::string minuscolo(std::string t) {
 
 // First place of a piece; quick in a text of nothing but "<", where plain search tries each of them.
 std::size_t trova(const std::string &testo, const std::string &pezzo) {
+#ifdef __cpp_lib_boyer_moore_searcher
     const auto dove = std::search(testo.begin(), testo.end(), std::boyer_moore_horspool_searcher(pezzo.begin(), pezzo.end()));
     return dove == testo.end() ? std::string::npos : static_cast<std::size_t>(dove - testo.begin());
+#else
+    return testo.find(pezzo);  // the page's library has no other
+#endif
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 // Prints medians; needs no answer from anybody.
 #include <QApplication>
 #include <QElapsedTimer>
+#include <QLineEdit>
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QTest>

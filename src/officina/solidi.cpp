@@ -2,7 +2,6 @@
 #include "officina/solidi.h"
 
 #include <algorithm>
-#include <bit>
 #include <cmath>
 #include <cstring>
 #include <numbers>
@@ -125,7 +124,12 @@ std::string Stl(const Solido &s) {
         for (int i = 0; i < byte; ++i) t += static_cast<char>((n >> (8 * i)) & 255U);
     };
     // No minus before a zero: readers that compare bytes would not join it to another.
-    const auto numero = [&](double x) { intero(std::bit_cast<std::uint32_t>(static_cast<float>(x + 0.0)), 4); };
+    const auto numero = [&](double x) {
+        const auto f = static_cast<float>(x + 0.0);
+        std::uint32_t bit;
+        std::memcpy(&bit, &f, sizeof bit);
+        intero(bit, 4);
+    };
     t.reserve(84 + 50 * s.facce.size());
     intero(static_cast<std::uint32_t>(s.facce.size()), 4);
     for (const auto &[a, b, c] : s.facce) {

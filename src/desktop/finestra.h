@@ -81,6 +81,7 @@ private:
     void stampa(bool aree);
     void esportaPdf();
     void esporta();
+    void perMacchina();
     bool scrivi(const QString &file, const std::string &contenuto);
     // Saves where the project lies; asks for a name when it has none, or when told to.
     bool salva(bool conNome);

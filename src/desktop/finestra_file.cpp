@@ -10,6 +10,8 @@
 #include "core/file.h"
 #include "desktop/finestra.h"
 #include "desktop/lingua_finestra.h"
+#include "desktop/parole.h"
+#include "desktop/per_macchina.h"
 #include "paint/documenti.h"
 #include "paint/file_disegno.h"
 #include "plot/dxf.h"
@@ -179,7 +181,7 @@ void Finestra::esportaPdf() {
             return true;
         });
     else pdf = paint::PdfFoglio(perCarta(), errore);
-    if (!errore.empty()) return dialoghi_.avviso(this, ponte_.Traduci(errore));
+    if (!errore.empty()) return dialoghi_.avviso(this, Motivo(ponte_, errore));
     if (pdf.isEmpty()) return messaggio(ponte_.Traduci("Nessun file scritto"));
     scrivi(*f, pdf.toStdString());
 }
@@ -196,8 +198,16 @@ void Finestra::esporta() {
     else if (fine == QStringLiteral("bmp")) contenuto = paint::Bmp(perCarta(), errore);
     else if (fine == QStringLiteral("pdf")) contenuto = paint::Pdf(perCarta(), errore);
     else errore = f->toStdString() + ": svg, dxf, pdf, png, bmp";
-    if (!errore.empty()) return dialoghi_.avviso(this, ponte_.Traduci(errore));
+    if (!errore.empty()) return dialoghi_.avviso(this, Motivo(ponte_, errore));
     scrivi(*f, contenuto);
+}
+
+void Finestra::perMacchina() {
+    const QString nome = percorso_.isEmpty() ? QStringLiteral("quadrante") : QFileInfo(percorso_).completeBaseName();
+    auto *d = new PerMacchina(ponte_, dialoghi_, perCarta(), Q(app::CartellaDisegni()) + QLatin1Char('/') + nome, this);
+    d->setAttribute(Qt::WA_DeleteOnClose);
+    d->suScritto = [this](const QString &file) { messaggio(ponte_.Traduci("Scritto") + QLatin1Char(' ') + file); };
+    d->show();
 }
 
 bool Finestra::scrivi(const QString &file, const std::string &contenuto) {

@@ -15,6 +15,7 @@
 
 #include "desktop/finestra.h"
 #include "desktop/gruppi.h"
+#include "desktop/parole.h"
 #include "desktop/stile.h"
 #include "plot/svg.h"
 
@@ -51,6 +52,8 @@ void Finestra::costruisciMenu() {
     file->addAction(comando(ponte_.Traduci("Esporta PDF..."), QKeySequence(QStringLiteral("Ctrl+E")), [this] { esportaPdf(); }));
     file->addAction(
         comando(ponte_.Traduci("Esporta disegno..."), QKeySequence(QStringLiteral("Ctrl+Shift+E")), [this] { esporta(); }));
+    file->addAction(
+        comando(ponte_.Traduci("Per la macchina..."), QKeySequence(QStringLiteral("Ctrl+Shift+M")), [this] { perMacchina(); }));
     file->addAction(bottone("Tavolo1.cmdStampa", QKeySequence::Print));
     file->addSeparator();
     voce(file, "mnuEsci", QKeySequence(QStringLiteral("Ctrl+Q")));
@@ -247,7 +250,7 @@ void Finestra::copia(bool svg) {
     }
     if (!errore.empty()) {
         delete dati;
-        return dialoghi_.avviso(this, ponte_.Traduci(errore));
+        return dialoghi_.avviso(this, Motivo(ponte_, errore));
     }
     QGuiApplication::clipboard()->setMimeData(dati);
     messaggio(ponte_.Traduci("Il disegno è negli appunti"));

@@ -100,6 +100,18 @@ Tavolo::Disegno Vesti(const Tavolo &t, const StileFoglio &stile, bool perCarta) 
     d.lista.Punti.reserve(l.Punti.size());
     d.lista.Ordine.reserve(l.Ordine.size());
     constexpr int GROSSA = 3;
+    const Pretesa *aperta = nullptr;
+    std::size_t figure = 0;
+    // Records keep their claims: what is made of the copy goes by them.
+    const auto tieni = [&](char tipo, const Pretesa *p) {
+        std::vector<Pretesa> &pretese = d.lista.pretese;
+        const std::size_t qui = d.lista.Ordine.size();
+        if (p != aperta && p)
+            pretese.push_back({p->specie, p->valore, qui, qui, d.lista.Linee.size(), d.lista.Punti.size(), figure});
+        aperta = p;
+        d.lista.Ordine += tipo;
+        if (p) pretese.back().a = qui + 1;
+    };
     percorri(l, [&](char tipo, std::size_t k, const Pretesa *p) {
         const auto chi = chiave(p);
         const StileFoglio::Tratto &tratto = stile.strati[chi.first];
@@ -111,16 +123,19 @@ Tavolo::Disegno Vesti(const Tavolo &t, const StileFoglio &stile, bool perCarta) 
             if (tinge) r.colore = tratto.colore;
             if (tratto.spessore > 0) r.Spessore = tratto.spessore;
             if (scelta) r.Spessore = GROSSA;
+            tieni(tipo, p);
             d.lista.Linee.push_back(r);
         } else if (tipo == 'P') {
             if (via) return;
             RecPunto r = l.Punti[k];
             if (tinge) r.colore = tratto.colore;
+            tieni(tipo, p);
             d.lista.Punti.push_back(r);
-        } else if (tinge && k < d.lista.Figure.size()) {
-            d.lista.Figure[k].colore = tratto.colore;
+        } else {
+            tieni(tipo, p);
+            ++figure;
+            if (tinge && k < d.lista.Figure.size()) d.lista.Figure[k].colore = tratto.colore;
         }
-        d.lista.Ordine += tipo;
     });
     return d;
 }

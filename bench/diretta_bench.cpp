@@ -72,6 +72,21 @@ void QuadranteIntero(benchmark::State &stato) {
 }
 BENCHMARK(QuadranteIntero)->Unit(benchmark::kMillisecond);
 
+// As above, each time at another latitude: nothing of the run before can be used again.
+void QuadranteDiAltroLuogo(benchmark::State &stato) {
+    misura::Muto utente;
+    Sessione s(utente);
+    prepara(s);
+    int n = 0;
+    for (auto _ : stato) {
+        s.in.txtLAT = std::to_string(40 + ++n % 100 * 0.1);
+        s.tavolo.Clear();
+        esegui(s);
+    }
+    stato.SetItemsProcessed(stato.iterations() * PUNTI);
+}
+BENCHMARK(QuadranteDiAltroLuogo)->Unit(benchmark::kMillisecond);
+
 // The arithmetic that keeps old values against plain doubles, over the same formula.
 void PuntoConReale(benchmark::State &stato) {
     Variabili v;

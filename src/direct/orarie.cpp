@@ -1,6 +1,7 @@
 // Hour lines of the direct engine and the hours counted from sunset, sunrise and by twelfths of the day: chains of
 // chords over the declinations of the year, so that a line exists only between the solstices.
 #include "direct/corsa.h"
+#include "gnomonica/ricordo.h"
 
 namespace ombrelia::direct {
 
@@ -85,15 +86,17 @@ void tracciaOre(Corsa &c, const LineeAttese &linee, Specie specie, std::string_v
     const Proiezione proietta(v);
     const SemiArchi &archi = c.semiArchi();
     Catena catena(s.tavolo, strato);
+    static thread_local SenCosRicordati seni;
     Reale x, y;
     bool prima = true;
+    std::size_t posto = 0;
     for (const LineaAttesa &l : linee) {
         const std::vector<double> &H0 = archi.diLinea(prima);
         const Pretendi pretendi(s.tavolo, specie, l.valore);
-        for (std::size_t i = 0; i < H0.size(); ++i) {
+        for (std::size_t i = 0; i < H0.size(); ++i, ++posto) {
             const double t = angolo(l.parametro, H0[i]);
             if (!dentro(t, H0[i])) continue;
-            proietta(SenCos(t), Anno()[i].tanD, x, y);
+            proietta(seni(posto, t), Anno()[i].tanD, x, y);
             catena.punto(x, y, passa(x, y), l.colore);
         }
         v.deltaOpz = Anno().back().d;  // left: the end of the sweep

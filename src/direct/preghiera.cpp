@@ -48,9 +48,8 @@ void TracciaQibla(Corsa &c, Valore B) {
     const Pretendi pretendi(s.tavolo, Specie::Qibla);
     Catena catena(s.tavolo, "Quibla");
     Reale t, x, y;
-    for (const double d : Conteggio(-OBLIQUITA, OBLIQUITA, 0.005)) {
-        v.deltaOpz = d;
-        const double tanD = std::tan(PI * d / 180);
+    v.deltaOpz = AnnoFitto().back().d;  // left: the end of the sweep
+    for (const auto &[d, tanD] : AnnoFitto()) {
         const Valore r = tanD * senB / tanLat;
         if (!(Abs(r) < 1)) continue;
         t = B - ArcSin(r);

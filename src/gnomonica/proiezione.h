@@ -9,7 +9,8 @@ namespace ombrelia {
 
 // Sine and cosine of an hour angle, taken once where many points share it.
 struct SenCos {
-    double sen, cos;
+    double sen = 0, cos = 1;
+    SenCos() = default;
     explicit SenCos(Valore t) : sen(std::sin(t.v)), cos(std::cos(t.v)) {}
 };
 

@@ -3,12 +3,22 @@
 
 namespace ombrelia {
 
+namespace {
+
+std::vector<Declinazione> declinazioni(double passo) {
+    std::vector<Declinazione> a;
+    for (const double d : Conteggio(-OBLIQUITA, OBLIQUITA, passo)) a.push_back({d, std::tan(PI * d / 180)});
+    return a;
+}
+
+}  // namespace
+
 const std::vector<Declinazione> &Anno() {
-    static const std::vector<Declinazione> anno = [] {
-        std::vector<Declinazione> a;
-        for (const double d : Conteggio(-OBLIQUITA, OBLIQUITA, 0.05)) a.push_back({d, std::tan(PI * d / 180)});
-        return a;
-    }();
+    static const std::vector<Declinazione> anno = declinazioni(0.05);
+    return anno;
+}
+const std::vector<Declinazione> &AnnoFitto() {
+    static const std::vector<Declinazione> anno = declinazioni(0.005);
     return anno;
 }
 

@@ -17,8 +17,10 @@ struct Declinazione {
 };
 // -OBLIQUITA to OBLIQUITA by 0.05 degrees: the year as hour lines, seasonal hours, Asr and azimuth lines take it.
 [[nodiscard]] const std::vector<Declinazione> &Anno();
-// The same sine and cosine as those of the year's declinations, in its order.
+// Sine and cosine of the same declinations, in their order.
 [[nodiscard]] const std::vector<SenCos> &AnnoSenCos();
+// The year by 0.005 degrees, as the Qibla's curve takes it.
+[[nodiscard]] const std::vector<Declinazione> &AnnoFitto();
 
 // Hour angles of a day line: -120 to 120 by 0.1 degrees, shifted by scarto (radians). No time correction: a day line is
 // the same in every zone.

@@ -114,9 +114,8 @@ void TracciaQibla(Corsa &c, const LineeAttese &) {
     const Valore senBeta = sin(beta), tanLat = tan(v.latR);
     const Pretendi pretendi(s.tavolo, Specie::Qibla);
     Reale seno, ht, Hr, x, y;
-    for (const double d : Conteggio(-OBLIQUITA, OBLIQUITA, 0.005)) {
-        v.deltaOpz = d;
-        const double tanD = std::tan(PI * d / 180);
+    v.deltaOpz = AnnoFitto().back().d;  // left: the end of the sweep
+    for (const auto &[d, tanD] : AnnoFitto()) {
         seno = equatore ? Valore(tanD) : tanD * senBeta / tanLat;
         // A Sun that never stands on this azimuth leaves the hour angle of the day before, and its point is plotted.
         if (!(Abs(seno) > 1)) {

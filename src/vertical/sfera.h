@@ -16,6 +16,7 @@ inline constexpr std::size_t PUNTI_LINEA = 60000;
 struct Orario : SenCos {
     double Hr;
     explicit Orario(Valore angolo) : SenCos(angolo), Hr(angolo.v) {}
+    Orario(double angolo, const SenCos &suoi) : SenCos(suoi), Hr(angolo) {}
 };
 
 // Spherical trigonometry of one wall (any textbook's astronomical triangle). Given hour angle and declination gives the
@@ -81,13 +82,13 @@ public:
     [[nodiscard]] static double senAltezza(const Orario &o, const Giorno &g) { return g.senSen + g.cosCos * o.cos; }
     void altezza(const Orario &o, const Giorno &g) { h = ArcSin(senAltezza(o, g)); }
 
-    [[nodiscard]] Valore ascissa(double azimut) const { return unita_ * std::tan(azimut - decR_) * gn_; }
-    [[nodiscard]] Valore ordinata(double azimut, double altezza) const {
-        return Valore(unita_ * (std::tan(altezza) * -gn_)) / std::cos(azimut - decR_);
-    }
+    // From the tangent and the cosine of the azimuth that counts from the wall's normal, and the tangent of the altitude.
+    [[nodiscard]] Valore ascissa(double tanA) const { return unita_ * tanA * gn_; }
+    [[nodiscard]] Valore ordinata(double cosA, double tanH) const { return Valore(unita_ * (tanH * -gn_)) / cosA; }
     void punto(Reale &x, Reale &y) const {
-        x = ascissa(A.numero());
-        y = ordinata(A.numero(), h.numero());
+        const double a = A.numero() - decR_;
+        x = ascissa(std::tan(a));
+        y = ordinata(std::cos(a), std::tan(h.numero()));
     }
     // Whether a Sun of this azimuth and sine of the altitude is below the horizon of a plumb wall for sure, its point
     // above it. Says no near the wall's own plane, where the tenth digit of PI decides.

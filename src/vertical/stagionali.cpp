@@ -1,6 +1,7 @@
 // Italic, Babylonian and temporary hours of the vertical engine, and the numbers along the summer solstice.
 #include <algorithm>
 
+#include "gnomonica/ricordo.h"
 #include "vertical/corsa.h"
 
 namespace ombrelia::vertical {
@@ -30,32 +31,54 @@ const std::vector<Giornata> &annoDi(Corsa &c, const Sfera &sfera) {
 }
 
 // These hours compare the angles themselves, not their sines.
-inline void azimut(Sfera &sfera, const Orario &o, const Sfera::Giorno &g) {
-    sfera.azimut(o, g);
+inline void mendaAzimut(Sfera &sfera, const Orario &o) {
     if (Sfera::segno(o.Hr) != Sfera::segno(sfera.A.numero())) sfera.mendaMuro();
 }
+inline void azimut(Sfera &sfera, const Orario &o, const Sfera::Giorno &g) {
+    sfera.azimut(o, g);
+    mendaAzimut(sfera, o);
+}
 
-double azimutDa(const Sfera &sfera, double q, bool girato) {
-    const double A = std::atan(q);
-    return girato ? A - Sfera::segno(A - sfera.declinazione()) * PI : A;
+// What the points of one kind of hours took last time: by hour angle, by tangent of the azimuth, by sine of the altitude, by
+// azimuth from the wall's normal.
+struct Ricordi {
+    struct Arco {
+        double operator()(double q) const { return std::atan(q); }
+    };
+    struct TangenteAltezza {
+        double operator()(double seno) const { return std::tan(ArcSin(seno).v); }
+    };
+    struct Obliqua {
+        double tan = 0, cos = 1;
+    };
+    struct DallaNormale {
+        Obliqua operator()(double a) const { return {std::tan(a), std::cos(a)}; }
+    };
+    SenCosRicordati ore;
+    Ricordo<double, Arco> azimut;
+    Ricordo<double, TangenteAltezza> altezza;
+    Ricordo<Obliqua, DallaNormale> parete;
+};
+
+double azimutDa(const Sfera &sfera, double arco, bool girato) {
+    return girato ? arco - Sfera::segno(arco - sfera.declinazione()) * PI : arco;
 }
 
 // A point of a line. What no test needs is worked out when a chord asks for it.
 struct Posto {
-    enum class Manca : std::uint8_t { Niente, Ordinata, Tutto, Angolo };
+    enum class Manca : std::uint8_t { Niente, Tutto, Angolo };
     Reale x, y;
     double A, seno;  // azimuth and sine of the altitude
     double q;        // tangent of the azimuth; whether the quadrant is the other
     bool girato;
     Manca manca = Manca::Niente;
 
-    void completa(const Sfera &sfera) {
-        if (manca == Manca::Angolo) {
-            A = azimutDa(sfera, q, girato);
-            manca = Manca::Tutto;
-        }
-        if (manca == Manca::Tutto) x = sfera.ascissa(A);
-        if (manca != Manca::Niente) y = sfera.ordinata(A, ArcSin(seno).v);
+    void completa(const Sfera &sfera, Ricordi &ricordi, std::size_t posto) {
+        if (manca == Manca::Niente) return;
+        if (manca == Manca::Angolo) A = azimutDa(sfera, ricordi.azimut(posto, q), girato);
+        const Ricordi::Obliqua o = ricordi.parete(posto, A - sfera.declinazione());
+        x = sfera.ascissa(o.tan);
+        y = sfera.ordinata(o.cos, ricordi.altezza(posto, seno));
         manca = Manca::Niente;
     }
 };
@@ -76,15 +99,19 @@ void tracciaOre(Corsa &c, const LineeAttese &linee, Specie specie, std::string_v
     const double xMin = cornice.xMin.numero() - 1e-6, xMax = cornice.xMax.numero() + 1e-6;
     bool pendente = false, giratoPendente = false;  // an azimuth that the last point did not work out
     double qPendente = 0;
+    static thread_local Ricordi ricordi;
+    std::size_t posto = 0;
     for (const LineaAttesa &l : linee) {
         const double n = l.parametro;
         const Pretendi pretendi(s.tavolo, specie, l.valore);
         std::size_t i = 0;
         for (const Giornata &g : giorni) {
-            const Orario ora(angolo(n, g.H0));
+            ++i;
+            ++posto;
+            const double Hr = angolo(n, g.H0);
+            const Orario ora(Hr, ricordi.ore(posto, Hr));
             const double s0 = Sfera::senAltezza(ora, g);
             if (std::fabs(s0) < 1) seno = s0;
-            ++i;
             // Where the tangent of the azimuth alone tells, by a wide margin, that the point lies behind the wall, under
             // the ground or beyond the frame, the angle is left for a chord to ask for.
             const double q = ora.sen / sfera.denominatore(ora, g);
@@ -108,23 +135,22 @@ void tracciaOre(Corsa &c, const LineeAttese &linee, Specie specie, std::string_v
                     continue;
                 }
             } else if (pendente) {
-                sfera.A = azimutDa(sfera, qPendente, giratoPendente);  // a quotient that faults leaves the last one standing
+                sfera.A =
+                    azimutDa(sfera, std::atan(qPendente), giratoPendente);  // a quotient that faults leaves the last one standing
             }
             pendente = false;
-            azimut(sfera, ora, g);
+            if (Valore(q).esiste()) sfera.A = ricordi.azimut(posto, q);
+            mendaAzimut(sfera, ora);
             if (!sfera.davanti()) continue;
             Posto &p = posti[i];
             p.A = sfera.A.numero();
             p.seno = seno;
             p.manca = Posto::Manca::Tutto;
             if (i < 2 || sfera.sottoTerra(p.A, p.seno)) continue;
-            p.x = sfera.ascissa(p.A);
-            p.manca = Posto::Manca::Ordinata;
-            if (!(cornice.xMin < p.x && p.x < cornice.xMax)) continue;
-            p.completa(sfera);
+            p.completa(sfera, ricordi, posto);
             if (p.y > 0 || !cornice.contiene(p.x, p.y)) continue;
             Posto &prima = posti[i - 1];
-            prima.completa(sfera);
+            prima.completa(sfera, ricordi, posto - 1);
             s.tavolo.xLine(p.x, -p.y, prima.x, -prima.y, l.colore, id);
         }
     }

@@ -51,13 +51,13 @@ struct Ricordi {
     struct Obliqua {
         double tan = 0, cos = 1;
     };
-    struct DallaNormale {
+    struct Normale {
         Obliqua operator()(double a) const { return {std::tan(a), std::cos(a)}; }
     };
     SenCosRicordati ore;
     Ricordo<double, Arco> azimut;
     Ricordo<double, TangenteAltezza> altezza;
-    Ricordo<Obliqua, DallaNormale> parete;
+    Ricordo<Obliqua, Normale> parete;
 };
 
 double azimutDa(const Sfera &sfera, double arco, bool girato) {

@@ -14,7 +14,7 @@
 #include <cmath>
 
 #include "desktop/dialoghi.h"
-#include "luoghi/atlante.h"
+#include "desktop/fuso_vicino.h"
 #include "luoghi/fusi.h"
 
 namespace ombrelia::desktop {
@@ -24,19 +24,6 @@ namespace {
 constexpr int MINUTI = 24 * 60;
 constexpr double DURATA = 10000;  // of a played day, milliseconds
 constexpr int BATTITO = 33;
-
-// The zone of the nearest town, within some eighty kilometres and of the field's standard time; else none.
-std::string fusoVicino(double lat, double lon, double fuso) {
-    constexpr double ENTRO = 0.75;  // degrees
-    const luoghi::Luogo *vicino = nullptr;
-    double quanto = ENTRO;
-    for (const luoghi::Luogo &l : luoghi::Atlante::Comune().luoghi()) {
-        if (std::fabs(l.latitudine - lat) >= quanto || l.base != std::lround(fuso * 60)) continue;
-        const double d = std::hypot(l.latitudine - lat, (l.longitudine - lon) * std::cos(lat * ombra::RADIANTI));
-        if (d < quanto) quanto = d, vicino = &l;
-    }
-    return vicino ? std::string(vicino->fuso) : std::string();
-}
 
 }  // namespace
 
@@ -166,7 +153,8 @@ void BarraTempo::estate() {
     if (lat != latitudine_ || lon != longitudine_) {
         latitudine_ = lat;
         longitudine_ = lon;
-        fuso_ = fusoVicino(lat, lon, posa.fuso());
+        const luoghi::Luogo *vicino = LuogoVicino(lat, lon, posa.fuso());
+        fuso_ = vicino ? std::string(vicino->fuso) : std::string();
         giornoLegale_ = 0;
     }
     const std::int64_t giorno = data_->date().toJulianDay();

@@ -219,7 +219,9 @@ void Finestra::dopo(IdControllo id, const app::Esito &esito) {
                    segue && (campo(id) || nome == "cmdRun"));
     titolo();
     for (const char *figura : {"Picture2", "Picture3"}) ponte_.widget(figura)->update();
-    if (nome == "cmdCalcola" && riga(id).modulo == "frmDeclin") soleDelGiorno();
+    const bool calcolato = nome == "cmdCalcola" && riga(id).modulo == "frmDeclin";
+    if (calcolato) soleDelGiorno();
+    moduli_->aggiorna(calcolato);
     if (nome == "M_about") moduli_->apri("frmAbout", true);
     if (nome == "mnuEsci")
         QMetaObject::invokeMethod(

@@ -64,6 +64,8 @@ void LinguaRicordata(Sessione &s) {
     traduciQt(lingua.codice);
 }
 
+QString CodiceLingua(const Sessione &s) { return QString::fromLatin1(linguaDi(s).codice); }
+
 void RicordaLingua(std::string_view voce, const app::Esito &esito) {
     if (!esito) return;
     const char *nome = voce == "mnuFrancais" ? "FranceseC2008" : voce == "mnuInglese" ? "IngleseC2008" : "";

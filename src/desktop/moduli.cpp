@@ -13,12 +13,14 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSysInfo>
+#include <QTabWidget>
 #include <QTextBlock>
 #include <QTextDocument>
 #include <QVBoxLayout>
 
 #include "core/file.h"
 #include "desktop/figure.h"
+#include "desktop/letture_parete.h"
 #include "desktop/tavole_rapporto.h"
 #include "paint/tinte.h"
 #include "reports/rapporti.h"
@@ -87,6 +89,7 @@ void Moduli::apri(std::string_view nome, bool aperto) {
     w->show();
     w->raise();
     w->activateWindow();
+    if (nome == "frmDeclin") aggiorna(false);
 }
 
 void Moduli::rapporto(std::string_view nome) {
@@ -130,6 +133,11 @@ void Moduli::mostra(const Rapporto &r) {
     if (auto *testo = w->findChild<QPlainTextEdit *>(QStringLiteral("testo"))) riempi(testo, r);
     if (TavoleRapporto *t = tavole(r.modulo)) t->mostra(r);
     apri(r.modulo, true);
+}
+
+void Moduli::aggiorna(bool calcolato) {
+    letture_->aggiorna();
+    if (calcolato) schede_->setCurrentIndex(1);
 }
 
 TavoleRapporto *Moduli::tavole(std::string_view nome) const {
@@ -210,6 +218,9 @@ void Moduli::strumenti() {
         }
         ++r;
     }
+    letture_ = new LettureParete(ponte_, w);
+    g2->addWidget(letture_->calendario(f2), 0, 4);
+    g2->addWidget(letture_->orologio(f2), r++, 0, 1, 5);
     auto *calcola = metti("cmdCalcola", f2);
     calcola->setProperty("principale", true);
     g2->addWidget(calcola, r, 0, 1, 2);
@@ -221,7 +232,12 @@ void Moduli::strumenti() {
     auto *esito = lettura(w);
     esito->setMinimumSize(440, 400);
     ponte_.adotta("frmDeclin.txtResult", esito);
-    fianco->addWidget(esito, 1);
+    constexpr int ALTE = 450;  // wrapped texts have their room
+    letture_->setMinimumHeight(ALTE);
+    schede_ = new QTabWidget(w);
+    schede_->addTab(letture_, ponte_.Traduci("Letture della parete"));
+    schede_->addTab(esito, ponte_.Traduci("Risultato"));
+    fianco->addWidget(schede_, 1);
     finestre_.emplace("frmDeclin", w);
 }
 

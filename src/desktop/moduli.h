@@ -11,9 +11,11 @@
 #include "desktop/ponte.h"
 
 class QPlainTextEdit;
+class QTabWidget;
 
 namespace ombrelia::desktop {
 
+class LettureParete;
 class TavoleRapporto;
 
 class Moduli {
@@ -28,6 +30,9 @@ public:
     void stampa(const Rapporto &r);
     // A form's window; null when there is none.
     [[nodiscard]] QWidget *modulo(std::string_view nome) const;
+    // What the utility board shows beside its boxes follows them; with its sum done, the result comes forward.
+    void aggiorna(bool calcolato);
+    [[nodiscard]] LettureParete &letture() const { return *letture_; }
     // Of a report's form, its tables; null for the others.
     [[nodiscard]] TavoleRapporto *tavole(std::string_view nome) const;
 
@@ -42,6 +47,8 @@ private:
     Ponte &ponte_;
     Dialoghi &dialoghi_;
     QWidget *finestra_;
+    LettureParete *letture_ = nullptr;
+    QTabWidget *schede_ = nullptr;
     std::map<std::string, QWidget *, std::less<>> finestre_;
     std::map<std::string, Rapporto, std::less<>> contenuti_;
 };

@@ -1,0 +1,196 @@
+// The window's dialogs: files for machines, readings of the wall and the clock of its zone.
+#include <QComboBox>
+#include <QFile>
+#include <QLabel>
+#include <QPushButton>
+#include <QSettings>
+#include <QTableWidget>
+#include <cmath>
+#include <fstream>
+
+#include "desktop/banco.h"
+#include "desktop/letture_parete.h"
+#include "desktop/per_macchina.h"
+#include "officina/tratti.h"
+
+namespace ombrelia {
+namespace {
+
+using prova::BancoFinestra;
+
+// --- for the machine ---------------------------------------------------------------------------------------------------------
+
+struct BancoMacchina : BancoFinestra {
+    desktop::PerMacchina *d = nullptr;
+    BancoMacchina() {
+        QSettings().remove(QStringLiteral("macchina"));
+        for (const char *c : {"chkOreAstronomiche", "Ck_DayLightCurves"}) spunta(c);
+        f.findChild<QAbstractButton *>(QStringLiteral("Adatta"))->click();
+        premi("cmdRun");
+    }
+    void apri() {
+        for (QAction *a : f.findChildren<QAction *>())
+            if (a->text() == QStringLiteral("Per la macchina...")) a->trigger();
+        d = dynamic_cast<desktop::PerMacchina *>(f.findChild<QDialog *>(QStringLiteral("perMacchina")));
+        ASSERT_TRUE(d);
+        aspetta();
+    }
+    void aspetta() {
+        ASSERT_TRUE(QTest::qWaitFor([this] { return !d->attivo(); }, 20000));
+    }
+    template <class T>
+    T *dentro(const char *nome) {
+        return d->findChild<T *>(QString::fromLatin1(nome));
+    }
+};
+
+TEST(PerMacchina, ShowsThePathsBeforeTheyAreSaved) {
+    BancoMacchina b;
+    b.apri();
+    ASSERT_TRUE(b.d->disegno());
+    std::string errore;
+    officina::Opzioni come;
+    come.testi = officina::CiSonoTratti() ? officina::Testi::Tratti : officina::Testi::Testo;
+    const officina::Disegno suo = officina::Prepara(b.s().tavolo, come, errore);
+    EXPECT_EQ(b.d->disegno()->cammini.size(), suo.cammini.size());
+    EXPECT_TRUE(b.dentro<QLabel>("conto")->text().startsWith(QString::number(suo.cammini.size())));
+    EXPECT_EQ(static_cast<std::size_t>(b.dentro<QTableWidget>("generi")->rowCount()), officina::GeneriUsati(suo).size());
+    auto *salva = b.dentro<QPushButton>("salva");
+    auto *tolleranza = b.dentro<QLineEdit>("tolleranza");
+    for (const char *t : {"0", "-1", "un po'", "", "1e4"}) {
+        tolleranza->setText(QString::fromUtf8(t));
+        b.aspetta();
+        EXPECT_FALSE(salva->isEnabled()) << t;
+        EXPECT_TRUE(tolleranza->property("fuori").toBool()) << t;
+    }
+    tolleranza->setText(QStringLiteral("0,5"));
+    b.aspetta();
+    EXPECT_TRUE(salva->isEnabled());
+    ASSERT_TRUE(b.d->disegno());
+    EXPECT_LT(b.d->disegno()->resoconto.vertici, suo.resoconto.vertici) << "a coarser curve has fewer points";
+    b.dialoghi.risposte = {"taglio.plt"};  // another format's ending
+    salva->click();
+    std::ifstream file("taglio.plt");
+    std::string inizio(2, ' ');
+    file.read(inizio.data(), 2);
+    EXPECT_EQ(inizio, "IN");
+    EXPECT_FALSE(b.d->isVisible());
+    EXPECT_NE(b.campo("Tavolo1.p_mess").find("taglio.plt"), std::string::npos);
+    EXPECT_TRUE(b.dialoghi.avvisi.empty());
+}
+
+TEST(PerMacchina, SaysWhyThereIsNothingToSave) {
+    BancoMacchina b;
+    b.s().tavolo.Clear();
+    b.apri();
+    EXPECT_FALSE(b.d->disegno());
+    EXPECT_FALSE(b.dentro<QPushButton>("salva")->isEnabled());
+    b.d->reject();
+}
+
+// --- the wall ----------------------------------------------------------------------------------------------------------------
+
+struct BancoParete : BancoFinestra {
+    QTableWidget *t = nullptr;
+    BancoParete(const char *lat, const char *lon, const char *meridiano) {
+        s().in.txtLAT = lat;
+        s().in.txtLonG = lon;
+        s().in.txtMeridiano = meridiano;
+        f.ponte().premi("mnuAusiliaria");
+        t = f.moduli().letture().findChild<QTableWidget *>(QStringLiteral("letture"));
+    }
+    void scriviRiga(int r, const char *giorno, const char *ora, const char *angolo) {
+        for (const auto &[c, testo] : {std::pair{0, giorno}, {1, ora}, {2, angolo}})
+            t->item(r, c)->setText(QString::fromUtf8(testo));
+    }
+    void istante(int giorno, int mese, int anno, int ore) {
+        for (const auto &[nome, n] :
+             {std::pair{"txtDay", giorno}, {"txtMonth", mese}, {"txtYear", anno}, {"txtHH", ore}, {"txtMM", 0}}) {
+            const IdControllo id = TrovaControllo("frmDeclin." + std::string(nome));
+            f.ponte().fai(id, [&] { s().testo(id) = std::to_string(n); });
+        }
+    }
+};
+
+TEST(LettureParete, MeanSpreadAndTheReadingThatStandsOut) {
+    BancoParete b("44.494", "-11.343", "-15");
+    // The board's own answer, reading by reading: the wall's declination is the azimuth less the angle.
+    const auto azimut = [&](int ore, int minuti) {
+        return sun::Declinazione(
+                   {.lat = 44.494, .lon = -11.343, .giorno = 3, .mese = 5, .anno = 2026, .ore = ore, .minuti = minuti},
+                   b.s().dizionario)
+            .azimut.v;
+    };
+    const double vere[] = {20.1, 19.9, 20.2, 19.8, 27};
+    const std::pair<int, int> quando[] = {{8, 30}, {9, 40}, {10, 15}, {12, 5}, {13, 0}};
+    int r = 0;
+    for (const double d : vere) {
+        const auto [ore, minuti] = quando[r];
+        ASSERT_EQ(b.t->rowCount(), r + 1) << "a whole row asks for the next";
+        b.scriviRiga(r, "03/05/2026", (std::to_string(ore) + ":" + std::to_string(minuti)).c_str(),
+                     std::to_string(azimut(ore, minuti) - d).c_str());
+        EXPECT_NEAR(b.t->item(r, 3)->text().chopped(1).toDouble(), d, 0.001);
+        ++r;
+    }
+    desktop::LettureParete &l = b.f.moduli().letture();
+    EXPECT_NEAR(l.insieme().media, 21.4, 0.001);
+    EXPECT_TRUE(l.insieme().stona);
+    EXPECT_EQ(l.insieme().lontana, 4U);
+    for (auto *c : l.findChildren<QAbstractButton *>())
+        if (c->isCheckable() && c->text().startsWith(QStringLiteral("Lascia"))) c->click();
+    EXPECT_NEAR(l.insieme().media, 20, 0.001);
+    l.findChild<QPushButton *>(QStringLiteral("usaDeclinazione"))->click();
+    EXPECT_EQ(b.campo("txtDec"), "20");
+    b.f.passi().undo();
+    EXPECT_NE(b.campo("txtDec"), "20");
+    // What makes no sense counts for nothing and says why.
+    for (const auto &[giorno, ora, angolo, colonna] : {std::tuple{"31/04/2026", "9:40", "3", 0},
+                                                       {"03/05/2026", "25:00", "3", 1},
+                                                       {"03/05/2026", "9:40", "tre", 2},
+                                                       {"03/05/2026", "1:00", "3", 1}}) {
+        b.scriviRiga(4, giorno, ora, angolo);
+        EXPECT_FALSE(b.t->item(4, colonna)->toolTip().isEmpty()) << giorno << ora << angolo;
+        EXPECT_TRUE(b.t->item(4, 3)->text().isEmpty()) << giorno << ora << angolo;
+    }
+}
+
+// Zone and summer time of the day, by the rules of the place: known dates of its changes.
+TEST(LettureParete, TheBoardHasTheClockOfThePlace) {
+    struct Caso {
+        const char *lat, *lon, *meridiano;
+        int giorno, mese, anno, ore;
+        const char *fuso;
+        int legale;
+        const char *orologio;
+    };
+    for (const Caso &c : {Caso{"44.494", "-11.343", "-15", 28, 3, 2026, 12, "-1", 0, "13:"},
+                          {"44.494", "-11.343", "-15", 29, 3, 2026, 12, "-1", 1, "14:"},
+                          {"44.494", "-11.343", "-15", 25, 10, 2026, 12, "-1", 0, "13:"},
+                          {"40.7128", "74.006", "75", 1, 7, 2026, 12, "5", 1, "8:"},
+                          {"-33.868", "-151.207", "-150", 1, 1, 2026, 12, "-10", 1, "23:"},
+                          {"22.5726", "-88.3639", "-82.5", 1, 7, 2026, 12, "-5.5", 0, "17:30 "}}) {
+        BancoParete b(c.lat, c.lon, c.meridiano);
+        b.istante(c.giorno, c.mese, c.anno, c.ore);
+        EXPECT_EQ(b.campo("frmDeclin.TxtFuso"), c.fuso) << c.lat;
+        EXPECT_EQ(b.s().valore(TrovaControllo("frmDeclin.ckDst")), c.legale) << c.lat << ' ' << c.giorno << '/' << c.mese;
+        EXPECT_TRUE(b.f.findChild<QLabel *>(QStringLiteral("orologio"))->text().contains(QString::fromLatin1(c.orologio)))
+            << b.f.findChild<QLabel *>(QStringLiteral("orologio"))->text().toStdString();
+    }
+    // What the user types there is his.
+    BancoParete b("44.494", "-11.343", "-15");
+    b.istante(1, 7, 2026, 12);
+    const IdControllo fuso = TrovaControllo("frmDeclin.TxtFuso");
+    b.f.ponte().fai(fuso, [&] { b.s().testo(fuso) = "-3"; });
+    b.istante(1, 1, 2026, 12);
+    EXPECT_EQ(b.campo("frmDeclin.TxtFuso"), "-3");
+    // A time of the clock is taken to UT by the day's offset.
+    auto *ore = b.f.moduli().letture().findChild<QComboBox *>(QStringLiteral("ore"));
+    b.scriviRiga(0, "03/05/2026", "8:00", "0");
+    const QString ut = b.t->item(0, 3)->text();
+    b.scriviRiga(0, "03/05/2026", "10:00", "0");
+    ore->setCurrentIndex(1);
+    EXPECT_EQ(b.t->item(0, 3)->text(), ut);
+}
+
+}  // namespace
+}  // namespace ombrelia

@@ -92,9 +92,8 @@ public:
         const double k = std::floor(xa * PASSI + 0.5);
         h_ = somma(xa - k / PASSI, xb);
         const double q = h_.a * h_.a;
-        const Coppia quadrato = prodotto(h_.a, h_.a);
         seno_ = h_.a * q * (-1.0 / 6 + q * (1.0 / 120 - q / 5040));
-        cos1_ = {-0.5 * quadrato.a, -0.5 * quadrato.b - h_.a * h_.b + q * q * (1.0 / 24 - q * (1.0 / 720 - q / 40320))};
+        cos1_ = q * (-0.5 + q * (1.0 / 24 - q * (1.0 / 720 - q / 40320))) - h_.a * h_.b;
         riga_ = &TAVOLA.riga(k);
     }
     [[nodiscard]] Coppia sen() const {
@@ -104,27 +103,33 @@ public:
     [[nodiscard]] Coppia cos() const { return combina(riga_->cos, {-riga_->sen.a, -riga_->sen.b}); }
 
 private:
-    // s cos h + c sin h
+    // s cos h + c sin h. Of the product with h every bit counts; cos h - 1 is below 2^-15, and a double of it far below the last.
     [[nodiscard]] Coppia combina(const Coppia &s, const Coppia &c) const {
-        const Coppia p = prodotto(c.a, h_.a), r = prodotto(s.a, cos1_.a);
-        const Coppia u = somma(s.a, p.a), v = somma(u.a, r.a);
-        const double resto = s.b + p.b + r.b + c.a * (h_.b + seno_) + c.b * h_.a + s.a * cos1_.b + s.b * cos1_.a;
-        return sommaOrdinata(v.a, v.b + u.b + resto);
+        const Coppia p = prodotto(c.a, h_.a), u = somma(s.a, p.a);
+        return sommaOrdinata(u.a, u.b + (s.b + p.b + c.a * (h_.b + seno_) + c.b * h_.a + s.a * cos1_));
     }
     bool meno_;
     const SenoCoseno *riga_;
-    Coppia h_, cos1_;  // h and cos h - 1
-    double seno_;      // sin h - h
+    Coppia h_;
+    double cos1_, seno_;  // cos h - 1, sin h - h
 };
 
-// Sine of an angle and so many quarter turns.
-Coppia seno(double x, int quarti) {
-    const double n = std::floor(x * 0x1.45f306dc9c883p-1 + 0.5);
-    const Angolo r(riduci(x, n));
-    const int q = (static_cast<int>(n) + quarti) & 3;
-    const Coppia s = q % 2 == 0 ? r.sen() : r.cos();
-    return q < 2 ? s : Coppia{-s.a, -s.b};
-}
+// An angle in its quarter of the turn.
+class Giro {
+public:
+    explicit Giro(double x) : Giro(x, std::floor(x * 0x1.45f306dc9c883p-1 + 0.5)) {}
+    // Sine of the angle and so many quarter turns.
+    [[nodiscard]] Coppia seno(int quarti) const {
+        const int q = (quarto_ + quarti) & 3;
+        const Coppia s = q % 2 == 0 ? resto_.sen() : resto_.cos();
+        return q < 2 ? s : Coppia{-s.a, -s.b};
+    }
+
+private:
+    Giro(double x, double n) : quarto_(static_cast<int>(n)), resto_(n == 0 ? Coppia{x, 0} : riduci(x, n)) {}
+    int quarto_;
+    Angolo resto_;
+};
 
 bool vicino(double x) { return x > -ANGOLO_MASSIMO && x < ANGOLO_MASSIMO; }
 // Series and products of numbers so small have nothing to add.
@@ -134,15 +139,16 @@ bool minimo(double x) { return std::fabs(x) < 0x1p-30; }
 
 double sin(double x) {
     if (minimo(x)) return x;
-    return vicino(x) ? seno(x, 0).a : static_cast<double>(std::sin(static_cast<long double>(x)));
+    return vicino(x) ? Giro(x).seno(0).a : static_cast<double>(std::sin(static_cast<long double>(x)));
 }
 
-double cos(double x) { return vicino(x) ? seno(x, 1).a : static_cast<double>(std::cos(static_cast<long double>(x))); }
+double cos(double x) { return vicino(x) ? Giro(x).seno(1).a : static_cast<double>(std::cos(static_cast<long double>(x))); }
 
 double tan(double x) {
     if (minimo(x)) return x;
     if (!vicino(x)) return static_cast<double>(std::tan(static_cast<long double>(x)));
-    return diviso(seno(x, 0), seno(x, 1)).a;
+    const Giro g(x);
+    return diviso(g.seno(0), g.seno(1)).a;
 }
 
 // A first value, mended by the angle between it and the right one.
@@ -151,7 +157,8 @@ double atan(double x) {
     constexpr double RETTO = 0x1.921fb54442d18p+0, INFINITO = 1e17;  // from where on it is a right angle to the last digit
     if (!(std::fabs(x) < INFINITO)) return x < 0 ? -RETTO : RETTO;
     const double y = std::asin(x / std::sqrt(1 + x * x));
-    const Coppia s = seno(y, 0), c = seno(y, 1), d = piu(per({x, 0}, c), {-s.a, -s.b});
+    const Giro g(y);
+    const Coppia s = g.seno(0), c = g.seno(1), d = piu(per({x, 0}, c), {-s.a, -s.b});
     return y + d.a / (c.a + x * s.a);
 }
 

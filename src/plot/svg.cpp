@@ -5,10 +5,11 @@
 #include <charconv>
 #include <cmath>
 #include <numbers>
-#include <unordered_set>
 
 #include "core/testo.h"
+#include "plot/impronta.h"
 #include "plot/percorso.h"
+#include "plot/snello.h"
 
 namespace ombrelia {
 
@@ -25,10 +26,7 @@ constexpr double CORPO_MM = 2.8222;  // 8 point, as the screen's text
 constexpr double BASE_MM = 2.6;      // from the top of a text line to its base line
 
 using Passi = std::int64_t;
-struct Punto {
-    Passi x, y;
-    bool operator==(const Punto &) const = default;
-};
+using Punto = PuntoIntero;
 
 void aggiungiIntero(std::string &t, Passi n) {
     char b[24];
@@ -86,31 +84,6 @@ std::string xml(std::string_view grezzo) {
     return t;
 }
 
-// A run of points as two hashes of 64 bits, the same either way round.
-struct Impronta {
-    std::uint64_t a = 0x9E3779B97F4A7C15U, b = 0;
-
-    explicit Impronta(const std::vector<Punto> &punti) : b(punti.size()) {
-        const auto prima = [](const Punto &p, const Punto &q) { return p.x != q.x ? p.x < q.x : p.y < q.y; };
-        const auto mescola = [this](const Punto &p) {
-            for (const Passi v : {p.x, p.y}) {
-                a = (a ^ static_cast<std::uint64_t>(v)) * 0xFF51AFD7ED558CCDU;
-                a ^= a >> 29;
-                b = (b + static_cast<std::uint64_t>(v)) * 0xC4CEB9FE1A85EC53U;
-                b ^= b >> 32;
-            }
-        };
-        if (std::lexicographical_compare(punti.rbegin(), punti.rend(), punti.begin(), punti.end(), prima))
-            std::for_each(punti.rbegin(), punti.rend(), mescola);
-        else std::for_each(punti.begin(), punti.end(), mescola);
-    }
-    bool operator==(const Impronta &) const = default;
-    struct Resto {
-        std::size_t operator()(const Impronta &i) const { return i.a; }
-    };
-};
-using Visti = std::unordered_set<Impronta, Impronta::Resto>;
-
 // An element of a layer: where its text begins, what it draws, and when it was begun.
 struct Pezzo {
     std::size_t inizio;
@@ -119,20 +92,40 @@ struct Pezzo {
     bool copia = false;  // of one begun earlier, on whatever layer
 };
 
+// Points of a colour: what is written of them, and those that follow each other without a gap.
+struct Puntini {
+    Colore colore;
+    std::string d;
+    std::vector<Punto> fila;
+
+    void chiudiFila(const Occhio &occhio) {
+        if (fila.empty()) return;
+        occhio.snellisci(fila);
+        for (std::size_t i = 0; i < fila.size(); ++i) {
+            d += i == 0 ? 'M' : i == 1 ? 'L' : ' ';
+            aggiungiPunto(d, fila[i]);
+        }
+        if (fila.size() == 1) d += "h0"sv;
+        fila.clear();
+    }
+};
+
 // One layer: its finished elements, the path in hand, and its points by colour.
 struct Strato {
+    Occhio occhio;
     std::string corpo;
     std::vector<Pezzo> pezzi;
     std::vector<Punto> percorso;
     std::size_t turno = 0;  // of the path in hand
     Colore colore = 0;
     std::int32_t spessore = 1;
-    std::vector<std::pair<Colore, std::string>> punti;
+    std::vector<Puntini> punti;
     std::size_t fineElementi = 0;  // behind them the points
 
     void chiudiPercorso() {
         if (percorso.empty()) return;
         pezzi.push_back({corpo.size(), Impronta(percorso), turno});
+        occhio.snellisci(percorso);
         corpo += "<path stroke=\""sv;
         aggiungiColore(corpo, colore);
         if (spessore != 1) {
@@ -167,23 +160,23 @@ struct Strato {
     }
 
     void punto(const Punto &p, Colore c) {
-        auto gruppo = std::find_if(punti.begin(), punti.end(), [c](const auto &g) { return g.first == c; });
-        if (gruppo == punti.end()) gruppo = punti.insert(gruppo, {c, {}});
-        gruppo->second += 'M';
-        aggiungiPunto(gruppo->second, p);
-        gruppo->second += "h0"sv;
+        auto gruppo = std::find_if(punti.begin(), punti.end(), [c](const Puntini &g) { return g.colore == c; });
+        if (gruppo == punti.end()) gruppo = punti.insert(gruppo, {c, {}, {}});
+        if (!gruppo->fila.empty() && !occhio.attaccati(gruppo->fila.back(), p)) gruppo->chiudiFila(occhio);
+        gruppo->fila.push_back(p);
     }
 
     void chiudi() {
         chiudiPercorso();
         fineElementi = corpo.size();
-        for (const auto &[c, d] : punti) {
+        for (Puntini &g : punti) {
+            g.chiudiFila(occhio);
             corpo += "<path stroke-width=\""sv;
             aggiungiMm(corpo, PUNTO_MM);
             corpo += "\" stroke=\""sv;
-            aggiungiColore(corpo, c);
+            aggiungiColore(corpo, g.colore);
             corpo += "\" d=\""sv;
-            corpo += d;
+            corpo += g.d;
             corpo += "\"/>\n"sv;
         }
     }
@@ -191,7 +184,8 @@ struct Strato {
 
 class Scrittore {
 public:
-    explicit Scrittore(const Tavolo &t) : tavolo(t), lista(t.lista()), q(t.quadrante()), posto(lista.nomi.quanti(), SENZA) {}
+    Scrittore(const Tavolo &t, double pixel)
+        : tavolo(t), lista(t.lista()), q(t.quadrante()), occhio{pixel * PASSI_AL_MM}, posto(lista.nomi.quanti(), SENZA) {}
 
     std::string scrivi() {
         Percorri(lista, *this);
@@ -271,7 +265,7 @@ private:
     Strato &strato(IdNome id) {
         if (posto[id] == SENZA) {
             posto[id] = strati.size();
-            strati.emplace_back();
+            strati.push_back({.occhio = occhio});
             nomi.push_back(id);
         }
         return strati[posto[id]];
@@ -472,6 +466,7 @@ private:
     const Tavolo &tavolo;
     const Lista &lista;
     const Quadrante &q;
+    Occhio occhio;
     Visti puntiVisti;
     std::size_t turno = 0;
     std::vector<std::size_t> posto;  // of a name among the layers
@@ -481,6 +476,6 @@ private:
 
 }  // namespace
 
-std::string SVG_Generate(const Tavolo &tavolo) { return Scrittore(tavolo).scrivi(); }
+std::string SVG_Generate(const Tavolo &tavolo, double pixel) { return Scrittore(tavolo, pixel).scrivi(); }
 
 }  // namespace ombrelia

@@ -12,6 +12,8 @@ namespace ombrelia {
 // What lies beyond the sheet is cut off, as on paper, and a path, point or circle that is there already, on whatever layer, is
 // left out: a machine would cut it again. Boxes are outlines only, even filled ones: a filled
 // frame would cover the dial, and a cutter wants the outline.
-[[nodiscard]] std::string SVG_Generate(const Tavolo &tavolo);
+// With the width in millimetres of a screen's pixel, what that screen tells apart: paths with fewer points and digits, points
+// that touch as paths.
+[[nodiscard]] std::string SVG_Generate(const Tavolo &tavolo, double pixel = 0);
 
 }  // namespace ombrelia

@@ -18,7 +18,6 @@
 #include "plot/svg.h"
 #include "reports/rapporti.h"
 #include "web/json.h"
-#include "web/snello.h"
 
 namespace ombrelia::web {
 
@@ -220,11 +219,14 @@ void Pagina::ridisegna() {
     prova_.in.txtLAT = da.in.txtLAT;
 }
 
-std::string Pagina::Disegna() {
+std::string Pagina::Disegna(double pixel) {
     if (!daScript_) ridisegna();
+    return Mostra(pixel);
+}
+
+std::string Pagina::Mostra(double pixel) {
     const Tavolo &t = disegno().tavolo;
-    constexpr double OCCHIO = 0.01;  // mm
-    const std::string svg = Snello(SVG_Generate(t), OCCHIO);
+    const std::string svg = SVG_Generate(t, pixel);
     // Layers stand as groups, each on lines of its own.
     constexpr std::string_view STRATO = "<g id=\"strato", FINE = "</g>\n</svg>\n";
     const std::size_t primo = std::min(svg.find(STRATO), svg.size() - FINE.size());

@@ -55,8 +55,11 @@ public:
     [[nodiscard]] std::string Stato();
 
     // The dial drawn anew from the fields, or what a script has drawn if nobody touched a field since. JSON: the sheet, its
-    // layers in their order, and an SVG of the layers that changed since the last call.
-    [[nodiscard]] std::string Disegna();
+    // layers in their order, and an SVG of the layers that changed since the last call, as a screen shows them whose pixel has
+    // so many millimetres.
+    [[nodiscard]] std::string Disegna(double pixel);
+    // The same drawing on another screen, or nearer.
+    [[nodiscard]] std::string Mostra(double pixel);
     // The same with all layers, for a page that starts over.
     void Dimentica() { mostrati_.clear(); }
     // The drawing shown, in one of the program's forms ("svg", "dxf"), or made ready for a machine ("macchina.dxf"); "omb" is the

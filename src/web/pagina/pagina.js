@@ -71,20 +71,26 @@
   let misura = [1, 1, 0, 0, 1, 1];  // the sheet in metres: width, height, shift, mirrors
   let vista = null;  // x, y and width of what is seen, millimetres; null for the whole sheet
 
-  function disegna() {
-    const d = chiedi('disegna');
+  let largo = 1, alto = 1;  // of the pane, in pixels of the page
+  let pixel = 0;  // millimetres of the finest pixel that the drawing shown is meant for
+
+  const pixelOra = () => 2 ** Math.floor(Math.log2(riquadro().l / largo / Math.max(devicePixelRatio, 1)));
+  function disegna(come = 'disegna') {
+    pixel = pixelOra();
+    const d = chiedi(come, pixel);
     const nuovi = new DOMParser().parseFromString(d.svg, 'image/svg+xml').querySelectorAll('g[id]');
     for (const g of nuovi) strati.set(g.id, document.adoptNode(g));
     disegno.replaceChildren(...d.strati.map((id) => strati.get(id)));
     if (d.foglio.join() !== misura.join()) {
       misura = d.foglio;
-      for (const carta of [cerca('carta'), cerca('ritaglio').firstElementChild]) {
+      for (const carta of [cerca('orlo'), cerca('carta'), cerca('ritaglio').firstElementChild]) {
         carta.setAttribute('width', misura[0] * 1000);
         carta.setAttribute('height', misura[1] * 1000);
       }
       vista = null;
     }
     inquadra();
+    if (come === 'mostra') return;
     sigilla();
     if (d.avvisi.length) avvisa(d.avvisi.join(' '));
     else if (!d.strati.some((id) => !id.endsWith('-Cornice'))) avvisa(testi.vuoto);
@@ -92,8 +98,8 @@
 
   // What is seen: the whole sheet with a margin, or where the user went.
   function riquadro() {
-    const { clientWidth: l, clientHeight: h } = foglio;
-    if (vista) return { ...vista, h: vista.l * h / Math.max(l, 1) };
+    const [l, h] = [largo, alto];
+    if (vista) return { ...vista, h: vista.l * h / l };
     const [L, H] = [misura[0] * 1000, misura[1] * 1000];
     const k = Math.max(L / Math.max(l - 44, 60), H / Math.max(h - 44, 60));
     return { x: (L - k * l) / 2, y: (H - k * h) / 2, l: k * l, h: k * h };
@@ -101,9 +107,16 @@
   function inquadra() {
     const r = riquadro();
     quadrante.setAttribute('viewBox', `${r.x} ${r.y} ${r.l} ${r.h}`);
-    const mmAlPunto = r.l / Math.max(foglio.clientWidth, 1);
+    const mmAlPunto = r.l / largo;
     quadrante.classList.toggle('lontano', mmAlPunto > 0.5);
     for (const e of sopra.querySelectorAll('circle')) e.setAttribute('r', 5.5 * mmAlPunto);
+    // Nearer, more shows.
+    clearTimeout(inquadra.attesa);
+    if (pixel && pixelOra() !== pixel) inquadra.attesa = setTimeout(() => prova(() => disegna('mostra')), 120);
+  }
+  function misuraFoglio() {
+    [largo, alto] = [Math.max(foglio.clientWidth, 1), Math.max(foglio.clientHeight, 1)];
+    inquadra();
   }
   function zoom(volte, px, py) {
     const r = riquadro(), scatola = foglio.getBoundingClientRect();
@@ -136,7 +149,7 @@
         return;
       }
       const altro = [...dita.values()].find((d) => d.pointerId !== e.pointerId);
-      const r = riquadro(), mm = r.l / foglio.clientWidth;
+      const r = riquadro(), mm = r.l / largo;
       foglio.classList.add('preso');
       if (altro) {
         const lontano = (a, b) => Math.hypot(a.clientX - b.clientX, a.clientY - b.clientY);
@@ -185,19 +198,25 @@
     cerca('piu').onclick = () => zoom(1.5, ...centro());
     cerca('meno').onclick = () => zoom(1 / 1.5, ...centro());
     cerca('tutto').onclick = tutto;
-    new ResizeObserver(inquadra).observe(foglio);
+    new ResizeObserver(misuraFoglio).observe(foglio);
+    misuraFoglio();
   }
 
   // --- what a point says, and the shadow ------------------------------------------------------------------------------
 
   const lingua = () => cerca('lingua').value;
-  const giornoScritto = (data) => new Date(`${data}T12:00:00Z`).toLocaleDateString(lingua(), { day: 'numeric', month: 'long', timeZone: 'UTC' });
+  const scritti = new Map();  // what writes a day, by language
+  function giornoScritto(data) {
+    const l = lingua();
+    if (!scritti.has(l)) scritti.set(l, new Intl.DateTimeFormat(l, { day: 'numeric', month: 'long', timeZone: 'UTC' }));
+    return scritti.get(l).format(new Date(`${data}T12:00:00Z`));
+  }
   const anno = new Date().getFullYear();
 
   function leggi(e) {
     const [x, y] = sulFoglio(e);
     if (x < 0 || y < 0 || x > misura[0] * 1000 || y > misura[1] * 1000) return cerca('letto').replaceChildren();
-    const p = chiedi('leggi', x, y, anno, riquadro().l / foglio.clientWidth * 9);
+    const p = chiedi('leggi', x, y, anno, riquadro().l / largo * 9);
     illumina(p.pretesa);
     const pezzi = [`${p.x.toFixed(0)}, ${p.y.toFixed(0)} mm`];
     if (p.luce === 'si') {
@@ -600,7 +619,7 @@
       className: r.vera ? '' : 'falsa', onclick: () => {
         cerca('foglietto').close();
         const l = misura[0] * 250;
-        vista = { x: r.peggio[0] - l / 2, y: r.peggio[1] - l * foglio.clientHeight / foglio.clientWidth / 2, l };
+        vista = { x: r.peggio[0] - l / 2, y: r.peggio[1] - l * alto / largo / 2, l };
         inquadra();
       },
     }, crea('td', { textContent: r.linea + (r.doppia ? `, ${testi.doppia}` : '') }),

@@ -265,7 +265,7 @@ private:
     Strato &strato(IdNome id) {
         if (posto[id] == SENZA) {
             posto[id] = strati.size();
-            strati.push_back({.occhio = occhio});
+            strati.emplace_back().occhio = occhio;
             nomi.push_back(id);
         }
         return strati[posto[id]];

@@ -75,7 +75,7 @@ TEST(Snello, CioCheSiVede) {
     t.QuadranteH(1);
     const double x[] = {0, 0.1, 0.2, 0.3, 0.3}, y[] = {0, 0, 0.00004, 0, 0.2};
     for (std::size_t i = 1; i < 5; ++i) t.xLine(x[i - 1], y[i - 1], x[i], y[i], 0);
-    for (const double px : {0.5, 0.5008, 0.5015, 0.6}) t.xPSet(px, 0.5, 0);
+    for (const double px : {0.5, 0.5008, 0.5015, 0.6}) t.xPset(px, 0.5, 0);
     const auto d = [&](double pixel) {
         std::string tutti;
         const std::string svg = SVG_Generate(t, pixel);

@@ -2,9 +2,11 @@
 #include <gtest/gtest.h>
 
 #include <cstdio>
+#include <numbers>
 
 #include "comuni/prova.h"
 #include "gnomonica/proiezione.h"
+#include "ombra/ombra.h"
 
 namespace ombrelia {
 namespace {
@@ -38,19 +40,101 @@ TEST(Pubblicati, AngoliOrariOrizzontali) {
                         {"TxtFraz", "1"}},
                        {"chkOreAstronomiche"});
     banco.esegui();
-    const auto linee = banco.linee("hour");
+    // Each line by its claim, the afternoon's to the right of noon and the morning's to the left.
     double peggiore = 0;
     for (const auto &r : prova::Tabella("angoli_orizzontali.txt")) {
-        const double atteso = Val(r.at(2)).v, tolleranza = Val(r.at(3)).v;
-        double migliore = 1e9;
-        for (const RecLinea &l : linee) {
-            const double angolo = std::atan2(l.X2 - l.X1, l.Y2 - l.Y1) * 180 / PI;
-            migliore = std::min(migliore, std::fabs(std::fabs(std::remainder(angolo, 180)) - atteso));
+        const double ora = Val(r.at(1)).v, atteso = Val(r.at(2)).v, tolleranza = Val(r.at(3)).v;
+        for (const double verso : {1.0, -1.0}) {
+            const RecLinea *l = nullptr;
+            for (const Pretesa &p : banco.lista().pretese)
+                if (p.specie == Specie::Ora && p.valore == 12 + verso * ora) l = &banco.lista().Linee.at(p.linea);
+            ASSERT_TRUE(l) << r[1];
+            const double errore =
+                std::fabs(std::remainder(std::atan2(l->X2 - l->X1, l->Y1 - l->Y2) * 180 / PI - verso * atteso, 180));
+            EXPECT_TRUE(errore <= tolleranza) << verso * ora << " h off by " << errore;
+            peggiore = std::max(peggiore, errore);
         }
-        EXPECT_TRUE(migliore <= tolleranza) << r.at(1) << " h off by " << migliore;
-        peggiore = std::max(peggiore, migliore);
     }
     std::printf("hour angles at 54.8: worst off by %.5f degrees\n", peggiore);
+}
+
+// The level dial's points of a colour, each as the Sun that throws the shadow there.
+std::vector<ombra::Lettura> lette(const prova::Banco &b, const ombra::Piano &piano, Colore colore) {
+    std::vector<ombra::Lettura> l;
+    for (const RecPunto &p : b.lista().Punti)
+        if (p.colore == colore) l.push_back(piano.leggi(ombra::Punto{p.X, -p.Y}));
+    return l;
+}
+
+prova::Banco piano(const std::string &lat, const std::string &lon, std::initializer_list<std::string_view> caselle) {
+    return prova::Banco({{"txtLAT", lat},
+                         {"txtLonG", lon},
+                         {"txtInc", "90"},
+                         {"TxtStilo", "1"},
+                         {"txtQlat", "21.4225"},
+                         {"txtQlon", "-39.8262"},
+                         {"txtX0", "-6"},
+                         {"txtX1", "6"},
+                         {"txtY0", "6"},
+                         {"txtY1", "-6"}},
+                        caselle);
+}
+
+// The rule of three of the four schools: a shadow as long as its rod and the shadow of that noon together; in the afternoon.
+TEST(Pubblicati, RegolaDellAsr) {
+    for (const char *lat : {"10", "30", "41.9", "51.5"}) {
+        prova::Banco b = piano(lat, "-15", {"ckAsr"});
+        b.esegui();
+        const double phi = Val(lat).v * ombra::RADIANTI;
+        const auto punti = lette(b, ombra::Piano({phi, 0, std::numbers::pi / 2, 1}), QB(7));
+        ASSERT_GT(punti.size(), 900U) << lat;
+        for (const ombra::Lettura &l : punti) {
+            if (l.delta > phi) continue;  // the noon shadow lies to the South: not the rule's case
+            ASSERT_NEAR(1 / std::tan(l.altezza), 1 + std::tan(phi - l.delta), 1e-6) << lat;
+            ASSERT_GT(l.t, 0) << lat;
+        }
+    }
+}
+
+// Bearings that charts of the Qibla give: in the caption, and of the Sun whose shadow falls on the curve.
+TEST(Pubblicati, RilevamentoDellaQibla) {
+    int curve = 0;
+    for (const auto &r : prova::Tabella("qibla_pubblicate.txt")) {
+        prova::Banco b = piano(r.at(1), r.at(2), {"CkQibla"});
+        b.esegui();
+        const double atteso = Val(r.at(3)).v - 180;  // from South, West positive
+        std::string scritta;
+        for (const RecTesto &t : b.lista().Testi)
+            if (t.Testo.starts_with("Qibla from South = ")) scritta = t.Testo.substr(19);
+        EXPECT_NEAR(Val(scritta).v, atteso, 0.1) << r[0];
+        for (const ombra::Lettura &l :
+             lette(b, ombra::Piano({Val(r[1]).v * ombra::RADIANTI, 0, std::numbers::pi / 2, 1}), QB(10))) {
+            // The whole straight line is drawn; the Sun of a day stands on one side of it or the other.
+            ASSERT_NEAR(std::remainder(l.azimut * ombra::GRADI - atteso, 180), 0, 0.1) << r[0];
+            ++curve;
+        }
+    }
+    EXPECT_GT(curve, 10000);
+}
+
+// The turning points of the equation of time, where the drawn figure of mean noon turns.
+TEST(Pubblicati, EstremiDellAnalemma) {
+    prova::Banco b = piano("45", "-15", {"ck_Lemniscate"});
+    b.esegui();
+    const ombra::Piano livello({45 * ombra::RADIANTI, 0, std::numbers::pi / 2, 1});
+    std::vector<ombra::Lettura> anno;
+    for (const RecLinea &l : b.linee("Analemma")) anno.push_back(livello.leggi(ombra::Punto{l.X1, -l.Y1}));
+    ASSERT_GT(anno.size(), 3600U);
+    std::vector<std::pair<double, double>> estremi;  // minutes, declination
+    for (std::size_t i = 1; i + 1 < anno.size(); ++i)
+        if ((anno[i].t - anno[i - 1].t) * (anno[i + 1].t - anno[i].t) < 0)
+            estremi.emplace_back(anno[i].t * ombra::GRADI * 4, anno[i].delta * ombra::GRADI);
+    const auto righe = prova::Tabella("analemma_pubblicata.txt");
+    ASSERT_EQ(estremi.size(), righe.size());
+    for (std::size_t i = 0; i < righe.size(); ++i) {
+        EXPECT_NEAR(estremi[i].first, Val(righe[i].at(1)).v, 0.2) << righe[i][0];
+        EXPECT_NEAR(estremi[i].second, Val(righe[i].at(2)).v, 0.6) << righe[i][0] << ": two days of declination";
+    }
 }
 
 }  // namespace

@@ -36,6 +36,7 @@ std::vector<std::vector<double>> registrati(const prova::Banco &b, const std::st
         } else {
             const std::size_t colore = tipo == 'C' ? 5 : numeri + 1;
             nostro = quali[1] == '*' ? strato == quali.substr(2) : campi[colore] == quali.substr(1) && strato.empty();
+            if (quali[1] == '*') n.push_back(prova::Numero(campi[colore]));  // a layer's lines may differ in colour
         }
         if (nostro) trovati.push_back(std::move(n));
     }

@@ -14,21 +14,17 @@ namespace ombrelia::app {
 
 namespace {
 
-const Controllo &riga(IdControllo id) { return TavolaControlli()[static_cast<std::size_t>(id)]; }
-
 // Handlers by control and event, gathered once from all forms.
 class Registro {
 public:
     Registro() {
         for (const auto gestori :
              {GestoriPrincipale(), GestoriTavolo(), GestoriRapporti(), GestoriFile(), GestoriSole(), GestoriMappa()})
-            for (const Gestore &g : gestori)
-                for (const Controllo &c : ControlliDi(g.modulo))
-                    if (c.nome == g.nome) azioni_.insert_or_assign(chiave(IdDi(c), g.evento), g.azione);
+            for (const Gestore &g : gestori) azioni_.insert_or_assign(chiave(g.controllo, g.evento), g.azione);
     }
     Esito avvisa(Sessione &s, IdControllo id, Evento evento) const {
         const auto i = azioni_.find(chiave(id, evento));
-        return i == azioni_.end() ? Esito(Esito::Fatto) : i->second(s, riga(id).indice);
+        return i == azioni_.end() ? Esito(Esito::Fatto) : i->second(s, RigaDi(id).indice);
     }
 
 private:
@@ -57,7 +53,7 @@ IdControllo rigaDi(std::string DialInputs::*campo) {
 
 // Only one option of a form is set at a time.
 void scegliOpzione(Sessione &s, IdControllo id) {
-    for (const Controllo &c : ControlliDi(riga(id).modulo))
+    for (const Controllo &c : ControlliDi(RigaDi(id).modulo))
         if (c.classe == Classe::Opzione) s.valore(IdDi(c)) = 0;
     s.valore(id) = 1;
 }
@@ -94,7 +90,7 @@ void Avvia(Sessione &s) {
 }
 
 Esito Imposta(Sessione &s, IdControllo id, const std::string &testo) {
-    const Classe classe = riga(id).classe;
+    const Classe classe = RigaDi(id).classe;
     if (classe == Classe::Elenco) return s.stato(id).abilitato ? ScegliVoce(s, id, testo) : Esito::Disabilitato;
     const Esito esito = Entra(s, id);
     if (!esito) return esito;
@@ -106,7 +102,7 @@ namespace {
 
 Esito conCasella(Sessione &s, IdControllo id, Esito (*azione)(Sessione &, IdControllo, const std::string &),
                  const std::string &testo) {
-    if (riga(id).classe != Classe::Testo) return Esito::Impossibile;
+    if (RigaDi(id).classe != Classe::Testo) return Esito::Impossibile;
     if (!s.stato(id).abilitato) return Esito::Disabilitato;
     return azione(s, id, testo);
 }
@@ -122,7 +118,7 @@ Esito Lascia(Sessione &s, IdControllo id) {
 }
 
 Esito Digita(Sessione &s, IdControllo id, std::string_view tasti) {
-    if (riga(id).classe != Classe::Testo) return Esito::Impossibile;
+    if (RigaDi(id).classe != Classe::Testo) return Esito::Impossibile;
     if (!s.stato(id).abilitato) return Esito::Disabilitato;
     const auto continua = [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) == 0x80U; };
     while (!tasti.empty()) {
@@ -146,7 +142,7 @@ Esito Digita(Sessione &s, IdControllo id, std::string_view tasti) {
 }
 
 Esito Spunta(Sessione &s, IdControllo id, int valore) {
-    if (riga(id).classe != Classe::Casella) return Esito::Impossibile;
+    if (RigaDi(id).classe != Classe::Casella) return Esito::Impossibile;
     if (!s.stato(id).abilitato) return Esito::Disabilitato;
     if (s.valore(id) == valore) return Esito::Fatto;
     s.valore(id) = valore;
@@ -154,7 +150,7 @@ Esito Spunta(Sessione &s, IdControllo id, int valore) {
 }
 
 Esito Premi(Sessione &s, IdControllo id) {
-    switch (riga(id).classe) {
+    switch (RigaDi(id).classe) {
         case Classe::Casella:
             return Spunta(s, id, s.valore(id) == 1 ? 0 : 1);
         case Classe::Pulsante:
@@ -184,7 +180,7 @@ char FiltraTasto(Sessione &s, IdControllo id, char tasto) {
     const auto codice = static_cast<std::uint16_t>(static_cast<unsigned char>(tasto));
     bool beep = false;
     std::uint16_t esito = codice;
-    switch (riga(id).filtro) {
+    switch (RigaDi(id).filtro) {
         case Filtro::Nessuno:
             break;
         case Filtro::Tasti:
@@ -216,7 +212,7 @@ bool Adatta(Sessione &s) {
     return true;
 }
 
-std::string Didascalia(Sessione &s, IdControllo id) { return riga(id).pannello ? s.testo(id) : s.stato(id).caption; }
+std::string Didascalia(Sessione &s, IdControllo id) { return RigaDi(id).pannello ? s.testo(id) : s.stato(id).caption; }
 
 std::string CartellaDisegni() {
 #ifdef _WIN32

@@ -8,6 +8,7 @@
 #include <type_traits>
 
 #include "app/esito.h"
+#include "controlli/nomi.h"
 #include "sessione/sessione.h"
 
 namespace ombrelia::app {
@@ -36,7 +37,7 @@ private:
 
 // A handler: which control, which event, what runs.
 struct Gestore {
-    std::string_view modulo, nome;
+    NomeControllo controllo;
     Evento evento;
     Azione azione;
 };

@@ -33,7 +33,7 @@ Esito mnuSalva_Click(Sessione &s, int) {
 
 // Each language item tells its message in its own language and is good for one press. The new language shows at the
 // next start; a dictionary that is not there changes nothing.
-void dopoLingua(Sessione &s, std::string_view voce, std::string_view messaggio) {
+void dopoLingua(Sessione &s, NomeControllo voce, std::string_view messaggio) {
     s.stato(voce).abilitato = false;
     s.utente.Box(messaggio);
 }
@@ -47,7 +47,7 @@ Esito mnuItalian_Click(Sessione &s, int) {
     return Esito::conFile(nome);
 }
 
-Esito cambiaLingua(Sessione &s, std::string_view lingua, std::string_view voce, std::string_view messaggio) {
+Esito cambiaLingua(Sessione &s, std::string_view lingua, NomeControllo voce, std::string_view messaggio) {
     const std::string cercato = Dizionario::NomeFile(lingua), nome = Dizionario::NomeFile(LINGUA);
     const auto sorgente = TrovaDato(cercato);
     if (sorgente) {
@@ -62,16 +62,16 @@ Esito cambiaLingua(Sessione &s, std::string_view lingua, std::string_view voce, 
 }
 
 constexpr Gestore GESTORI[] = {
-    {"MDIForm1", "mnuApri", Evento::Clic, mnuApri_Click},
-    {"MDIForm1", "mnuSalva", Evento::Clic, mnuSalva_Click},
-    {"MDIForm1", "cmdSave", Evento::Clic,
+    {"mnuApri", Evento::Clic, mnuApri_Click},
+    {"mnuSalva", Evento::Clic, mnuSalva_Click},
+    {"cmdSave", Evento::Clic,
      [](Sessione &s, int) { return EsitoScrittura(s, std::string(Parametri::NOME_FILE), ScriviDefault(s)); }},
-    {"MDIForm1", "mnuItalian", Evento::Clic, mnuItalian_Click},
-    {"MDIForm1", "mnuFrancais", Evento::Clic,
+    {"mnuItalian", Evento::Clic, mnuItalian_Click},
+    {"mnuFrancais", Evento::Clic,
      [](Sessione &s, int) {
          return cambiaLingua(s, "FranceseC2008", "mnuFrancais", "Il faut sortir avant d'exécuter Ombrelia!!");
      }},
-    {"MDIForm1", "mnuInglese", Evento::Clic,
+    {"mnuInglese", Evento::Clic,
      [](Sessione &s, int) { return cambiaLingua(s, "IngleseC2008", "mnuInglese", "You must restart Ombrelia!!"); }},
 };
 

@@ -20,9 +20,9 @@ Esito cmdStati_Click(Sessione &s, int) {
 }
 
 constexpr Gestore GESTORI[] = {
-    {"MDIForm1", "cmdStati", Evento::Clic, cmdStati_Click},
-    {"MDIForm1", "cmdPlot", Evento::Clic, [](Sessione &s, int) { DisegnaMondo(s); }},
-    {"MDIForm1", "punto", Evento::Clic, punto_Click},
+    {"cmdStati", Evento::Clic, cmdStati_Click},
+    {"cmdPlot", Evento::Clic, [](Sessione &s, int) { DisegnaMondo(s); }},
+    {"punto", Evento::Clic, punto_Click},
 };
 
 }  // namespace

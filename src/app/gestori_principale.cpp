@@ -66,23 +66,24 @@ void cmdTrasforma_Click(Sessione &s, int) {
     s.v.lon = s.v.lonEq;
     s.v.flagVerticale = 1;
     // What does not apply to an equivalent dial.
-    for (const std::string_view nome : {"CkQibla", "ckAlt", "ckAsr"}) s.stato(nome).abilitato = false;
+    for (const NomeControllo nome : {NomeControllo("CkQibla"), NomeControllo("ckAlt"), NomeControllo("ckAsr")})
+        s.stato(nome).abilitato = false;
     for (int DialInputs::*casella : {&DialInputs::CkQibla, &DialInputs::ckAlt, &DialInputs::ckAsr})
         SpuntaDaProgramma(s, casella, 0);
 }
 
 constexpr Gestore GESTORI[] = {
-    {"MDIForm1", "cmdRun", Evento::Clic, [](Sessione &s, int) { cmdRun(s); }},
-    {"MDIForm1", "cmdEqui", Evento::Clic, cmdEqui_Click},
-    {"MDIForm1", "cmdTrasforma", Evento::Clic, cmdTrasforma_Click},
-    {"MDIForm1", "ck_Italiche", Evento::Clic, ck_Italiche_Click},
-    {"MDIForm1", "ck_babiloniche", Evento::Clic, ck_babiloniche_Click},
-    {"MDIForm1", "ckTemp", Evento::Clic, ckTemp_Click},
-    {"MDIForm1", "CkUNI", Evento::Clic, CkUNI_Click},
-    {"MDIForm1", "ckRomani", Evento::Clic, [](Sessione &s, int) { PosizionaRomani(s); }},
-    {"MDIForm1", "ckArabi", Evento::Clic, [](Sessione &s, int) { PosizionaArabi(s); }},
-    {"MDIForm1", "txtInc", Evento::Cambio, txtInc_Change},
-    {"MDIForm1", "M_about", Evento::Clic, [](Sessione &s, int) { CaricaForm(s, "frmAbout"); }},
+    {"cmdRun", Evento::Clic, [](Sessione &s, int) { cmdRun(s); }},
+    {"cmdEqui", Evento::Clic, cmdEqui_Click},
+    {"cmdTrasforma", Evento::Clic, cmdTrasforma_Click},
+    {"ck_Italiche", Evento::Clic, ck_Italiche_Click},
+    {"ck_babiloniche", Evento::Clic, ck_babiloniche_Click},
+    {"ckTemp", Evento::Clic, ckTemp_Click},
+    {"CkUNI", Evento::Clic, CkUNI_Click},
+    {"ckRomani", Evento::Clic, [](Sessione &s, int) { PosizionaRomani(s); }},
+    {"ckArabi", Evento::Clic, [](Sessione &s, int) { PosizionaArabi(s); }},
+    {"txtInc", Evento::Cambio, txtInc_Change},
+    {"M_about", Evento::Clic, [](Sessione &s, int) { CaricaForm(s, "frmAbout"); }},
 };
 
 }  // namespace
@@ -91,8 +92,8 @@ std::span<const Gestore> GestoriPrincipale() { return GESTORI; }
 
 void AbilitaPerInclinazione(Sessione &s) {
     const bool parete = Val(s.in.txtInc) == 0;
-    for (const std::string_view nome : {"Option1", "cmdEqui", "ckZodiac", "ckRomani", "ckArabi"})
-        s.stato(nome).abilitato = parete;
+    static constexpr NomeControllo DI_PARETE[] = {"Option1", "cmdEqui", "ckZodiac", "ckRomani", "ckArabi"};
+    for (const NomeControllo nome : DI_PARETE) s.stato(nome).abilitato = parete;
 }
 
 void cmdRun(Sessione &s) {

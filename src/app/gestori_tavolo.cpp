@@ -10,7 +10,7 @@ namespace ombrelia::app {
 
 namespace {
 
-void mostraPannello(Sessione &s, std::string_view pannello, bool visibile) { s.stato(pannello).visibile = visibile; }
+void mostraPannello(Sessione &s, NomeControllo pannello, bool visibile) { s.stato(pannello).visibile = visibile; }
 
 double numero(const std::string &testo, double altrimenti) {
     const Valore n = Val(testo);
@@ -66,7 +66,7 @@ void cmdStampa_Click(Sessione &s, int) {
     else mostraPannello(s, "Tavolo1.picPrint", true);
 }
 void cmdPOk_Click(Sessione &s, int) {
-    if (s.valore(TrovaControllo("Tavolo1.optAll")) == 1) stampa(s, false);
+    if (s.valore("Tavolo1.optAll") == 1) stampa(s, false);
     else if (s.tavolo.lista().Aree.empty()) s.utente.Box(s.Traduci("Nessuna area selezionata"));
     else stampa(s, true);
     mostraPannello(s, "Tavolo1.picPrint", false);
@@ -81,25 +81,25 @@ Esito cmdSave_Click(Sessione &s, int) {
 }
 
 constexpr Gestore GESTORI[] = {
-    {"Tavolo1", "cmdStampa", Evento::Clic, cmdStampa_Click},
-    {"Tavolo1", "cmdPOk", Evento::Clic, cmdPOk_Click},
-    {"Tavolo1", "cmdSave", Evento::Clic, cmdSave_Click},
-    {"Tavolo1", "cmdAssi", Evento::Clic, cmdAssi_Click},
-    {"Tavolo1", "cmdAssiAgg", Evento::Clic, cmdAssiAgg_Click},
-    {"Tavolo1", "cmdAssiChiudi", Evento::Clic, [](Sessione &s, int) { mostraPannello(s, "Tavolo1.PicAssi", false); }},
-    {"Tavolo1", "CmdGriglia", Evento::Clic, [](Sessione &s, int) { s.tavolo.xPlotA4(); }},
-    {"Tavolo1", "cmdPulisci", Evento::Clic,
+    {"Tavolo1.cmdStampa", Evento::Clic, cmdStampa_Click},
+    {"Tavolo1.cmdPOk", Evento::Clic, cmdPOk_Click},
+    {"Tavolo1.cmdSave", Evento::Clic, cmdSave_Click},
+    {"Tavolo1.cmdAssi", Evento::Clic, cmdAssi_Click},
+    {"Tavolo1.cmdAssiAgg", Evento::Clic, cmdAssiAgg_Click},
+    {"Tavolo1.cmdAssiChiudi", Evento::Clic, [](Sessione &s, int) { mostraPannello(s, "Tavolo1.PicAssi", false); }},
+    {"Tavolo1.CmdGriglia", Evento::Clic, [](Sessione &s, int) { s.tavolo.xPlotA4(); }},
+    {"Tavolo1.cmdPulisci", Evento::Clic,
      [](Sessione &s, int) {
          s.tavolo.Clear();
          mostraPannello(s, "Tavolo1.picPrint", false);
      }},
-    {"Tavolo1", "cmdDim", Evento::Clic, [](Sessione &s, int) { mostraPannello(s, "Tavolo1.picDimensioni", true); }},
-    {"Tavolo1", "cmdQAggiorna", Evento::Clic, cmdQAggiorna_Click},
-    {"Tavolo1", "cmdQAnnulla", Evento::Clic, [](Sessione &s, int) { mostraPannello(s, "Tavolo1.picDimensioni", false); }},
-    {"Tavolo1", "cmdPCancel", Evento::Clic, [](Sessione &s, int) { mostraPannello(s, "Tavolo1.picPrint", false); }},
-    {"Tavolo1", "cmdDxf", Evento::Clic, cmdDxf_Click},
-    {"Tavolo1", "cmdInvX", Evento::Clic, [](Sessione &s, int) { s.tavolo.cmdInvX(); }},
-    {"Tavolo1", "cmdInvY", Evento::Clic, [](Sessione &s, int) { s.tavolo.cmdInvY(); }},
+    {"Tavolo1.cmdDim", Evento::Clic, [](Sessione &s, int) { mostraPannello(s, "Tavolo1.picDimensioni", true); }},
+    {"Tavolo1.cmdQAggiorna", Evento::Clic, cmdQAggiorna_Click},
+    {"Tavolo1.cmdQAnnulla", Evento::Clic, [](Sessione &s, int) { mostraPannello(s, "Tavolo1.picDimensioni", false); }},
+    {"Tavolo1.cmdPCancel", Evento::Clic, [](Sessione &s, int) { mostraPannello(s, "Tavolo1.picPrint", false); }},
+    {"Tavolo1.cmdDxf", Evento::Clic, cmdDxf_Click},
+    {"Tavolo1.cmdInvX", Evento::Clic, [](Sessione &s, int) { s.tavolo.cmdInvX(); }},
+    {"Tavolo1.cmdInvY", Evento::Clic, [](Sessione &s, int) { s.tavolo.cmdInvY(); }},
 };
 
 }  // namespace
@@ -108,7 +108,7 @@ std::span<const Gestore> GestoriTavolo() { return GESTORI; }
 
 Esito ScegliVoce(Sessione &s, IdControllo id, const std::string &voce) {
     Tavolo &t = s.tavolo;
-    if (id == TrovaControllo("Tavolo1.cmbScala")) {
+    if (id == NomeControllo("Tavolo1.cmbScala")) {
         for (const int n : t.cmbScala()) {
             if (voce != "1:" + std::to_string(n)) continue;
             t.Scala(n);

@@ -4,12 +4,21 @@
 #include <string_view>
 #include <vector>
 
+#include "controlli/nomi.h"
+
 namespace ombrelia::app {
 
 struct Gruppo {
-    // A row holds names of controls; what is no control's name is a caption of the group's own. "Picture2" and "Picture3"
-    // stand for the figures of the plane, "Line1" for a divider.
-    using Riga = std::vector<std::string_view>;
+    // What stands in a row: a control, or a caption of the group's own, marked _it. "Picture2" and "Picture3" are the figures of
+    // the plane, "Line1" a divider.
+    struct Cosa {
+        IdControllo id = NESSUN_CONTROLLO;
+        std::string_view caption{};
+        consteval Cosa(const char *nome) : id(IdNoto(nome)) {}          // NOLINT
+        constexpr Cosa(std::string_view scritta) : caption(scritta) {}  // NOLINT
+        explicit constexpr Cosa(IdControllo quale) : id(quale) {}
+    };
+    using Riga = std::vector<Cosa>;
     std::string_view titolo;  // Italian, for the dictionary
     std::vector<Riga> righe;
     bool piegato = false;  // at the start: what only a master needs

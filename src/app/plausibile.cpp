@@ -3,6 +3,7 @@
 
 #include <cmath>
 
+#include "controlli/nomi.h"
 #include "core/testo.h"
 
 namespace ombrelia::app {

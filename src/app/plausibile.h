@@ -4,13 +4,14 @@
 #include <string_view>
 #include <vector>
 
-#include "core/inputs.h"
+#include "controlli/controlli.h"
 
 namespace ombrelia::app {
 
 // A field and what is odd about it: Italian, as it goes through the dictionary.
 struct Dubbio {
-    std::string_view campo, motivo;
+    NomeControllo campo;
+    std::string_view motivo;
 };
 
 // Latitude beyond the poles; a gnomon of no length, a negative one, or one longer than three diagonals of the frame; a frame

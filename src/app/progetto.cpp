@@ -3,6 +3,7 @@
 
 #include <filesystem>
 
+#include "controlli/nomi.h"
 #include "core/campi.h"
 #include "core/file.h"
 

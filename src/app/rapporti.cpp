@@ -9,7 +9,7 @@ namespace {
 
 constexpr VoceRapporto ELENCO[] = {
     {"data", "fundamental data", "cmdData", "Form1"},
-    {"equivalent", "the equivalent vertical dial and the original one", "cmdData", "Form10", "cmdTrasforma"},
+    {"equivalent", "the equivalent vertical dial and the original one", "cmdData", "Form10", NomeControllo("cmdTrasforma")},
     {"hours", "true hours against two pairs of lines, shadow lengths", "optHorae", "Form2"},
     {"italic", "hours from sunset", "OptIta", "Form9"},
     {"babylonian", "hours from sunrise", "OptBab", "Form4"},
@@ -24,7 +24,7 @@ constexpr VoceRapporto ELENCO[] = {
 
 std::span<const VoceRapporto> ElencoRapporti() { return ELENCO; }
 
-bool ApreRapporto(std::string_view controllo) {
+bool ApreRapporto(IdControllo controllo) {
     return std::any_of(std::begin(ELENCO), std::end(ELENCO), [&](const VoceRapporto &r) { return r.controllo == controllo; });
 }
 

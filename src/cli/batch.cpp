@@ -82,9 +82,9 @@ private:
         return std::string(resto);
     }
     static IdControllo controllo(std::string_view nome) {
-        const IdControllo id = TrovaControllo(nome);
-        if (id == NESSUN_CONTROLLO) throw Rifiuto{"unknown control: " + std::string(nome)};
-        return id;
+        const auto id = CercaControllo(nome);
+        if (!id) throw Rifiuto{"unknown control: " + std::string(nome)};
+        return *id;
     }
     void esito(app::Esito e, std::string_view nome, std::string_view impossibile) const {
         if (e == app::Esito::Disabilitato) console_.di("disabled: ", nome);
@@ -214,7 +214,7 @@ void Esecuzione::show(std::string_view resto) {
     const StatoControllo &stato = s_.stato(id);
     const std::string abilitato = stato.abilitato ? " enabled" : " disabled";
     std::string testo;
-    switch (TavolaControlli()[static_cast<std::size_t>(id)].classe) {
+    switch (RigaDi(id).classe) {
         case Classe::Testo:
         case Classe::Elenco:
             testo = s_.testo(id);

@@ -79,22 +79,24 @@ std::string Campi::Applica(Sessione &s) const {
         std::string errore;
         const luoghi::Luogo *l = TrovaLuogo(luogo, paese, errore);
         if (!l) return errore;
-        const std::pair<const char *, double> campi[] = {
-            {"txtLAT", l->latitudine}, {"txtLonG", l->longitudine}, {"txtMeridiano", l->meridiano}};
-        for (const auto &[nome, gradi] : campi)
-            if (std::string e = motivo(app::Imposta(s, TrovaControllo(nome), TestoNumero(gradi)), nome); !e.empty()) return e;
+        const struct {
+            NomeControllo id;
+            double gradi;
+        } campi[] = {{"txtLAT", l->latitudine}, {"txtLonG", l->longitudine}, {"txtMeridiano", l->meridiano}};
+        for (const auto &[id, gradi] : campi)
+            if (std::string e = motivo(app::Imposta(s, id, TestoNumero(gradi)), std::string(RigaDi(id).nome)); !e.empty())
+                return e;
     }
     for (auto [nome, testo] : testi) {
-        const IdControllo id = TrovaControllo(nome);
-        if (id == NESSUN_CONTROLLO) return "unknown field " + nome;
-        if (const std::string e = leggiCampo(TavolaControlli()[static_cast<std::size_t>(id)], testo); !e.empty())
-            return "--set " + nome + ": " + e;
-        if (std::string e = motivo(app::Imposta(s, id, testo), nome); !e.empty()) return e;
+        const auto id = CercaControllo(nome);
+        if (!id) return "unknown field " + nome;
+        if (const std::string e = leggiCampo(RigaDi(*id), testo); !e.empty()) return "--set " + nome + ": " + e;
+        if (std::string e = motivo(app::Imposta(s, *id, testo), nome); !e.empty()) return e;
     }
     for (const std::string &nome : caselle) {
-        const IdControllo id = TrovaControllo(nome);
-        if (id == NESSUN_CONTROLLO) return "unknown box " + nome;
-        if (std::string e = motivo(app::Spunta(s, id, 1), nome); !e.empty()) return e;
+        const auto id = CercaControllo(nome);
+        if (!id) return "unknown box " + nome;
+        if (std::string e = motivo(app::Spunta(s, *id, 1), nome); !e.empty()) return e;
     }
     return {};
 }

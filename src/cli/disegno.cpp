@@ -88,13 +88,14 @@ std::string Disegno::Esegui(Sessione &s) const {
     if (motore == "vertical" && !parete) return "txtInc reads " + s.in.txtInc + ": the vertical engine draws walls only";
     if (motore == "analytic" && !parete)
         return "txtInc reads " + s.in.txtInc + ": the analytic engine draws walls only; use cmdTrasforma first";
-    const std::string_view bottone = motore == "analytic" ? "cmdEqui" : "cmdRun";
+    const NomeControllo bottone = motore == "analytic" ? NomeControllo("cmdEqui") : NomeControllo("cmdRun");
     for (const app::Dubbio &d : app::Dubbi(s.in))
-        std::fprintf(stderr, "warning: %s reads %s: %s\n", std::string(d.campo).c_str(), s.testo(TrovaControllo(d.campo)).c_str(),
+        std::fprintf(stderr, "warning: %s reads %s: %s\n", std::string(RigaDi(d.campo).nome).c_str(), s.testo(d.campo).c_str(),
                      s.Traduci(d.motivo).c_str());
     s.australeMontato = true;
-    const app::Esito e = app::Premi(s, TrovaControllo(bottone));
-    if (e == app::Esito::Disabilitato) return std::string(bottone) + " is disabled: it works on walls only (txtInc must read 0)";
+    const app::Esito e = app::Premi(s, bottone);
+    if (e == app::Esito::Disabilitato)
+        return std::string(RigaDi(bottone).nome) + " is disabled: it works on walls only (txtInc must read 0)";
     if (!e) return e.motivo.empty() ? "the run was refused" : e.motivo;
     if (s.tavolo.lista().Ordine.empty()) return "nothing was drawn, and nothing is written";
     return {};

@@ -95,8 +95,8 @@ int Report(int argc, char **argv) {
     Sessione &s = comando.s;
     if (const std::string e = r.campi.Applica(s); !e.empty()) return rifiuta(e);
     if (r.voce->ckFunzione >= 0) s.in.ckFunzione = r.voce->ckFunzione;
-    for (const std::string_view nome : {r.voce->prima, r.voce->controllo})
-        if (!nome.empty() && app::Premi(s, TrovaControllo(nome)) == app::Esito::Disabilitato) return rifiuta(perche(s, *r.voce));
+    for (const std::optional<NomeControllo> id : {r.voce->prima, std::optional(r.voce->controllo)})
+        if (id && app::Premi(s, *id) == app::Esito::Disabilitato) return rifiuta(perche(s, *r.voce));
     if (s.rapporti.aperto.modulo != r.voce->modulo) return rifiuta(perche(s, *r.voce));
     if (r.stampa) {
         if (!s.rapporti.stampa) return rifiuta(std::string(r.voce->nome) + " has no printed form");

@@ -38,4 +38,11 @@ struct DialInputs {
     std::string cmbStati;
 };
 
+// Texts of the plot surface's own panels.
+struct PannelloTavolo {
+    std::string txtX, txtY, txtQL, txtQH;
+    std::string p_mess, lblDimVal, lblScala, lblXYval;
+    std::string cmbScala;
+};
+
 }  // namespace ombrelia

@@ -22,8 +22,6 @@ namespace ombrelia::desktop {
 
 namespace {
 
-const Controllo &riga(IdControllo id) { return TavolaControlli()[static_cast<std::size_t>(id)]; }
-
 // Signs of degrees and minutes, and the winds in capitals.
 const QString DELL_ANGOLO = QString::fromUtf8("°'′″ NSEWO");
 
@@ -72,9 +70,9 @@ CampoTesto::CampoTesto(Ponte &ponte, IdControllo id, QWidget *genitore)
     : QLineEdit(genitore),
       ponte_(ponte),
       id_(id),
-      misura_(riga(id).modulo == "MDIForm1" ? TrovaMisura(riga(id).nome) : nullptr),
-      angolo_(riga(id).modulo == "MDIForm1" && luoghi::TrovaCampoAngolo(riga(id).nome) != nullptr) {
-    if (riga(id).filtro != Filtro::Nessuno) setInputMethodHints(Qt::ImhPreferNumbers);
+      misura_(RigaDi(id).modulo == "MDIForm1" ? TrovaMisura(RigaDi(id).nome) : nullptr),
+      angolo_(RigaDi(id).modulo == "MDIForm1" && luoghi::TrovaCampoAngolo(RigaDi(id).nome) != nullptr) {
+    if (RigaDi(id).filtro != Filtro::Nessuno) setInputMethodHints(Qt::ImhPreferNumbers);
     if (misura_ && misura_->unita) setTextMargins(0, 0, fontMetrics().horizontalAdvance(QStringLiteral("mm")) + 3, 0);
     connect(this, &QLineEdit::returnPressed, this, [this] { concludi(); });
 }
@@ -131,7 +129,7 @@ void CampoTesto::concludi() {
     const auto t = [this](std::string_view x) { return ponte_.Traduci(x); };
     QString detto;
     if (angolo_) {
-        const luoghi::CampoAngolo &campo = *luoghi::TrovaCampoAngolo(riga(id_).nome);
+        const luoghi::CampoAngolo &campo = *luoghi::TrovaCampoAngolo(RigaDi(id_).nome);
         const std::string prima = text().toStdString();
         const luoghi::AngoloLetto letto = luoghi::LeggiAngolo(prima, campo);
         if (letto.buono() && letto.testo != prima) {
@@ -167,7 +165,7 @@ void CampoTesto::immetti(const QString &testo) {
         if (c == QLatin1Char('"')) {
             ponte_.sessione().utente.Beep();
             if (ponte_.suVirgolette) ponte_.suVirgolette();
-        } else if (riga(id_).filtro == Filtro::Nessuno || (angolo_ && DELL_ANGOLO.contains(c))) {
+        } else if (RigaDi(id_).filtro == Filtro::Nessuno || (angolo_ && DELL_ANGOLO.contains(c))) {
             if (c.isPrint()) tenuto += c;
         } else if (latino < ' ') {
             ponte_.sessione().utente.Beep();  // no filter lets it pass

@@ -22,12 +22,10 @@ namespace ombrelia::desktop {
 
 namespace {
 
-const Controllo &riga(IdControllo id) { return TavolaControlli()[static_cast<std::size_t>(id)]; }
-
 // A field whose change another run would show.
 bool campo(IdControllo id) {
-    return id != NESSUN_CONTROLLO && riga(id).modulo == "MDIForm1" &&
-           (riga(id).classe == Classe::Testo || riga(id).classe == Classe::Casella);
+    return id != NESSUN_CONTROLLO && RigaDi(id).modulo == "MDIForm1" &&
+           (RigaDi(id).classe == Classe::Testo || RigaDi(id).classe == Classe::Casella);
 }
 
 // Of the fields: what the live dial goes by.
@@ -159,7 +157,7 @@ void Finestra::molo(const QString &titolo, const char *nome, QWidget *contenuto,
 bool Finestra::prima(IdControllo id) {
     if (!campo(id)) vivo_->ferma();
     if (id == NESSUN_CONTROLLO) return true;
-    const std::string_view nome = riga(id).nome, modulo = riga(id).modulo;
+    const std::string_view nome = RigaDi(id).nome, modulo = RigaDi(id).modulo;
     if (nome == "mnuApri") return lasciaAndare();
     if (nome == "mnuSalva" && !percorso_.isEmpty()) return salvaIn(percorso_), false;
     if (nome == "cmdRun") primaDiEsegui();
@@ -193,7 +191,7 @@ void Finestra::dopoEsegui() {
 }
 
 void Finestra::dopo(IdControllo id, const app::Esito &esito) {
-    const std::string_view nome = id == NESSUN_CONTROLLO ? std::string_view() : riga(id).nome;
+    const std::string_view nome = id == NESSUN_CONTROLLO ? std::string_view() : RigaDi(id).nome;
     if (nome == "cmdRun") dopoEsegui();
     if (esito == app::Esito::Fallito && !esito.detto && !esito.motivo.empty()) dialoghi_.avviso(this, Q(esito.motivo));
     if (nome == "mnuApri" && esito) progettoNuovo(Q(esito.file));
@@ -209,8 +207,8 @@ void Finestra::dopo(IdControllo id, const app::Esito &esito) {
     const bool chiesto = segue && nome != "cmdRun" && impronta(s_) != improntaCampi_;
     if (chiesto) chiediVivo();
     // Some boxes draw when they are set.
-    if (!campo(id) ? id == NESSUN_CONTROLLO || riga(id).classe != Classe::Testo
-                   : !chiesto && riga(id).classe == Classe::Casella) {
+    if (!campo(id) ? id == NESSUN_CONTROLLO || RigaDi(id).classe != Classe::Testo
+                   : !chiesto && RigaDi(id).classe == Classe::Casella) {
         quadro_->foglio().cambiato();
         strati_->aggiorna();
     }
@@ -219,7 +217,7 @@ void Finestra::dopo(IdControllo id, const app::Esito &esito) {
                    segue && (campo(id) || nome == "cmdRun"));
     titolo();
     for (const char *figura : {"Picture2", "Picture3"}) ponte_.widget(figura)->update();
-    const bool calcolato = nome == "cmdCalcola" && riga(id).modulo == "frmDeclin";
+    const bool calcolato = nome == "cmdCalcola" && RigaDi(id).modulo == "frmDeclin";
     if (calcolato) soleDelGiorno();
     moduli_->aggiorna(calcolato);
     if (nome == "M_about") moduli_->apri("frmAbout", true);
@@ -243,9 +241,9 @@ void Finestra::soleDelGiorno() {
                                if (vivo_acceso()) chiediVivo();
                            }});
     // The wall's declination is the number of the result's second line.
-    const QString riga2 = Q(s_.testo(TrovaControllo("frmDeclin.txtResult"))).section(QLatin1Char('\n'), 1, 1);
+    const QString riga2 = Q(s_.testo("frmDeclin.txtResult")).section(QLatin1Char('\n'), 1, 1);
     const auto trovato = QRegularExpression(QStringLiteral("-?\\d+\\.\\d+")).match(riga2);
-    if (trovato.hasMatch() && Val(s_.testo(TrovaControllo("frmDeclin.txtAngle"))) != 0)
+    if (trovato.hasMatch() && Val(s_.testo("frmDeclin.txtAngle")) != 0)
         offerte.push_back(
             {ponte_.Traduci("usa come declinazione della parete") + QLatin1Char(' ') + trovato.captured() + QStringLiteral("°"),
              [this, d = trovato.captured().toStdString()] {

@@ -35,7 +35,7 @@ void Finestra::costruisciMenu() {
     };
     const auto bottone = [this](std::string_view nome, const QKeySequence &tasti) {
         QWidget *w = ponte_.widget(nome);
-        QAction *a = comando(Leggibile(s_.stato(nome).caption), tasti, [w] {
+        QAction *a = comando(Leggibile(s_.stato(TrovaControllo(nome)).caption), tasti, [w] {
             if (auto *b = qobject_cast<QAbstractButton *>(w)) b->click();
         });
         return a;

@@ -32,10 +32,11 @@ void mettiRiga(Ponte &ponte, const app::Gruppo::Riga &nomi, QVBoxLayout *colonna
     fila->setSpacing(6);
     QLabel *prima = nullptr;
     const bool stretta = nomi.size() > 2;
-    for (const std::string_view nome : nomi) {
+    for (const app::Gruppo::Cosa &cosa : nomi) {
         QWidget *w = nullptr;
-        if (TrovaControllo(nome) == NESSUN_CONTROLLO) {
-            auto *l = new QLabel(Q(ponte.sessione().Traduci(nome)), gruppo);
+        const std::string_view nome = cosa.id == NESSUN_CONTROLLO ? std::string_view() : RigaDi(cosa.id).nome;
+        if (cosa.id == NESSUN_CONTROLLO) {
+            auto *l = new QLabel(Q(ponte.sessione().Traduci(cosa.caption)), gruppo);
             l->setTextFormat(Qt::PlainText);
             w = l;
         } else if (nome.starts_with("Picture")) {
@@ -158,17 +159,18 @@ QWidget *ColonnaQuadrante(Ponte &ponte, QWidget *genitore) {
 // Fields that no group names yet stand in one of their own, each behind its caption.
 QWidget *ColonnaDisegno(Ponte &ponte, QWidget *genitore) {
     std::vector<app::Gruppo> gruppi = app::GruppiDisegno();
-    std::set<std::string_view> nominati;
+    std::set<IdControllo> nominati;
     for (const std::vector<app::Gruppo> *tavola :
          {&app::GruppiQuadrante(), static_cast<const std::vector<app::Gruppo> *>(&gruppi)})
         for (const app::Gruppo &g : *tavola)
-            for (const app::Gruppo::Riga &r : g.righe) nominati.insert(r.begin(), r.end());
+            for (const app::Gruppo::Riga &r : g.righe)
+                for (const app::Gruppo::Cosa &cosa : r) nominati.insert(cosa.id);
     app::Gruppo altro{"Altro"_it, {}, true};
     for (const Controllo &c : ControlliDi("MDIForm1")) {
-        if (!c.nostro || nominati.contains(c.nome)) continue;
+        if (!c.nostro || nominati.contains(IdDi(c))) continue;
         if (c.classe == Classe::Testo && !altro.righe.empty() && altro.righe.back().size() == 1)
-            altro.righe.back().push_back(c.nome);
-        else altro.righe.push_back({c.nome});
+            altro.righe.back().push_back(app::Gruppo::Cosa(IdDi(c)));
+        else altro.righe.push_back({app::Gruppo::Cosa(IdDi(c))});
     }
     if (!altro.righe.empty()) gruppi.push_back(std::move(altro));
     return colonna(ponte, gruppi, genitore);

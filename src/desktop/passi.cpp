@@ -113,7 +113,7 @@ std::shared_ptr<Passi::Istantanea> Passi::ritrai(bool segue) const {
 void Passi::annota(IdControllo id, const QString &nome, bool segue) {
     auto dopo = ritrai(segue);
     if (dopo->impronta == ora_->impronta) return;
-    const bool testo = id != NESSUN_CONTROLLO && TavolaControlli()[static_cast<std::size_t>(id)].classe == Classe::Testo;
+    const bool testo = id != NESSUN_CONTROLLO && RigaDi(id).classe == Classe::Testo;
     const auto prima = std::exchange(ora_, dopo);
     push(new Passo(*this, testo ? id : -1, nome, prima, dopo));
 }

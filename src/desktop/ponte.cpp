@@ -20,18 +20,10 @@ namespace ombrelia::desktop {
 
 namespace {
 
-const Controllo &riga(IdControllo id) { return TavolaControlli()[static_cast<std::size_t>(id)]; }
-
 QString nomeOggetto(const Controllo &r) {
     QString n = Q(r.nome);
     if (r.indice >= 0) n += QStringLiteral("(%1)").arg(r.indice);
     return n;
-}
-
-IdControllo cerca(std::string_view nome) {
-    const IdControllo id = TrovaControllo(nome);
-    if (id == NESSUN_CONTROLLO) throw std::logic_error("no such control: " + std::string(nome));
-    return id;
 }
 
 template <class T>
@@ -41,7 +33,7 @@ void secambia(T *w, const QString &nuovo) {
 
 void voci(Sessione &s, IdControllo id, QComboBox *c) {
     QStringList v;
-    if (riga(id).pannello)
+    if (RigaDi(id).pannello)
         for (const int n : s.tavolo.cmbScala()) v << QStringLiteral("1:%1").arg(n);
     else
         for (const std::string &paese : s.mondo.paesi) v << Q(paese);
@@ -85,28 +77,28 @@ app::Esito Ponte::svolgi(IdControllo id, const std::function<app::Esito()> &azio
 }
 
 QWidget *Ponte::widget(std::string_view nome) const {
-    const IdControllo id = cerca(nome);
+    const IdControllo id = TrovaControllo(nome);
     for (const Legame &l : legami_)
         if (l.id == id) return l.widget;
     return nullptr;
 }
 
 app::Esito Ponte::premi(std::string_view nome) {
-    const IdControllo id = cerca(nome);
+    const IdControllo id = TrovaControllo(nome);
     return fai(id, [&] { return app::Premi(s_, id); });
 }
 
 void Ponte::adotta(std::string_view nome, QWidget *widget) {
-    const IdControllo id = cerca(nome);
-    widget->setObjectName(nomeOggetto(riga(id)));
+    const IdControllo id = TrovaControllo(nome);
+    widget->setObjectName(nomeOggetto(RigaDi(id)));
     legami_.push_back({id, widget, nullptr});
     mostra(legami_.back());
 }
 
 QAction *Ponte::voce(std::string_view nome, QObject *genitore) {
-    const IdControllo id = cerca(nome);
+    const IdControllo id = TrovaControllo(nome);
     auto *a = new QAction(genitore);
-    a->setObjectName(nomeOggetto(riga(id)));
+    a->setObjectName(nomeOggetto(RigaDi(id)));
     QObject::connect(a, &QAction::triggered, a, [this, id] { fai(id, [&] { return app::Premi(s_, id); }); });
     legami_.push_back({id, nullptr, a});
     mostra(legami_.back());
@@ -114,9 +106,9 @@ QAction *Ponte::voce(std::string_view nome, QObject *genitore) {
 }
 
 QWidget *Ponte::crea(std::string_view nome, QWidget *genitore) {
-    const IdControllo id = cerca(nome);
+    const IdControllo id = TrovaControllo(nome);
     QWidget *w = nullptr;
-    switch (riga(id).classe) {
+    switch (RigaDi(id).classe) {
         case Classe::Testo:
             w = new CampoTesto(*this, id, genitore);
             break;
@@ -142,13 +134,13 @@ QWidget *Ponte::crea(std::string_view nome, QWidget *genitore) {
             w = new QComboBox(genitore);
             break;
         case Classe::Cornice:
-            w = riga(id).caption.empty() ? new QWidget(genitore) : new QGroupBox(genitore);
+            w = RigaDi(id).caption.empty() ? new QWidget(genitore) : new QGroupBox(genitore);
             break;
         default:
             w = new QWidget(genitore);
             break;
     }
-    w->setObjectName(nomeOggetto(riga(id)));
+    w->setObjectName(nomeOggetto(RigaDi(id)));
     collega(id, w);
     legami_.push_back({id, w, nullptr});
     mostra(legami_.back());
@@ -158,7 +150,7 @@ QWidget *Ponte::crea(std::string_view nome, QWidget *genitore) {
 void Ponte::collega(IdControllo id, QWidget *w) {
     const auto premuto = [this, id] { fai(id, [&] { return app::Premi(s_, id); }); };
     if (auto *b = qobject_cast<QAbstractButton *>(w)) {
-        if (riga(id).classe == Classe::Casella)
+        if (RigaDi(id).classe == Classe::Casella)
             QObject::connect(b, &QAbstractButton::clicked, b,
                              [this, id](bool su) { fai(id, [&] { app::Spunta(s_, id, su ? 1 : 0); }); });
         else QObject::connect(b, &QAbstractButton::clicked, b, premuto);
@@ -196,14 +188,14 @@ void Ponte::mostra(const Legame &l) {
         voci(s_, l.id, c);
     } else if (auto *b = qobject_cast<QAbstractButton *>(w)) {
         secambia(b, Leggibile(stato.caption));
-        if (riga(l.id).classe != Classe::Pulsante) {
+        if (RigaDi(l.id).classe != Classe::Pulsante) {
             b->setCheckable(true);
             // A box that does not answer draws nothing either: it shows so.
-            b->setChecked(s_.valore(l.id) == 1 && (stato.abilitato || !riga(l.id).casella));
+            b->setChecked(s_.valore(l.id) == 1 && (stato.abilitato || !RigaDi(l.id).casella));
         }
     } else if (auto *lab = qobject_cast<QLabel *>(w)) {
-        if (riga(l.id).classe == Classe::Etichetta)
-            secambia(lab, riga(l.id).pannello ? Q(app::Didascalia(s_, l.id)) : Leggibile(stato.caption));
+        if (RigaDi(l.id).classe == Classe::Etichetta)
+            secambia(lab, RigaDi(l.id).pannello ? Q(app::Didascalia(s_, l.id)) : Leggibile(stato.caption));
     } else if (auto *g = qobject_cast<QGroupBox *>(w)) {
         if (g->title() != Leggibile(stato.caption)) g->setTitle(Leggibile(stato.caption));
     } else if (auto *p = qobject_cast<QPlainTextEdit *>(w)) {
@@ -211,9 +203,9 @@ void Ponte::mostra(const Legame &l) {
         if (p->toPlainText() != testo) p->setPlainText(testo);
     }
     const QString aiuto = SoloTesto(Q(stato.toolTip).trimmed());
-    if (w->toolTip() != aiuto && !(aiuto.isEmpty() && riga(l.id).toolTip.empty())) w->setToolTip(aiuto);
-    if (w->isEnabled() != stato.abilitato && riga(l.id).classe != Classe::Cornice) w->setEnabled(stato.abilitato);
-    if (w->isHidden() == stato.visibile && (riga(l.id).classe != Classe::Altro)) w->setVisible(stato.visibile);
+    if (w->toolTip() != aiuto && !(aiuto.isEmpty() && RigaDi(l.id).toolTip.empty())) w->setToolTip(aiuto);
+    if (w->isEnabled() != stato.abilitato && RigaDi(l.id).classe != Classe::Cornice) w->setEnabled(stato.abilitato);
+    if (w->isHidden() == stato.visibile && (RigaDi(l.id).classe != Classe::Altro)) w->setVisible(stato.visibile);
 }
 
 }  // namespace ombrelia::desktop

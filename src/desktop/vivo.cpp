@@ -120,10 +120,8 @@ void Vivo::lavora() {
                 s.in.CkUNI == 1 && Val(s.in.txtInc) == 0 && Val(s.in.txtLAT) >= 0;  // that run draws the numerals
             app::cmdRun(s);
             // These boxes draw when they are set.
-            for (const std::string_view nome : {"ckRomani", "ckArabi"}) {
-                const IdControllo id = TrovaControllo(nome);
+            for (const NomeControllo id : {NomeControllo("ckRomani"), NomeControllo("ckArabi")})
                 if (!disegnati && std::exchange(s.valore(id), 0) == 1) app::Spunta(s, id, 1);
-            }
             t.dispositivo = nullptr;
             t.specchiaArchi = true;
             t.FattoreX = r.fattoreX;

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <iterator>
 
+#include "controlli/nomi.h"
 #include "core/file.h"
 #include "core/percorsi.h"
 #include "map/zenit.h"

@@ -10,7 +10,7 @@
 #include <string_view>
 #include <vector>
 
-#include "core/controlli.h"
+#include "core/inputs.h"
 #include "core/reale.h"
 #include "core/testo.h"
 #include "plot/dispositivo.h"

@@ -1,11 +1,12 @@
 // The notice, as the lines of its text box.
+#include "controlli/nomi.h"
 #include "reports/rapporti.h"
 
 namespace ombrelia::reports {
 
 void MostraAvviso(Sessione &s) {
     Foglio f(s, "Form5", Uscita::Schermo, nullptr);
-    std::string_view testo = s.testo(TrovaControllo("Form5.Text1"));
+    std::string_view testo = s.testo("Form5.Text1");
     while (!testo.empty()) {
         const std::size_t fine = std::min(testo.find('\n'), testo.size());
         std::string_view riga = testo.substr(0, fine);

@@ -27,18 +27,16 @@ void Sessione::Scrivi(std::string DialInputs::*campo, std::string testo) {
 }
 
 std::string &Sessione::testo(IdControllo id) {
-    const Controllo &riga = TavolaControlli()[static_cast<std::size_t>(id)];
+    const Controllo &riga = RigaDi(id);
     if (riga.testo) return in.*riga.testo;
     if (riga.pannello) return tavolo.pannello.*riga.pannello;
     return stato(id).testo;
 }
 
 int &Sessione::valore(IdControllo id) {
-    const Controllo &riga = TavolaControlli()[static_cast<std::size_t>(id)];
+    const Controllo &riga = RigaDi(id);
     return riga.casella ? in.*riga.casella : stato(id).valore;
 }
-
-StatoControllo &Sessione::stato(std::string_view nome) { return stato(TrovaControllo(nome)); }
 
 std::string &Sessione::titolo(std::string_view modulo) {
     const auto moduli = TavolaModuli();

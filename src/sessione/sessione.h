@@ -7,8 +7,9 @@
 #include <string_view>
 #include <vector>
 
+#include "controlli/controlli.h"
 #include "core/angoli.h"
-#include "core/controlli.h"
+#include "core/certo.h"
 #include "core/inputs.h"
 #include "core/testo.h"
 #include "core/variabili.h"
@@ -84,8 +85,14 @@ struct Sessione {
     // --- controls, wherever their text or value is kept -----------------------------------------------------------
     [[nodiscard]] std::string &testo(IdControllo id);
     [[nodiscard]] int &valore(IdControllo id);
-    [[nodiscard]] StatoControllo &stato(IdControllo id) { return stati[static_cast<std::size_t>(id)]; }
-    [[nodiscard]] StatoControllo &stato(std::string_view nome);
+    [[nodiscard]] StatoControllo &stato(IdControllo id) {
+        Certo(id >= 0 && static_cast<std::size_t>(id) < stati.size(), "a control that is none");
+        return stati[static_cast<std::size_t>(id)];
+    }
+    // Of a control that the program names itself.
+    [[nodiscard]] std::string &testo(NomeControllo nome) { return testo(IdControllo(nome)); }
+    [[nodiscard]] int &valore(NomeControllo nome) { return valore(IdControllo(nome)); }
+    [[nodiscard]] StatoControllo &stato(NomeControllo nome) { return stato(IdControllo(nome)); }
     // Caption of a form of the table.
     [[nodiscard]] std::string &titolo(std::string_view modulo);
 };

@@ -25,8 +25,6 @@ namespace {
 
 constexpr std::string_view FINESTRA = "MDIForm1";
 
-const Controllo &riga(IdControllo id) { return TavolaControlli()[static_cast<std::size_t>(id)]; }
-
 constexpr std::string_view MACCHINA = "macchina.";  // before the ending of a form for machines
 
 // What a change of asks for another sheet.
@@ -37,7 +35,7 @@ bool dellaCornice(const Controllo &c) {
 }
 
 // Boxes that draw when they are set.
-constexpr std::string_view DISEGNANO[] = {"ckRomani", "ckArabi", "punto"};
+constexpr NomeControllo DISEGNANO[] = {"ckRomani", "ckArabi", "punto"};
 
 // Pressed by the page itself: on the session, they read the original dial anew as a designer wants it.
 class AlTavolo {
@@ -73,13 +71,14 @@ std::string Pagina::Esegui(std::string_view rigaScript) {
 void Pagina::tocca() { daScript_ = false; }
 
 std::string Pagina::Scrivi(std::string_view nome, std::string_view testo) {
-    const IdControllo id = TrovaControllo(nome);
-    if (id == NESSUN_CONTROLLO) return {};
+    const auto cercato = CercaControllo(nome);
+    if (!cercato) return {};
+    const IdControllo id = *cercato;
     Sessione &s = sessione();
     const AlTavolo fresco(s);
     tocca();
     // "45°04' N" is what its degrees are.
-    const luoghi::CampoAngolo *angolo = luoghi::TrovaCampoAngolo(riga(id).nome);
+    const luoghi::CampoAngolo *angolo = luoghi::TrovaCampoAngolo(RigaDi(id).nome);
     if (angolo && testo.find_first_not_of("0123456789.,+-") != std::string_view::npos) {
         const luoghi::AngoloLetto letto = luoghi::LeggiAngolo(testo, *angolo);
         if (letto.buono()) {
@@ -95,13 +94,14 @@ std::string Pagina::Scrivi(std::string_view nome, std::string_view testo) {
         if (c != '\0') filtrato += c;
     }
     app::Imposta(s, id, filtrato);
-    if (dellaCornice(riga(id))) app::Adatta(s);
+    if (dellaCornice(RigaDi(id))) app::Adatta(s);
     return s.testo(id);
 }
 
 void Pagina::Premi(std::string_view nome) {
-    const IdControllo id = TrovaControllo(nome);
-    if (id == NESSUN_CONTROLLO) return;
+    const auto cercato = CercaControllo(nome);
+    if (!cercato) return;
+    const IdControllo id = *cercato;
     Sessione &s = sessione();
     const AlTavolo fresco(s);
     tocca();
@@ -112,7 +112,7 @@ void Pagina::Premi(std::string_view nome) {
     } else {
         app::Premi(s, id);
         if (nome == "cmdStati") prova_.mondo = s.mondo;
-        if (dellaCornice(riga(id))) app::Adatta(s);
+        if (dellaCornice(RigaDi(id))) app::Adatta(s);
     }
 }
 
@@ -126,9 +126,10 @@ void Pagina::Collega(std::string_view righe) {
         const std::string_view una = righe.substr(0, fine);
         righe.remove_prefix(std::min(fine + 1, righe.size()));
         const std::size_t tab = una.find('\t');
-        const IdControllo id = tab == std::string_view::npos ? NESSUN_CONTROLLO : TrovaControllo(una.substr(0, tab));
-        if (id == NESSUN_CONTROLLO || riga(id).modulo != FINESTRA) continue;
-        const Controllo &c = riga(id);
+        const auto cercato = tab == std::string_view::npos ? std::nullopt : CercaControllo(una.substr(0, tab));
+        if (!cercato || RigaDi(*cercato).modulo != FINESTRA) continue;
+        const IdControllo id = *cercato;
+        const Controllo &c = RigaDi(id);
         const std::string_view valore = una.substr(tab + 1);
         if (c.classe == Classe::Testo) s.testo(id) = valore;
         else if (c.classe == Classe::Casella) s.valore(id) = valore == "1" ? 1 : 0;
@@ -207,14 +208,12 @@ void Pagina::ridisegna() {
     t.ShiftY(da.tavolo.ShiftY());
     const bool australe = Val(prova_.in.txtLAT) < 0;
     const bool analitica = analitica_ && da.stato("cmdEqui").abilitato;
-    app::Premi(prova_, TrovaControllo(analitica ? "cmdEqui" : "cmdRun"));
+    app::Premi(prova_, analitica ? NomeControllo("cmdEqui") : NomeControllo("cmdRun"));
     // The page turns a southern dial over itself, as the first box would tell a user to.
     if (australe && !analitica && !muto_.avvisi.empty()) muto_.avvisi.erase(muto_.avvisi.begin());
-    if (mappa_) app::Premi(prova_, TrovaControllo("cmdPlot"));
-    for (const std::string_view nome : DISEGNANO) {
-        const IdControllo id = TrovaControllo(nome);
+    if (mappa_) app::Premi(prova_, NomeControllo("cmdPlot"));
+    for (const NomeControllo id : DISEGNANO)
         if (std::exchange(prova_.valore(id), 0) == 1 || da.valore(id) == 1) app::Spunta(prova_, id, 1);
-    }
     if (australe && !analitica) t.cmdInvX();
     prova_.in.txtLAT = da.in.txtLAT;
 }
@@ -270,13 +269,13 @@ std::string Pagina::Esporta(std::string_view forma) {
 }
 
 std::string Pagina::ApriRapporto(std::string_view nome) {
-    const IdControllo id = TrovaControllo(nome);
-    if (id == NESSUN_CONTROLLO) return "null";
+    const auto id = CercaControllo(nome);
+    if (!id) return "null";
     ridisegna();
     muto_.avvisi.clear();
     Rapporti &tutti = prova_.rapporti;
     tutti.aperto = {};
-    app::Premi(prova_, id);
+    app::Premi(prova_, *id);
     const Rapporto &r = tutti.aperto;
     if (r.modulo.empty()) return "null";
     Json j;

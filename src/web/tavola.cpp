@@ -31,10 +31,11 @@ std::string_view nomeDi(Classe c) {
     }
 }
 
-void controllo(Json &j, const Dizionario &d, const Controllo &c) {
+void controllo(Json &j, const Dizionario &d, IdControllo id) {
+    const Controllo &c = RigaDi(id);
     j.apri('{').nome("nome").testo(c.nome).nome("classe").testo(nomeDi(c.classe));
     j.nome("caption").testo(d.Traduci(c.caption)).nome("tip").testo(d.Traduci(c.toolTip));
-    j.nome("rapporto").vero(app::ApreRapporto(c.nome)).chiudi('}');
+    j.nome("rapporto").vero(app::ApreRapporto(id)).chiudi('}');
 }
 
 // A group's rows: names of controls, and captions of its own as {"caption": text}.
@@ -50,11 +51,10 @@ void gruppo(Json &j, const Dizionario &d, const app::Gruppo &g) {
         .apri('[');
     for (const app::Gruppo::Riga &r : g.righe) {
         j.apri('[');
-        for (const std::string_view nome : r) {
-            const IdControllo id = TrovaControllo(nome);
-            if (id == NESSUN_CONTROLLO)
-                j.apri('{').nome("classe").testo("etichetta").nome("caption").testo(d.Traduci(nome)).chiudi('}');
-            else controllo(j, d, TavolaControlli()[static_cast<std::size_t>(id)]);
+        for (const app::Gruppo::Cosa &c : r) {
+            if (c.id == NESSUN_CONTROLLO)
+                j.apri('{').nome("classe").testo("etichetta").nome("caption").testo(d.Traduci(c.caption)).chiudi('}');
+            else controllo(j, d, c.id);
         }
         j.chiudi(']');
     }
@@ -62,7 +62,7 @@ void gruppo(Json &j, const Dizionario &d, const app::Gruppo &g) {
 }
 
 // Beside the groups: buttons and menu entries.
-constexpr std::string_view COMANDI[] = {"cmdRun", "cmdEqui", "cmdTrasforma", "cmdData", "mnuAvviso"};
+constexpr NomeControllo COMANDI[] = {"cmdRun", "cmdEqui", "cmdTrasforma", "cmdData", "mnuAvviso"};
 
 }  // namespace
 
@@ -73,8 +73,7 @@ std::string Pagina::Tavola() const {
     for (const auto *gruppi : {&app::GruppiQuadrante(), &app::GruppiDisegno()})
         for (const app::Gruppo &g : *gruppi) gruppo(j, d, g);
     j.chiudi(']').nome("comandi").apri('[');
-    for (const std::string_view nome : COMANDI)
-        controllo(j, d, TavolaControlli()[static_cast<std::size_t>(TrovaControllo(nome))]);
+    for (const NomeControllo nome : COMANDI) controllo(j, d, nome);
     j.chiudi(']').nome("testi").apri('{');
     for (const TestoPagina &t : TestiPagina()) j.nome(t.chiave).testo(d.Traduci(t.testo));
     return std::move(j.chiudi('}').chiudi('}')).fine();

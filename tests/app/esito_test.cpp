@@ -55,7 +55,7 @@ TEST_F(EsitoTest, OfALanguage) {
         const app::Esito e = b.premi(voce);
         EXPECT_TRUE(e == app::Esito::Fallito) << voce;
         EXPECT_EQ(b.utente.box, std::vector{e.motivo}) << "and nobody is told to start again";
-        EXPECT_TRUE(b.s.stato(voce).abilitato) << voce;
+        EXPECT_TRUE(b.s.stato(TrovaControllo(voce)).abilitato) << voce;
     }
 }
 

@@ -25,7 +25,7 @@ TEST_F(LinguaTest, WhichTextsOfAFormAreTranslated) {
     const char *const casi[][2] = {{"lblLatitudine", "Latitude"}, {"mnuApri", "Open..."},
                                    {"cmdData", "Data"},           {"chkOreAstronomiche", "   Hour lines"},
                                    {"Tavolo1.lblQL", "W "},       {"ckAz", "Azimut"}};  // a blank translation does not exist
-    for (const auto &[nome, caption] : casi) EXPECT_EQ(s.stato(nome).caption, caption);
+    for (const auto &[nome, caption] : casi) EXPECT_EQ(s.stato(TrovaControllo(nome)).caption, caption);
     EXPECT_EQ(s.stato("cmdData").toolTip + s.stato("txtZodiacsize").toolTip + s.stato("ck_inv").toolTip, "Its dataheightflip");
     EXPECT_EQ(s.stato("Form1.menuFond").caption, "Stampa") << "a form is translated when it is loaded";
     app::CaricaForm(s, "Form1");

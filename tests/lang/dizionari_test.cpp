@@ -10,7 +10,7 @@
 #include <set>
 #include <vector>
 
-#include "core/controlli.h"
+#include "controlli/controlli.h"
 #include "core/testo.h"
 #include "lang/dizionario.h"
 

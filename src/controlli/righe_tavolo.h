@@ -1,12 +1,13 @@
 // The rows of the plot surface: head panel, read-outs, scroll bars, and the three panels that its buttons open.
-#include "core/righe.h"
+#pragma once
+
+#include "controlli/righe.h"
 
 namespace ombrelia::righe {
-namespace {
 
 using Pt = PannelloTavolo;
 
-constexpr Controllo RIGHE_TAVOLO[] = {
+inline constexpr Controllo RIGHE_TAVOLO[] = {
     Cornice("picHead"),
     Pulsante("cmdStampa", "Print"),
     Pulsante("cmdAssi", "Axes"),
@@ -51,10 +52,6 @@ constexpr Controllo RIGHE_TAVOLO[] = {
     Pulsante("cmdPCancel", "Hide"),
 };
 
-constexpr Gruppo GRUPPI[] = {{{"Tavolo1", {}}, RIGHE_TAVOLO}};
-
-}  // namespace
-
-std::span<const Gruppo> GruppiTavolo() { return GRUPPI; }
+inline constexpr Gruppo GRUPPI_TAVOLO[] = {{{"Tavolo1", {}}, RIGHE_TAVOLO}};
 
 }  // namespace ombrelia::righe

@@ -1,5 +1,5 @@
 // The table of controls: that each field of the record has its one row, that names find their rows, and the key filters.
-#include "core/controlli.h"
+#include "controlli/controlli.h"
 
 #include <gtest/gtest.h>
 
@@ -60,9 +60,7 @@ TEST(Controlli, EachMemberOfTheRecordsHasItsOneRow) {
 
 TEST(Controlli, EveryRowIsFoundByItsOwnNameOnly) {
     for (const Controllo &riga : TavolaControlli()) {
-        EXPECT_EQ(TrovaControllo(Pieno(riga)), IdDi(riga)) << Pieno(riga);
-        const Controllo copia = riga;
-        EXPECT_EQ(IdDi(copia), IdDi(riga)) << Pieno(riga);
+        EXPECT_EQ(CercaControllo(Pieno(riga)), IdDi(riga)) << Pieno(riga);
     }
 }
 
@@ -77,10 +75,10 @@ TEST(Controlli, NoNameOfTheMainWindowBeginsLikeAnEarlierOne) {
 
 TEST(Controlli, NamesAsTheScriptGivesThem) {
     for (const auto &r : prova::Tabella("controlli.txt")) {
-        const IdControllo id = TrovaControllo(r.at(0));
-        EXPECT_EQ(id == NESSUN_CONTROLLO ? "" : Pieno(TavolaControlli()[static_cast<std::size_t>(id)]), r.at(1)) << r[0];
+        const auto id = CercaControllo(r.at(0));
+        EXPECT_EQ(id ? Pieno(RigaDi(*id)) : "", r.at(1)) << r[0];
     }
-    EXPECT_EQ(TrovaControllo(" txtLAT"), NESSUN_CONTROLLO);
+    EXPECT_FALSE(CercaControllo(" txtLAT"));
 }
 
 TEST(Controlli, FormsLieOneAfterTheOther) {

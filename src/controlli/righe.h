@@ -1,12 +1,12 @@
-// How the rows of the table of controls are written down: one short maker a class of control. For the files
-// controlli*.cpp alone; everybody else reads the finished table of controlli.h.
+// How the rows of the table of controls are written down: one short maker a class of control. For the files righe_*.h alone;
+// everybody else reads the finished table of controlli.h.
 #pragma once
 
 #include <span>
 #include <string>
 #include <string_view>
 
-#include "core/controlli.h"
+#include "controlli/controlli.h"
 
 namespace ombrelia::righe {
 
@@ -15,9 +15,6 @@ struct Gruppo {
     Modulo modulo;
     std::span<const Controllo> righe;
 };
-[[nodiscard]] std::span<const Gruppo> GruppiPrincipale();
-[[nodiscard]] std::span<const Gruppo> GruppiTavolo();
-[[nodiscard]] std::span<const Gruppo> GruppiModuli();
 
 using Sv = std::string_view;
 

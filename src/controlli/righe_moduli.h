@@ -1,12 +1,14 @@
 // The rows of the lesser forms: the sheet's form, the utility board, the ten report forms and the about box.
-#include "core/righe.h"
+#pragma once
+
+#include "controlli/avviso.h"
+#include "controlli/righe.h"
 
 namespace ombrelia::righe {
-namespace {
 
-constexpr Controllo RIGHE_FOGLIO[] = {Muto("Tavolo1", Classe::Altro)};
+inline constexpr Controllo RIGHE_FOGLIO[] = {Muto("Tavolo1", Classe::Altro)};
 
-constexpr Controllo RIGHE_STRUMENTI[] = {
+inline constexpr Controllo RIGHE_STRUMENTI[] = {
     Cornice("Frame1", "Tavola di conversione"),
     Opzione("optModoDec", nullptr, "Decimale"),
     Opzione("OptModoSess", nullptr, "Sessagesimale"),
@@ -47,46 +49,22 @@ constexpr Controllo RIGHE_STRUMENTI[] = {
     Testo("txtResult"),
 };
 
-constexpr Controllo RIGHE_ISTRUZIONI[] = {Muto("Picture1", Classe::Immagine)};
+inline constexpr Controllo RIGHE_ISTRUZIONI[] = {Muto("Picture1", Classe::Immagine)};
 
-constexpr Sv STAMPA = "Stampa";
-constexpr Controllo RIGHE_FORM1[] = {Menu("menuFond", STAMPA)};
-constexpr Controllo RIGHE_FORM2[] = {Menu("mnuPrinta", STAMPA)};
-constexpr Controllo RIGHE_FORM3[] = {Menu("mnustampat", STAMPA)};
-constexpr Controllo RIGHE_FORM4[] = {Menu("mnubabprint", STAMPA)};
-constexpr Controllo RIGHE_FORM6[] = {Menu("mnu_Print", STAMPA)};
-constexpr Controllo RIGHE_FORM7[] = {Menu("menustampa", STAMPA)};
-constexpr Controllo RIGHE_FORM8[] = {Menu("menuprinta", STAMPA)};
-constexpr Controllo RIGHE_FORM9[] = {Menu("mnuStammpa", STAMPA)};
-constexpr Controllo RIGHE_FORM10[] = {Menu("mnuDatiQ", STAMPA)};
+inline constexpr Sv STAMPA = "Stampa";
+inline constexpr Controllo RIGHE_FORM1[] = {Menu("menuFond", STAMPA)};
+inline constexpr Controllo RIGHE_FORM2[] = {Menu("mnuPrinta", STAMPA)};
+inline constexpr Controllo RIGHE_FORM3[] = {Menu("mnustampat", STAMPA)};
+inline constexpr Controllo RIGHE_FORM4[] = {Menu("mnubabprint", STAMPA)};
+inline constexpr Controllo RIGHE_FORM6[] = {Menu("mnu_Print", STAMPA)};
+inline constexpr Controllo RIGHE_FORM7[] = {Menu("menustampa", STAMPA)};
+inline constexpr Controllo RIGHE_FORM8[] = {Menu("menuprinta", STAMPA)};
+inline constexpr Controllo RIGHE_FORM9[] = {Menu("mnuStammpa", STAMPA)};
+inline constexpr Controllo RIGHE_FORM10[] = {Menu("mnuDatiQ", STAMPA)};
 
-constexpr Controllo RIGHE_FORM5[] = {Testo(
-    "Text1",
-    "Ombrelia calcola e disegna quadranti solari con la geometria dello gnomone e del Sole, dai soli numeri che riceve. Non sa "
-    "se "
-    "latitudine, longitudine, declinazione e inclinazione sono quelle del muro, e non promette che una linea sia giusta.\r\n"
-    "Un quadrante si incide nella pietra e non si corregge: prima di tracciarlo si confronti il disegno con quello di un secondo "
-    "metodo e con le tabelle, e qualche ora con un'ombra vera.\r\n"
-    "Il programma è dato così com'è, senza garanzia alcuna: l'autore non risponde dei danni che derivano dal suo uso.\r\n"
-    "\r\n"
-    "Ombrelia computes and draws sundials by the geometry of the gnomon and the Sun, from the numbers it is given and nothing "
-    "else. It cannot know whether latitude, longitude, declination and inclination are those of the wall, and it does not "
-    "promise "
-    "that a line is right.\r\n"
-    "A sundial is cut in stone and cannot be corrected: before tracing it, check the drawing against that of a second method and "
-    "against the tables, and some hours against a true shadow.\r\n"
-    "The program is given as it is, with no warranty of any kind: the author is not liable for damage that comes from its "
-    "use.\r\n"
-    "\r\n"
-    "Ombrelia calcule et dessine des cadrans solaires par la géométrie du gnomon et du Soleil, à partir des seuls nombres qu'il "
-    "reçoit. Il ne sait pas si latitude, longitude, déclinaison et inclinaison sont celles du mur, et ne promet pas qu'une ligne "
-    "soit juste.\r\n"
-    "Un cadran se grave dans la pierre et ne se corrige pas : avant de le tracer, comparez le dessin avec celui d'une seconde "
-    "méthode et avec les tables, et quelques heures avec une ombre vraie.\r\n"
-    "Le programme est donné tel quel, sans aucune garantie : l'auteur ne répond pas des dommages qui résultent de son "
-    "emploi.\r\n")};
+inline constexpr Controllo RIGHE_FORM5[] = {Testo("Text1", AVVISO)};
 
-constexpr Controllo RIGHE_ABOUT[] = {
+inline constexpr Controllo RIGHE_ABOUT[] = {
     Etichetta("lblTitle", "Ombrelia"),
     Etichetta("lblVersion", "Versione"),
     Etichetta("lblDescription", "Progetto di orologi solari in scala reale"),
@@ -96,7 +74,7 @@ constexpr Controllo RIGHE_ABOUT[] = {
 
 // The sheet's form has no caption until a project is open: a caption there is a project's title. Blanks in the captions
 // are meant.
-constexpr Gruppo GRUPPI[] = {
+inline constexpr Gruppo GRUPPI_MODULI[] = {
     {{"frmTavolo", {}}, RIGHE_FOGLIO},
     {{"frmDeclin", "Utility board - Outils - Strumenti - Herramientas"}, RIGHE_STRUMENTI},
     {{"frmInfoDec", "Istruzioni"}, RIGHE_ISTRUZIONI},
@@ -112,9 +90,5 @@ constexpr Gruppo GRUPPI[] = {
     {{"Form10", "10)  Dati del quadrante equivalente verticale con stesso angolo sustilare"}, RIGHE_FORM10},
     {{"frmAbout", "Informazioni su Ombrelia"}, RIGHE_ABOUT},
 };
-
-}  // namespace
-
-std::span<const Gruppo> GruppiModuli() { return GRUPPI; }
 
 }  // namespace ombrelia::righe

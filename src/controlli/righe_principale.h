@@ -1,16 +1,17 @@
 // The rows of the main window, in the order in which the fields are read and the project file lists them.
-#include "core/righe.h"
+#pragma once
+
+#include "controlli/righe.h"
 
 namespace ombrelia::righe {
-namespace {
 
 using In = DialInputs;
 
-constexpr Sv TIP_ORE = "adeguare il valore al tipo di ora: italica o babilonica";
-constexpr Sv TIP_CARATTERE = "altezza del carattere";
+inline constexpr Sv TIP_ORE = "adeguare il valore al tipo di ora: italica o babilonica";
+inline constexpr Sv TIP_CARATTERE = "altezza del carattere";
 
 // Blanks inside and around the captions are part of the layout, and keys of the dictionary.
-constexpr Controllo RIGHE_PRINCIPALE[] = {
+inline constexpr Controllo RIGHE_PRINCIPALE[] = {
     // Menus.
     Menu("mnuApri", "Apri..."),
     Menu("mnuSalva", "Salva..."),
@@ -177,10 +178,6 @@ constexpr Controllo RIGHE_PRINCIPALE[] = {
     Muto("CDialog1", Classe::Altro),
 };
 
-constexpr Gruppo GRUPPI[] = {{{"MDIForm1", "Ombrelia"}, RIGHE_PRINCIPALE}};
-
-}  // namespace
-
-std::span<const Gruppo> GruppiPrincipale() { return GRUPPI; }
+inline constexpr Gruppo GRUPPI_PRINCIPALE[] = {{{"MDIForm1", "Ombrelia"}, RIGHE_PRINCIPALE}};
 
 }  // namespace ombrelia::righe

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -22,13 +23,6 @@ enum class Filtro : std::uint8_t {
     SoloCifreSegno  // the same with plus and minus
 };
 
-// Texts of the plot surface's own panels.
-struct PannelloTavolo {
-    std::string txtX, txtY, txtQL, txtQH;
-    std::string p_mess, lblDimVal, lblScala, lblXYval;
-    std::string cmbScala;
-};
-
 struct Controllo {
     std::string_view modulo, nome;
     int indice = -1;  // of a control array, else -1
@@ -44,16 +38,33 @@ struct Controllo {
     bool nostro = false;  // a later control: files hold it only where it differs from its start value
 };
 
+// A row's place in the table.
 using IdControllo = int;
 inline constexpr IdControllo NESSUN_CONTROLLO = -1;
 
+// A control that the program itself names, "txtLAT" or "frmDeclin.cmdSign(0)": the compiler looks it up, so that a slip does not
+// compile and nothing is looked up at run. Whoever writes such a name includes controlli/nomi.h.
+class NomeControllo {
+public:
+    consteval NomeControllo(const char *nome);  // NOLINT: a name is a control
+    constexpr operator IdControllo() const { return id_; }
+
+private:
+    IdControllo id_;
+};
+
 // The whole table, form by form, in each form's own order.
 [[nodiscard]] std::span<const Controllo> TavolaControlli();
+// A row; an id that is none of the table's is a bug.
+[[nodiscard]] const Controllo &RigaDi(IdControllo id);
 // A form's rows.
 [[nodiscard]] std::span<const Controllo> ControlliDi(std::string_view modulo);
-// The control named as the action script names it: "txtLAT", "MDIForm1.txtLAT", "frmDeclin.cmdSign(0)". Names are
-// compared without regard to case. NESSUN_CONTROLLO when there is none.
+// For names that come from outside: the control named as the action script names it, "txtLAT", "MDIForm1.txtLAT",
+// "frmDeclin.cmdSign(0)". Names are compared without regard to case.
+[[nodiscard]] std::optional<IdControllo> CercaControllo(std::string_view nome);
+// For names put together at run that can't but be there; one that isn't is a bug.
 [[nodiscard]] IdControllo TrovaControllo(std::string_view nome);
+// Of a row of the table; a copy of one is a bug.
 [[nodiscard]] IdControllo IdDi(const Controllo &riga);
 // A record with the start values of the table.
 [[nodiscard]] DialInputs InputsIniziali();

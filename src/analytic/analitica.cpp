@@ -35,10 +35,10 @@ template <int colore>
 void unaLinea(const Corsa &, LineeAttese &linee) {
     linee.push_back({0, 0, "", QB(colore)});
 }
-// A wall that has a centre within reach.
+// A wall that has a centre within reach; true lines need none.
 bool conCentro(const Corsa &c) {
     const Variabili &v = c.s.v;
-    return !((v.lat == 0 && v.dec == 0) || Abs(v.dec) == 90);
+    return c.s.in.ckCorretta == 1 || !((v.lat == 0 && v.dec == 0) || Abs(v.dec) == 90);
 }
 
 constexpr Riga CARATTERISTICHE[] = {

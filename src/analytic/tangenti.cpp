@@ -10,7 +10,7 @@ namespace {
 
 // ora is the hour, so counted, of noon at the equinox.
 void conta(const Corsa &c, double ora, LineeAttese &linee) {
-    if (c.s.v.lat_o == 0) return;
+    if (c.s.v.lat_o == 0 && c.s.in.ckCorretta != 1) return;  // no tangents at the equator
     for (const double a : Conteggio(-90, 90, 15)) linee.push_back({a, ora + a / 15, "", QB(15)});
 }
 

@@ -62,7 +62,7 @@ void scegliOpzione(Sessione &s, IdControllo id) {
 
 void Avvia(Sessione &s) {
     s.suCorretta = TracciaVera;
-    s.suLuce = CadeOmbra;
+    s.suOmbra = OmbraNellaLista;
     s.suCambio = [](Sessione &qui, std::string DialInputs::*campo) {
         const IdControllo id = rigaDi(campo);
         if (id != NESSUN_CONTROLLO) avvisa(qui, id, Evento::Cambio);

@@ -3,6 +3,7 @@
 #include <map>
 
 #include "certificato/certificato.h"
+#include "certificato/cielo.h"
 
 namespace ombrelia {
 
@@ -24,7 +25,7 @@ public:
         riga_.strato = std::move(strato);
         riga_.specie = specie;
         riga_.valore = valore;
-        if (vera_.forma() == LineaVera::Forma::Curva) coperte_.assign(vera_.campioni().size() + 1, 0);
+        if (vera_.forma() == LineaVera::Forma::Curva) coperte_.assign(vera_.campioni().size() + 1, 0), sole_ = coperte_;
     }
 
     void corda(const Punto &a, const Punto &b) {
@@ -48,8 +49,8 @@ public:
             conta(*prima, p, l, ea, e, e);
         } else if (e.distanza <= tolleranza_) {
             if (vera_.forma() == LineaVera::Forma::Retta)
-                tratti_.emplace_back(e.parametro - MEZZO_PUNTO, e.parametro + MEZZO_PUNTO);
-            else if (vera_.forma() == LineaVera::Forma::Curva) copri(e.parametro, e.parametro, 1);
+                soli_.emplace_back(e.parametro - MEZZO_PUNTO, e.parametro + MEZZO_PUNTO);
+            else if (vera_.forma() == LineaVera::Forma::Curva) copri(sole_, e.parametro, e.parametro, 1);
         }
         ultimo_ = e;
     }
@@ -63,18 +64,21 @@ public:
             const double somma = Lunghezza(tratti_);
             Unisci(tratti_);
             doppi = (somma - Lunghezza(tratti_)) * MM;
+            tratti_.insert(tratti_.end(), soli_.begin(), soli_.end());
+            Unisci(tratti_);
             r.visibili = Lunghezza(vera_.visibili()) * MM;
             r.mancanti = r.visibili - Lunghezza(Intersezione(vera_.visibili(), tratti_)) * MM;
         } else if (vera_.forma() == LineaVera::Forma::Curva) {
             const auto &c = vera_.campioni();
-            int quante = 0;
+            int quante = 0, sole = 0;
             for (std::size_t i = 0; i + 1 < c.size(); ++i) {
                 quante += coperte_[i];
+                sole += sole_[i];
                 const double l = std::hypot(c[i + 1].p.x - c[i].p.x, c[i + 1].p.y - c[i].p.y) * MM;
                 if (quante > 1 && l < SCARTO_MASSIMO) doppi += (quante - 1) * l;
                 if (!c[i].visibile || !c[i + 1].visibile) continue;
                 r.visibili += l;
-                if (quante == 0) r.mancanti += l;
+                if (quante == 0 && sole == 0) r.mancanti += l;
             }
         }
         if (vera_.costruzione()) r.superflui = 0;
@@ -127,11 +131,11 @@ private:
             else tratti_.emplace_back(t);
         } else if (vera_.forma() == LineaVera::Forma::Curva) {
             riga_.superflui += l * MM * (ea.buia + 2 * em.buia + eb.buia) / 4;
-            if (sta) copri(ea.parametro, eb.parametro, 0);
+            if (sta) copri(coperte_, ea.parametro, eb.parametro, 0);
         }
     }
     // Marks the samples between two parameters as drawn once more; piu to either side.
-    void copri(double u1, double u2, std::size_t piu) {
+    void copri(std::vector<int> &dove, double u1, double u2, std::size_t piu) {
         if (u1 > u2) std::swap(u1, u2);
         const auto &c = vera_.campioni();
         const auto minore = [](const LineaVera::Campione &x, double u) { return x.u < u; };
@@ -143,8 +147,8 @@ private:
             i -= std::min(i, piu + (piu > 0 ? 1 : 0));
             k = std::min(k + piu, c.size() - 1);
             if (i >= k) return;
-            ++coperte_[i];
-            --coperte_[k];
+            ++dove[i];
+            --dove[k];
         };
         if (u2 - u1 > giro / 2) segna(c.front().u, u1), segna(u2, c.back().u);
         else segna(u1, u2);
@@ -154,8 +158,10 @@ private:
     LineaVera vera_;
     double tolleranza_;  // metres
     RigaCertificato riga_;
-    Tratti tratti_;
-    std::vector<int> coperte_;  // differences: how often the stretch behind each sample was drawn
+    Tratti tratti_, soli_;
+    // Differences: how often the stretch behind each sample was drawn. A dot with none before it covers a little to either
+    // side, which counts as drawn but not as drawn twice.
+    std::vector<int> coperte_, sole_;
     LineaVera::Esame ultimo_{};
     double somma_ = 0, opposti_ = 0;
     std::size_t lette_ = 0;
@@ -184,7 +190,7 @@ DatiCertificato DatiDelCertificato(const Sessione &s) {
     // On an equivalent dial the longitude's field carries the shift of the plane.
     const double diffLong = s.v.flagVerticale == 1 ? s.v.diffLong.numero() : 0;
     d.scartoOra = in.ck_Etna == 1 ? campo(in.txtLonG) * ombra::RADIANTI - d.posa.meridiano + diffLong : 0;
-    d.anno = Oggi(d.posa.fuso()).anno;
+    d.anno = AnnoDelSole(s);
     d.qiblaLat = campo(in.txtQlat) * ombra::RADIANTI;
     d.qiblaLon = campo(in.txtQlon) * ombra::RADIANTI;
     return d;

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "certificato/istante.h"
-#include "certificato/vere.h"
+#include "certificato/lineavera.h"
 #include "plot/lista.h"
 
 namespace ombrelia {

@@ -5,9 +5,9 @@
 #include <cmath>
 #include <numbers>
 
-#include "certificato/vero.h"
+#include "certificato/cielo.h"
+#include "certificato/tracciato.h"
 #include "core/angoli.h"
-#include "ombra/sole.h"
 
 namespace ombrelia {
 
@@ -40,9 +40,10 @@ struct Disegno {
         const Pretendi pretendi(s.tavolo, specie, valore);
         Traccia(s.tavolo, scena, p, da, a, passi, tratto(l), annua);
     }
-    // Along the year at an hour angle that follows the declination; none where there is none.
+    // Along the year, or a part of it, at an hour angle that follows the declination; none where there is none.
     template <typename Angolo>
-    void lungoLAnno(const LineaAttesa &l, Specie specie, double valore, Angolo angolo) const {
+    void lungoLAnno(const LineaAttesa &l, Specie specie, double valore, Angolo angolo, double da = -SOLSTIZIO,
+                    double a = SOLSTIZIO) const {
         percorso(
             l, specie, valore,
             [&angolo](double delta) -> std::optional<Vettore> {
@@ -50,7 +51,7 @@ struct Disegno {
                 if (!t) return {};
                 return ombra::Piano::sole(*t, delta);
             },
-            -SOLSTIZIO, SOLSTIZIO, 48, false);
+            da, a, 48, false);
     }
     // Along a vertical circle, by altitude.
     void lungoIlVerticale(const LineaAttesa &l, Specie specie, double valore, double azimut) const {
@@ -67,15 +68,22 @@ struct Disegno {
 
 void ore(const Disegno &d) {
     std::vector<double> fatte;
-    for (const LineaAttesa &l : d.attesa.linee) {
+    const auto traccia = [&](const LineaAttesa &l, double valore) {
         // Quarters and halves come after the hours and run over them; so does midnight seen from its other side.
-        const double ora = std::fmod(l.valore + 24, 24);
+        const double ora = std::fmod(valore + 24, 24);
         const auto stessa = [&](double f) { return std::fabs(f - ora) < 1e-9; };
-        if (std::any_of(fatte.begin(), fatte.end(), stessa)) continue;
+        if (std::any_of(fatte.begin(), fatte.end(), stessa)) return;
         fatte.push_back(ora);
         const double t = d.scena.angolo(ora, d.fuso);
-        d.lungoLAnno(l, Specie::Ora, l.valore, [t](double) -> std::optional<double> { return t; });
-    }
+        d.lungoLAnno(l, Specie::Ora, valore, [t](double) -> std::optional<double> { return t; });
+    };
+    const auto &linee = d.attesa.linee;
+    for (const LineaAttesa &l : linee) traccia(l, l.valore);
+    // A wall has all the hours of the day; the quarters that its engine counts stop one short of the turn.
+    if (d.attesa.motore != Motore::Verticale || linee.size() < 2) return;
+    const double passo = linee.back().valore - linee[linee.size() - 2].valore;
+    if (passo > 1e-3)
+        for (double ora = 0; ora < 24 - 1e-9; ora += passo) traccia(linee.back(), ora);
 }
 
 std::optional<double> daTramonto(double latitudine, double delta, double ore) {
@@ -84,25 +92,33 @@ std::optional<double> daTramonto(double latitudine, double delta, double ore) {
     return std::clamp(*h0 - ore * ORA, -*h0 + ORLO, *h0 - ORLO);
 }
 
+// The declinations on which the Sun rises and sets and the day has that many hours. Near a pole they are a few days only.
+std::pair<double, double> giorniDa(double latitudine, double ore) {
+    const double q = std::tan(std::fabs(latitudine)), limite = std::atan(1 / q);
+    const double lungo = std::atan(-std::cos(std::min(ore, 24.0) / 2 * ORA) / q);
+    const double da = std::clamp(ore > 0 ? lungo : -limite, -SOLSTIZIO, SOLSTIZIO), a = std::min(limite, SOLSTIZIO);
+    return latitudine < 0 ? std::pair(-a, -da) : std::pair(da, a);
+}
+
 void stagionale(const Disegno &d, const LineaAttesa &l, double k) {
     const double lat = d.scena.latitudine();
-    switch (d.attesa.specie) {
-        case Specie::Italica:
-            d.lungoLAnno(l, Specie::Italica, k, [=](double delta) { return daTramonto(lat, delta, 24 - k); });
-            break;
-        case Specie::Babilonica:
-            d.lungoLAnno(l, Specie::Babilonica, k, [=](double delta) -> std::optional<double> {
-                const auto t = daTramonto(lat, delta, k);
+    const Specie specie = d.attesa.specie;
+    const double ore = specie == Specie::Italica ? 24 - k : specie == Specie::Babilonica ? k : 0;
+    const auto [da, a] = giorniDa(lat, ore);
+    if (!(da < a)) return;
+    d.lungoLAnno(
+        l, specie, k,
+        [=](double delta) -> std::optional<double> {
+            if (specie == Specie::Italica) return daTramonto(lat, delta, ore);
+            if (specie == Specie::Babilonica) {
+                const auto t = daTramonto(lat, delta, ore);
                 return t ? std::optional(-*t) : t;
-            });
-            break;
-        default:
-            d.lungoLAnno(l, Specie::Temporaria, k, [=](double delta) -> std::optional<double> {
-                const auto h0 = ombra::semiarco(lat, delta);
-                if (!h0 || !(*h0 > 2 * ORLO)) return {};
-                return std::clamp(*h0 * (k / 6 - 1), -*h0 + ORLO, *h0 - ORLO);
-            });
-    }
+            }
+            const auto h0 = ombra::semiarco(lat, delta);
+            if (!h0 || !(*h0 > 2 * ORLO)) return {};
+            return std::clamp(*h0 * (k / 6 - 1), -*h0 + ORLO, *h0 - ORLO);
+        },
+        da, a);
 }
 
 // The hours that the longest day has beyond those an engine draws, unless the user chose his own first and last hour.
@@ -171,6 +187,8 @@ void giorni(const Disegno &d) {
 
 void almucantarat(const Disegno &d) {
     const ombra::Piano &piano = d.scena.piano();
+    // The ring begins and ends behind the plane, where it is not seen.
+    const double dietro = d.scena.posa().quadrante.declinazione - MEZZO_GIRO;
     std::vector<double> fatte;
     for (const LineaAttesa &l : d.attesa.linee) {
         if (std::find(fatte.begin(), fatte.end(), l.valore) != fatte.end()) continue;  // morning and afternoon are one
@@ -182,7 +200,7 @@ void almucantarat(const Disegno &d) {
             [&piano, h](double a) -> std::optional<Vettore> {
                 return std::sin(h) * piano.zenit() + std::cos(h) * (std::cos(a) * piano.sud() + std::sin(a) * Vettore{0, 1, 0});
             },
-            -MEZZO_GIRO, MEZZO_GIRO, 96, true);
+            dietro, dietro + 2 * MEZZO_GIRO, 96, true);
     }
 }
 
@@ -198,17 +216,10 @@ void asr(const Disegno &d, const LineaAttesa &l) {
     });
 }
 
-// Bearing of a place from another, radians from South, West positive: the great circle's.
-double rilevamento(double lat, double lon, double latMeta, double lonMeta) {
-    const double l = lon - lonMeta;  // eastward
-    return std::atan2(-std::sin(l) * std::cos(latMeta),
-                      std::sin(lat) * std::cos(latMeta) * std::cos(l) - std::cos(lat) * std::sin(latMeta));
-}
-
 void qibla(const Disegno &d) {
     const Posa &p = d.scena.posa();
     const double q =
-        rilevamento(p.quadrante.latitudine, p.longitudine, numero(d.s.in.txtQlat) * RAD, numero(d.s.in.txtQlon) * RAD);
+        Rilevamento(p.quadrante.latitudine, p.longitudine, numero(d.s.in.txtQlat) * RAD, numero(d.s.in.txtQlon) * RAD);
     if (d.attesa.rilevamento) *d.attesa.rilevamento = q * ombra::GRADI;
     if (d.attesa.linee.empty()) return;
     d.lungoIlVerticale(d.attesa.linee.back(), Specie::Qibla, 0, q);
@@ -216,29 +227,9 @@ void qibla(const Disegno &d) {
 
 // --- mean time -------------------------------------------------------------------------------------------------------
 
-// The Sun at the same hour of mean time in the zone, through the days of a year.
-class TempoMedio {
-public:
-    TempoMedio(const Disegno &d, double ora) : longitudine_(d.scena.posa().longitudine), ora_(ora) {
-        int anno = static_cast<int>(numero(d.s.in.txtAnno));
-        if (anno < 1 || anno > 9999) anno = d.s.rapporti.orologio().tm_year + 1900;
-        inizio_ = ombra::giornoGiuliano({anno, 1, 1}) + (ora - d.scena.posa().fuso()) / 24;
-        fuso_ = d.scena.posa().meridiano;
-    }
-    // Days from the year's first; hour angle and declination.
-    [[nodiscard]] std::pair<double, double> sole(double giorno) const {
-        const ombra::Sole sole = ombra::soleDi(inizio_ + giorno);
-        return {(ora_ - 12) * ORA + sole.equazione / 4 * RAD - (longitudine_ - fuso_), sole.delta};
-    }
-
-private:
-    double longitudine_, ora_, inizio_ = 0, fuso_ = 0;
-};
-constexpr double GIORNI_DELL_ANNO = 365.2422;
-
 void lemniscata(const Disegno &d) {
     for (const LineaAttesa &l : d.attesa.linee) {
-        const TempoMedio medio(d, l.valore);
+        const TempoMedio medio(d.scena.posa(), AnnoDelSole(d.s), l.valore);
         d.percorso(
             l, Specie::Analemma, l.valore,
             [&medio](double giorno) -> std::optional<Vettore> {
@@ -258,11 +249,9 @@ std::optional<double> oraSustilare(const ombra::Piano &piano) {
     return std::atan2(n.w, n.m);
 }
 
-void mezzogiorno(const Disegno &d) {
+void mezzogiorno(const Disegno &d, const LineaAttesa &l) {
     const bool traLeOre = d.s.in.chkOreAstronomiche == 1 && (!d.fuso || d.scena.posa().longitudine == d.scena.posa().meridiano);
-    if (traLeOre) return;
-    for (const LineaAttesa &l : d.attesa.linee)
-        d.lungoLAnno(l, Specie::Mezzogiorno, 0, [](double) -> std::optional<double> { return 0; });
+    if (!traLeOre) d.lungoLAnno(l, Specie::Mezzogiorno, 0, [](double) -> std::optional<double> { return 0; });
 }
 
 void sustilare(const Disegno &d) {
@@ -304,7 +293,7 @@ void etichette(const Disegno &d) {
 }
 
 // The triangle of gnomon, substyle and polar style, folded into the plane about the substyle: the gnomon square to it.
-// Lines: style, gnomon, substyle where the engine has it.
+// Lines: style, gnomon, substyle where the engine has it; of the vertical engine those of its own table.
 void triangolo(const Disegno &d) {
     constexpr double LONTANO = 100;  // metres: a centre beyond is not drawn
     const ombra::Piano &piano = d.scena.piano();
@@ -315,18 +304,37 @@ void triangolo(const Disegno &d) {
     if (punta.x < 0) punta = {-punta.x, -punta.y};
     Tavolo &t = d.s.tavolo;
     const auto &linee = d.attesa.linee;
-    const Pretendi pretendi(t, Specie::Stilo);
+    std::optional<Pretendi> pretendi(std::in_place, t, Specie::Stilo);
     const auto segmento = [&](std::size_t i, const Punto &a, const Punto &b) {
         if (i < linee.size()) TracciaSegmento(t, d.scena, a, b, {linee[i].colore, linee[i].strato}, true);
     };
     const auto c = piano.centro();
     const bool vicino = c && std::hypot(c->x, c->y) < LONTANO;
     const Punto centro = vicino ? d.scena.nellaLista(*c) : Punto{}, piede;
-    if (d.attesa.motore == Motore::Diretta) {
+    if (d.attesa.motore == Motore::Analitica) {
+        t.xPset(0, 0, QB(15));
+    } else {
         if (vicino) t.xPset(centro.x, -centro.y, QB(12));
         t.xPset(punta.x, -punta.y, QB(12));
-    } else {
-        t.xPset(0, 0, QB(15));
+    }
+    if (d.attesa.motore == Motore::Verticale) {
+        enum { STILO_LUNGO, FALSO, SOTTO_LUNGO, STILO, SOTTO, MERIDIANA, ORTOSTILO };
+        // Lengthened beyond the foot by txtSUBSTYLE: a higher triangle with the same style.
+        const double allungo = numero(d.s.in.txtSUBSTYLE) * d.scena.posa().unita, r = std::hypot(centro.x, centro.y);
+        if (vicino && l > 1e-12 && allungo != 0) {
+            const double k = -allungo / r, alto = (r + allungo) / r;
+            const Punto radice{k * centro.x, k * centro.y}, cima{radice.x + alto * punta.x, radice.y + alto * punta.y};
+            segmento(STILO_LUNGO, centro, cima);
+            segmento(FALSO, radice, cima);
+            segmento(SOTTO_LUNGO, piede, radice);
+        }
+        if (vicino) segmento(STILO, punta, centro);
+        if (vicino && l > 1e-12) segmento(SOTTO, centro, piede);
+        segmento(ORTOSTILO, punta, piede);
+        pretendi.reset();
+        const bool gia = d.s.in.ck_Lemniscate == 1 && d.s.in.ckFunzione == 1;
+        if (!gia) mezzogiorno(d, linee[MERIDIANA]);
+        return;
     }
     if (vicino) segmento(0, punta, centro);
     segmento(1, punta, piede);
@@ -338,7 +346,7 @@ void tacche(const Disegno &d) {
     for (const LineaAttesa &l : d.attesa.linee) {
         if (l.valore == 0 && d.s.in.ck_Equinoziale == 1) continue;
         const double delta = l.valore * RAD;
-        const TempoMedio medio(d, 12);
+        const TempoMedio medio(d.scena.posa(), AnnoDelSole(d.s), 12);
         std::vector<double> angoli;
         auto prima = medio.sole(0);
         for (int i = 1; i <= 366; ++i) {
@@ -351,9 +359,8 @@ void tacche(const Disegno &d) {
         }
         if (angoli.size() < 2) continue;
         d.percorso(
-            l, l.valore == 0 ? Specie::Equinoziale : Specie::Diurna, l.valore,
-            [delta](double t) -> std::optional<Vettore> { return ombra::Piano::sole(t, delta); }, std::min(angoli[0], angoli[1]),
-            std::max(angoli[0], angoli[1]), 8, false);
+            l, Specie::Tacca, l.valore, [delta](double t) -> std::optional<Vettore> { return ombra::Piano::sole(t, delta); },
+            std::min(angoli[0], angoli[1]), std::max(angoli[0], angoli[1]), 8, false);
     }
 }
 
@@ -383,7 +390,13 @@ bool aPunti(const Sessione &s, const Attesa &a) {
 
 }  // namespace
 
-bool CadeOmbra(const Sessione &s, double t, double delta) { return Scena(s).illuminato(ombra::Piano::sole(t, delta)); }
+std::optional<std::pair<double, double>> OmbraNellaLista(const Sessione &s, double t, double delta) {
+    const Scena scena(s);
+    const Vettore sole = ombra::Piano::sole(t, delta);
+    const auto p = scena.illuminato(sole) ? scena.punto(sole) : std::nullopt;
+    if (!p) return {};
+    return std::pair(p->x, p->y);
+}
 
 bool TracciaVera(Sessione &s, const Attesa &attesa) {
     const Disegno d{s, attesa, Scena(s), s.in.ck_Etna == 1, aPunti(s, attesa)};
@@ -392,17 +405,17 @@ bool TracciaVera(Sessione &s, const Attesa &attesa) {
         return true;
     }
     if (attesa.specie == Specie::Nessuna || (attesa.specie == Specie::Etichetta && attesa.di == Specie::Ora)) return false;
-    if (attesa.specie == Specie::Stilo && attesa.motore == Motore::Verticale) return false;  // true as it is
     if (!d.scena.esiste()) return true;
     switch (attesa.specie) {
         case Specie::Ora:
             ore(d);
             break;
         case Specie::Diurna:
-            attesa.di == Specie::Analemma ? tacche(d) : giorni(d);
-            break;
         case Specie::Equinoziale:
             giorni(d);
+            break;
+        case Specie::Tacca:
+            tacche(d);
             break;
         case Specie::Italica:
         case Specie::Babilonica:
@@ -422,7 +435,7 @@ bool TracciaVera(Sessione &s, const Attesa &attesa) {
             lemniscata(d);
             break;
         case Specie::Mezzogiorno:
-            mezzogiorno(d);
+            for (const LineaAttesa &l : attesa.linee) mezzogiorno(d, l);
             break;
         case Specie::OraSustilare:
         case Specie::Sustilare:

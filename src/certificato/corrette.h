@@ -10,7 +10,8 @@ namespace ombrelia {
 // vectors alone. False for a feature that is left to the engine.
 bool TracciaVera(Sessione &s, const Attesa &attesa);
 
-// Whether the Sun of an hour angle and a declination, radians, throws a shadow on the dial that a run would draw.
-bool CadeOmbra(const Sessione &s, double t, double delta);
+// Where the Sun of an hour angle and a declination, radians, throws its shadow on the dial that a run would draw: metres on
+// the list, y upward; none where it throws none.
+std::optional<std::pair<double, double>> OmbraNellaLista(const Sessione &s, double t, double delta);
 
 }  // namespace ombrelia

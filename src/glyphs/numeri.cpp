@@ -70,11 +70,11 @@ void posiziona(Sessione &s, bool romani) {
         v.deltaOpz = letto.delta;
         D = PI * v.deltaOpz / 180;
         H = PI * (V - v.angOraLong * v.oraFuso) / 180;
-        if (s.senzaLuce(H, D)) continue;
         p.azimut(v, H, D);
         if (p.quadranteErrato(H)) p.A = p.A + PI;  // always plus, unlike the signs of the zodiac
         if (v.segnoLatPiana == -1 && p.A == 0 && H == 0) p.A = PI;
         p.proietta(v, H, D);
+        if (!s.ombraVera(H, D, p.x, p.y)) continue;
         const int ora = 12 + static_cast<int>(V) / 15;
         const int numero = ora > 12 ? ora - 12 : ora;
         if (romani) DisegnaNumeroRomano(s, p.x, p.y, PI / 2, numero);

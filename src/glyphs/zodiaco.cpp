@@ -101,6 +101,7 @@ void DisegnaZodiaco(Sessione &s) {
         H = -v.corrLong + posto.scarto;
         v.deltaOpz = posto.delta;
         calcola(p, v, H);
+        if (!s.ombraVera(H, PI * posto.delta * v.segnoLat / 180, p.x, p.y)) continue;
         DisegnaSegno(s, posto.segno, p.x, p.y, 90);
     }
     ChiudiZodiaco(s);
@@ -123,6 +124,7 @@ void ChiudiZodiaco(Sessione &s) {
         v.deltaOpz = t.delta * v.segnoLat;
         for (const double H : Conteggio(-v.corrLong + minuti(t.da), -v.corrLong + minuti(t.a), t.passo)) {
             calcola(p, v, H);
+            if (!s.ombraVera(H, PI * t.delta / 180, p.x, p.y)) continue;
             if (p.y <= 0) s.tavolo.xPset(p.x, -p.y, QB(14));
         }
     }

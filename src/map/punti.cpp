@@ -41,13 +41,14 @@ void PuntoOpzionale(Sessione &s) {
     const Reale D = PI * v.deltaOpz / 180;
     const double zr = LeggiPiano(s);
     v.gn = Val(in.TxtStilo);
+    s.in.punto = 0;
 
     Reale x, y;
     Proiezione(v.latR, v.decR, zr, v.gn, v.unita)(H, D, x, y);
+    if (!s.ombraVera(H, D, x, y)) return;
     // The circle's radius is not scaled by unita, the star's is: meant.
     s.tavolo.xCircle(x, -y, (v.gn / 20) * std::sin(18 * PI / 180) / std::sin(126 * PI / 180), QB(14), QB(9), 1, -CERCHIO, 0);
     DisegnaStella(s, x, -y, v.unita * v.gn / 20, 15);
-    s.in.punto = 0;
 }
 
 void DisegnaStella(Sessione &s, Valore X, Valore Y, Valore raggio, int colore) {

@@ -9,9 +9,12 @@ int segno(double x) { return (x > 0) - (x < 0); }
 
 }  // namespace
 
+bool Specchiato(const Sessione &s) { return s.in.ckCorretta == 1 && Val(s.in.txtLAT) < 0; }
+
 double LeggiPiano(Sessione &s) {
     Variabili &v = s.v;
     v.latR = PI * Val(s.in.txtLAT) / 180;
+    if (Specchiato(s)) v.latR = -v.latR;
     v.dec = Val(s.in.txtDec);
     v.decR = PI * v.dec / 180;
     if (Val(s.in.txtInc) == 90) v.decR = 0;
@@ -25,7 +28,7 @@ Zenit::Zenit(Sessione &s, double zr, Valore gn)
     : senPhi_(std::sin(s.v.latR.numero())),
       cosPhi_(std::cos(s.v.latR.numero())),
       proiezione_(s.v.latR, s.v.decR, zr, s.v.gn = gn, 1),
-      fattore_(s.in.ck_inv == 1 || s.in.ckCorretta == 1 ? -1 : 1),
+      fattore_((s.in.ck_inv == 1 || s.in.ckCorretta == 1) && !Specchiato(s) ? -1 : 1),
       orizzontale_(Val(s.in.txtInc) == 90),
       tanDec_(std::tan(s.v.decR.numero())),
       divisore_(std::tan(zr) * std::cos(s.v.decR.numero())),

@@ -6,8 +6,11 @@
 
 namespace ombrelia {
 
-// Site and plane from the fields into the shared variables latR (signed), dec and decR; gives the complement of the
-// inclination, radians. A horizontal plane has no declination.
+// Whether the plane is that of a southern site as a corrected run draws it: mirrored, with the seasons exchanged.
+bool Specchiato(const Sessione &s);
+
+// Site and plane from the fields into the shared variables latR (signed, but for a mirrored one), dec and decR; gives the
+// complement of the inclination, radians. A horizontal plane has no declination.
 double LeggiPiano(Sessione &s);
 
 // Given a place (X degrees West of the site, Y minus the latitude) gives the point of the plane that shows it, metres,

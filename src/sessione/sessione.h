@@ -3,8 +3,10 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "controlli/controlli.h"
@@ -55,8 +57,9 @@ struct Sessione {
 
     // Draws true lines in place of an engine's own while ckCorretta is set; absent where nobody does.
     Correzione suCorretta;
-    // Whether a Sun of that hour angle and declination, radians, throws a shadow on the dial, where ckCorretta is set.
-    std::function<bool(const Sessione &, double t, double delta)> suLuce;
+    // Where a Sun of that hour angle and declination, radians, throws the tip's shadow: metres on the list, y upward; none
+    // where it throws none.
+    std::function<std::optional<std::pair<double, double>>(const Sessione &, double t, double delta)> suOmbra;
     // Change handlers of fields that an engine rewrites; set by the application above.
     std::function<void(Sessione &, std::string DialInputs::*)> suCambio;
     // What needs a toolkit; absent without one. The sheet to the printer, whole or its selected tiles; the sheet's picture
@@ -64,11 +67,15 @@ struct Sessione {
     std::function<void(Sessione &, bool aree)> suStampa;
     std::function<std::string(Sessione &)> suImmagine;
 
-    // Whether somebody else drew these lines, true ones, in place of the engine's.
-    // Whether a numeral there would stand where no shadow ever falls.
-    [[nodiscard]] bool senzaLuce(Valore t, Valore delta) const {
-        return in.ckCorretta == 1 && suLuce && !suLuce(*this, t.v, delta.v);
+    // With ckCorretta set, moves a figure that belongs to a Sun (hour angle and declination, radians) to its shadow; false
+    // where no shadow falls and none is to be drawn. With the box clear true, and nothing moves.
+    [[nodiscard]] bool ombraVera(Valore t, Valore delta, Reale &x, Reale &y) const {
+        if (in.ckCorretta != 1 || !suOmbra) return true;
+        const auto p = suOmbra(*this, t.v, delta.v);
+        if (p) x = p->first, y = p->second;
+        return p.has_value();
     }
+    // Whether somebody else drew these lines, true ones, in place of the engine's.
     [[nodiscard]] bool corretta(const Attesa &attesa) { return in.ckCorretta == 1 && suCorretta && suCorretta(*this, attesa); }
     [[nodiscard]] std::string Traduci(std::string_view testo) const { return dizionario.Traduci(testo); }
     void Messaggio(std::string_view testo) { tavolo.Messaggio(testo); }

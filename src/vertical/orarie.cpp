@@ -84,13 +84,13 @@ void PosizionaNumeriOrari(Corsa &c, const LineeAttese &linee) {
     Reale x, y;
     for (const LineaAttesa &l : linee) {
         const Orario ora = OraOrologio(v, l.parametro);
-        if (s.senzaLuce(ora.Hr, PI * v.deltaOpz / 180)) continue;
         sfera.azimut(ora, giorno);
         // Always plus here.
         if (sfera.quadranteErrato(ora)) sfera.A = sfera.A + PI;
         if (v.segnoLatPiana == -1 && ora.Hr == 0 && sfera.A == 0) sfera.A = PI;
         sfera.altezza(ora, giorno);
         sfera.punto(x, y);
+        if (!s.ombraVera(ora.Hr, PI * v.deltaOpz / 180, x, y)) continue;
         if (!c.cornice.contiene(x, y) || y > 0) continue;
         int numero = static_cast<int>(l.valore);
         if (numero > 12) numero -= 12;

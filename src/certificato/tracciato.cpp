@@ -1,5 +1,5 @@
 // Cutting a path of the Sun to what can be seen of it.
-#include "certificato/vero.h"
+#include "certificato/tracciato.h"
 
 #include <algorithm>
 #include <cmath>
@@ -18,8 +18,9 @@ double campo(const std::string &testo, double unita) {
     return v.esiste() ? v.v * unita : 0;
 }
 
-// How far (sine) above the horizon and before the plane a Sun must stand.
-constexpr double MARGINE = 1e-9;
+// How far (sine) above the horizon and before the plane a Sun must stand. Lines of sunset and sunrise are a thousand
+// times as far from the first.
+constexpr double MARGINI[] = {1e-12, 1e-9};
 
 }  // namespace
 
@@ -64,7 +65,7 @@ namespace {
 double seno(const Scena &scena, std::size_t faccia, const Vettore &s) {
     static const double SEN_MAX = std::sin(SOLSTIZIO_GRADI * ombra::RADIANTI);
     const double q = scena.facce()[faccia] * s;
-    return faccia < 2 ? q - MARGINE : faccia < 6 ? q : q + SEN_MAX;
+    return faccia < 2 ? q - MARGINI[faccia] : faccia < 6 ? q : q + SEN_MAX;
 }
 
 }  // namespace
@@ -116,7 +117,7 @@ public:
     void traccia(double a, double b) {
         const auto pa = punto(a), pb = punto(b);
         if (!pa || !pb) return;
-        prima_ = *pa;
+        prima_ = inizio_ = *pa;
         if (tratto_.punti) t_.xPset(pa->x, -pa->y, tratto_.colore, strato_);
         segui(a, *pa, b, *pb, 0);
     }
@@ -142,8 +143,12 @@ private:
                 return;
             }
         }
-        if (tratto_.punti) t_.xPset(pb.x, -pb.y, tratto_.colore, strato_);
-        else if (pb.x != prima_.x || pb.y != prima_.y) t_.xLine(pb.x, -pb.y, prima_.x, -prima_.y, tratto_.colore, strato_);
+        // A dot that closes a ring is there already; a chord shorter than this is none.
+        constexpr double NIENTE = 1e-9;
+        const auto lontano = [&](const Punto &p) { return std::fabs(pb.x - p.x) > NIENTE || std::fabs(pb.y - p.y) > NIENTE; };
+        if (!lontano(prima_)) return;
+        if (!tratto_.punti) t_.xLine(pb.x, -pb.y, prima_.x, -prima_.y, tratto_.colore, strato_);
+        else if (lontano(inizio_)) t_.xPset(pb.x, -pb.y, tratto_.colore, strato_);
         prima_ = pb;
     }
 
@@ -152,7 +157,7 @@ private:
     const Percorso &percorso_;
     const Tratto &tratto_;
     IdNome strato_;
-    Punto prima_;
+    Punto prima_, inizio_;
 };
 
 }  // namespace

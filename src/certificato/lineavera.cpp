@@ -1,11 +1,11 @@
 // True lines: straight ones by planes through the tip, day lines and almucantars as cones, the rest by hour angle and
 // declination.
-#include "certificato/vere.h"
+#include "certificato/lineavera.h"
 
 #include <algorithm>
 #include <limits>
 
-#include "ombra/sole.h"
+#include "certificato/cielo.h"
 
 namespace ombrelia {
 
@@ -42,14 +42,6 @@ Tratti sottoZero(double A, double B, double C) {
     if (s1 > s2) std::swap(s1, s2);
     if (A > 0) return {{s1, s2}};
     return {{-INFINITO, s1}, {s2, INFINITO}};
-}
-
-// Bearing of a place from a site, radians from South, West positive.
-double rilevamento(const ombra::Quadrante &q, double longitudine, double lat, double lon) {
-    const double l = lon - longitudine;
-    const Vettore u{std::cos(lat) * std::cos(l), std::cos(lat) * std::sin(l), std::sin(lat)};
-    const Vettore sud{std::sin(q.latitudine), 0, -std::cos(q.latitudine)};
-    return std::atan2(u.w, u * sud);
 }
 
 }  // namespace
@@ -114,8 +106,9 @@ LineaVera::LineaVera(const DatiCertificato &dati, Specie specie, double valore)
         }
         case Specie::Azimut:
         case Specie::Qibla: {
-            const double a = specie == Specie::Azimut ? valore * RADIANTI
-                                                      : rilevamento(q, dati.posa.longitudine, dati.qiblaLat, dati.qiblaLon);
+            const double a = specie == Specie::Azimut
+                                 ? valore * RADIANTI
+                                 : Rilevamento(q.latitudine, dati.posa.longitudine, dati.qiblaLat, dati.qiblaLon);
             const Vettore lato = std::cos(a) * piano_.sud() + std::sin(a) * OVEST;
             retta(std::cos(a) * OVEST - std::sin(a) * piano_.sud(), &lato, specie == Specie::Qibla);
             break;
@@ -213,7 +206,9 @@ void LineaVera::retta(const Vettore &normale, const Vettore *lato, bool soloLato
     const Vettore &z = piano_.zenit();
     const double grazia = RIGA * std::hypot(z * destra_, z * alto_);
     lucenti_ = Intersezione(sopra(z, grazia), anno(FINE_ANNO));
-    Tratti vere = Intersezione(sopra(z, grazia), anno(SOLSTIZIO));
+    // A line that meets the horizon at a narrow angle ends there; one that is the horizon needs the grace.
+    const bool orizzontale = norma(normale - (normale * z) * z) < 1e-9;
+    Tratti vere = Intersezione(sopra(z, orizzontale ? grazia : 0), anno(SOLSTIZIO));
     if (lato_) {
         const Tratti da = sopra(*lato_, 1e-12);
         if (soloLato) lucenti_ = Intersezione(lucenti_, da);
@@ -263,7 +258,8 @@ LineaVera::Campione LineaVera::campione(double u) const {
     const bool fuori = !s || !(*s * piano_.normale() > 1e-9);
     if (fuori) return {u, {INFINITO, INFINITO}, false};
     const Punto p = *piano_.proietta(*s);
-    const bool anno = std::fabs(s->p) <= std::sin(SOLSTIZIO + 2e-4);
+    // A day line's own declination may pass the solstice's by the little that engines add.
+    const bool anno = std::fabs(s->p) <= std::sin(asse_.p == 1 ? FINE_ANNO : SOLSTIZIO + 1e-9);
     return {u, p, *s * piano_.zenit() > 0 && anno && dentro(p)};
 }
 
@@ -301,12 +297,11 @@ void LineaVera::dividi(const Campione &a, const Campione &b, int livello) {
 }
 
 void LineaVera::preparaAnalemma() {
-    const double inizio = ombra::giornoGiuliano({dati_.anno, 1, 1}) + (valore_ - dati_.posa.fuso()) / 24;
-    const double tMedio = (valore_ - 12) * 15 * RADIANTI - (dati_.posa.longitudine - dati_.posa.meridiano);
+    const TempoMedio medio(dati_.posa, dati_.anno, valore_);
     anno_.reserve(CAMPIONI_ANNO + 1);
     for (int i = 0; i <= CAMPIONI_ANNO; ++i) {
-        const ombra::Sole s = ombra::soleDi(inizio + 365.2422 * i / CAMPIONI_ANNO);
-        Giorno g{tMedio + s.equazione * RADIANTI / 4, s.delta, {}, 0};
+        const auto [t, delta] = medio.sole(GIORNI_DELL_ANNO * i / CAMPIONI_ANNO);
+        Giorno g{t, delta, {}, 0};
         // Behind the plane too: what is drawn there is the analemma's other side, and dark.
         const Vettore sole = Piano::sole(g.t, g.delta);
         const auto p = piano_.proietta(sole);

@@ -1,0 +1,36 @@
+// The Sun of mean time and the bearing of a place: what drawing and judging true lines share beside the shadow itself.
+#pragma once
+
+#include <cmath>
+#include <utility>
+
+#include "certificato/posa.h"
+#include "ombra/sole.h"
+
+namespace ombrelia {
+
+inline constexpr double GIORNI_DELL_ANNO = 365.2422;
+
+// The year whose Sun an analemma shows: the field's, or that of now.
+[[nodiscard]] int AnnoDelSole(const Sessione &s);
+
+// Bearing of a place from a site, radians from South, West positive; latitudes North and longitudes West positive.
+[[nodiscard]] double Rilevamento(double lat, double lon, double latMeta, double lonMeta);
+
+// The Sun at the same hour of the zone's mean time, through the days of a year.
+class TempoMedio {
+public:
+    TempoMedio(const Posa &posa, int anno, double ora)
+        : inizio_(ombra::giornoGiuliano({anno, 1, 1}) + (ora - posa.fuso()) / 24),
+          medio_((ora - 12) * 15 * ombra::RADIANTI - (posa.longitudine - posa.meridiano)) {}
+    // Days from the year's first; hour angle and declination, radians.
+    [[nodiscard]] std::pair<double, double> sole(double giorno) const {
+        const ombra::Sole sole = ombra::soleDi(inizio_ + giorno);
+        return {medio_ + sole.equazione / 4 * ombra::RADIANTI, sole.delta};
+    }
+
+private:
+    double inizio_, medio_;
+};
+
+}  // namespace ombrelia

@@ -3,14 +3,9 @@
 
 #include <algorithm>
 #include <cmath>
-#include <memory>
-#include <numbers>
+#include <utility>
 
-#ifdef OMBRELIA_HERSHEY
-extern "C" {
-#include <hersheyfont.h>
-}
-#endif
+#include "officina/alfabeto.h"
 
 namespace ombrelia::officina {
 
@@ -18,13 +13,6 @@ namespace {
 
 constexpr double ALTE = 21, BASSE = 14;  // height of capitals and of small letters, in units of the alphabet
 constexpr double LARGO_MEDIO = 18;       // for an estimate
-
-using Tratti = std::vector<std::vector<P2>>;
-
-struct Lettera {
-    Tratti tratti;
-    double largo = LARGO_MEDIO;
-};
 
 char32_t prossimo(std::string_view &t) {
     const auto c = static_cast<unsigned char>(t[0]);
@@ -34,8 +22,6 @@ char32_t prossimo(std::string_view &t) {
     t.remove_prefix(std::min(n, t.size()));
     return u;
 }
-
-#ifdef OMBRELIA_HERSHEY
 
 enum class Accento : char { Grave, Acuto, Circonflesso, Tilde, Dieresi, Anello, Cediglia };
 
@@ -73,29 +59,6 @@ constexpr Sostituto SOSTITUTI[] = {{U'°', 127}, {U'º', 127}, {U'’', '\''}, {
 // Signs of the zodiac in their own alphabet, Aries first; Libra has none there.
 constexpr unsigned char SEGNI[] = {64, 91, 93, 94, 95, 96, 0, 123, 124, 125, 126, 33};
 constexpr char32_t ARIETE = U'♈';
-
-class Alfabeto {
-public:
-    explicit Alfabeto(const char *nome) : font_(hershey_font_load(nome), hershey_font_free) {}
-    [[nodiscard]] bool esiste() const { return font_ != nullptr; }
-
-    [[nodiscard]] Lettera lettera(unsigned char c) const {
-        Lettera l;
-        const hershey_glyph *g = hershey_font_glyph(font_.get(), c);
-        if (!g) return l;
-        l.largo = g->width;
-        for (const hershey_path *p = g->paths; p; p = p->next) {
-            std::vector<P2> t;
-            for (int i = 0; i < p->nverts; ++i)
-                t.push_back({static_cast<double>(p->verts[i].x), static_cast<double>(p->verts[i].y)});
-            if (!t.empty()) l.tratti.push_back(std::move(t));
-        }
-        return l;
-    }
-
-private:
-    std::unique_ptr<hershey_font, void (*)(hershey_font *)> font_;
-};
 
 const Alfabeto &romano() {
     static const Alfabeto a("rowmans");
@@ -192,21 +155,9 @@ Lettera cerca(char32_t u) {
     return romano().lettera(' ');
 }
 
-#else
-
-Lettera cerca(char32_t) { return {}; }
-
-#endif
-
 }  // namespace
 
-bool CiSonoTratti() {
-#ifdef OMBRELIA_HERSHEY
-    return romano().esiste();
-#else
-    return false;
-#endif
-}
+bool CiSonoTratti() { return romano().esiste(); }
 
 Tratti TrattiDi(std::string_view testo, double altezza) {
     Tratti esito;

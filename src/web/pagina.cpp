@@ -15,6 +15,7 @@
 #include "core/percorsi.h"
 #include "luoghi/angolo.h"
 #include "officina/scrittori.h"
+#include "officina/tratti.h"
 #include "plot/svg.h"
 #include "reports/rapporti.h"
 #include "web/json.h"
@@ -257,7 +258,8 @@ std::string Pagina::Esporta(std::string_view forma) {
     if (forma.starts_with(MACCHINA)) {
         const officina::FormatoMacchina *m = officina::FormatoMacchinaDi(forma.substr(MACCHINA.size()));
         std::string errore;
-        const officina::Disegno d = officina::Prepara(disegno().tavolo, {.testi = officina::Testi::Testo}, errore);
+        const officina::Disegno d = officina::Prepara(
+            disegno().tavolo, {.testi = officina::CiSonoTratti() ? officina::Testi::Tratti : officina::Testi::Testo}, errore);
         if (!m || !errore.empty()) throw std::runtime_error(errore);
         return m->scrivi(d, {.titolo = "Ombrelia"});
     }

@@ -1,6 +1,7 @@
 // The table of controls as the page builds itself from it.
 #include "app/gruppi.h"
 #include "app/rapporti.h"
+#include "officina/scrittori.h"
 #include "web/json.h"
 #include "web/pagina.h"
 #include "web/testi.h"
@@ -74,6 +75,9 @@ std::string Pagina::Tavola() const {
         for (const app::Gruppo &g : *gruppi) gruppo(j, d, g);
     j.chiudi(']').nome("comandi").apri('[');
     for (const NomeControllo nome : COMANDI) controllo(j, d, nome);
+    // Forms for machines, by their endings.
+    j.chiudi(']').nome("macchina").apri('[');
+    for (const officina::FormatoMacchina &f : officina::FormatiMacchina()) j.testo(f.estensione);
     j.chiudi(']').nome("testi").apri('{');
     for (const TestoPagina &t : TestiPagina()) j.nome(t.chiave).testo(d.Traduci(t.testo));
     return std::move(j.chiudi('}').chiudi('}')).fine();

@@ -72,14 +72,19 @@ const prendi = async (p, nome) => Buffer.from(await p.evaluate(async (n) => [...
 const valore = (p, id) => p.$eval(`#${id}`, (e) => (e.type === 'checkbox' ? e.checked : e.value));
 
 try {
-  // The examples, list by list.
+  // The examples, list by list, as they are and with labels and title block.
   for (const nome of readdirSync(join(radice, 'examples')).filter((n) => n.endsWith('.omb'))) {
-    const righe = [`open ${nome}`, 'click cmdRun', 'list lista.txt', 'value latR'];
-    const p = await apri();
-    const detto = await esegui(p, righe);
-    const s = scarto((await prendi(p, 'lista.txt')).toString(), (vale(`${nome} prints the same`, detto === nativo(righe)), delNativo('lista.txt')));
-    vale(`${nome} as natively`, s.peggiore <= 1e-12, s.perche ?? `${s.righe} records, worst ${s.peggiore.toExponential(1)}`);
-    await p.close();
+    for (const etichette of [[], ['check ckEtichette', 'check ckCartiglio']]) {
+      const righe = [`open ${nome}`, ...etichette, 'click cmdRun', 'list lista.txt', 'value latR'];
+      const p = await apri();
+      const detto = await esegui(p, righe);
+      vale(`${nome} prints the same`, detto === nativo(righe));
+      const avuta = (await prendi(p, 'lista.txt')).toString();
+      const s = scarto(avuta, delNativo('lista.txt'));
+      vale(`${nome} ${etichette.length ? 'labelled ' : ''}as natively`, s.peggiore <= 1e-12, s.perche ?? `${s.righe} records, worst ${s.peggiore.toExponential(1)}`);
+      vale('labels are drawn', avuta.includes('\tEtichette') === Boolean(etichette.length));
+      await p.close();
+    }
   }
 
   // How long the first dial takes, from the disk.
@@ -158,8 +163,8 @@ try {
       await new Promise((r) => setTimeout(r, 400));
     }
     const arrivati = readdirSync(posta).sort();
-    const inizi = { omb: '"<', svg: '<?xml', dxf: '', csv: '' };
-    vale('project, SVG, both DXF and table are downloaded', arrivati.length === 5 && arrivati.every((n) => {
+    const inizi = { omb: '"<', svg: '<?xml', dxf: '', csv: '', plt: 'IN;', pdf: '%PDF' };
+    vale('project, SVG, DXF, the forms for machines and the table are downloaded', arrivati.length === 8 && arrivati.every((n) => {
       const testo = readFileSync(join(posta, n), 'utf8');
       return testo.length > 400 && testo.startsWith(inizi[n.split('.').pop()]);
     }), arrivati.join(' '));

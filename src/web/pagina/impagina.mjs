@@ -1,13 +1,13 @@
 // Puts the page together: one file that opens from a disk, with module, style, script and data inside, and a policy that lets
 // nothing else run.
-//   node impagina.mjs MODULE.js MODULE.wasm ROOT OUT.html
+//   node impagina.mjs MODULE.js MODULE.wasm ROOT OUT.html [ALPHABET.jhf…]
 import { createHash } from 'node:crypto';
 import { readFileSync, readdirSync, writeFileSync } from 'node:fs';
-import { dirname, join } from 'node:path';
+import { basename, dirname, join } from 'node:path';
 import { fileURLToPath } from 'node:url';
 import { deflateSync } from 'node:zlib';
 
-const [colla, wasm, radice, uscita] = process.argv.slice(2);
+const [colla, wasm, radice, uscita, ...alfabeti] = process.argv.slice(2);
 const qui = dirname(fileURLToPath(import.meta.url));
 const leggi = (...nomi) => readFileSync(join(...nomi), 'utf8');
 const sgonfia = (byte) => deflateSync(byte, { level: 9 }).toString('base64');
@@ -18,6 +18,7 @@ const piccoli = {};
 const dizionari = readdirSync(join(radice, 'data')).filter((nome) => /^DB.*\.txt$/.test(nome));
 for (const nome of dizionari) piccoli[nome] = leggi(radice, 'data', nome);
 for (const nome of readdirSync(join(radice, 'examples')).filter((n) => n.endsWith('.omb')).sort()) piccoli[nome] = leggi(radice, 'examples', nome);
+for (const alfabeto of alfabeti) piccoli[basename(alfabeto)] = leggi(alfabeto);
 // The page carries a smaller table of towns: all that are large, and the small ones where most who draw on walls live.
 const ABITANTI = 20000, ABITANTI_VICINI = 4000;
 const VICINI = new Set(['AT', 'BE', 'CH', 'DE', 'ES', 'FR', 'GB', 'IT', 'SI', 'SM']);

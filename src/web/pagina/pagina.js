@@ -74,7 +74,7 @@
   let largo = 1, alto = 1;  // of the pane, in pixels of the page
   let pixel = 0;  // millimetres of the finest pixel that the drawing shown is meant for
 
-  const pixelOra = () => 2 ** Math.floor(Math.log2(riquadro().l / largo / Math.max(devicePixelRatio, 1)));
+  const pixelOra = () => 2 ** Math.floor(Math.log2(riquadro().l / largo / Math.max(globalThis.devicePixelRatio, 1)));
   function disegna(come = 'disegna') {
     pixel = pixelOra();
     const d = chiedi(come, pixel);
@@ -303,7 +303,7 @@
 
   // --- the table of controls ------------------------------------------------------------------------------------------
 
-  let tavola = { gruppi: [], comandi: [] };
+  let tavola = { gruppi: [], comandi: [], macchina: [] };
   const etichettaDi = (c) => liscio(c.caption) || liscio(c.tip);
 
   function campo(c, caption) {
@@ -427,7 +427,8 @@
       ...esempi.map((n) => crea('option', { value: n, textContent: leggibile(n)[0].toUpperCase() + leggibile(n).slice(1) })));
     cerca('esempi').setAttribute('aria-label', testi.esempi);
     cerca('scarica').firstElementChild.textContent = testi.scarica;
-    const forme = [['omb', testi.progetto], ['svg', 'SVG'], ['dxf', 'DXF', testi.perCad], ['macchina.dxf', 'DXF', testi.perMacchina], ['csv', testi.tabella]];
+    const forme = [['omb', testi.progetto], ['svg', 'SVG'], ['dxf', 'DXF', testi.perCad],
+      ...tavola.macchina.map((coda) => [`macchina.${coda}`, coda.toUpperCase(), testi.perMacchina]), ['csv', testi.tabella]];
     cerca('scarica').lastElementChild.replaceChildren(...forme.map(([forma, nome, nota = '']) => crea('button', {
       type: 'button', onclick: () => prova(() => scarica(forma)),
     }, nome, crea('small', { textContent: nota || `.${forma}` }))));
@@ -562,14 +563,14 @@
     a.click();
     setTimeout(() => URL.revokeObjectURL(url), 10000);
   }
-  const TIPI = { svg: 'image/svg+xml', dxf: 'image/vnd.dxf', csv: 'text/csv', omb: 'application/octet-stream' };
+  const TIPI = { svg: 'image/svg+xml', dxf: 'image/vnd.dxf', plt: 'application/vnd.hp-hpgl', pdf: 'application/pdf', csv: 'text/csv', omb: 'application/octet-stream' };
   function scarica(forma) {
     cerca('scarica').open = false;
     const coda = forma.split('.').pop();
     const base = (cerca('nome').textContent || 'ombrelia').replace(/\.omb$/, '');
     if (forma === 'csv' && chiama('rapporto', 'cmdData') === 'null') return avvisa(testi.nessunaTabella);
     const scritto = forma === 'csv' ? chiama('salvaRapporto', 'csv') : chiama('esporta', forma);
-    salva(`${base}${forma === 'macchina.dxf' ? '-macchina' : ''}.${coda}`, modulo.FS.readFile(scritto), TIPI[coda]);
+    salva(`${base}${forma.startsWith('macchina.') ? '-macchina' : ''}.${coda}`, modulo.FS.readFile(scritto), TIPI[coda]);
   }
 
   // --- reports ---------------------------------------------------------------------------------------------------------

@@ -1,9 +1,10 @@
 // Drives the page in a real browser and holds it against the native program.
 //   node pagina.mjs PAGE PROGRAM ROOT OUT     pictures go to OUT
+// The window's test program, where it was built beside the program, takes a project of the page and gives one back.
 import { execFileSync } from 'node:child_process';
-import { mkdirSync, mkdtempSync, readFileSync, readdirSync, rmSync, writeFileSync } from 'node:fs';
+import { existsSync, mkdirSync, mkdtempSync, readFileSync, readdirSync, rmSync, writeFileSync } from 'node:fs';
 import { tmpdir } from 'node:os';
-import { basename, join, resolve } from 'node:path';
+import { basename, dirname, join, resolve } from 'node:path';
 import { pathToFileURL } from 'node:url';
 import puppeteer from 'puppeteer-core';
 
@@ -182,15 +183,26 @@ try {
     writeFileSync(join(cartella, 'pagina.omb'), await prendi(p, 'pagina.omb'));
     nativo(['open pagina.omb', 'save ancora.omb', 'click cmdRun', 'list nativa.txt']);
     vale('a project of the page opens natively', delNativo('ancora.omb') === delNativo('pagina.omb') && scarto((await prendi(p, 'pagina.txt')).toString(), delNativo('nativa.txt')).peggiore <= 1e-12);
+    const lascia = async (nome) => {
+      await p.evaluate((testo, n) => {
+        const dati = new DataTransfer();
+        dati.items.add(new File([testo], n));
+        document.getElementById('foglio').dispatchEvent(new DragEvent('drop', { dataTransfer: dati, bubbles: true, cancelable: true }));
+      }, delNativo(nome), nome);
+      await p.waitForFunction((n) => document.getElementById('nome').textContent === n, {}, nome);
+      await esegui(p, ['save tornato.omb']);
+      return (await prendi(p, 'tornato.omb')).toString() === delNativo(nome) && (await valore(p, 'txtInc')) === '12';
+    };
     nativo([...righe, 'set txtInc 12', 'save nativo.omb']);
-    await p.evaluate((testo) => {
-      const dati = new DataTransfer();
-      dati.items.add(new File([testo], 'nativo.omb'));
-      document.getElementById('foglio').dispatchEvent(new DragEvent('drop', { dataTransfer: dati, bubbles: true, cancelable: true }));
-    }, delNativo('nativo.omb'));
-    await p.waitForFunction(() => document.getElementById('nome').textContent === 'nativo.omb');
-    await esegui(p, ['save tornato.omb']);
-    vale('a native project dropped on the page opens there', (await prendi(p, 'tornato.omb')).toString() === delNativo('nativo.omb') && (await valore(p, 'txtInc')) === '12');
+    vale('a native project dropped on the page opens there', await lascia('nativo.omb'));
+    const finestra = join(dirname(programma), 'tests', 'prove_finestra');
+    if (existsSync(finestra)) {
+      const detto = execFileSync(finestra, ['--gtest_filter=Scambio.*'], { env: { ...process.env, OMBRELIA_SCAMBIO: cartella }, encoding: 'utf8' });
+      vale('a project of the page opens in the window', /PASSED.* 1 test/.test(detto) && !/SKIPPED/.test(detto));
+      vale('a project of the window dropped on the page opens there', await lascia('pagina.omb'));
+    } else {
+      console.log(`skip  page and window: no ${finestra}`);
+    }
     await p.close();
   }
 
@@ -226,6 +238,33 @@ try {
     });
     vale('the policy stops a script that came in', (await p.evaluate(() => window.rotto)) === undefined && lamenti.length >= 2, `${lamenti.length} refusals`);
     await p.close();
+  }
+
+  // Another browser, where there is one: the first dial, a list, a link that would run.
+  const altro = process.env.FIREFOX ?? '/usr/bin/firefox-esr';
+  if (existsSync(altro)) {
+    const volpe = await puppeteer.launch({ browser: 'firefox', executablePath: altro, headless: true });
+    try {
+      const p = await volpe.newPage();
+      await p.setViewport({ width: 1360, height: 900 });
+      await p.goto(`${indirizzo}#txtInc=${encodeURIComponent('<img src=x onerror=window.rotto=1>')}&chkOreAstronomiche=1`);
+      await p.waitForFunction('window.ombrelia?.ready', { timeout: 20000 });
+      vale('Firefox: a hostile link is text', await p.evaluate(() => window.rotto === undefined && document.images.length === 0 && document.getElementById('txtInc').value.startsWith('<img')));
+      await p.goto('about:blank');
+      await p.goto(indirizzo);
+      await p.waitForFunction('window.ombrelia?.ready', { timeout: 20000 });
+      console.log(`time  to the first dial in Firefox: ${await p.evaluate(() => document.documentElement.dataset.tempo)} ms`);
+      const righe = ['open parete_zodiaco.omb', 'check ckEtichette', 'click cmdRun', 'list lista.txt'];
+      nativo(righe);
+      await esegui(p, righe);
+      const s = scarto(Buffer.from(await p.evaluate(async () => Array.from(await window.ombrelia.file('lista.txt')))).toString(), delNativo('lista.txt'));
+      vale('Firefox: a list as natively', s.peggiore <= 1e-12, s.perche ?? `${s.righe} records, worst ${s.peggiore.toExponential(1)}`);
+      await p.screenshot({ path: join(uscita, 'pagina-firefox.png') });
+    } finally {
+      await volpe.close();
+    }
+  } else {
+    console.log(`skip  Firefox: no ${altro} (Debian's firefox-esr, 80 MB, is not installed by the set-up)`);
   }
 
   // Pictures, and nothing beside the screen.

@@ -25,6 +25,7 @@
     return e;
   }
   const liscio = (testo) => testo.replace(/\s+/g, ' ').trim();
+  const grande = (testo) => testo.charAt(0).toUpperCase() + testo.slice(1);
 
   // --- the module ------------------------------------------------------------------------------------------------------
 
@@ -394,7 +395,7 @@
     testi = tavola.testi;
     document.documentElement.lang = lingua();
     cerca('gruppi').replaceChildren(...tavola.gruppi.map((g) => {
-      const d = crea('details', { open: aperti.get(g.chiave) ?? g.aperto }, crea('summary', { textContent: g.titolo }),
+      const d = crea('details', { open: aperti.get(g.chiave) ?? g.aperto }, crea('summary', { textContent: grande(g.titolo) }),
         crea('div', { className: 'righe' }, ...g.righe.map(riga)));
       d.dataset.chiave = g.chiave;
       return d;
@@ -424,7 +425,7 @@
     const esempi = modulo.FS.readdir(CASA).filter((n) => n.endsWith('.omb')).sort();
     const leggibile = (n) => liscio(n.replace('.omb', '').replaceAll('_', ' '));
     cerca('esempi').replaceChildren(crea('option', { value: '', textContent: testi.esempi }),
-      ...esempi.map((n) => crea('option', { value: n, textContent: leggibile(n)[0].toUpperCase() + leggibile(n).slice(1) })));
+      ...esempi.map((n) => crea('option', { value: n, textContent: grande(leggibile(n)) })));
     cerca('esempi').setAttribute('aria-label', testi.esempi);
     cerca('scarica').firstElementChild.textContent = testi.scarica;
     const forme = [['omb', testi.progetto], ['svg', 'SVG'], ['dxf', 'DXF', testi.perCad],

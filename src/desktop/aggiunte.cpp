@@ -4,11 +4,13 @@
 #include <QCheckBox>
 #include <QDockWidget>
 #include <QLayout>
+#include <QMenu>
 #include <QMenuBar>
 #include <functional>
 #include <utility>
 
 #include "desktop/barra_tempo.h"
+#include "desktop/comandi.h"
 #include "desktop/finestra.h"
 #include "desktop/manuale.h"
 #include "desktop/pannello_certificato.h"
@@ -50,8 +52,7 @@ Aggiunte::Aggiunte(Finestra &finestra, Dialoghi &dialoghi) : QObject(&finestra),
         certificato->setVisible(certificato->isHidden());
         if (!certificato->isHidden()) certificato->raise();
     });
-    if (auto *piede = f_.findChild<QWidget *>(QStringLiteral("piede")); piede && piede->layout())
-        piede->layout()->addWidget(certificato_->distintivo());
+    if (auto *detti = f_.findChild<QLayout *>(QStringLiteral("detti"))) detti->addWidget(certificato_->distintivo());
     // The points of a report's row, as the report counts them.
     for (const char *nome : {"Form1", "Form2", "Form3", "Form4", "Form6", "Form7", "Form8", "Form9", "Form10"})
         if (TavoleRapporto *t = f_.moduli().tavole(nome))
@@ -60,17 +61,14 @@ Aggiunte::Aggiunte(Finestra &finestra, Dialoghi &dialoghi) : QObject(&finestra),
                 for (ombra::Punto &p : punti) p.x *= mm, p.y *= mm;
                 sopra_->accendi({}, std::move(punti), false);
             };
-    // F1 is the manual's: at the field that has the keys, where the manual names it.
-    const QKeySequence f1(Qt::Key_F1);
-    for (QAction *a : f_.findChildren<QAction *>())
-        if (a->shortcut() == f1) a->setShortcut({});
-    QAction *manuale = menu(QStringLiteral("&?"))->addAction(ponte.Traduci("Manuale"));
-    manuale->setShortcut(f1);
-    connect(manuale, &QAction::triggered, this, [this] {
+    // The manual at the field that has the keys, where the manual names it.
+    QAction *manuale = CreaComando(ponte, "manuale", this, [this] {
         const QWidget *qui = f_.focusWidget();
         if (!ApriManuale(f_.ponte(), &f_, qui ? qui->objectName() : QString()))
             dialoghi_.avviso(&f_, f_.ponte().Traduci("Il manuale non è installato"));
     });
+    QMenu *aiuto = menu(QStringLiteral("&?"));
+    aiuto->insertAction(aiuto->actions().value(0), manuale);
     constexpr int CALMA = 150;
     calma_.setInterval(CALMA);
     calma_.setSingleShot(true);

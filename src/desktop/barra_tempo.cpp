@@ -85,6 +85,7 @@ BarraTempo::BarraTempo(Ponte &ponte, SopraFoglio &sopra, QWidget *genitore) : QW
     esito_->setWordWrap(true);
     esito_->setMinimumWidth(1);
     giu->addWidget(esito_);
+    giu->addStretch(1);
 
     data_->setDate(QDate::currentDate());
     ora_->setTime(QTime(12, 0));

@@ -53,6 +53,7 @@ constexpr MisuraCampo MISURE[] = {
     {"txtNumbersize", 'l', 0.002},
     {"txtArabi", 'l', 0.002},
     {"txtZodiacsize", 'l', 0.002},
+    {"txtAltezzaEtichette", 'm', 1, 1, 200},
     {"txtQlat", 'g', 0.5, -90, 90},
     {"txtQlon", 'g', 0.5, -180, 180},
     {"textDelta", 'g', 0.5, -30, 30},
@@ -83,6 +84,8 @@ QString CampoTesto::unita() const {
             return QStringLiteral("°");
         case 'h':
             return QStringLiteral("h");
+        case 'm':
+            return QStringLiteral("mm");
         case 'l':
             return ponte_.sessione().in.ChCentimetro == 1 ? QStringLiteral("mm") : QStringLiteral("m");
         default:

@@ -11,7 +11,7 @@ namespace ombrelia::desktop {
 // What a field measures.
 struct MisuraCampo {
     std::string_view nome;
-    char unita = 0;        // 'g' degrees, 'l' lengths as the box of millimetres says, 'h' hours, 0 none
+    char unita = 0;        // 'g' degrees, 'l' lengths as the box of millimetres says, 'm' millimetres, 'h' hours, 0 none
     double passo = 0;      // of wheel and arrows; of a length in metres
     double da = 0, a = 0;  // range, when da < a
 };

@@ -137,13 +137,6 @@ Finestra::Finestra(Dialoghi &dialoghi) : dialoghi_(dialoghi), utente_(dialoghi),
 
 Finestra::~Finestra() { vivo_.reset(); }
 
-QAction *Finestra::comando(const QString &testo, const QKeySequence &tasti, const std::function<void()> &azione) {
-    auto *a = new QAction(testo, this);
-    a->setShortcut(tasti);
-    connect(a, &QAction::triggered, this, azione);
-    return a;
-}
-
 void Finestra::molo(const QString &titolo, const char *nome, QWidget *contenuto, Qt::DockWidgetArea dove) {
     auto *d = new QDockWidget(titolo, this);
     d->setObjectName(QString::fromLatin1(nome));

@@ -16,8 +16,11 @@
 #include "paint/documenti.h"
 
 class QCheckBox;
+class QToolBar;
 
 namespace ombrelia::desktop {
+
+class Esempi;
 
 class Finestra final : public QMainWindow {
 public:
@@ -35,6 +38,8 @@ public:
 
     // Opens a project; the user is told when it can't be.
     void apri(const QString &percorso);
+    // Opens one of the program's own as a dial without a name, and draws it.
+    void apriEsempio(const QString &percorso);
     // An empty dial, as the program starts with.
     void nuovo();
     void esegui();
@@ -49,12 +54,15 @@ public:
 
 protected:
     void closeEvent(QCloseEvent *e) override;
+    void resizeEvent(QResizeEvent *e) override;
+    void showEvent(QShowEvent *e) override;
 
 private:
     void costruisciMenu();
+    void piegaBarra();
+    void costruisciVista(QMenu *vedi);
     void costruisciBarra();
     void molo(const QString &titolo, const char *nome, QWidget *contenuto, Qt::DockWidgetArea dove);
-    QAction *comando(const QString &testo, const QKeySequence &tasti, const std::function<void()> &azione);
     bool prima(IdControllo id);
     void dopo(IdControllo id, const app::Esito &esito);
     void disegnoVivo(Vivo::Esito &e);
@@ -105,6 +113,9 @@ private:
     Ripresa ripresa_;
     Tavolo carta_;
     QMenu *recenti_ = nullptr;
+    QToolBar *barra_ = nullptr;
+    Esempi *esempi_ = nullptr;
+    int barraLarga_ = 0;  // with its texts
     QCheckBox *vivoAcceso_ = nullptr, *pulisciPrima_ = nullptr;
     std::string salvato_, improntaCampi_;
     QString percorso_;

@@ -93,12 +93,23 @@ void Finestra::apri(const QString &percorso) {
     });
 }
 
+void Finestra::apriEsempio(const QString &percorso) {
+    if (!lasciaAndare()) return;
+    ponte_.passo = ponte_.Traduci("Apri") + QLatin1Char(' ') + QFileInfo(percorso).fileName();
+    const app::Esito aperto = ponte_.fai(NESSUN_CONTROLLO, [&] {
+        const app::Esito e = app::ApriProgetto(s_, percorso.toStdString());
+        if (e) progettoNuovo({});
+        return e;
+    });
+    if (aperto && !vivo_acceso()) esegui();
+}
+
 void Finestra::progettoNuovo(const QString &percorso) {
     Ritraduci(s_);
     // A dial of its own: what an earlier one was turned into is no part of it.
     for (Reale Variabili::*v : {&Variabili::flagVerticale, &Variabili::flagTrasformato, &Variabili::diffLong}) s_.v.*v = 0;
-    percorso_ = QFileInfo(percorso).absoluteFilePath();
-    ricorda(percorso_);
+    percorso_ = percorso.isEmpty() ? QString() : QFileInfo(percorso).absoluteFilePath();
+    if (!percorso_.isEmpty()) ricorda(percorso_);
     salvato_ = improntaProgetto();
     ponte_.sincronizza();
     quadro_->foglio().tutto();

@@ -4,19 +4,22 @@
 #include <QCheckBox>
 #include <QClipboard>
 #include <QDockWidget>
-#include <QHBoxLayout>
-#include <QLabel>
 #include <QMenuBar>
 #include <QMimeData>
 #include <QPushButton>
 #include <QSettings>
 #include <QToolBar>
-#include <QToolButton>
+#include <QWhatsThis>
 
+#include "desktop/aiuti.h"
+#include "desktop/comandi.h"
+#include "desktop/esempi.h"
 #include "desktop/finestra.h"
 #include "desktop/gruppi.h"
+#include "desktop/icone.h"
 #include "desktop/parole.h"
 #include "desktop/stile.h"
+#include "desktop/striscia.h"
 #include "plot/svg.h"
 
 namespace ombrelia::desktop {
@@ -28,94 +31,129 @@ constexpr auto VIVO = "disegnaMentreScrivi", PULISCI = "pulisciPrima", TEMA = "t
 }  // namespace
 
 void Finestra::costruisciMenu() {
-    const auto voce = [this](QMenu *m, std::string_view nome, const QKeySequence &tasti = {}) {
-        QAction *a = ponte_.voce(nome, this);
-        a->setShortcut(tasti);
+    const auto nostro = [this](QMenu *m, std::string_view nome, const std::function<void()> &azione) {
+        QAction *a = CreaComando(ponte_, nome, this, azione);
         m->addAction(a);
+        return a;
     };
-    const auto bottone = [this](std::string_view nome, const QKeySequence &tasti) {
-        QWidget *w = ponte_.widget(nome);
-        QAction *a = comando(Leggibile(s_.stato(TrovaControllo(nome)).caption), tasti, [w] {
-            if (auto *b = qobject_cast<QAbstractButton *>(w)) b->click();
-        });
+    const auto voce = [this](QMenu *m, std::string_view nome) {
+        QAction *a = ponte_.voce(nome, this);
+        VestiVoce(a, nome);
+        m->addAction(a);
+        return a;
+    };
+    // A button's entry says what the button says.
+    const auto bottone = [this](QMenu *m, std::string_view nome) {
+        auto *b = qobject_cast<QAbstractButton *>(ponte_.widget(nome));
+        auto *a = new QAction(ponte_.didascalia(TrovaControllo(nome)), this);
+        VestiVoce(a, nome);
+        connect(a, &QAction::triggered, this, [b] { b->click(); });
+        m->addAction(a);
         return a;
     };
     QMenu *file = menuBar()->addMenu(ponte_.Traduci("&File"));
-    file->addAction(comando(ponte_.Traduci("Nuovo"), QKeySequence::New, [this] { nuovo(); }));
-    voce(file, "mnuApri", QKeySequence::Open);
-    recenti_ = file->addMenu(ponte_.Traduci("Aperti di recente"));
+    QAction *primo = nostro(file, "nuovo", [this] { nuovo(); }), *apri = voce(file, "mnuApri");
+    recenti_ = file->addMenu(IconaDi(TrovaComando("recenti")->icona), ponte_.Traduci(TrovaComando("recenti")->testo));
     connect(recenti_, &QMenu::aboutToShow, this, [this] { riempiRecenti(); });
-    voce(file, "mnuSalva", QKeySequence::Save);
-    file->addAction(
-        comando(ponte_.Traduci("Salva con nome..."), QKeySequence(QStringLiteral("Ctrl+Shift+S")), [this] { salva(true); }));
+    nostro(file, "esempi", [this] {
+        if (!esempi_) {
+            esempi_ = new Esempi(ponte_, this);
+            esempi_->suScelta = [this](const QString &f) { apriEsempio(f); };
+        }
+        esempi_->show();
+    });
+    QAction *salvare = voce(file, "mnuSalva");
+    nostro(file, "salvaConNome", [this] { salva(true); });
     file->addSeparator();
-    file->addAction(comando(ponte_.Traduci("Esporta PDF..."), QKeySequence(QStringLiteral("Ctrl+E")), [this] { esportaPdf(); }));
-    file->addAction(
-        comando(ponte_.Traduci("Esporta disegno..."), QKeySequence(QStringLiteral("Ctrl+Shift+E")), [this] { esporta(); }));
-    file->addAction(
-        comando(ponte_.Traduci("Per la macchina..."), QKeySequence(QStringLiteral("Ctrl+Shift+M")), [this] { perMacchina(); }));
-    file->addAction(bottone("Tavolo1.cmdStampa", QKeySequence::Print));
+    nostro(file, "esportaPdf", [this] { esportaPdf(); });
+    nostro(file, "esporta", [this] { esporta(); });
+    nostro(file, "perMacchina", [this] { perMacchina(); });
+    bottone(file, "Tavolo1.cmdStampa");
     file->addSeparator();
-    voce(file, "mnuEsci", QKeySequence(QStringLiteral("Ctrl+Q")));
+    voce(file, "mnuEsci");
 
     QMenu *modifica = menuBar()->addMenu(ponte_.Traduci("&Modifica"));
     QAction *annulla = passi_->createUndoAction(this, ponte_.Traduci("Annulla")),
             *rifai = passi_->createRedoAction(this, ponte_.Traduci("Ripeti"));
     annulla->setObjectName(QStringLiteral("annulla"));
     rifai->setObjectName(QStringLiteral("ripeti"));
-    annulla->setShortcut(QKeySequence::Undo);
-    rifai->setShortcuts({QKeySequence(QStringLiteral("Ctrl+Shift+Z")), QKeySequence(QStringLiteral("Ctrl+Y"))});
+    VestiVoce(annulla, "annulla");
+    VestiVoce(rifai, "ripeti");
     modifica->addActions({annulla, rifai});
     modifica->addSeparator();
-    modifica->addAction(
-        comando(ponte_.Traduci("Copia come immagine"), QKeySequence(QStringLiteral("Ctrl+Shift+C")), [this] { copia(false); }));
-    modifica->addAction(comando(ponte_.Traduci("Copia come SVG"), {}, [this] { copia(true); }));
+    nostro(modifica, "copiaImmagine", [this] { copia(false); });
+    nostro(modifica, "copiaSvg", [this] { copia(true); });
 
     QMenu *quadrante = menuBar()->addMenu(ponte_.Traduci("&Quadrante"));
-    const std::pair<std::string_view, const char *> comandi[] = {
-        {"cmdRun", "F5"}, {"cmdEqui", "F6"}, {"cmdData", "F7"}, {"cmdTrasforma", "F8"}, {"Tavolo1.cmdPulisci", "Ctrl+L"}};
-    for (const auto &[nome, tasti] : comandi) quadrante->addAction(bottone(nome, QKeySequence(QString::fromLatin1(tasti))));
+    for (const std::string_view nome : {"cmdRun", "cmdEqui", "cmdData", "cmdTrasforma", "Tavolo1.cmdPulisci"}) bottone(quadrante, nome);
     quadrante->addSeparator();
-    quadrante->addAction(
-        comando(ponte_.Traduci("Scegli le pagine con linee"), QKeySequence(QStringLiteral("Ctrl+Shift+P")), [this] {
-            ponte_.passo = ponte_.Traduci("Pagina scelta");
-            ponte_.fai(NESSUN_CONTROLLO, [this] { s_.tavolo.ScegliPiene(); });
-        }));
-    quadrante->addAction(
-        comando(ponte_.Traduci("Adatta il foglio"), QKeySequence(QStringLiteral("Ctrl+T")), [this] { adatta(); }));
-    quadrante->addAction(
-        comando(ponte_.Traduci("Disegna mentre scrivi"), QKeySequence(QStringLiteral("F9")), [this] { vivoAcceso_->toggle(); }));
+    nostro(quadrante, "scegliPagine", [this] {
+        ponte_.passo = ponte_.Traduci("Pagina scelta");
+        ponte_.fai(NESSUN_CONTROLLO, [this] { s_.tavolo.ScegliPiene(); });
+    });
+    nostro(quadrante, "Adatta", [this] { adatta(); });
+    QAction *segue = nostro(quadrante, "vivo", [this] { vivoAcceso_->toggle(); });
+    segue->setCheckable(true);
+    connect(vivoAcceso_, &QCheckBox::toggled, segue, &QAction::setChecked);
 
-    QMenu *vedi = menuBar()->addMenu(ponte_.Traduci("&Vista"));
+    costruisciVista(menuBar()->addMenu(ponte_.Traduci("&Vista")));
+
+    QMenu *strumenti = menuBar()->addMenu(ponte_.Traduci("&Strumenti"));
+    voce(strumenti, "mnuAusiliaria");
+    QMenu *lingua = menuBar()->addMenu(ponte_.Traduci("&Lingua"));
+    for (const std::string_view nome : {"mnuItalian", "mnuFrancais", "mnuInglese"}) voce(lingua, nome);
+    QMenu *aiuto = menuBar()->addMenu(QStringLiteral("&?"));
+    // By its keys it speaks of the field that has them, by the menu of what is pressed next.
+    nostro(aiuto, "cheCosa", [this] {
+        const bool tasti = QGuiApplication::keyboardModifiers() & Qt::ShiftModifier;
+        if (!tasti || !MostraSpiegazione(focusWidget())) QWhatsThis::enterWhatsThisMode();
+    });
+    voce(aiuto, "mnuAvviso");
+    voce(aiuto, "M_about");
+
+    // What every hand looks for first stands first in the bar.
+    QAction *davanti = barra_->actions().value(0);
+    barra_->insertActions(davanti, {primo, apri, salvare});
+    barra_->insertSeparator(davanti);
+    barra_->insertActions(davanti, {annulla, rifai});
+    barra_->insertSeparator(davanti);
+    for (QAction *a : {primo, apri, salvare, annulla, rifai}) {
+        const std::string nome = a == annulla ? "annulla" : a == rifai ? "ripeti" : a == primo ? "nuovo" : a == apri ? "mnuApri" : "mnuSalva";
+        a->setToolTip(Leggibile(a->text().remove(QLatin1Char('&')).toStdString()) + TastiDi(nome));
+    }
+}
+
+void Finestra::costruisciVista(QMenu *vedi) {
+    const auto nostro = [this, vedi](std::string_view nome, const std::function<void()> &azione) {
+        vedi->addAction(CreaComando(ponte_, nome, this, azione));
+    };
     constexpr double PASSO = 1.25;
     Foglio &f = quadro_->foglio();
-    vedi->addAction(comando(ponte_.Traduci("Ingrandisci"), QKeySequence::ZoomIn, [&f] { f.ingrandisci(PASSO); }));
-    vedi->addAction(comando(ponte_.Traduci("Rimpicciolisci"), QKeySequence::ZoomOut, [&f] { f.ingrandisci(1 / PASSO); }));
-    vedi->addAction(comando(ponte_.Traduci("Tutto il foglio"), QKeySequence(QStringLiteral("Ctrl+0")), [&f] { f.tutto(); }));
-    vedi->addAction(comando(ponte_.Traduci("Grandezza vera"), QKeySequence(QStringLiteral("Ctrl+1")), [&f] { f.vero(); }));
-    vedi->addAction(comando(ponte_.Traduci("Alla cornice"), QKeySequence(QStringLiteral("Ctrl+2")), [this, &f] {
+    nostro("ingrandisci", [&f] { f.ingrandisci(PASSO); });
+    nostro("rimpicciolisci", [&f] { f.ingrandisci(1 / PASSO); });
+    nostro("tutto", [&f] { f.tutto(); });
+    nostro("vero", [&f] { f.vero(); });
+    nostro("allaCornice", [this, &f] {
         const Cornice c = CorniceDi(Lettura(s_.in));
         f.inquadra(QRectF(QPointF(c.xMin.numero(), -c.yMax.numero()), QPointF(c.xMax.numero(), -c.yMin.numero())));
-    }));
-    vedi->addAction(comando(ponte_.Traduci("Alla linea scelta"), QKeySequence(QStringLiteral("Ctrl+3")), [this, &f] {
+    });
+    nostro("allaLinea", [this, &f] {
         if (const auto dove = strati_->dovScelta()) f.inquadra(*dove);
         else messaggio(ponte_.Traduci("Nessuna linea scelta: premine una sul foglio"));
-    }));
+    });
     vedi->addSeparator();
-    const auto interruttore = [&](const QString &testo, const char *nome, const QKeySequence &tasti, bool acceso, auto azione) {
-        QAction *a = comando(testo, tasti, [] {});
+    const auto interruttore = [&](const char *nome, bool acceso, auto azione) {
+        QAction *a = CreaComando(ponte_, nome, this, [] {});
         a->setObjectName(QString::fromLatin1(nome));
         a->setCheckable(true);
         a->setChecked(acceso);
         connect(a, &QAction::toggled, this, azione);
         vedi->addAction(a);
     };
-    interruttore(ponte_.Traduci("Misura sul foglio"), "misura", QKeySequence(QStringLiteral("Ctrl+M")), false,
-                 [&f](bool si) { f.misura(si); });
-    interruttore(ponte_.Traduci("Lente a grandezza vera"), "lente", QKeySequence(QStringLiteral("Ctrl+Shift+L")), false,
-                 [&f](bool si) { f.lente(si); });
-    interruttore(ponte_.Traduci("Legenda"), "legenda", {}, true, [&f](bool si) { f.mostraLegenda(si); });
-    interruttore(ponte_.Traduci("Righelli"), "righelli", {}, true, [&f](bool si) { f.mostraRighelli(si); });
+    interruttore("misura", false, [&f](bool si) { f.misura(si); });
+    interruttore("lente", false, [&f](bool si) { f.lente(si); });
+    interruttore("legenda", true, [&f](bool si) { f.mostraLegenda(si); });
+    interruttore("righelli", true, [&f](bool si) { f.mostraRighelli(si); });
     vedi->addSeparator();
     QMenu *temi = vedi->addMenu(ponte_.Traduci("Aspetto"));
     auto *scelti = new QActionGroup(this);
@@ -130,103 +168,98 @@ void Finestra::costruisciMenu() {
         ++n;
     }
     for (QDockWidget *d : findChildren<QDockWidget *>()) vedi->addAction(d->toggleViewAction());
-
-    QMenu *strumenti = menuBar()->addMenu(ponte_.Traduci("&Strumenti"));
-    voce(strumenti, "mnuAusiliaria", QKeySequence(QStringLiteral("F2")));
-    QMenu *lingua = menuBar()->addMenu(ponte_.Traduci("&Lingua"));
-    for (const std::string_view nome : {"mnuItalian", "mnuFrancais", "mnuInglese"}) voce(lingua, nome);
-    QMenu *aiuto = menuBar()->addMenu(QStringLiteral("&?"));
-    voce(aiuto, "mnuAvviso", QKeySequence(QStringLiteral("F1")));
-    voce(aiuto, "M_about");
 }
 
 void Finestra::costruisciBarra() {
-    auto *barra = new QToolBar(ponte_.Traduci("Comandi"), this);
-    barra->setObjectName(QStringLiteral("barra"));
-    barra->setMovable(false);
-    QWidget *esegui = ponte_.crea("cmdRun", barra);
+    barra_ = new QToolBar(ponte_.Traduci("Comandi"), this);
+    barra_->setObjectName(QStringLiteral("barra"));
+    barra_->setMovable(false);
+    constexpr int ICONA = 18;
+    barra_->setIconSize(QSize(ICONA, ICONA));
+    QWidget *esegui = ponte_.crea("cmdRun", barra_);
     esegui->setProperty("principale", true);
-    barra->addWidget(esegui);
-    for (const std::string_view nome : {"cmdEqui", "cmdTrasforma", "cmdData"}) barra->addWidget(ponte_.crea(nome, barra));
-    barra->addSeparator();
-    auto *adattaFoglio = new QPushButton(ponte_.Traduci("Adatta"), barra);
-    adattaFoglio->setObjectName(QStringLiteral("Adatta"));
-    adattaFoglio->setToolTip(ponte_.Traduci("Foglio e origine intorno alle quattro rette, con un margine di 2 cm"));
-    connect(adattaFoglio, &QPushButton::clicked, this, [this] { adatta(); });
-    barra->addWidget(adattaFoglio);
-    const auto interruttore = [&](const QString &testo, const char *nome) {
-        auto *c = new QCheckBox(testo, barra);
+    barra_->addWidget(esegui);
+    const auto interruttore = [&](const QString &testo, const QString &aiuto, const char *nome) {
+        auto *c = new QCheckBox(testo, barra_);
         c->setObjectName(QString::fromLatin1(nome));
-        barra->addWidget(c);
+        c->setToolTip(aiuto);
+        barra_->addWidget(c);
         return c;
     };
-    vivoAcceso_ = interruttore(ponte_.Traduci("Disegna mentre scrivi"), VIVO);
+    vivoAcceso_ = interruttore(ponte_.Traduci("Disegna mentre scrivi"),
+                               ponte_.Traduci("Il quadrante si ridisegna a ogni tasto") + TastiDi("vivo"), VIVO);
     connect(vivoAcceso_, &QCheckBox::toggled, this, [this](bool acceso) {
         if (acceso) chiediVivo();
         else vivo_->ferma();
     });
-    pulisciPrima_ = interruttore(ponte_.Traduci("Pulisci prima di Esegui"), PULISCI);
-    auto *molla = new QWidget(barra);
+    pulisciPrima_ = interruttore(ponte_.Traduci("Pulisci prima di Esegui"),
+                                 ponte_.Traduci("Senza, ogni esecuzione si aggiunge a quello che c'è"), PULISCI);
+    barra_->addSeparator();
+    for (const std::string_view nome : {"cmdEqui", "cmdTrasforma", "cmdData"}) barra_->addWidget(ponte_.crea(nome, barra_));
+    auto *adattaFoglio = new QPushButton(ponte_.Traduci("Adatta"), barra_);
+    adattaFoglio->setObjectName(QStringLiteral("Adatta"));
+    adattaFoglio->setToolTip(ponte_.Traduci("Foglio e origine intorno alle quattro rette, con un margine di 2 cm") + TastiDi("Adatta"));
+    VestiBottone(adattaFoglio, "Adatta");
+    connect(adattaFoglio, &QPushButton::clicked, this, [this] { adatta(); });
+    barra_->addWidget(adattaFoglio);
+    auto *molla = new QWidget(barra_);
     molla->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
-    barra->addWidget(molla);
-    barra->addWidget(ponte_.crea("cmdSave", barra));
-    addToolBar(barra);
-    for (QWidget *w : barra->findChildren<QWidget *>())
+    barra_->addWidget(molla);
+    QWidget *partenza = ponte_.crea("cmdSave", barra_);
+    barra_->addWidget(partenza);
+    addToolBar(barra_);
+    for (QWidget *w : barra_->findChildren<QWidget *>())
         if (w->accessibleName().isEmpty())
             if (const auto *b = qobject_cast<QAbstractButton *>(w)) w->setAccessibleName(b->text());
+    SoloIcona({partenza}, true);
+}
+
+// Narrow, the bar's buttons are icons alone; how wide they are with their texts is known once they have their looks.
+void Finestra::piegaBarra() {
+    constexpr int LARGA = 1200;
+    QList<QWidget *> bottoni;
+    for (QPushButton *b : barra_->findChildren<QPushButton *>())
+        if (!b->property("principale").toBool() && b->objectName() != QStringLiteral("cmdSave")) bottoni << b;
+    if (barraLarga_ == 0) {
+        if (!isVisible()) return;
+        barraLarga_ = std::max(LARGA, barra_->sizeHint().width());
+    }
+    SoloIcona(bottoni, width() < barraLarga_);
+}
+
+void Finestra::resizeEvent(QResizeEvent *e) {
+    piegaBarra();
+    QMainWindow::resizeEvent(e);
+}
+
+void Finestra::showEvent(QShowEvent *e) {
+    QMainWindow::showEvent(e);
+    piegaBarra();
 }
 
 // The way from a place to paper: each step opens its group.
 QWidget *Finestra::striscia(QWidget *genitore) {
-    auto *s = new QWidget(genitore);
-    s->setObjectName(QStringLiteral("passi"));
-    auto *fila = new QHBoxLayout(s);
-    fila->setContentsMargins(6, 2, 6, 2);
-    fila->setSpacing(2);
     const auto gruppo = [this](const char *titolo) {
         for (QDockWidget *d : findChildren<QDockWidget *>())
             if (Piega *p = Piega::trova(d, titolo)) {
                 d->show();
+                d->raise();
                 return p->apri();
             }
     };
-    const std::pair<std::string_view, std::function<void()>> passi[] = {
-        {"Luogo"_it, [gruppo] { gruppo("Luogo"); }},
-        {"Parete"_it,
-         [this, gruppo] {
-             gruppo("Parete");
-             ponte_.premi("mnuAusiliaria");
-         }},
-        {"Gnomone"_it, [gruppo] { gruppo("Gnomone"); }},
-        {"Linee"_it, [gruppo] { gruppo("Linee"); }},
-        {"Carta"_it,
-         [this, gruppo] {
-             gruppo("Cornice");
-             if (auto *carta = findChild<QDockWidget *>(QStringLiteral("carta"))) carta->show();
-             else ponte_.premi("Tavolo1.CmdGriglia");
-         }},
-    };
-    int n = 0;
-    for (const auto &[nome, azione] : passi) {
-        if (n > 0) {
-            auto *poi = new QLabel(QStringLiteral("›"), s);
-            poi->setTextFormat(Qt::PlainText);
-            fila->addWidget(poi);
-        }
-        auto *b = new QToolButton(s);
-        const QString titolo = ponte_.Traduci(nome);
-        b->setText(QStringLiteral("%1  %2").arg(++n).arg(titolo.left(1).toUpper() + titolo.mid(1)));
-        b->setObjectName(QStringLiteral("passo%1").arg(n));
-        b->setAutoRaise(true);
-        b->setMinimumWidth(b->fontMetrics().horizontalAdvance(b->text()) + 22);
-        b->setFocusPolicy(Qt::TabFocus);
-        b->setShortcut(QKeySequence(QStringLiteral("Alt+%1").arg(n)));
-        b->setToolTip(QStringLiteral("Alt+%1").arg(n));
-        connect(b, &QToolButton::clicked, this, azione);
-        fila->addWidget(b);
-    }
-    fila->addStretch(1);
-    return s;
+    return new Striscia(ponte_,
+                        {[gruppo] { gruppo("Luogo"); },
+                         [this, gruppo] {
+                             gruppo("Parete");
+                             ponte_.premi("mnuAusiliaria");
+                         },
+                         [gruppo] { gruppo("Gnomone"); }, [gruppo] { gruppo("Linee"); },
+                         [this, gruppo] {
+                             gruppo("Cornice");
+                             if (auto *carta = findChild<QDockWidget *>(QStringLiteral("carta"))) carta->show();
+                             else ponte_.premi("Tavolo1.CmdGriglia");
+                         }},
+                        genitore);
 }
 
 void Finestra::vesti(int tema) {

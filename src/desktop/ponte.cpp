@@ -12,9 +12,12 @@
 #include <utility>
 
 #include "app/azioni.h"
+#include "desktop/aiuti.h"
 #include "desktop/attesa.h"
 #include "desktop/campo.h"
+#include "desktop/comandi.h"
 #include "desktop/dialoghi.h"
+#include "desktop/passi.h"
 
 namespace ombrelia::desktop {
 
@@ -53,6 +56,13 @@ QString Leggibile(const std::string &caption) { return Q(caption).simplified().r
 QString Ponte::Traduci(std::string_view testo) const { return Q(s_.Traduci(testo)); }
 
 QString SoloTesto(const QString &testo) { return Qt::mightBeRichText(testo) ? testo.toHtmlEscaped() : testo; }
+
+// A caption that the program changed as it ran stands as it is.
+QString Ponte::didascalia(IdControllo id) const {
+    const Aiuto *a = TrovaAiuto(id);
+    const std::string &sua = s_.stato(id).caption;
+    return a && !a->umano.empty() && sua == s_.Traduci(RigaDi(id).caption) ? Traduci(a->umano) : Leggibile(sua);
+}
 
 app::Esito Ponte::svolgi(IdControllo id, const std::function<app::Esito()> &azione) {
     if (prima && !prima(id)) {
@@ -141,9 +151,14 @@ QWidget *Ponte::crea(std::string_view nome, QWidget *genitore) {
             break;
     }
     w->setObjectName(nomeOggetto(RigaDi(id)));
+    if (auto *b = qobject_cast<QAbstractButton *>(w)) VestiBottone(b, nome);
+    Spiega(s_, id, w);
     collega(id, w);
     legami_.push_back({id, w, nullptr});
     mostra(legami_.back());
+    // For those who hear the window: a button says its text itself.
+    if (qobject_cast<QLineEdit *>(w) || qobject_cast<QComboBox *>(w)) w->setAccessibleName(NomeUmano(s_, id));
+    else if (qobject_cast<QAbstractButton *>(w)) w->setAccessibleName(didascalia(id));
     return w;
 }
 
@@ -171,7 +186,7 @@ void Ponte::sincronizza() {
 void Ponte::mostra(const Legame &l) {
     const StatoControllo &stato = s_.stato(l.id);
     if (l.azione) {
-        secambia(l.azione, Leggibile(stato.caption));
+        secambia(l.azione, didascalia(l.id));
         l.azione->setEnabled(stato.abilitato);
         return;
     }
@@ -187,7 +202,7 @@ void Ponte::mostra(const Legame &l) {
     } else if (auto *c = qobject_cast<QComboBox *>(w)) {
         voci(s_, l.id, c);
     } else if (auto *b = qobject_cast<QAbstractButton *>(w)) {
-        secambia(b, Leggibile(stato.caption));
+        if (!b->property("soloIcona").toBool()) secambia(b, didascalia(l.id));
         if (RigaDi(l.id).classe != Classe::Pulsante) {
             b->setCheckable(true);
             // A box that does not answer draws nothing either: it shows so.
@@ -195,14 +210,14 @@ void Ponte::mostra(const Legame &l) {
         }
     } else if (auto *lab = qobject_cast<QLabel *>(w)) {
         if (RigaDi(l.id).classe == Classe::Etichetta)
-            secambia(lab, RigaDi(l.id).pannello ? Q(app::Didascalia(s_, l.id)) : Leggibile(stato.caption));
+            secambia(lab, RigaDi(l.id).pannello ? Q(app::Didascalia(s_, l.id)) : didascalia(l.id));
     } else if (auto *g = qobject_cast<QGroupBox *>(w)) {
-        if (g->title() != Leggibile(stato.caption)) g->setTitle(Leggibile(stato.caption));
+        if (g->title() != didascalia(l.id)) g->setTitle(didascalia(l.id));
     } else if (auto *p = qobject_cast<QPlainTextEdit *>(w)) {
         const QString testo = Q(s_.testo(l.id)).replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
         if (p->toPlainText() != testo) p->setPlainText(testo);
     }
-    const QString aiuto = SoloTesto(Q(stato.toolTip).trimmed());
+    const QString aiuto = Suggerimento(s_, l.id);
     if (w->toolTip() != aiuto && !(aiuto.isEmpty() && RigaDi(l.id).toolTip.empty())) w->setToolTip(aiuto);
     if (w->isEnabled() != stato.abilitato && RigaDi(l.id).classe != Classe::Cornice) w->setEnabled(stato.abilitato);
     if (w->isHidden() == stato.visibile && (RigaDi(l.id).classe != Classe::Altro)) w->setVisible(stato.visibile);

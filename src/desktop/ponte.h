@@ -55,6 +55,8 @@ public:
     std::function<void()> suVirgolette;              // a double quote was typed: it would end the project's text
 
     [[nodiscard]] Sessione &sessione() { return s_; }
+    // What the window calls a control: its maker's word for it, or its caption.
+    [[nodiscard]] QString didascalia(IdControllo id) const;
     // Through the dictionary.
     [[nodiscard]] QString Traduci(std::string_view testo) const;
 

@@ -11,6 +11,7 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include "desktop/comandi.h"
 #include "desktop/dialoghi.h"
 
 namespace ombrelia::desktop {
@@ -76,8 +77,9 @@ Quadro::Quadro(Ponte &ponte, QWidget *genitore) : QWidget(genitore), ponte_(pont
 
 QWidget *Quadro::testata() {
     QWidget *testa = ponte_.crea("Tavolo1.picHead", this);
-    // Two rows where the window is narrow.
+    // Icons alone where it is narrow, in two rows where it is narrower still.
     file_ = new QBoxLayout(QBoxLayout::LeftToRight, testa);
+    file_->setSizeConstraint(QLayout::SetNoConstraint);
     file_->setContentsMargins(6, 4, 6, 4);
     file_->setSpacing(4);
     auto *fila = new QHBoxLayout;
@@ -86,6 +88,7 @@ QWidget *Quadro::testata() {
     const auto metti = [&](std::string_view nome) {
         QWidget *w = ponte_.crea(intero(nome), testa);
         fila->addWidget(w);
+        if (qobject_cast<QPushButton *>(w)) bottoni_ << w;
         return w;
     };
     for (const std::string_view nome : {"cmdStampa", "cmdSave", "cmdDxf"}) metti(nome);
@@ -98,10 +101,11 @@ QWidget *Quadro::testata() {
     invX_ = metti("cmdInvX");
     invY_ = metti("cmdInvY");
     fila->addStretch(1);
-    const auto strumento = [&](const QString &testo, const QString &aiuto, auto azione) {
+    const auto strumento = [&](std::string_view nome, auto azione) {
         auto *b = new QToolButton(testa);
-        b->setText(testo);
-        b->setToolTip(aiuto);
+        const QString aiuto = ponte_.Traduci(TrovaComando(nome)->testo);
+        VestiBottone(b, nome);
+        b->setToolTip(aiuto + TastiDi(nome));
         b->setAutoRaise(true);
         b->setAccessibleName(aiuto);
         b->setFocusPolicy(Qt::TabFocus);
@@ -109,30 +113,38 @@ QWidget *Quadro::testata() {
         fila->addWidget(b);
     };
     constexpr double PASSO = 1.25;
-    strumento(QStringLiteral("−"), ponte_.Traduci("Rimpicciolisci"), [this] { foglio_->ingrandisci(1 / PASSO); });
-    strumento(QStringLiteral("+"), ponte_.Traduci("Ingrandisci"), [this] { foglio_->ingrandisci(PASSO); });
-    strumento(QStringLiteral("◻"), ponte_.Traduci("Tutto il foglio"), [this] { foglio_->tutto(); });
-    QWidget *scala = metti("cmbScala");
-    scala->setToolTip(ponte_.Traduci("Scala del foglio"));
+    strumento("rimpicciolisci", [this] { foglio_->ingrandisci(1 / PASSO); });
+    strumento("ingrandisci", [this] { foglio_->ingrandisci(PASSO); });
+    strumento("tutto", [this] { foglio_->tutto(); });
+    metti("cmbScala");
     return testa;
 }
 
 QWidget *Quadro::piede() {
     auto *p = new QWidget(this);
     p->setObjectName(QStringLiteral("piede"));
-    auto *fila = new QHBoxLayout(p);
-    fila->setContentsMargins(8, 3, 8, 3);
-    fila->setSpacing(14);
-    QWidget *messaggio = ponte_.crea("Tavolo1.p_mess", p);
+    // The message has a row of its own where the window is narrow.
+    piede_ = new QBoxLayout(QBoxLayout::LeftToRight, p);
+    piede_->setContentsMargins(8, 3, 8, 3);
+    piede_->setSpacing(4);
+    auto *detti = new QHBoxLayout;
+    detti->setObjectName(QStringLiteral("detti"));
+    detti->setSpacing(14);
+    piede_->addLayout(detti, 1);
+    auto *messaggio = qobject_cast<QLabel *>(ponte_.crea("Tavolo1.p_mess", p));
     messaggio->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     messaggio->setMinimumWidth(60);
-    fila->addWidget(messaggio, 1);
+    messaggio->setWordWrap(true);
+    detti->addWidget(messaggio, 1);
+    auto *fila = new QHBoxLayout;
+    fila->setSpacing(10);
+    piede_->addLayout(fila);
     posizione_ = new QLabel(p);
     posizione_->setTextFormat(Qt::PlainText);
     posizione_->setToolTip(ponte_.Traduci("Sotto il puntatore, millimetri: x verso destra, y verso il basso"));
     posizione_->setMinimumWidth(posizione_->fontMetrics().horizontalAdvance(QStringLiteral("x -00000.0   y -00000.0 mm")));
     posizione_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    fila->addWidget(posizione_);
+    fila->addWidget(posizione_, 1);
     for (const auto &[nome, aiuto] :
          {std::pair{"lblXYval", ponte_.Traduci("Ultimo punto premuto, millimetri: x verso destra, y verso il basso")},
           std::pair{"lblDimVal", ponte_.Traduci("Foglio, metri")}, std::pair{"lblScala", ponte_.Traduci("Scala del foglio")}}) {
@@ -224,11 +236,26 @@ void Quadro::sotto(const QPointF &mondo) {
     foglio_->fumetto(testo);
 }
 
+void Quadro::piega() {
+    if (larga_ == 0) {
+        if (!isVisible()) return;
+        larga_ = file_->sizeHint().width();
+    }
+    constexpr int FILA = 470, PIEDE = 760;
+    SoloIcona(bottoni_, width() < larga_);
+    file_->setDirection(width() < FILA ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+    piede_->setDirection(width() < PIEDE ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+}
+
 void Quadro::resizeEvent(QResizeEvent *e) {
-    constexpr int STRETTO = 760;
-    file_->setDirection(width() < STRETTO ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+    piega();
     QWidget::resizeEvent(e);
     collocaPannelli();
+}
+
+void Quadro::showEvent(QShowEvent *e) {
+    QWidget::showEvent(e);
+    piega();
 }
 
 // Whether the frame of the limit lines leaves the sheet.

@@ -29,12 +29,14 @@ public:
 
 protected:
     void resizeEvent(QResizeEvent *e) override;
+    void showEvent(QShowEvent *e) override;
 
 private:
     QWidget *testata();
     QWidget *piede();
     QWidget *pannello(std::string_view cornice, std::initializer_list<std::initializer_list<std::string_view>> righe);
     void collocaPannelli();
+    void piega();
     [[nodiscard]] bool corniceFuori() const;
 
     Ponte &ponte_;
@@ -47,7 +49,9 @@ private:
     QLabel *posizione_ = nullptr, *avviso_ = nullptr;
     QString detto_;
     std::vector<Offerta> offerte_;
-    QBoxLayout *file_ = nullptr;  // of the head
+    QBoxLayout *file_ = nullptr, *piede_ = nullptr;  // of the head, of the foot
+    QList<QWidget *> bottoni_;                       // of the head
+    int larga_ = 0;                                  // the head with its texts
     QWidget *invX_ = nullptr, *invY_ = nullptr;
     std::vector<std::pair<QWidget *, QWidget *>> pannelli_;  // and the button below which each opens
 };

@@ -1,0 +1,36 @@
+// What each control is, in its maker's words: a name where the system's caption is cryptic, a sentence, and a small drawing of what
+// it measures. The system's caption and tool tip stay in the tool tip.
+#pragma once
+
+#include <QImage>
+#include <cstdint>
+
+#include "desktop/ponte.h"
+
+namespace ombrelia::desktop {
+
+// What a field measures, drawn.
+enum class Disegno : std::uint8_t { Nessuno, Latitudine, Longitudine, Declinazione, Inclinazione, Ortostilo, Stilo, Cornice, Ore, Giorno, Carattere };
+
+struct Aiuto {
+    std::string_view nome;   // as the action script gives it
+    std::string_view umano;  // empty: the system's caption
+    std::string_view testo;
+    Disegno disegno = Disegno::Nessuno;
+};
+
+// Null when there is none.
+[[nodiscard]] const Aiuto *TrovaAiuto(IdControllo id);
+// The tool tip of a control: the system's, or the help's sentence; the system's caption where the window shows another; its keys.
+[[nodiscard]] QString Suggerimento(Sessione &s, IdControllo id);
+// "What's this?": name, sentences and drawing, as rich text in the palette's colours.
+[[nodiscard]] QString CheCosE(Sessione &s, IdControllo id);
+// Lets a widget answer "What's this?".
+void Spiega(Sessione &s, IdControllo id, QWidget *w);
+// Shows what a widget says of itself beside it; false when it says nothing.
+bool MostraSpiegazione(QWidget *w);
+
+// The small drawing, in dots of the screen times rapporto.
+[[nodiscard]] QImage DisegnoAiuto(Disegno quale, double rapporto = 1);
+
+}  // namespace ombrelia::desktop

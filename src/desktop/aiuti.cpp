@@ -16,12 +16,26 @@ namespace {
 
 constexpr Aiuto TAVOLA[] = {
     {"txtLAT", {}, "Latitudine del posto in gradi: Nord positiva, Sud negativa"_it, Disegno::Latitudine},
-    {"txtLonG", {}, "Longitudine del posto in gradi: Ovest positiva, Est negativa. Mette al suo posto la lemniscata"_it, Disegno::Longitudine},
-    {"txtMeridiano", {}, "Il meridiano dal quale conta l'orologio: -15 per l'Europa centrale, 0 per Londra"_it, Disegno::Longitudine},
-    {"ck_Etna", "Ore del fuso, non del posto"_it, "Le ore disegnate sono quelle vere del meridiano del fuso, spostate della differenza di longitudine"_it, Disegno::Longitudine},
-    {"txtDec", {}, "Dove guarda la parete: l'angolo fra la sua perpendicolare e il Sud, positivo verso Ovest"_it, Disegno::Declinazione},
+    {"txtLonG",
+     {},
+     "Longitudine del posto in gradi: Ovest positiva, Est negativa. Mette al suo posto la lemniscata"_it,
+     Disegno::Longitudine},
+    {"txtMeridiano",
+     {},
+     "Il meridiano dal quale conta l'orologio: -15 per l'Europa centrale, 0 per Londra"_it,
+     Disegno::Longitudine},
+    {"ck_Etna", "Ore del fuso, non del posto"_it,
+     "Le ore disegnate sono quelle vere del meridiano del fuso, spostate della differenza di longitudine"_it,
+     Disegno::Longitudine},
+    {"txtDec",
+     {},
+     "Dove guarda la parete: l'angolo fra la sua perpendicolare e il Sud, positivo verso Ovest"_it,
+     Disegno::Declinazione},
     {"txtInc", {}, "Di quanto il piano pende dalla verticale: 0 una parete, 90 un piano orizzontale"_it, Disegno::Inclinazione},
-    {"CkUNI", {}, "Su una parete disegna col motore dei quadranti verticali; Sottostilo allunga lo stilo polare"_it, Disegno::Stilo},
+    {"CkUNI",
+     {},
+     "Su una parete disegna col motore dei quadranti verticali; Sottostilo allunga lo stilo polare"_it,
+     Disegno::Stilo},
     {"TxtStilo", {}, "Lunghezza dell'ortostilo: quanto la punta dista dal piano, misurato a squadra"_it, Disegno::Ortostilo},
     {"ChCentimetro", {}, "Tutte le lunghezze si scrivono in millimetri invece che in metri"_it},
     {"ck_Sustilare", {}, "La linea sopra la quale sta lo stilo polare"_it, Disegno::Stilo},
@@ -48,7 +62,10 @@ constexpr Aiuto TAVOLA[] = {
     {"TxtFraz", {}, "Quante linee in un'ora: 1 le ore, 2 le mezze, 4 i quarti"_it, Disegno::Ore},
     {"TxtInizio", {}, "La prima ora disegnata, nel conto delle ore scelte"_it, Disegno::Ore},
     {"TxtFine", {}, "L'ultima ora disegnata, nel conto delle ore scelte"_it, Disegno::Ore},
-    {"Ck_DayLightCurves", {}, "Le curve che l'ombra della punta percorre in certi giorni: i solstizi e quelli scelti"_it, Disegno::Giorno},
+    {"Ck_DayLightCurves",
+     {},
+     "Le curve che l'ombra della punta percorre in certi giorni: i solstizi e quelli scelti"_it,
+     Disegno::Giorno},
     {"ck_Equinoziale", {}, "La retta che l'ombra della punta percorre agli equinozi"_it, Disegno::Giorno},
     {"ckAlt", {}, "Linee di uguale altezza del Sole"_it, Disegno::Inclinazione},
     {"ckAz", {}, "Linee di uguale direzione del Sole"_it, Disegno::Declinazione},
@@ -86,7 +103,9 @@ constexpr Aiuto TAVOLA[] = {
     {"txtDensity", {}, "Passo con cui si tracciano le curve: più è piccolo più sono fitti i punti, e lenta l'esecuzione"_it},
     {"txtAO", {}, "Angolo orario in gradi che la tavola degli strumenti lascia qui: Est negativo"_it, Disegno::Giorno},
     {"txtAnno", {}, "Anno del Sole che la lemniscata vera segue; vuoto: l'anno in corso"_it},
-    {"ckFunzione", "Linee intermedie (F)"_it, "Aggiunge le linee diurne fra solstizi ed equinozi, e altre varianti: ore del campanile, incroci per geometria analitica"_it, Disegno::Giorno},
+    {"ckFunzione", "Linee intermedie (F)"_it,
+     "Aggiunge le linee diurne fra solstizi ed equinozi, e altre varianti: ore del campanile, incroci per geometria analitica"_it,
+     Disegno::Giorno},
     {"ckAsr", {}, "La linea della preghiera del pomeriggio"_it},
     {"CkQibla", {}, "La linea che indica quando il Sole sta nella direzione della Mecca"_it},
     {"txtQlat", {}, "Latitudine della Mecca"_it, Disegno::Latitudine},
@@ -106,7 +125,8 @@ constexpr Aiuto TAVOLA[] = {
     {"txtH", {}, "Angolo orario del punto, in gradi"_it, Disegno::Giorno},
     {"cmdRun", {}, "Disegna ciò che è spuntato, coi valori dei campi"_it},
     {"cmdEqui", {}, "Disegna una parete per geometria analitica: un secondo metodo, per confronto"_it},
-    {"cmdTrasforma", "Verticale equivalente"_it, "Cambia il piano inclinato nella parete di un altro luogo dove il disegno è lo stesso"_it, Disegno::Inclinazione},
+    {"cmdTrasforma", "Verticale equivalente"_it,
+     "Cambia il piano inclinato nella parete di un altro luogo dove il disegno è lo stesso"_it, Disegno::Inclinazione},
     {"cmdData", {}, "La tabella di ciò che il quadrante è: angoli, distanze, punti, da tenere sul ponteggio"_it},
     {"cmdSave", "Tieni come partenza"_it, "I valori che stanno nei campi saranno quelli di ogni nuovo quadrante"_it},
     {"Tavolo1.cmdStampa", "Stampa"_it, "Stampa il foglio in grandezza vera, intero o a pagine"_it},
@@ -153,7 +173,10 @@ constexpr Aiuto TAVOLA[] = {
     {"frmDeclin.txtHH", {}, "Ora della misura in tempo universale"_it},
     {"frmDeclin.txtMM", {}, "Minuti della misura"_it},
     {"frmDeclin.txtSS", {}, "Secondi della misura"_it},
-    {"frmDeclin.txtAngle", {}, "Angolo fra la perpendicolare alla parete e l'ombra del filo a piombo, in gradi"_it, Disegno::Declinazione},
+    {"frmDeclin.txtAngle",
+     {},
+     "Angolo fra la perpendicolare alla parete e l'ombra del filo a piombo, in gradi"_it,
+     Disegno::Declinazione},
     {"frmDeclin.TxtFuso", {}, "Fuso orario in ore: Ovest positivo, -1 per l'Italia"_it, Disegno::Longitudine},
     {"frmDeclin.ckDst", {}, "L'orologio è un'ora avanti"_it},
     {"frmDeclin.cmdCalcola", {}, "Calcola la declinazione della parete e il Sole di quel momento"_it, Disegno::Declinazione},
@@ -162,7 +185,6 @@ constexpr Aiuto TAVOLA[] = {
     {"frmDeclin.txtResult", {}, "Il risultato, riga per riga"_it},
 };
 
-const Controllo &riga(IdControllo id) { return TavolaControlli()[static_cast<std::size_t>(id)]; }
 
 // Answers in a widget's place.
 class Guida final : public QObject {
@@ -199,8 +221,9 @@ QString Suggerimento(Sessione &s, IdControllo id) {
     const Aiuto *a = TrovaAiuto(id);
     QString t = Q(s.stato(id).toolTip).trimmed();
     if (t.isEmpty() && a && !a->testo.empty()) t = Q(s.Traduci(a->testo));
-    t += TastiDi(a ? a->nome : riga(id).nome);
-    if (a && !a->umano.empty()) t += (t.isEmpty() ? QString() : QStringLiteral("\n")) + QStringLiteral("«%1»").arg(Q(s.stato(id).caption).simplified());
+    t += TastiDi(a ? a->nome : RigaDi(id).nome);
+    if (a && !a->umano.empty())
+        t += (t.isEmpty() ? QString() : QStringLiteral("\n")) + QStringLiteral("«%1»").arg(Q(s.stato(id).caption).simplified());
     return SoloTesto(t.trimmed());
 }
 

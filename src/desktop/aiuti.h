@@ -1,5 +1,5 @@
-// What each control is, in its maker's words: a name where the system's caption is cryptic, a sentence, and a small drawing of what
-// it measures. The system's caption and tool tip stay in the tool tip.
+// What each control is, in its maker's words: a name where the system's caption is cryptic, a sentence, and a small drawing of
+// what it measures. The system's caption and tool tip stay in the tool tip.
 #pragma once
 
 #include <QImage>
@@ -10,7 +10,19 @@
 namespace ombrelia::desktop {
 
 // What a field measures, drawn.
-enum class Disegno : std::uint8_t { Nessuno, Latitudine, Longitudine, Declinazione, Inclinazione, Ortostilo, Stilo, Cornice, Ore, Giorno, Carattere };
+enum class Disegno : std::uint8_t {
+    Nessuno,
+    Latitudine,
+    Longitudine,
+    Declinazione,
+    Inclinazione,
+    Ortostilo,
+    Stilo,
+    Cornice,
+    Ore,
+    Giorno,
+    Carattere
+};
 
 struct Aiuto {
     std::string_view nome;   // as the action script gives it

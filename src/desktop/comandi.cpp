@@ -78,7 +78,7 @@ void VestiVoce(QAction *a, std::string_view nome) {
     const Comando *c = TrovaComando(nome);
     if (!c) return;
     a->setIcon(IconaDi(c->icona));
-    a->setShortcuts(QKeySequence::listFromString(QString::fromLatin1(c->tasti)));
+    if (*c->tasti) a->setShortcuts(QKeySequence::listFromString(QString::fromLatin1(c->tasti)));
 }
 
 QAction *CreaComando(Ponte &ponte, std::string_view nome, QObject *genitore, const std::function<void()> &azione) {

@@ -13,7 +13,7 @@ class QAbstractButton;
 namespace ombrelia::desktop {
 
 struct Comando {
-    std::string_view nome;   // a control's as the action script gives it, or the window's own
+    std::string_view nome;     // a control's as the action script gives it, or the window's own
     std::string_view testo{};  // of the window's own; a control has its caption
     std::string_view icona{};
     const char *tasti = "";  // one or more, divided by "; "

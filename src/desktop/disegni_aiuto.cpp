@@ -76,8 +76,8 @@ P verso(double gradi, double quanto) {
     return {quanto * std::cos(t), -quanto * std::sin(t)};
 }
 
-const QString PHI = QStringLiteral("φ"), LAMBDA = QStringLiteral("λ"), D = QStringLiteral("d"), I = QStringLiteral("i"), G = QStringLiteral("g"),
-              NORD = QStringLiteral("N"), SUD = QStringLiteral("S");
+const QString PHI = QStringLiteral("φ"), LAMBDA = QStringLiteral("λ"), D = QStringLiteral("d"), I = QStringLiteral("i"),
+              G = QStringLiteral("g"), NORD = QStringLiteral("N"), SUD = QStringLiteral("S");
 
 // The globe from its side, the equator across: the angle from it to the place.
 void latitudine(Mano &m) {
@@ -131,7 +131,11 @@ void stilo(Mano &m) {
 void cornice(Mano &m) {
     const QRectF r(34, 14, 132, 100);
     const P piede(88, 54);
-    m.cosa().linea(r.topLeft(), r.topRight()).linea(r.topRight(), r.bottomRight()).linea(r.bottomRight(), r.bottomLeft()).linea(r.bottomLeft(), r.topLeft());
+    m.cosa()
+        .linea(r.topLeft(), r.topRight())
+        .linea(r.topRight(), r.bottomRight())
+        .linea(r.bottomRight(), r.bottomLeft())
+        .linea(r.bottomLeft(), r.topLeft());
     m.aiuto().linea({34, 54}, {166, 54}).linea({88, 14}, {88, 114}).cosa(2).cerchio(piede, 3);
     m.misura().freccia(piede, {34, 54}).freccia(piede, {166, 54}).freccia(piede, {88, 14}).freccia(piede, {88, 114});
     m.cosa(1).testo({54, 44}, QStringLiteral("x0")).testo({134, 44}, QStringLiteral("x1"));
@@ -169,17 +173,38 @@ QImage DisegnoAiuto(Disegno quale, double rapporto) {
     p.setFont(f);
     Mano m(p);
     switch (quale) {
-        case Disegno::Latitudine: latitudine(m); break;
-        case Disegno::Longitudine: longitudine(m); break;
-        case Disegno::Declinazione: declinazione(m); break;
-        case Disegno::Inclinazione: inclinazione(m); break;
-        case Disegno::Ortostilo: ortostilo(m); break;
-        case Disegno::Stilo: stilo(m); break;
-        case Disegno::Cornice: cornice(m); break;
-        case Disegno::Ore: ore(m); break;
-        case Disegno::Giorno: giorno(m); break;
-        case Disegno::Carattere: carattere(m); break;
-        case Disegno::Nessuno: break;
+        case Disegno::Latitudine:
+            latitudine(m);
+            break;
+        case Disegno::Longitudine:
+            longitudine(m);
+            break;
+        case Disegno::Declinazione:
+            declinazione(m);
+            break;
+        case Disegno::Inclinazione:
+            inclinazione(m);
+            break;
+        case Disegno::Ortostilo:
+            ortostilo(m);
+            break;
+        case Disegno::Stilo:
+            stilo(m);
+            break;
+        case Disegno::Cornice:
+            cornice(m);
+            break;
+        case Disegno::Ore:
+            ore(m);
+            break;
+        case Disegno::Giorno:
+            giorno(m);
+            break;
+        case Disegno::Carattere:
+            carattere(m);
+            break;
+        case Disegno::Nessuno:
+            break;
     }
     return i;
 }

@@ -51,7 +51,8 @@ QStringList FileEsempi() {
     if (!dato) return file;
     // Beside the sources' data, and where they are installed.
     for (const char *dove : {"../examples", "../doc/ombrelia/examples"})
-        for (const QFileInfo &f : QDir(Q((dato->parent_path() / dove).string())).entryInfoList({QStringLiteral("*.omb")}, QDir::Files, QDir::Name))
+        for (const QFileInfo &f :
+             QDir(Q((dato->parent_path() / dove).string())).entryInfoList({QStringLiteral("*.omb")}, QDir::Files, QDir::Name))
             file << f.canonicalFilePath();
     return file;
 }
@@ -100,7 +101,8 @@ void Esempi::showEvent(QShowEvent *e) {
     attesi_.clear();
     for (const QString &file : FileEsempi()) {
         const QString nome = QFileInfo(file).completeBaseName();
-        const auto *t = std::find_if(std::begin(TITOLI), std::end(TITOLI), [&](const auto &x) { return nome == QLatin1String(x.first); });
+        const auto *t =
+            std::find_if(std::begin(TITOLI), std::end(TITOLI), [&](const auto &x) { return nome == QLatin1String(x.first); });
         auto *v = new QListWidgetItem(t == std::end(TITOLI) ? nome : ponte_.Traduci(t->second), lista_);
         v->setData(Qt::UserRole, file);
         v->setToolTip(file);

@@ -7,7 +7,9 @@
 #include <QFileInfo>
 #include <QRegularExpression>
 #include <QSettings>
+#include <QTabBar>
 #include <QTimer>
+#include <QUndoView>
 #include <QVBoxLayout>
 #include <filesystem>
 
@@ -82,7 +84,16 @@ Finestra::Finestra(Dialoghi &dialoghi) : dialoghi_(dialoghi), utente_(dialoghi),
     molo(ponte_.Traduci("Disegno"), "disegno", ColonnaDisegno(ponte_, this), Qt::RightDockWidgetArea);
     strati_ = new PannelloStrati(ponte_, quadro_->foglio(), this);
     molo(ponte_.Traduci("Strati"), "strati", strati_, Qt::RightDockWidgetArea);
-    tabifyDockWidget(findChild<QDockWidget *>(QStringLiteral("disegno")), findChild<QDockWidget *>(QStringLiteral("strati")));
+    passi_ = std::make_unique<Passi>(s_, this, [this](bool rifai) { rimesso(rifai); });
+    auto *storia = new QUndoView(passi_.get(), this);
+    storia->setObjectName(QStringLiteral("elencoPassi"));
+    storia->setAccessibleName(ponte_.Traduci("Passi fatti"));
+    storia->setEmptyLabel(ponte_.Traduci("All'inizio"));
+    storia->setToolTip(ponte_.Traduci("Premi un passo per tornare a com'era allora"));
+    molo(ponte_.Traduci("Passi fatti"), "storia", storia, Qt::RightDockWidgetArea);
+    for (const char *dopo : {"strati", "storia"})
+        tabifyDockWidget(findChild<QDockWidget *>(QStringLiteral("disegno")),
+                         findChild<QDockWidget *>(QString::fromLatin1(dopo)));
     findChild<QDockWidget *>(QStringLiteral("disegno"))->raise();
     strati_->vesti(TemaScuro());
     quadro_->suLinea = [this](const std::optional<Linea> &linea) {
@@ -90,11 +101,12 @@ Finestra::Finestra(Dialoghi &dialoghi) : dialoghi_(dialoghi), utente_(dialoghi),
         if (!linea) return;
         for (const Linea &l : LineeDi(s_.tavolo))
             if (l.strato == linea->strato && l.valore == linea->valore)
-                messaggio(NomeLinea(s_, l.strato, l.valore) + QStringLiteral(": ") + QString::number(l.metri * 1000, 'f', 0) +
-                          QStringLiteral(" mm"));
+                messaggio(QStringLiteral("%1 (%2): %3 mm")
+                              .arg(NomeLinea(s_, l.strato, l.valore), NomeStrato(s_, l.strato))
+                              .arg(l.metri * 1000, 0, 'f', 0));
     };
+    quadro_->suMenu = [this](const QPoint &dove) { strati_->menu(dove); };
     moduli_ = std::make_unique<Moduli>(ponte_, dialoghi_, this);
-    passi_ = std::make_unique<Passi>(s_, this, [this](bool rifai) { rimesso(rifai); });
     costruisciMenu();
 
     utente_.suModulo = [this](std::string_view nome, bool aperto) { moduli_->apri(nome, aperto); };
@@ -116,6 +128,7 @@ Finestra::Finestra(Dialoghi &dialoghi) : dialoghi_(dialoghi), utente_(dialoghi),
     vivo_ = std::make_unique<Vivo>(this, s_.dizionario, [this](Vivo::Esito &e) { disegnoVivo(e); });
 
     new Aggiunte(*this, dialoghi_);
+    nomina();
     resize(1360, 860);
     const QSettings ricordi;
     restoreGeometry(ricordi.value(QLatin1String(GEOMETRIA)).toByteArray());
@@ -137,6 +150,14 @@ Finestra::Finestra(Dialoghi &dialoghi) : dialoghi_(dialoghi), utente_(dialoghi),
 
 Finestra::~Finestra() { vivo_.reset(); }
 
+// What has no name yet for those who hear the window.
+void Finestra::nomina() {
+    quadro_->foglio().setAccessibleName(ponte_.Traduci("Foglio"));
+    for (auto *b : findChildren<QAbstractButton *>())
+        if (b->accessibleName().isEmpty()) b->setAccessibleName(b->text());
+    for (auto *t : findChildren<QTabBar *>()) t->setAccessibleName(ponte_.Traduci("Schede"));
+}
+
 void Finestra::molo(const QString &titolo, const char *nome, QWidget *contenuto, Qt::DockWidgetArea dove) {
     auto *d = new QDockWidget(titolo, this);
     d->setObjectName(QString::fromLatin1(nome));
@@ -154,6 +175,7 @@ bool Finestra::prima(IdControllo id) {
     if (nome == "mnuApri") return lasciaAndare();
     if (nome == "mnuSalva" && !percorso_.isEmpty()) return salvaIn(percorso_), false;
     if (nome == "cmdRun") primaDiEsegui();
+    if (nome == "cmdEqui") conAttesa();
     if (nome == "cmdCalcola" && modulo == "frmDeclin") {
         deltaPrima_ = s_.in.txtDelta;
         aoPrima_ = s_.in.txtAO;
@@ -170,6 +192,11 @@ void Finestra::primaDiEsegui() {
         s_.tavolo.ScambiaDisegno(scorta_);
     }
     mascherate_ = MascheraSpente(s_);
+    conAttesa();
+}
+
+// What may last shows that it goes on, and can be stopped.
+void Finestra::conAttesa() {
     attesa_ = std::make_unique<Attesa>(this, ponte_.Traduci("Disegno del quadrante..."), ponte_.Traduci("Ferma"));
     s_.tavolo.dispositivo = attesa_.get();
 }
@@ -185,7 +212,7 @@ void Finestra::dopoEsegui() {
 
 void Finestra::dopo(IdControllo id, const app::Esito &esito) {
     const std::string_view nome = id == NESSUN_CONTROLLO ? std::string_view() : RigaDi(id).nome;
-    if (nome == "cmdRun") dopoEsegui();
+    if (nome == "cmdRun" || nome == "cmdEqui") dopoEsegui();
     if (esito == app::Esito::Fallito && !esito.detto && !esito.motivo.empty()) dialoghi_.avviso(this, Q(esito.motivo));
     if (nome == "mnuApri" && esito) progettoNuovo(Q(esito.file));
     if (nome == "mnuSalva" && esito) {
@@ -206,7 +233,7 @@ void Finestra::dopo(IdControllo id, const app::Esito &esito) {
         strati_->aggiorna();
     }
     quadro_->aggiorna();
-    passi_->annota(id, id == NESSUN_CONTROLLO ? std::exchange(ponte_.passo, {}) : NomeUmano(s_, id),
+    passi_->annota(id, id == NESSUN_CONTROLLO ? std::exchange(ponte_.passo, {}) : ponte_.nome(id),
                    segue && (campo(id) || nome == "cmdRun"));
     titolo();
     for (const char *figura : {"Picture2", "Picture3"}) ponte_.widget(figura)->update();

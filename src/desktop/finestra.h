@@ -59,6 +59,7 @@ protected:
 
 private:
     void costruisciMenu();
+    void nomina();
     void piegaBarra();
     void costruisciVista(QMenu *vedi);
     void costruisciBarra();
@@ -69,6 +70,7 @@ private:
     void chiediVivo();
     [[nodiscard]] bool vivo_acceso() const;
     void primaDiEsegui();
+    void conAttesa();
     void dopoEsegui();
     void soleDelGiorno();
     void interrotto(bool memoria);

@@ -85,7 +85,8 @@ void Finestra::costruisciMenu() {
     nostro(modifica, "copiaSvg", [this] { copia(true); });
 
     QMenu *quadrante = menuBar()->addMenu(ponte_.Traduci("&Quadrante"));
-    for (const std::string_view nome : {"cmdRun", "cmdEqui", "cmdData", "cmdTrasforma", "Tavolo1.cmdPulisci"}) bottone(quadrante, nome);
+    for (const std::string_view nome : {"cmdRun", "cmdEqui", "cmdData", "cmdTrasforma", "Tavolo1.cmdPulisci"})
+        bottone(quadrante, nome);
     quadrante->addSeparator();
     nostro(quadrante, "scegliPagine", [this] {
         ponte_.passo = ponte_.Traduci("Pagina scelta");
@@ -118,7 +119,11 @@ void Finestra::costruisciMenu() {
     barra_->insertActions(davanti, {annulla, rifai});
     barra_->insertSeparator(davanti);
     for (QAction *a : {primo, apri, salvare, annulla, rifai}) {
-        const std::string nome = a == annulla ? "annulla" : a == rifai ? "ripeti" : a == primo ? "nuovo" : a == apri ? "mnuApri" : "mnuSalva";
+        const std::string nome = a == annulla ? "annulla"
+                                 : a == rifai ? "ripeti"
+                                 : a == primo ? "nuovo"
+                                 : a == apri  ? "mnuApri"
+                                              : "mnuSalva";
         a->setToolTip(Leggibile(a->text().remove(QLatin1Char('&')).toStdString()) + TastiDi(nome));
     }
 }
@@ -198,7 +203,8 @@ void Finestra::costruisciBarra() {
     for (const std::string_view nome : {"cmdEqui", "cmdTrasforma", "cmdData"}) barra_->addWidget(ponte_.crea(nome, barra_));
     auto *adattaFoglio = new QPushButton(ponte_.Traduci("Adatta"), barra_);
     adattaFoglio->setObjectName(QStringLiteral("Adatta"));
-    adattaFoglio->setToolTip(ponte_.Traduci("Foglio e origine intorno alle quattro rette, con un margine di 2 cm") + TastiDi("Adatta"));
+    adattaFoglio->setToolTip(ponte_.Traduci("Foglio e origine intorno alle quattro rette, con un margine di 2 cm") +
+                             TastiDi("Adatta"));
     VestiBottone(adattaFoglio, "Adatta");
     connect(adattaFoglio, &QPushButton::clicked, this, [this] { adatta(); });
     barra_->addWidget(adattaFoglio);

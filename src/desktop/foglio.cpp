@@ -239,6 +239,7 @@ void Foglio::mouseMoveEvent(QMouseEvent *e) {
 }
 
 void Foglio::mouseReleaseEvent(QMouseEvent *e) {
+    if (e->button() == Qt::RightButton && suDestro) suDestro(e->position());
     const bool clic = premuto_ && !trascina_ && e->button() == Qt::LeftButton;
     premuto_.reset();
     trascina_ = false;

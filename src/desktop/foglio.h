@@ -46,7 +46,7 @@ public:
     void misura(bool si);
     void lente(bool si);
 
-    std::function<void(const QPointF &)> suClic;              // a point of the picture
+    std::function<void(const QPointF &)> suClic, suDestro;    // a point of the picture; of the other button
     std::function<void(std::optional<QPointF>)> suPosizione;  // world millimetres under the pointer
     std::function<void(const QPointF &)> suSotto;             // world metres as painted
     std::function<void(const Vista &)> suDipinto;

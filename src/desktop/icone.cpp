@@ -99,7 +99,8 @@ QPainterPath figura(const QXmlStreamReader &x) {
     if (x.name() == QLatin1String("path")) return PercorsoSvg(x.attributes().value(QLatin1String("d")).toString());
     if (x.name() == QLatin1String("circle")) p.addEllipse(QPointF(n("cx"), n("cy")), n("r"), n("r"));
     else if (x.name() == QLatin1String("ellipse")) p.addEllipse(QPointF(n("cx"), n("cy")), n("rx"), n("ry"));
-    else if (x.name() == QLatin1String("rect")) p.addRoundedRect(QRectF(n("x"), n("y"), n("width"), n("height")), n("rx"), n("rx"));
+    else if (x.name() == QLatin1String("rect"))
+        p.addRoundedRect(QRectF(n("x"), n("y"), n("width"), n("height")), n("rx"), n("rx"));
     else if (x.name() == QLatin1String("line")) p.moveTo(n("x1"), n("y1")), p.lineTo(n("x2"), n("y2"));
     return p;
 }
@@ -121,10 +122,10 @@ public:
     Motore(std::string nome, Fondo fondo) : nome_(std::move(nome)), fondo_(fondo) {}
     void paint(QPainter *p, const QRect &r, QIcon::Mode modo, QIcon::State) override {
         const QPalette tinte = QGuiApplication::palette();
-        const QColor c = modo == QIcon::Disabled      ? tinte.color(QPalette::Disabled, QPalette::ButtonText)
-                         : fondo_ == Fondo::Accento   ? tinte.color(QPalette::HighlightedText)
-                         : modo == QIcon::Selected    ? tinte.color(QPalette::HighlightedText)
-                                                      : tinte.color(QPalette::ButtonText);
+        const QColor c = modo == QIcon::Disabled    ? tinte.color(QPalette::Disabled, QPalette::ButtonText)
+                         : fondo_ == Fondo::Accento ? tinte.color(QPalette::HighlightedText)
+                         : modo == QIcon::Selected  ? tinte.color(QPalette::HighlightedText)
+                                                    : tinte.color(QPalette::ButtonText);
         p->save();
         p->setRenderHint(QPainter::Antialiasing);
         p->translate(r.topLeft());

@@ -14,7 +14,8 @@ enum class Fondo : std::uint8_t { Finestra, Accento };
 // By its name in the set; an empty icon for a name that is not there.
 [[nodiscard]] QIcon IconaDi(std::string_view nome, Fondo fondo = Fondo::Finestra);
 
-// The path of an SVG's "d": commands MLHVCSQTAZ and their relatives. Arcs of circles and upright ellipses. What can't be read ends it.
+// The path of an SVG's "d": commands MLHVCSQTAZ and their relatives. Arcs of circles and upright ellipses. What can't be read
+// ends it.
 [[nodiscard]] QPainterPath PercorsoSvg(const QString &d);
 
 }  // namespace ombrelia::desktop

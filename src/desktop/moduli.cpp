@@ -288,6 +288,9 @@ void Moduli::informazioni() {
     giu->addWidget(titolo, 0, Qt::AlignHCenter);
     giu->addLayout(fila);
     giu->addWidget(metti("lblDescription"), 0, Qt::AlignHCenter);
+    auto *crediti = new QLabel(ponte_.Traduci("Città: GeoNames (CC BY 4.0). Confini: Natural Earth. Icone: Lucide (ISC)."), w);
+    crediti->setTextFormat(Qt::PlainText);
+    giu->addWidget(crediti, 0, Qt::AlignHCenter);
     auto *sistema = new QLabel(w);
     sistema->setVisible(false);
     sistema->setTextInteractionFlags(Qt::TextSelectableByMouse);

@@ -4,6 +4,7 @@
 #include <QColorDialog>
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QMenu>
 #include <QPushButton>
 #include <QSignalBlocker>
 #include <QSpinBox>
@@ -46,7 +47,7 @@ PannelloStrati::PannelloStrati(Ponte &ponte, Foglio &foglio, QWidget *genitore)
     giu->addWidget(albero_, 1);
     auto *fila = new QHBoxLayout;
     auto *colore = new QPushButton(ponte.Traduci("Colore..."), this);
-    auto *spesso = new QSpinBox(this);
+    auto *spesso = spesso_ = new QSpinBox(this);
     spesso->setRange(0, 9);
     spesso->setSpecialValueText(ponte.Traduci("spessore suo"));
     spesso->setPrefix(ponte.Traduci("spessore") + QLatin1Char(' '));
@@ -61,7 +62,7 @@ PannelloStrati::PannelloStrati(Ponte &ponte, Foglio &foglio, QWidget *genitore)
         if (riempiendo_ || !v) return;
         const auto chi = chiave(v);
         const QSignalBlocker zitto(spesso);
-        spesso->setValue(foglio_.stile().strati[chi.first].spessore);
+        spesso->setValue((v->data(0, LINEA).toBool() ? foglio_.stile().tratto(chi) : foglio_.stile().strati[chi.first]).spessore);
         StileFoglio s = foglio_.stile();
         s.scelta.reset();
         if (v->data(0, LINEA).toBool()) s.scelta = chi;
@@ -80,6 +81,8 @@ void PannelloStrati::vesti(bool scuro) {
     s.scuro = scuro;
     for (std::size_t i = 0; i < STRATI; ++i)
         if (!s.strati[i].mio) s.strati[i].colore = nuovi.strati[i].colore;
+    for (auto &[chi, tratto] : s.sue)
+        if (!tratto.mio) tratto.colore = nuovi.strati[chi.first].colore;
     applica(s);
     aggiorna();
 }
@@ -135,6 +138,8 @@ void PannelloStrati::riempi() {
         linea->setData(0, VALORE, l.valore);
         linea->setData(0, LINEA, true);
         linea->setTextAlignment(1, Qt::AlignRight);
+        if (const auto i = stile.sue.find({l.strato, l.valore}); i != stile.sue.end() && i->second.mio)
+            linea->setIcon(0, campione(TintaDi(i->second.colore)));
         linea->setCheckState(0, stile.nascoste.contains({l.strato, l.valore}) ? Qt::Unchecked : Qt::Checked);
         if (stile.scelta == std::pair{l.strato, l.valore}) albero_->setCurrentItem(linea);
     }
@@ -152,25 +157,69 @@ void PannelloStrati::spuntata(QTreeWidgetItem *voce) {
     applica(s);
 }
 
+StileFoglio::Tratto &PannelloStrati::corrente(StileFoglio &s) const {
+    const QTreeWidgetItem *v = albero_->currentItem();
+    const auto chi = chiave(v);
+    if (!v->data(0, LINEA).toBool()) return s.strati[chi.first];
+    return s.sue.try_emplace(chi, s.strati[chi.first]).first->second;
+}
+
 void PannelloStrati::colora() {
     const QTreeWidgetItem *v = albero_->currentItem();
     if (!v) return;
     StileFoglio s = foglio_.stile();
-    const std::size_t i = chiave(v).first;
-    const QColor c = QColorDialog::getColor(TintaDi(s.strati[i].colore), this, NomeStrato(ponte_.sessione(), i));
+    StileFoglio::Tratto &t = corrente(s);
+    const QColor c = QColorDialog::getColor(TintaDi(t.colore), this, v->text(0));
     if (!c.isValid()) return;
-    s.strati[i].colore = static_cast<Colore>(c.red() | (c.green() << 8) | (c.blue() << 16));
-    s.strati[i].mio = true;
+    t.colore = static_cast<Colore>(c.red() | (c.green() << 8) | (c.blue() << 16));
+    t.mio = true;
     applica(s);
     riempi();
 }
 
 void PannelloStrati::ingrossa(int spessore) {
-    const QTreeWidgetItem *v = albero_->currentItem();
-    if (!v) return;
+    if (!albero_->currentItem()) return;
     StileFoglio s = foglio_.stile();
-    s.strati[chiave(v).first].spessore = spessore;
+    corrente(s).spessore = spessore;
     applica(s);
+}
+
+void PannelloStrati::menu(const QPoint &globale) {
+    riempi();  // the chosen line becomes the current one
+    auto *m = new QMenu(this);
+    m->setAttribute(Qt::WA_DeleteOnClose);
+    const auto voce = [&](std::string_view testo, auto azione) {
+        QAction *a = m->addAction(ponte_.Traduci(testo), this, azione);
+        a->setObjectName(Q(testo));
+    };
+    if (const auto scelta = foglio_.stile().scelta) {
+        m->addSection(NomeLinea(ponte_.sessione(), scelta->first, scelta->second));
+        voce("Nascondi la linea"_it, [this, chi = *scelta] {
+            StileFoglio s = foglio_.stile();
+            s.nascoste.insert(chi);
+            s.scelta.reset();
+            applica(s);
+            riempi();
+        });
+        voce("Colore..."_it, [this] { colora(); });
+        QMenu *spessori = m->addMenu(ponte_.Traduci("spessore"));
+        for (int n = 0; n <= 4; ++n)
+            spessori->addAction(n == 0 ? ponte_.Traduci("spessore suo") : QString::number(n), this, [this, n] { ingrossa(n); });
+    }
+    voce("Mostra tutte le linee"_it, [this] {
+        StileFoglio s = foglio_.stile();
+        s.nascoste.clear();
+        for (StileFoglio::Tratto &t : s.strati) t.nascosto = false;
+        applica(s);
+        riempi();
+    });
+    voce("Aspetto come disegnato"_it, [this] {
+        StileFoglio s = StileDi(foglio_.stile().scuro);
+        s.scelta = foglio_.stile().scelta;
+        applica(s);
+        riempi();
+    });
+    m->popup(globale);
 }
 
 void PannelloStrati::scegli(const std::optional<Linea> &linea) {

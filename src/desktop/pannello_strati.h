@@ -6,6 +6,7 @@
 #include "desktop/foglio.h"
 #include "desktop/ponte.h"
 
+class QSpinBox;
 class QTreeWidget;
 class QTreeWidgetItem;
 
@@ -19,6 +20,8 @@ public:
     void aggiorna();
     // Chooses a line on the sheet and in the list; none clears the choice.
     void scegli(const std::optional<Linea> &linea);
+    // What can be done with the chosen line, as a menu; with none, what can be done with them all.
+    void menu(const QPoint &globale);
     // Looks of a theme; what the user hid and widened stays.
     void vesti(bool scuro);
     // Where the chosen line lies, world metres as painted.
@@ -31,6 +34,8 @@ private:
     void riempi();
     void spuntata(QTreeWidgetItem *voce);
     void colora();
+    // The looks of what is current in the list, a layer or a line, for a change.
+    [[nodiscard]] StileFoglio::Tratto &corrente(StileFoglio &stile) const;
     void ingrossa(int spessore);
     void applica(const StileFoglio &stile);
     void mostraLegenda();
@@ -38,6 +43,7 @@ private:
     Ponte &ponte_;
     Foglio &foglio_;
     QTreeWidget *albero_;
+    QSpinBox *spesso_;
     bool riempiendo_ = false, vecchio_ = true;
 };
 

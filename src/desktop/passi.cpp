@@ -145,14 +145,4 @@ void Passi::rimetti(const std::shared_ptr<Istantanea> &i) {
     rimesso_(!i->disegno);
 }
 
-QString NomeUmano(Sessione &s, IdControllo id) {
-    const auto tavola = TavolaControlli();
-    auto k = static_cast<std::size_t>(id);
-    if (tavola[k].classe == Classe::Testo || tavola[k].classe == Classe::Elenco)
-        while (k > 0 && s.stato(static_cast<IdControllo>(k)).caption.empty()) --k;
-    QString nome = Q(s.stato(static_cast<IdControllo>(k)).caption).simplified();
-    while (nome.endsWith(QLatin1Char('=')) || nome.endsWith(QLatin1Char(':')) || nome.endsWith(QLatin1Char(' '))) nome.chop(1);
-    return nome;
-}
-
 }  // namespace ombrelia::desktop

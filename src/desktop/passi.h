@@ -33,7 +33,4 @@ private:
     std::shared_ptr<Istantanea> ora_;
 };
 
-// A control's name as its user reads it: its caption, or that of the label before it.
-[[nodiscard]] QString NomeUmano(Sessione &s, IdControllo id);
-
 }  // namespace ombrelia::desktop

@@ -17,7 +17,6 @@
 #include "desktop/campo.h"
 #include "desktop/comandi.h"
 #include "desktop/dialoghi.h"
-#include "desktop/passi.h"
 
 namespace ombrelia::desktop {
 
@@ -62,6 +61,16 @@ QString Ponte::didascalia(IdControllo id) const {
     const Aiuto *a = TrovaAiuto(id);
     const std::string &sua = s_.stato(id).caption;
     return a && !a->umano.empty() && sua == s_.Traduci(RigaDi(id).caption) ? Traduci(a->umano) : Leggibile(sua);
+}
+
+QString Ponte::nome(IdControllo id) const {
+    auto k = static_cast<std::size_t>(id);
+    const Classe classe = riga(id).classe;
+    if (classe == Classe::Testo || classe == Classe::Elenco)
+        while (k > 0 && s_.stato(static_cast<IdControllo>(k)).caption.empty()) --k;
+    QString n = didascalia(static_cast<IdControllo>(k)).simplified();
+    while (n.endsWith(QLatin1Char('=')) || n.endsWith(QLatin1Char(':')) || n.endsWith(QLatin1Char(' '))) n.chop(1);
+    return n.isEmpty() ? nomeOggetto(riga(id)) : n;
 }
 
 app::Esito Ponte::svolgi(IdControllo id, const std::function<app::Esito()> &azione) {
@@ -156,9 +165,6 @@ QWidget *Ponte::crea(std::string_view nome, QWidget *genitore) {
     collega(id, w);
     legami_.push_back({id, w, nullptr});
     mostra(legami_.back());
-    // For those who hear the window: a button says its text itself.
-    if (qobject_cast<QLineEdit *>(w) || qobject_cast<QComboBox *>(w)) w->setAccessibleName(NomeUmano(s_, id));
-    else if (qobject_cast<QAbstractButton *>(w)) w->setAccessibleName(didascalia(id));
     return w;
 }
 
@@ -217,6 +223,9 @@ void Ponte::mostra(const Legame &l) {
         const QString testo = Q(s_.testo(l.id)).replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
         if (p->toPlainText() != testo) p->setPlainText(testo);
     }
+    // For those who hear the window.
+    if (const QString detto = nome(l.id); w->focusPolicy() != Qt::NoFocus && w->accessibleName() != detto)
+        w->setAccessibleName(detto);
     const QString aiuto = Suggerimento(s_, l.id);
     if (w->toolTip() != aiuto && !(aiuto.isEmpty() && RigaDi(l.id).toolTip.empty())) w->setToolTip(aiuto);
     if (w->isEnabled() != stato.abilitato && RigaDi(l.id).classe != Classe::Cornice) w->setEnabled(stato.abilitato);

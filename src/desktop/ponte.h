@@ -57,6 +57,8 @@ public:
     [[nodiscard]] Sessione &sessione() { return s_; }
     // What the window calls a control: its maker's word for it, or its caption.
     [[nodiscard]] QString didascalia(IdControllo id) const;
+    // A control's name as its user reads it: that, or that of the label before it.
+    [[nodiscard]] QString nome(IdControllo id) const;
     // Through the dictionary.
     [[nodiscard]] QString Traduci(std::string_view testo) const;
 

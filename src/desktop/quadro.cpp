@@ -66,6 +66,10 @@ Quadro::Quadro(Ponte &ponte, QWidget *genitore) : QWidget(genitore), ponte_(pont
         {pannello("picPrint", {{"optAll"}, {"optSelected"}, {"cmdPOk", "cmdPCancel"}}), findChild<QWidget *>("cmdStampa")},
     };
     foglio_->suClic = [this](const QPointF &punto) { clic(punto); };
+    foglio_->suDestro = [this](const QPointF &punto) {
+        if (suLinea) suLinea(foglio_->sulFoglio(punto) ? lineaPresso(foglio_->suMondo(punto)) : std::nullopt);
+        if (suMenu) suMenu(foglio_->viewport()->mapToGlobal(punto.toPoint()));
+    };
     foglio_->suSotto = [this](const QPointF &mondo) { sotto(mondo); };
     foglio_->testoMisura = [](double mm, double gradi) {
         return QStringLiteral("%1 mm   %2°").arg(mm, 0, 'f', 1).arg(gradi, 0, 'f', 1);

@@ -26,6 +26,7 @@ public:
 
     std::function<void()> suAdatta;
     std::function<void(const std::optional<Linea> &)> suLinea;  // a line was pressed, or none
+    std::function<void(const QPoint &)> suMenu;                 // a menu is asked for there, of the chosen line
 
 protected:
     void resizeEvent(QResizeEvent *e) override;

@@ -84,9 +84,9 @@ StileFoglio StileDi(bool scuro) {
 }
 
 bool Ritoccato(const StileFoglio &stile) {
-    return !stile.nascoste.empty() || std::any_of(stile.strati.begin(), stile.strati.end(), [](const StileFoglio::Tratto &t) {
-        return t.nascosto || t.mio || t.spessore > 0;
-    });
+    return !stile.nascoste.empty() || !stile.sue.empty() ||
+           std::any_of(stile.strati.begin(), stile.strati.end(),
+                       [](const StileFoglio::Tratto &t) { return t.nascosto || t.mio || t.spessore > 0; });
 }
 
 Tavolo::Disegno Vesti(const Tavolo &t, const StileFoglio &stile, bool perCarta) {
@@ -114,8 +114,8 @@ Tavolo::Disegno Vesti(const Tavolo &t, const StileFoglio &stile, bool perCarta) 
     };
     percorri(l, [&](char tipo, std::size_t k, const Pretesa *p) {
         const auto chi = chiave(p);
-        const StileFoglio::Tratto &tratto = stile.strati[chi.first];
-        const bool via = tratto.nascosto || (!stile.nascoste.empty() && stile.nascoste.contains(chi));
+        const StileFoglio::Tratto &tratto = stile.tratto(chi);
+        const bool via = stile.strati[chi.first].nascosto || (!stile.nascoste.empty() && stile.nascoste.contains(chi));
         const bool scelta = !perCarta && stile.scelta == chi, tinge = !perCarta || tratto.mio;
         if (tipo == 'L') {
             if (via) return;

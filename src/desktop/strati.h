@@ -7,6 +7,7 @@
 #include <QRectF>
 #include <QString>
 #include <array>
+#include <map>
 #include <optional>
 #include <set>
 #include <vector>
@@ -30,8 +31,15 @@ struct StileFoglio {
     bool scuro = false;
     std::array<Tratto, STRATI> strati{};
     std::set<std::pair<std::size_t, double>> nascoste;     // single lines: layer and value
+    std::map<std::pair<std::size_t, double>, Tratto> sue;  // those with looks of their own
     std::optional<std::pair<std::size_t, double>> scelta;  // the chosen line
     bool operator==(const StileFoglio &) const = default;
+
+    // The looks of a line, its own or its layer's.
+    [[nodiscard]] const Tratto &tratto(const std::pair<std::size_t, double> &chi) const {
+        const auto i = sue.find(chi);
+        return i == sue.end() ? strati[chi.first] : i->second;
+    }
 };
 
 // The calm palette: few colours, told apart by the colour-blind too, each at least 3 to 1 against its sheet.

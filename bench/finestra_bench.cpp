@@ -82,5 +82,19 @@ int main(int argc, char **argv) {
     f.ponte().sincronizza();
     tasti(f, "key, universal dial", "txtLAT");
     f.findChild<QAbstractButton *>("disegnaMentreScrivi")->setChecked(false);
+
+    // What the pointer reads, over the whole sheet.
+    std::vector<double> letture;
+    desktop::Foglio &foglio = f.quadro().foglio();
+    const QSize misura = foglio.viewport()->size();
+    for (int x = 20; x < misura.width(); x += 13)
+        for (int y = 20; y < misura.height(); y += 17) {
+            QElapsedTimer orologio;
+            orologio.start();
+            foglio.suSotto(foglio.suMondo(QPointF(x, y)));
+            letture.push_back(static_cast<double>(orologio.nsecsElapsed()) / 1e6);
+        }
+    std::printf("%-28s median %6.2f ms   worst %6.2f ms\n", "hover read-out", mediana(letture),
+                *std::max_element(letture.begin(), letture.end()));
     return 0;
 }

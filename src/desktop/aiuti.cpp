@@ -185,7 +185,6 @@ constexpr Aiuto TAVOLA[] = {
     {"frmDeclin.txtResult", {}, "Il risultato, riga per riga"_it},
 };
 
-
 // Answers in a widget's place.
 class Guida final : public QObject {
 public:

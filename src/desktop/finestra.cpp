@@ -312,6 +312,21 @@ std::string Finestra::improntaProgetto() const {
     return t;
 }
 
+// One line a control of the table, then the sheet's numbers: what differs, by the names of the window.
+QString Finestra::cambiati() const {
+    const QStringList prima = Q(salvato_).split(QLatin1Char('\n')), ora = Q(improntaProgetto()).split(QLatin1Char('\n'));
+    const auto controlli = static_cast<qsizetype>(TavolaControlli().size());
+    constexpr qsizetype QUANTI = 5;
+    QStringList nomi;
+    for (qsizetype i = 0; i < ora.size() && nomi.size() <= QUANTI; ++i) {
+        if (ora.at(i) == prima.value(i)) continue;
+        const QString nome = i < controlli ? ponte_.nome(static_cast<IdControllo>(i)) : ponte_.Traduci("Foglio");
+        if (!nomi.contains(nome)) nomi << nome;
+    }
+    if (nomi.size() > QUANTI) nomi.back() = QStringLiteral("…");
+    return nomi.join(QStringLiteral(", "));
+}
+
 bool Finestra::modificato() const { return improntaProgetto() != salvato_; }
 
 void Finestra::titolo() {
@@ -392,10 +407,11 @@ void Finestra::messaggio(const QString &testo) {
 
 void Finestra::closeEvent(QCloseEvent *e) {
     if (modificato() ? !lasciaAndare() : !app::ChiudiTavolo(s_)) return e->ignore();
+    // What this window's user didn't touch is left as another window may have set it.
     QSettings ricordi;
-    ricordi.setValue(QLatin1String(GEOMETRIA), saveGeometry());
-    ricordi.setValue(QLatin1String(STATO), saveState());
-    ricordi.setValue(QLatin1String(VIVO), vivoAcceso_->isChecked());
+    for (const auto &[nome, ora, allora] :
+         {std::tuple{GEOMETRIA, saveGeometry(), primaGeometria_}, std::tuple{STATO, saveState(), primoStato_}})
+        if (ora != allora) ricordi.setValue(QLatin1String(nome), ora);
     vivo_->ferma();
     ripresa_.lascia();
     QMainWindow::closeEvent(e);

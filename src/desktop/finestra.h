@@ -47,6 +47,8 @@ public:
     void offriRipresa(const QString &percorso);
     // A whole dial to begin with, drawn as it is changed; only on an empty sheet.
     void primoQuadrante();
+    // What differs, by names; empty when nothing does.
+    [[nodiscard]] QString cambiati() const;
     // True when the fields or the sheet differ from what was opened or saved last.
     [[nodiscard]] bool modificato() const;
     // The open project's path; empty before it was saved.
@@ -120,6 +122,7 @@ private:
     int barraLarga_ = 0;  // with its texts
     QCheckBox *vivoAcceso_ = nullptr, *pulisciPrima_ = nullptr;
     std::string salvato_, improntaCampi_;
+    QByteArray primaGeometria_, primoStato_;  // as the window was first seen
     QString percorso_;
     std::unique_ptr<Passi> passi_;
     Tavolo scorta_;  // the drawing that a run replaces, until the run has drawn

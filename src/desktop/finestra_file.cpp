@@ -29,7 +29,8 @@ constexpr int RECENTI_MASSIMI = 8;
 bool Finestra::lasciaAndare() {
     if (!modificato()) return true;
     const QString nome = percorso_.isEmpty() ? ponte_.Traduci("Senza nome") : QFileInfo(percorso_).fileName();
-    switch (dialoghi_.salvaPrima(this, nome + QStringLiteral(": ") + ponte_.Traduci("Il progetto è cambiato. Vuoi salvarlo?"))) {
+    switch (dialoghi_.salvaPrima(this, nome + QStringLiteral(": ") + ponte_.Traduci("Il progetto è cambiato. Vuoi salvarlo?") +
+                                           QLatin1Char('\n') + ponte_.Traduci("Non salvati:") + QLatin1Char(' ') + cambiati())) {
         case Salvataggio::Annulla:
             return false;
         case Salvataggio::Scarta:

@@ -8,6 +8,7 @@
 #include <QMimeData>
 #include <QPushButton>
 #include <QSettings>
+#include <QTimer>
 #include <QToolBar>
 #include <QWhatsThis>
 
@@ -93,7 +94,7 @@ void Finestra::costruisciMenu() {
         ponte_.fai(NESSUN_CONTROLLO, [this] { s_.tavolo.ScegliPiene(); });
     });
     nostro(quadrante, "Adatta", [this] { adatta(); });
-    QAction *segue = nostro(quadrante, "vivo", [this] { vivoAcceso_->toggle(); });
+    QAction *segue = nostro(quadrante, "vivo", [this] { vivoAcceso_->click(); });
     segue->setCheckable(true);
     connect(vivoAcceso_, &QCheckBox::toggled, segue, &QAction::setChecked);
 
@@ -197,6 +198,7 @@ void Finestra::costruisciBarra() {
         if (acceso) chiediVivo();
         else vivo_->ferma();
     });
+    connect(vivoAcceso_, &QCheckBox::clicked, this, [](bool si) { QSettings().setValue(QLatin1String(VIVO), si); });
     pulisciPrima_ = interruttore(ponte_.Traduci("Pulisci prima di Esegui"),
                                  ponte_.Traduci("Senza, ogni esecuzione si aggiunge a quello che c'è"), PULISCI);
     barra_->addSeparator();
@@ -241,6 +243,11 @@ void Finestra::resizeEvent(QResizeEvent *e) {
 void Finestra::showEvent(QShowEvent *e) {
     QMainWindow::showEvent(e);
     piegaBarra();
+    if (e->spontaneous() || !primoStato_.isEmpty()) return;
+    QTimer::singleShot(0, this, [this] {
+        primaGeometria_ = saveGeometry();
+        primoStato_ = saveState();
+    });
 }
 
 // The way from a place to paper: each step opens its group.

@@ -65,12 +65,12 @@ QString Ponte::didascalia(IdControllo id) const {
 
 QString Ponte::nome(IdControllo id) const {
     auto k = static_cast<std::size_t>(id);
-    const Classe classe = riga(id).classe;
+    const Classe classe = RigaDi(id).classe;
     if (classe == Classe::Testo || classe == Classe::Elenco)
         while (k > 0 && s_.stato(static_cast<IdControllo>(k)).caption.empty()) --k;
     QString n = didascalia(static_cast<IdControllo>(k)).simplified();
     while (n.endsWith(QLatin1Char('=')) || n.endsWith(QLatin1Char(':')) || n.endsWith(QLatin1Char(' '))) n.chop(1);
-    return n.isEmpty() ? nomeOggetto(riga(id)) : n;
+    return n.isEmpty() ? nomeOggetto(RigaDi(id)) : n;
 }
 
 app::Esito Ponte::svolgi(IdControllo id, const std::function<app::Esito()> &azione) {

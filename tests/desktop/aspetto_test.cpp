@@ -3,6 +3,7 @@
 #include <QAbstractButton>
 #include <QAbstractItemModel>
 #include <QAbstractItemView>
+#include <QComboBox>
 #include <QCompleter>
 #include <QDockWidget>
 #include <QElapsedTimer>
@@ -14,6 +15,8 @@
 #include <QRegularExpression>
 #include <QScrollArea>
 #include <QSettings>
+#include <QSpinBox>
+#include <QTabBar>
 #include <QTimer>
 #include <QTreeWidget>
 #include <QWheelEvent>
@@ -249,6 +252,8 @@ TEST(Aspetto, ALongRunIsStopped) {
 std::set<QString> testi(BancoFinestra &b) {
     for (const char *modulo : {"mnuAusiliaria", "frmDeclin.cmdInfo", "M_about", "mnuAvviso", "cmdData"})
         b.f.ponte().premi(modulo);  // forms are translated when they open
+    for (const char *comando : {"esempi", "perMacchina"})
+        if (auto *a = b.f.findChild<QAction *>(QStringLiteral("comando.") + QString::fromLatin1(comando))) a->trigger();
     for (const Modulo &m : TavolaModuli()) app::CaricaForm(b.s(), m.nome);
     b.f.ponte().sincronizza();
     QWidget &f = b.f;
@@ -274,6 +279,14 @@ std::set<QString> testi(BancoFinestra &b) {
         if (const auto *g = qobject_cast<QGroupBox *>(o)) prendi(g->title());
         if (const auto *d = qobject_cast<QDockWidget *>(o)) prendi(d->windowTitle());
         if (const auto *e = qobject_cast<QLineEdit *>(o)) prendi(e->placeholderText());
+        if (const auto *n = qobject_cast<QSpinBox *>(o)) prendi(n->prefix() + n->suffix()), prendi(n->specialValueText());
+        if (const auto *w = qobject_cast<QWidget *>(o); w && w->isWindow()) prendi(w->windowTitle());
+        if (const auto *s = qobject_cast<QTabBar *>(o))
+            for (int i = 0; i < s->count(); ++i) prendi(s->tabText(i));
+        if (const auto *c = qobject_cast<QComboBox *>(o); c && c->objectName() != QStringLiteral("cmbStati"))
+            for (int i = 0; i < c->count(); ++i) prendi(c->itemText(i));
+        if (const auto *t = qobject_cast<QAbstractItemView *>(o); t && t->model())
+            for (int i = 0; i < t->model()->columnCount(); ++i) prendi(t->model()->headerData(i, Qt::Horizontal).toString());
     };
     oggetto(&f);
     for (QObject *o : f.findChildren<QObject *>()) oggetto(o);

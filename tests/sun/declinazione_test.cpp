@@ -80,8 +80,8 @@ protected:
     app::Esito scrivi(const std::string &nome, const std::string &t) { return app::Imposta(b.s, id(nome), t); }
     app::Esito premi(const std::string &nome) { return app::Premi(b.s, id(nome)); }
     std::string parti(bool lon) {
-        return b.s.stato(id(lon ? "cmdSign(1)" : "cmdSign(0)")).caption + testo(lon ? "txtLonG" : "txtLatG") +
-               " " + testo(lon ? "txtLonP" : "txtLatP") + " " + testo(lon ? "txtLonS" : "txtLATS");
+        return b.s.stato(id(lon ? "cmdSign(1)" : "cmdSign(0)")).caption + testo(lon ? "txtLonG" : "txtLatG") + " " +
+               testo(lon ? "txtLonP" : "txtLatP") + " " + testo(lon ? "txtLonS" : "txtLATS");
     }
 };
 

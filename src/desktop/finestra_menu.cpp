@@ -8,6 +8,7 @@
 #include <QMimeData>
 #include <QPushButton>
 #include <QSettings>
+#include <QShowEvent>
 #include <QTimer>
 #include <QToolBar>
 #include <QWhatsThis>

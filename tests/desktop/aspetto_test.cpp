@@ -261,7 +261,8 @@ std::set<QString> testi(BancoFinestra &b) {
     const auto prendi = [&t](const QString &x) {
         QString s = x;
         s.remove(QLatin1Char('&'));
-        static const QRegularExpression didascalia(QStringLiteral("«[^»]*»"));  // the system's own, as it stands
+        static const QRegularExpression didascalia(
+            QStringLiteral("«[^»]*»|\\(\\.\\w+\\)"));  // the system's own, as it stands; a file's ending
         s.remove(didascalia);
         s = s.simplified();
         static const QRegularExpression parola(QStringLiteral("[a-zà-ù]{3}"));

@@ -27,6 +27,8 @@ void AggiungiNumero(std::string &testo, double numero);
 // 17 significant digits, as "%.17g" prints them: the form of the display list.
 void AggiungiNumero17(std::string &testo, double numero);
 
+// Whether a byte is a control character; none goes into a file of lines, cells or marks.
+[[nodiscard]] constexpr bool CarattereDiControllo(char c) { return static_cast<unsigned char>(c) < ' ' || c == '\x7F'; }
 [[nodiscard]] std::string SenzaBlanks(std::string_view testo);                    // without leading and trailing blanks
 [[nodiscard]] bool UguaglianzaSenzaCaso(std::string_view a, std::string_view b);  // ASCII letters
 

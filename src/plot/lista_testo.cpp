@@ -1,6 +1,7 @@
 // The display list as plain text.
 #include "plot/lista_testo.h"
 
+#include <algorithm>
 #include <initializer_list>
 
 #include "core/testo.h"
@@ -40,7 +41,7 @@ public:
         t += 'T';
         numeri({r.X, r.Y});
         t += "\t\t";
-        t += r.Testo;
+        testo(r.Testo);
         t += '\n';
     }
 
@@ -75,10 +76,16 @@ private:
             t += std::to_string(v);
         }
     }
+    // Names and texts come from dictionaries and fields: a control character would make records of its own.
+    void testo(std::string_view scritto) {
+        const std::size_t qui = t.size();
+        t += scritto;
+        std::replace_if(t.begin() + static_cast<std::ptrdiff_t>(qui), t.end(), CarattereDiControllo, ' ');
+    }
     void fine(std::initializer_list<std::int32_t> valori, IdNome id) {
         interi(valori);
         t += '\t';
-        t += lista.nomi.testo(id);
+        testo(lista.nomi.testo(id));
         t += '\n';
     }
 

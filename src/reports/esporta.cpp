@@ -39,7 +39,7 @@ std::string pieno(double x) {
 
 constexpr std::string_view BOM = "\xEF\xBB\xBF";  // tells spreadsheets that the file is UTF-8
 
-bool controllo(char c) { return (static_cast<unsigned char>(c) < ' ' && c != '\t') || c == '\x7F'; }
+bool controllo(char c) { return CarattereDiControllo(c) && c != '\t'; }
 
 // Whether all of a cell is a number: sign, digits, point, exponent.
 bool numero(std::string_view t) {

@@ -6,6 +6,7 @@
 #include <limits>
 #include <utility>
 
+#include "comuni/prova.h"
 #include "plot/lista_testo.h"
 #include "registratore.h"
 
@@ -136,6 +137,16 @@ TEST(Tavolo, TestiDiCentoLettere) {
     d.atti.clear();
     t.Refresh();
     EXPECT_EQ(d.atti[1], "T 0 0 0 " + std::string(100, 'a'));
+}
+
+TEST(Tavolo, IlTestoDellaListaTieneUnRecordPerRiga) {
+    Tavolo a;
+    a.Dati("uno\ndue\ttre\x7F", 0.0, 0.0);
+    a.xLine(0, 0, 0.1, 0.1, 0, "strato\r\nL\t9");
+    const auto righe = prova::Divisi(ListaTesto(a.lista()), '\n');
+    ASSERT_EQ(righe.size(), 3u);  // the last one is empty
+    EXPECT_TRUE(righe[0].ends_with("\tstrato  L 9")) << righe[0];
+    EXPECT_TRUE(righe[1].ends_with("\tuno due tre ")) << righe[1];
 }
 
 TEST(Tavolo, ClearTieneIlFoglio) {

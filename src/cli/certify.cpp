@@ -32,7 +32,7 @@ int Certify(int argc, char **argv) {
                            (a.starts_with("-") ? "unknown option " : "what is ") + a + "; see ombrelia certify --help");
         }
     }
-    SessioneDiComando comando(disegno.carta.value_or(Carta()));
+    SessioneDiComando comando(disegno.carta.value_or(CARTA_A4));
     Sessione &s = comando.s;
     if (const std::string e = disegno.Applica(s); !e.empty()) return Rifiuta("certify", e);
     if (const std::string e = disegno.Esegui(s); !e.empty()) return Rifiuta("certify", e);

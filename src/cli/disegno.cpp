@@ -11,14 +11,6 @@ namespace ombrelia::cli {
 
 namespace {
 
-constexpr double POLLICE = 25.4, UNITA_AL_POLLICE = 1440;
-
-struct NomeCarta {
-    std::string_view nome;
-    double larghezza, altezza;  // device units
-};
-constexpr NomeCarta CARTE[] = {{"a4", 11906, 16838}, {"a3", 16838, 23811}, {"letter", 12240, 15840}};
-
 std::string leggiMotore(const std::string &nome, std::string &motore) {
     for (const char *m : {"auto", "direct", "vertical", "analytic"})
         if (nome == m) return motore = nome, std::string();
@@ -37,15 +29,15 @@ std::string leggiFoglio(const Valori &v, std::array<double, 4> &foglio) {
 }  // namespace
 
 std::string LeggiCarta(std::string_view testo, Carta &carta) {
-    for (const NomeCarta &c : CARTE)
-        if (UguaglianzaSenzaCaso(testo, c.nome)) return carta = {c.larghezza, c.altezza}, std::string();
+    for (const CartaNota &c : CARTE_NOTE)
+        if (UguaglianzaSenzaCaso(testo, c.nome)) return carta = c.carta, std::string();
     const std::size_t per = std::min(testo.find_first_of("xX"), testo.size());
     double l = 0, h = 0;
     // From a card to the largest sheet.
     constexpr double MINIMO = 50, MASSIMO = Tavolo::LATO_MASSIMO * 1000;
     if (per < testo.size() && LeggiNumero(testo.substr(0, per), MINIMO, MASSIMO, l).empty() &&
         LeggiNumero(testo.substr(per + 1), MINIMO, MASSIMO, h).empty())
-        return carta = {l / POLLICE * UNITA_AL_POLLICE, h / POLLICE * UNITA_AL_POLLICE}, std::string();
+        return carta = {l / 1000, h / 1000}, std::string();
     return std::string(testo) + ": it is a4, a3, letter, or WxH in millimetres from 50 up, as in 210x297";
 }
 
@@ -55,10 +47,10 @@ void Disegno::opzioni(Opzioni &o) {
     o.righe.push_back(
         {"--sheet", 4, "four numbers: L H X Y", [this](const Valori &v) { return leggiFoglio(v, foglio.emplace()); }});
     o.righe.push_back(
-        {"--paper", 1, "a4, a3, letter or WxH", [this](const Valori &v) { return LeggiCarta(v[0], carta.emplace()); }});
+        {"--paper", 1, "a4, a3, letter or WxH", [this](const Valori &v) { return LeggiCarta(v[0], carta.emplace(CARTA_A4)); }});
 }
 
-SessioneDiComando::SessioneDiComando(const Carta &carta) : s(console, carta.larghezza, carta.altezza) { app::Avvia(s); }
+SessioneDiComando::SessioneDiComando(const Carta &carta) : s(console, carta.largaTwip(), carta.altaTwip()) { app::Avvia(s); }
 
 bool Disegno::Prendi(int argc, char **argv, int &i, std::string &errore) {
     Opzioni o;

@@ -21,10 +21,6 @@
 
 namespace ombrelia::cli {
 
-// A page of paper, upright or not, in device units (1440 an inch).
-struct Carta {
-    double larghezza = 11906, altezza = 16838;
-};
 // "a4", "a3", "letter" in any case, or WxH in millimetres. Empty, or what is wrong.
 [[nodiscard]] std::string LeggiCarta(std::string_view testo, Carta &carta);
 
@@ -50,7 +46,7 @@ private:
 
 // A started program without a window: what it says goes to standard error.
 struct SessioneDiComando {
-    explicit SessioneDiComando(const Carta &carta = {});
+    explicit SessioneDiComando(const Carta &carta = CARTA_A4);
     Console console{stderr};
     Sessione s;
 };

@@ -74,12 +74,11 @@ std::string riassunto(const Sessione &s, const Formato &f) {
 int Draw(int argc, char **argv) {
     Richiesta r;
     if (const std::string e = leggi(argc, argv, r); !e.empty()) return Rifiuta("draw", e);
-    SessioneDiComando c(r.disegno.carta.value_or(Carta()));
+    SessioneDiComando c(r.disegno.carta.value_or(CARTA_A4));
     if (const std::string e = r.disegno.Applica(c.s); !e.empty()) return Rifiuta("draw", e);
     if (const std::string e = r.disegno.Esegui(c.s); !e.empty()) return Rifiuta("draw", e);
     std::FILE *const voce = std::any_of(r.uscite.begin(), r.uscite.end(), suUscita) ? stderr : stdout;
-    if (const auto &carta = r.disegno.carta; carta)
-        c.s.tavolo.Pagina({carta->larghezza / 1440 * 0.0254, carta->altezza / 1440 * 0.0254});
+    if (const auto &carta = r.disegno.carta; carta) c.s.tavolo.Pagina(*carta);
     std::fprintf(stderr, "certificate: %s\n", VerdettoInglese(Certifica(DatiDelCertificato(c.s), c.s.tavolo.lista())).c_str());
     for (const std::string &uscita : r.uscite) {
         const Formato &f = *r.formatoDi(uscita);

@@ -22,6 +22,7 @@ constexpr Comando TAVOLA[] = {
     {"esportaPdf", "Esporta PDF..."_it, "file-down", "Ctrl+E"},
     {"esporta", "Esporta disegno..."_it, "file-image", "Ctrl+Shift+E"},
     {"perMacchina", "Per la macchina..."_it, "scissors", "Ctrl+Shift+M"},
+    {"impagina", "Pagine e carta..."_it, "layout-grid", "Ctrl+Alt+P"},
     {"Tavolo1.cmdStampa", {}, "printer", "Ctrl+P"},
     {"mnuEsci", {}, "log-out", "Ctrl+Q"},
     {"annulla", "Annulla"_it, "undo-2", "Ctrl+Z"},

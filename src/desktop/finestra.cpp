@@ -174,6 +174,10 @@ bool Finestra::prima(IdControllo id) {
     const std::string_view nome = RigaDi(id).nome, modulo = RigaDi(id).modulo;
     if (nome == "mnuApri") return lasciaAndare();
     if (nome == "mnuSalva" && !percorso_.isEmpty()) return salvaIn(percorso_), false;
+    // With no page chosen, a sheet larger than one is offered in pages.
+    if (nome == "cmdStampa" && s_.tavolo.lista().Aree.empty() &&
+        (s_.tavolo.QuadranteL() > s_.tavolo.LarghezzaPagina() || s_.tavolo.QuadranteH() > s_.tavolo.AltezzaPagina()))
+        return impagina(), false;
     if (nome == "cmdRun") primaDiEsegui();
     if (nome == "cmdEqui") conAttesa();
     if (nome == "cmdCalcola" && modulo == "frmDeclin") {

@@ -94,6 +94,11 @@ private:
     void esportaPdf();
     void esporta();
     void perMacchina();
+    void impagina();
+    template <class D>
+    void apriDialogo();
+    // Path of a file of this dial, without an ending.
+    [[nodiscard]] QString nomeProposto() const;
     bool scrivi(const QString &file, const std::string &contenuto);
     // Saves where the project lies; asks for a name when it has none, or when told to.
     bool salva(bool conNome);

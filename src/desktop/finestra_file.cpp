@@ -10,6 +10,7 @@
 #include "core/file.h"
 #include "desktop/finestra.h"
 #include "desktop/lingua_finestra.h"
+#include "desktop/pagine_carta.h"
 #include "desktop/parole.h"
 #include "desktop/per_macchina.h"
 #include "paint/documenti.h"
@@ -171,7 +172,10 @@ bool Finestra::piastrelle(const std::function<bool(const paint::Avanzamento &)> 
 void Finestra::stampa(bool aree) {
     dialoghi_.stampa(this, ponte_.Traduci("Stampa del quadrante"), [this, aree](QPrinter &stampante) {
         // Tiles are those of the printer's paper; those chosen for another are chosen anew.
-        if (s_.tavolo.Pagina(paint::CartaDi(stampante)) && aree) s_.tavolo.ScegliPiene();
+        if (s_.tavolo.Pagina(paint::CartaDi(stampante)) && aree) {
+            s_.tavolo.ScegliPiene();
+            AvvisaCarta(ponte_, dialoghi_, this, s_.tavolo.carta());
+        }
         if (!aree) return paint::StampaTutto(perCarta(), stampante);
         piastrelle([&](const paint::Avanzamento &avanza) { return paint::StampaPiastrelle(perCarta(), stampante, avanza); });
     });
@@ -181,7 +185,8 @@ void Finestra::esportaPdf() {
     const bool aree =
         !s_.tavolo.lista().Aree.empty() &&
         dialoghi_.siNo(this,
-                       ponte_.Traduci("Solo le pagine scelte, una per foglio A4? Con No tutto il foglio su una pagina sola."));
+                       ponte_.Traduci("Solo le pagine scelte, ognuna su carta %1? Con No tutto il foglio su una pagina sola.")
+                           .arg(NomeCarta(s_.tavolo.carta())));
     const auto f = dialoghi_.file(this, true, QStringLiteral("pdf"), QStringLiteral("*.pdf"),
                                   Q(app::CartellaDisegni()) + QStringLiteral("/quadrante.pdf"));
     if (!f || f->isEmpty()) return;
@@ -214,13 +219,21 @@ void Finestra::esporta() {
     scrivi(*f, contenuto);
 }
 
-void Finestra::perMacchina() {
-    const QString nome = percorso_.isEmpty() ? QStringLiteral("quadrante") : QFileInfo(percorso_).completeBaseName();
-    auto *d = new PerMacchina(ponte_, dialoghi_, perCarta(), Q(app::CartellaDisegni()) + QLatin1Char('/') + nome, this);
+QString Finestra::nomeProposto() const {
+    return Q(app::CartellaDisegni()) + QLatin1Char('/') +
+           (percorso_.isEmpty() ? QStringLiteral("quadrante") : QFileInfo(percorso_).completeBaseName());
+}
+
+template <class D>
+void Finestra::apriDialogo() {
+    auto *d = new D(ponte_, dialoghi_, perCarta(), nomeProposto(), this);
     d->setAttribute(Qt::WA_DeleteOnClose);
     d->suScritto = [this](const QString &file) { messaggio(ponte_.Traduci("Scritto") + QLatin1Char(' ') + file); };
     d->show();
 }
+
+void Finestra::perMacchina() { apriDialogo<PerMacchina>(); }
+void Finestra::impagina() { apriDialogo<PagineCarta>(); }
 
 bool Finestra::scrivi(const QString &file, const std::string &contenuto) {
     if (const auto e = ScriviFile(file.toStdString(), contenuto)) return dialoghi_.avviso(this, Q(*e)), false;

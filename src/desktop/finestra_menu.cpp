@@ -70,6 +70,7 @@ void Finestra::costruisciMenu() {
     nostro(file, "esportaPdf", [this] { esportaPdf(); });
     nostro(file, "esporta", [this] { esporta(); });
     nostro(file, "perMacchina", [this] { perMacchina(); });
+    nostro(file, "impagina", [this] { impagina(); });
     bottone(file, "Tavolo1.cmdStampa");
     file->addSeparator();
     voce(file, "mnuEsci");
@@ -270,8 +271,7 @@ QWidget *Finestra::striscia(QWidget *genitore) {
                          [gruppo] { gruppo("Gnomone"); }, [gruppo] { gruppo("Linee"); },
                          [this, gruppo] {
                              gruppo("Cornice");
-                             if (auto *carta = findChild<QDockWidget *>(QStringLiteral("carta"))) carta->show();
-                             else ponte_.premi("Tavolo1.CmdGriglia");
+                             impagina();
                          }},
                         genitore);
 }

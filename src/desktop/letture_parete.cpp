@@ -24,6 +24,7 @@
 #include "desktop/dialoghi.h"
 #include "desktop/fuso_vicino.h"
 #include "desktop/lingua_finestra.h"
+#include "desktop/parole.h"
 
 namespace ombrelia::desktop {
 
@@ -168,7 +169,7 @@ LettureParete::LettureParete(Ponte &ponte, QWidget *genitore) : QWidget(genitore
     senza_->setEnabled(false);
     connect(senza_, &QCheckBox::toggled, this, [this] { ricalcola(); });
     giu->addWidget(senza_);
-    usa_ = new QPushButton(ponte_.Traduci("Usa come declinazione della parete"), this);
+    usa_ = new QPushButton(Iniziale(ponte_.Traduci("usa come declinazione della parete")), this);
     usa_->setObjectName(QStringLiteral("usaDeclinazione"));
     usa_->setAutoDefault(false);
     usa_->setToolTip(ponte_.Traduci("La media va nel campo della declinazione del quadrante"));
@@ -349,11 +350,11 @@ void LettureParete::fusoDelLuogo() {
     }
     if (!orologio_) return;
     const luoghi::Orario o = luoghi::DaSecondi(t + ora.scarto);
-    orologio_->setText(
-        ponte_.Traduci("A %1 l'orologio segna %2 del %3 (%4)")
-            .arg(Q(luogo_), QStringLiteral("%1:%2").arg(o.ore).arg(o.minuti, 2, 10, QLatin1Char('0')),
-                 QStringLiteral("%1/%2/%3").arg(o.giorno).arg(o.mese).arg(o.anno),
-                 scartoUT(ora.scarto) + (ora.estate ? QStringLiteral(", ") + ponte_.Traduci("ora legale") : QString())));
+    orologio_->setText(ponte_.Traduci("A %1 l'orologio segna %2 del %3 (%4)")
+                           .arg(Q(luogo_), QStringLiteral("%1:%2").arg(o.ore).arg(o.minuti, 2, 10, QLatin1Char('0')),
+                                QStringLiteral("%1/%2/%3").arg(o.giorno).arg(o.mese).arg(o.anno),
+                                scartoUT(ora.scarto) +
+                                    (ora.estate ? QStringLiteral(", ") + ponte_.Traduci("Ora legale").toLower() : QString())));
 }
 
 void LettureParete::aggiorna() {

@@ -236,7 +236,10 @@ void Moduli::strumenti() {
     letture_->setMinimumHeight(ALTE);
     schede_ = new QTabWidget(w);
     schede_->addTab(letture_, ponte_.Traduci("Letture della parete"));
-    schede_->addTab(esito, ponte_.Traduci("Risultato"));
+    // A page of its own: a control of the session is shown whatever hides it.
+    auto *pagina = new QWidget(w);
+    (new QVBoxLayout(pagina))->addWidget(esito);
+    schede_->addTab(pagina, ponte_.Traduci("Risultato"));
     fianco->addWidget(schede_, 1);
     finestre_.emplace("frmDeclin", w);
 }

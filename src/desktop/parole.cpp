@@ -29,4 +29,9 @@ QString Motivo(const Ponte &ponte, std::string_view errore) {
     return Q(errore);
 }
 
+QString Iniziale(QString testo) {
+    if (!testo.isEmpty()) testo.replace(0, 1, testo.at(0).toUpper());
+    return testo;
+}
+
 }  // namespace ombrelia::desktop

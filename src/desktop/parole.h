@@ -8,4 +8,7 @@ namespace ombrelia::desktop {
 // A reason; one that is not known, a path for instance, stands as it is.
 [[nodiscard]] QString Motivo(const Ponte &ponte, std::string_view errore);
 
+// A text that begins a line, whatever it begins where else it is used.
+[[nodiscard]] QString Iniziale(QString testo);
+
 }  // namespace ombrelia::desktop

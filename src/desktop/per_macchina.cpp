@@ -209,7 +209,7 @@ QWidget *PerMacchina::scelte() {
     generi_ = new QTableWidget(0, 3, s);
     generi_->setObjectName(QStringLiteral("generi"));
     generi_->setAccessibleName(ponte_.Traduci("Strati del file"));
-    generi_->setHorizontalHeaderLabels({ponte_.Traduci("Strato"), ponte_.Traduci("Cammini"), QStringLiteral("mm")});
+    generi_->setHorizontalHeaderLabels({Iniziale(ponte_.Traduci("strato")), ponte_.Traduci("Cammini"), QStringLiteral("mm")});
     generi_->verticalHeader()->hide();
     generi_->setEditTriggers(QAbstractItemView::NoEditTriggers);
     generi_->setSelectionMode(QAbstractItemView::NoSelection);

@@ -46,19 +46,21 @@ std::optional<Tavolo::Casella> casella(double posizione, double lato) {
 // Marks the tiles that what is painted on it crosses.
 class Segnatessere final : public Dispositivo {
 public:
-    Segnatessere(double larga, double alta, double L, double H) : larga_(larga), alta_(alta), L_(L), H_(H) {}
+    Segnatessere(const Tavolo::Griglia &griglia, double L, double H) : g_(griglia), L_(L), H_(H) {}
     std::set<std::pair<int, int>> tessere;  // row, column
 
     void Cls() override {}
     void Linea(double x1, double y1, double x2, double y2, Colore, int) override {
-        const auto numero = [](double posto, double lato) { return static_cast<int>(std::floor(posto / lato)); };
+        const auto numero = [](double posto, double passo) { return static_cast<int>(std::floor(posto / passo)); };
         const auto [su, giu] = std::minmax(y1, y2);
         const auto [sinistra, destra] = std::minmax(x1, x2);
         if (!(sinistra < L_ && destra >= 0 && su < H_ && giu >= 0)) return;
-        for (int r = std::max(numero(su, alta_), 0); r <= numero(std::min(giu, H_), alta_); ++r)
-            for (int c = std::max(numero(sinistra, larga_), 0); c <= numero(std::min(destra, L_), larga_); ++c) {
-                if (c * larga_ >= L_ || r * alta_ >= H_ || tessere.contains({r, c})) continue;
-                const Quadrante tessera{larga_, alta_, -c * larga_, -r * alta_};
+        // A page reaches over the next ones by what they share.
+        const double oltreX = g_.larga - g_.passoX, oltreY = g_.alta - g_.passoY;
+        for (int r = std::max(numero(su - oltreY, g_.passoY), 0); r <= numero(std::min(giu, H_), g_.passoY); ++r)
+            for (int c = std::max(numero(sinistra - oltreX, g_.passoX), 0); c <= numero(std::min(destra, L_), g_.passoX); ++c) {
+                if (c * g_.passoX >= L_ || r * g_.passoY >= H_ || tessere.contains({r, c})) continue;
+                const Quadrante tessera{g_.larga, g_.alta, -c * g_.passoX, -r * g_.passoY};
                 double a = x1, b = y1, d = x2, e = y2;
                 if (tessera.RitagliaSegmento(a, b, d, e) > 0) tessere.insert({r, c});
             }
@@ -85,7 +87,8 @@ public:
     void Testo(double, double, std::string_view, Colore) override {}
 
 private:
-    const double larga_, alta_, L_, H_;  // metres
+    const Tavolo::Griglia g_;
+    const double L_, H_;  // metres
 };
 
 }  // namespace
@@ -141,10 +144,10 @@ void Tavolo::LasciaPagine() {
     while (!lista_.Aree.empty()) lista_.togliArea(lista_.Aree.size() - 1);
 }
 
-std::size_t Tavolo::ScegliPiene() {
-    const double piastrelle = (q_.L / larghezzaPagina_ + 1) * (q_.H / altezzaPagina_ + 1);
-    if (!(q_.L > 0 && q_.H > 0 && piastrelle <= PIASTRELLE_MASSIME)) return lista_.Aree.size();
-    Segnatessere d(larghezzaPagina_, altezzaPagina_, q_.L, q_.H);
+std::set<std::pair<int, int>> Tavolo::PagineConLinee(const Griglia &griglia) const {
+    const double pagine = (q_.L / griglia.passoX + 1) * (q_.H / griglia.passoY + 1);
+    if (!(q_.L > 0 && q_.H > 0 && griglia.passoX > 0 && griglia.passoY > 0 && pagine <= PIASTRELLE_MASSIME)) return {};
+    Segnatessere d(griglia, q_.L, q_.H);
     Pittore p = pittore(d);
     p.scala = 1;
     struct Visita {
@@ -160,7 +163,11 @@ std::size_t Tavolo::ScegliPiene() {
         void figura(std::size_t i) const { p.figura(l, l.Figure[i]); }
     };
     Percorri(lista_, Visita{p, lista_});
-    for (const auto &[riga, colonna] : d.tessere) {
+    return std::move(d.tessere);
+}
+
+std::size_t Tavolo::ScegliPiene() {
+    for (const auto &[riga, colonna] : PagineConLinee({larghezzaPagina_, altezzaPagina_, larghezzaPagina_, altezzaPagina_})) {
         const double x = (colonna + 0.5) * larghezzaPagina_, y = (riga + 0.5) * altezzaPagina_;
         const auto dove = casella(x, larghezzaPagina_), sotto = casella(y, altezzaPagina_);
         const bool gia = std::any_of(lista_.Aree.begin(), lista_.Aree.end(),

@@ -49,6 +49,9 @@ std::string_view tagliato(std::string_view testo) {
 
 }  // namespace
 
+double Carta::largaTwip() const { return std::round(larga / 0.0254 * 1440); }
+double Carta::altaTwip() const { return std::round(alta / 0.0254 * 1440); }
+
 Tavolo::Tavolo(double larghezzaPagina, double altezzaPagina)
     : idAssi_(lista_.nomi.id(ID_ASSI)),
       idPagina_(lista_.nomi.id(ID_PAGINA)),
@@ -63,9 +66,8 @@ Tavolo::Tavolo(double larghezzaPagina, double altezzaPagina)
 }
 
 bool Tavolo::Pagina(const Carta &carta) {
-    const auto twip = [](double metri) { return std::round(metri / 0.0254 * 1440); };
-    const double larga = utile(twip(carta.larga), BORDO_LARGHEZZA, A4_LARGHEZZA);
-    const double alta = utile(twip(carta.alta), BORDO_ALTEZZA, A4_ALTEZZA);
+    const double larga = utile(carta.largaTwip(), BORDO_LARGHEZZA, A4_LARGHEZZA);
+    const double alta = utile(carta.altaTwip(), BORDO_ALTEZZA, A4_ALTEZZA);
     carta_ = carta;
     if (larga == larghezzaPagina_ && alta == altezzaPagina_) return false;
     larghezzaPagina_ = larga;

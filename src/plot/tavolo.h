@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <functional>
 #include <optional>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -13,18 +14,12 @@
 #include "core/inputs.h"
 #include "core/reale.h"
 #include "core/testo.h"
+#include "plot/carta.h"
 #include "plot/dispositivo.h"
 #include "plot/lista.h"
 #include "plot/pittore.h"
 
 namespace ombrelia {
-
-// A page of a printer, metres.
-struct Carta {
-    double larga, alta;
-    bool operator==(const Carta &) const = default;
-};
-inline constexpr Carta CARTA_A4{0.210, 0.297};
 
 // World coordinates: metres on the dial's plane, origin at (ShiftX, ShiftY) from the sheet's top left corner, x to the
 // right, y downward. Every coordinate argument is a Valore: a call with an argument that has no value is a faulted
@@ -158,6 +153,13 @@ public:
     // Selects each tile of the sheet that something of the drawing crosses, row by row; gives how many are selected now.
     // Texts, axes, grid and page marks count for nothing.
     std::size_t ScegliPiene();
+    // A grid of pages over the sheet, from its corner: their size, and from one to the next. Metres; pages that overlap
+    // lie closer than their size.
+    struct Griglia {
+        double larga, alta, passoX, passoY;
+    };
+    // Row and column of the pages that something of the drawing crosses, as ScegliPiene counts. None of a grid beyond 10,000.
+    [[nodiscard]] std::set<std::pair<int, int>> PagineConLinee(const Griglia &griglia) const;
     // Selects none any more; their outlines and numbers leave the drawing.
     void LasciaPagine();
     // The sheet as it lies, on one page, its texts listed at the page's head.

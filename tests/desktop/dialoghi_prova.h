@@ -17,7 +17,8 @@ public:
     desktop::Salvataggio prima = desktop::Salvataggio::Scarta;
     bool si = true;
     int beepSentiti = 0;
-    QString stampaSu;  // a PDF that takes the place of the printer; none: nothing is painted
+    std::optional<QPageSize::PageSizeId> cartaSua;  // of a printer that takes no other
+    QString stampaSu;                               // a PDF that takes the place of the printer; none: nothing is painted
 
     void avviso(QWidget *, const QString &testo) override { avvisi.push_back(testo.toStdString()); }
     bool siNo(QWidget *, const QString &testo) override {
@@ -43,6 +44,9 @@ public:
         stampante.setOutputFormat(QPrinter::PdfFormat);
         stampante.setOutputFileName(stampaSu);
         stampante.setPageSize(QPageSize(QPageSize::A4));
+        dipingi(stampante);
+        if (!cartaSua) return;
+        stampante.setPageSize(QPageSize(*cartaSua));
         dipingi(stampante);
     }
     void beep() override { ++beepSentiti; }

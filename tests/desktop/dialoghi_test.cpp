@@ -1,5 +1,6 @@
 // The window's dialogs: files for machines, readings of the wall and the clock of its zone.
 #include <QComboBox>
+#include <QDialog>
 #include <QFile>
 #include <QLabel>
 #include <QPushButton>
@@ -10,6 +11,7 @@
 
 #include "desktop/banco.h"
 #include "desktop/letture_parete.h"
+#include "desktop/pagine_carta.h"
 #include "desktop/per_macchina.h"
 #include "officina/tratti.h"
 
@@ -190,6 +192,57 @@ TEST(LettureParete, TheBoardHasTheClockOfThePlace) {
     b.scriviRiga(0, "03/05/2026", "10:00", "0");
     ore->setCurrentIndex(1);
     EXPECT_EQ(b.t->item(0, 3)->text(), ut);
+}
+
+// --- paper -------------------------------------------------------------------------------------------------------------------
+
+int pagineDelPdf(const char *file) {
+    QFile f(QString::fromLatin1(file));
+    return f.open(QIODevice::ReadOnly) ? static_cast<int>(f.readAll().count("/MediaBox")) : 0;
+}
+
+TEST(PagineCarta, PrintOffersThePagesThatHoldLines) {
+    QSettings().remove(QStringLiteral("pagine"));
+    BancoFinestra b;
+    for (const char *c : {"chkOreAstronomiche", "Ck_DayLightCurves"}) b.spunta(c);
+    b.f.findChild<QAbstractButton *>(QStringLiteral("Adatta"))->click();
+    b.premi("cmdRun");
+    b.premi("Tavolo1.cmdStampa");
+    EXPECT_TRUE(b.dialoghi.stampe.empty());
+    auto *d = dynamic_cast<desktop::PagineCarta *>(b.f.findChild<QDialog *>(QStringLiteral("pagineCarta")));
+    ASSERT_TRUE(d);
+    desktop::AnteprimaPagine &a = d->anteprima();
+    std::set<int> piene;
+    for (const paint::PaginaFoglio &p : a.pagine())
+        if (p.piena) piene.insert(p.numero);
+    ASSERT_GT(piene.size(), 2U);
+    EXPECT_EQ(a.scelte(), piene);
+    // A click takes a page out, another takes it in again.
+    const int una = *piene.begin();
+    for (const bool c : {false, true}) {
+        QTest::mouseClick(&a, Qt::LeftButton, Qt::NoModifier, a.mezzo(una).toPoint());
+        EXPECT_EQ(a.scelte().contains(una), c);
+    }
+    // Another printer's paper than the one that was laid out is told.
+    b.dialoghi.stampaSu = QStringLiteral("pagine.pdf");
+    const auto stampa = [&] { d->findChild<QPushButton *>(QStringLiteral("stampa"))->click(); };
+    stampa();
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(b.dialoghi.avvisi.empty());
+    EXPECT_EQ(pagineDelPdf("pagine.pdf"), static_cast<int>(piene.size()));
+    b.dialoghi.cartaSua = QPageSize::A5;
+    stampa();
+    QCoreApplication::processEvents();
+    ASSERT_EQ(b.dialoghi.avvisi.size(), 1U);
+    EXPECT_NE(b.dialoghi.avvisi[0].find("148"), std::string::npos) << b.dialoghi.avvisi[0];
+    EXPECT_GT(pagineDelPdf("pagine.pdf"), static_cast<int>(piene.size()));
+    // One page a chosen one, none without a choice.
+    d->findChild<QPushButton *>(QStringLiteral("nessuna"))->click();
+    EXPECT_FALSE(d->findChild<QPushButton *>(QStringLiteral("salva"))->isEnabled());
+    a.scegli({2, 3});
+    b.dialoghi.risposte = {"scelte.pdf"};
+    d->findChild<QPushButton *>(QStringLiteral("salva"))->click();
+    EXPECT_EQ(pagineDelPdf("scelte.pdf"), 2);
 }
 
 }  // namespace

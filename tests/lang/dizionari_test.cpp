@@ -98,7 +98,8 @@ std::string Contenuto(const std::string &nome) {
 }
 
 // Words of an earlier window: the files that a user takes away keep their bytes.
-const std::set<std::string> RIMASTE{"Cornice e rette", "Piano", "Ultimo punto premuto, millimetri"};
+const std::set<std::string> RIMASTE{"Cornice e rette", "Piano", "Ultimo punto premuto, millimetri",
+                                    "Solo le pagine scelte, una per foglio A4? Con No tutto il foglio su una pagina sola."};
 
 bool HaLettere(std::string_view t) {
     return std::any_of(t.begin(), t.end(), [](char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c < 0; });

@@ -10,6 +10,7 @@
 #include <cmath>
 
 #include "paint/documenti.h"
+#include "paint/impaginazione.h"
 #include "plot/lista_testo.h"
 
 namespace ombrelia {
@@ -200,6 +201,48 @@ TEST(Carta, PicturesHaveTheSheetsSizeAndAreDarkOnWhite) {
         EXPECT_EQ(punto(0.1, 0.02), QColor(Qt::white));  // the frame does not cover the dial
         EXPECT_LT(punto(0.1, 0.0).lightness(), 130);     // its outline is dark
         EXPECT_GT(punto(0.3, 0.05).red(), punto(0.3, 0.05).blue() + 80);
+    }
+}
+
+// Pages cover the sheet whatever they share; a place that two of them show is at the same distance from both their seams.
+TEST(Carta, PagesCoverTheSheetAndShareWhatTheyShould) {
+    Tavolo t;
+    foglio(t, 0.5, 0.6, 0, 0);
+    t.xLine(0.175, 0.02, 0.175, 0.25, 0, "L");
+    struct Caso {
+        double margine, sovrapposizione;
+        bool aLato;
+    };
+    for (const Caso &c : {Caso{0.0075, 0, false}, {0.0075, 0.01, false}, {0.01, 0.04, true}, {0, 0.05, false}}) {
+        paint::Impaginazione come{.margine = c.margine, .sovrapposizione = c.sovrapposizione};
+        if (c.aLato) std::swap(come.carta.larga, come.carta.alta);
+        const auto pagine = paint::PagineDi(t, come);
+        ASSERT_FALSE(pagine.empty());
+        EXPECT_GE(pagine.back().x + pagine.back().larga, 0.5 - 1e-9);
+        EXPECT_GE(pagine.back().y + pagine.back().alta, 0.6 - 1e-9);
+        for (std::size_t i = 1; i < pagine.size(); ++i) {
+            EXPECT_EQ(pagine[i].numero, static_cast<int>(i) + 1);
+            if (pagine[i].riga == pagine[i - 1].riga)
+                EXPECT_NEAR(pagine[i - 1].x + pagine[i - 1].larga - pagine[i].x, c.sovrapposizione, 1e-9);
+        }
+        for (const paint::PaginaFoglio &p : pagine)
+            EXPECT_EQ(p.piena, p.x <= 0.175 && 0.175 < p.x + p.larga && p.y < 0.25 && p.y + p.alta > 0.02) << p.numero;
+    }
+    EXPECT_TRUE(paint::PagineDi(t, {.margine = 0.11}).empty());
+    EXPECT_TRUE(paint::PagineDi(t, {.sovrapposizione = 0.3}).empty());
+    if (!ceStrumento("pdftoppm")) GTEST_SKIP() << "needs poppler-utils";
+    const paint::Impaginazione come{.sovrapposizione = 0.04};
+    auto pagine = paint::PagineDi(t, come);
+    std::erase_if(pagine, [](const paint::PaginaFoglio &p) { return !p.piena || p.riga > 0; });
+    ASSERT_EQ(pagine.size(), 2U);
+    salva(paint::PdfPagine(t, pagine, come), "unite.pdf");
+    for (const int p : {1, 2}) {
+        // On its own page the line's place is the sheet's; a seam is grey and dashed.
+        const std::vector<double> x = tratti(striscia("unite.pdf", p, 8, 60, A4_L - 16, 8), 4);
+        double vicina = 1e9;
+        const double attesa = 175 - 1000 * pagine[static_cast<std::size_t>(p - 1)].x + 7.5 - 8;
+        for (const double q : x) vicina = std::fabs(q - attesa) < std::fabs(vicina - attesa) ? q : vicina;
+        EXPECT_NEAR(vicina, attesa, ESATTO) << p;
     }
 }
 

@@ -275,10 +275,16 @@ TEST(Finestra, PagesReachThePrinter) {
         const auto m = QRegularExpression(QStringLiteral("Pages:\\s+(\\d+)")).match(QString::fromUtf8(p.readAllStandardOutput()));
         return m.captured(1).toInt();
     };
-    // Nothing chosen: the whole sheet at once.
+    // Nothing chosen: a sheet that a page holds goes there at once.
+    Tavolo &t = b.f.sessione().tavolo;
+    const double alto = t.QuadranteH(), largo = t.QuadranteL();
+    t.QuadranteH(0.2);
+    t.QuadranteL(0.15);
     b.dialoghi.stampaSu = QStringLiteral("tutto.pdf");
     b.premi("Tavolo1.cmdStampa");
     EXPECT_EQ(pagine("tutto.pdf"), 1);
+    t.QuadranteH(alto);
+    t.QuadranteL(largo);
     // Two tiles, through the panel.
     for (const double y : {1000.0, 17000.0}) b.f.ponte().fai(NESSUN_CONTROLLO, [&] { b.f.sessione().tavolo.MouseDown(1000, y); });
     b.premi("Tavolo1.cmdStampa");

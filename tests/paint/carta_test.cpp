@@ -222,8 +222,8 @@ TEST(Carta, PagesCoverTheSheetAndShareWhatTheyShould) {
         EXPECT_GE(pagine.back().y + pagine.back().alta, 0.6 - 1e-9);
         for (std::size_t i = 1; i < pagine.size(); ++i) {
             EXPECT_EQ(pagine[i].numero, static_cast<int>(i) + 1);
-            if (pagine[i].riga == pagine[i - 1].riga)
-                EXPECT_NEAR(pagine[i - 1].x + pagine[i - 1].larga - pagine[i].x, c.sovrapposizione, 1e-9);
+            const double comune = pagine[i - 1].x + pagine[i - 1].larga - pagine[i].x;
+            EXPECT_TRUE(pagine[i].riga != pagine[i - 1].riga || std::fabs(comune - c.sovrapposizione) < 1e-9) << comune;
         }
         for (const paint::PaginaFoglio &p : pagine)
             EXPECT_EQ(p.piena, p.x <= 0.175 && 0.175 < p.x + p.larga && p.y < 0.25 && p.y + p.alta > 0.02) << p.numero;

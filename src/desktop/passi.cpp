@@ -16,7 +16,7 @@ struct Passi::Istantanea {
     double l = 0, h = 0, sx = 0, sy = 0, fx = 1, fy = 1;
     int scala = 1;
     std::shared_ptr<const Tavolo::Disegno> disegno;  // none when it follows the fields
-    std::string impronta;                            // of all that a step can change
+    std::string impronta;                            // of all that a step can change but the drawing
     double campione = 0;                             // of the drawing
 };
 
@@ -99,9 +99,8 @@ std::shared_ptr<Passi::Istantanea> Passi::ritrai(bool segue) const {
     for (const Reale Variabili::*v : {&Variabili::flagVerticale, &Variabili::flagTrasformato, &Variabili::lonEq})
         f += std::to_string((s_.v.*v).numero()) + '\n';
     f += s_.titoli.empty() ? "" : s_.titolo("frmTavolo");
+    i->campione = campioneDi(t.lista());
     if (!segue) {
-        i->campione = campioneDi(t.lista());
-        f += '\n' + std::to_string(i->campione);
         // A drawing that stays is kept once.
         i->disegno = ora_ && ora_->disegno && ora_->campione == i->campione
                          ? ora_->disegno
@@ -112,7 +111,8 @@ std::shared_ptr<Passi::Istantanea> Passi::ritrai(bool segue) const {
 
 void Passi::annota(IdControllo id, const QString &nome, bool segue) {
     auto dopo = ritrai(segue);
-    if (dopo->impronta == ora_->impronta) return;
+    // A drawing that follows the fields changes by itself.
+    if (dopo->impronta == ora_->impronta && (segue || dopo->campione == ora_->campione)) return;
     const bool testo = id != NESSUN_CONTROLLO && RigaDi(id).classe == Classe::Testo;
     const auto prima = std::exchange(ora_, dopo);
     push(new Passo(*this, testo ? id : -1, nome, prima, dopo));

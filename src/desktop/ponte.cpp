@@ -186,10 +186,10 @@ void Ponte::collega(IdControllo id, QWidget *w) {
 
 void Ponte::sincronizza() {
     if (dentro_ > 0) return;
-    for (const Legame &l : legami_) mostra(l);
+    for (Legame &l : legami_) mostra(l);
 }
 
-void Ponte::mostra(const Legame &l) {
+void Ponte::mostra(Legame &l) {
     const StatoControllo &stato = s_.stato(l.id);
     if (l.azione) {
         secambia(l.azione, didascalia(l.id));
@@ -223,11 +223,13 @@ void Ponte::mostra(const Legame &l) {
         const QString testo = Q(s_.testo(l.id)).replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
         if (p->toPlainText() != testo) p->setPlainText(testo);
     }
-    // For those who hear the window.
-    if (const QString detto = nome(l.id); w->focusPolicy() != Qt::NoFocus && w->accessibleName() != detto)
-        w->setAccessibleName(detto);
-    const QString aiuto = Suggerimento(s_, l.id);
-    if (w->toolTip() != aiuto && !(aiuto.isEmpty() && RigaDi(l.id).toolTip.empty())) w->setToolTip(aiuto);
+    // What is said of it changes seldom.
+    const QString suo = nome(l.id);
+    if (std::string detto = suo.toStdString() + stato.toolTip; l.detto != detto) {
+        l.detto = std::move(detto);
+        if (w->focusPolicy() != Qt::NoFocus) w->setAccessibleName(suo);
+        if (const QString aiuto = Suggerimento(s_, l.id); !aiuto.isEmpty() || !RigaDi(l.id).toolTip.empty()) w->setToolTip(aiuto);
+    }
     if (w->isEnabled() != stato.abilitato && RigaDi(l.id).classe != Classe::Cornice) w->setEnabled(stato.abilitato);
     if (w->isHidden() == stato.visibile && (RigaDi(l.id).classe != Classe::Altro)) w->setVisible(stato.visibile);
 }

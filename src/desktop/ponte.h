@@ -67,10 +67,11 @@ private:
         IdControllo id;
         QWidget *widget;
         QAction *azione;
+        std::string detto{};  // caption and tool tip as they were shown last
     };
     app::Esito svolgi(IdControllo id, const std::function<app::Esito()> &azione);
     void collega(IdControllo id, QWidget *w);
-    void mostra(const Legame &l);
+    void mostra(Legame &l);
 
     Sessione &s_;
     std::vector<Legame> legami_;

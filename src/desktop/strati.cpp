@@ -16,7 +16,7 @@ struct RigaStrato {
     std::string_view nome, linea;  // of the layer; of one of its lines, before its value
     std::uint32_t chiaro, scuro;   // RGB
 };
-constexpr RigaStrato TAVOLA[STRATI] = {
+constexpr RigaStrato TAVOLA[] = {
     {"Ore"_it, "Ora"_it, 0x1f3a5f, 0x9cc2f0},
     {"Linee diurne"_it, "Linea diurna"_it, 0xb45309, 0xf5b461},
     {"Equinoziale"_it, "Equinoziale"_it, 0x0f766e, 0x5ad1c4},
@@ -33,9 +33,11 @@ constexpr RigaStrato TAVOLA[STRATI] = {
     {"Sustilare"_it, "Sustilare"_it, 0x57534e, 0xb8afa6},
     {"Orizzonte"_it, "Orizzonte"_it, 0x0c4a6e, 0x7cc4ea},
     {"Stilo"_it, "Stilo"_it, 0x1c1917, 0xe7e5e4},
+    {"Segni di data"_it, "Segno di data"_it, 0xb45309, 0xf5b461},
     {"Etichette"_it, "Etichetta"_it, 0x1f2937, 0xd6dce2},
     {"Cornice e segni"_it, "Cornice"_it, 0x4b5563, 0xaab3bd},
 };
+static_assert(std::size(TAVOLA) == STRATI);
 
 constexpr Colore coloreDi(std::uint32_t rgb) {
     return static_cast<Colore>(((rgb & 0xFF) << 16) | (rgb & 0xFF00) | ((rgb >> 16) & 0xFF));
@@ -202,6 +204,7 @@ QString NomeLinea(const Sessione &s, std::size_t strato, double valore) {
         case Specie::Temporaria:
             return nome + QLatin1Char(' ') + QString::number(valore);
         case Specie::Diurna:
+        case Specie::Tacca:
         case Specie::Almucantarat:
         case Specie::Azimut:
             return nome + QLatin1Char(' ') + gradi(valore);

@@ -2,6 +2,7 @@
 #include "analytic/analitica.h"
 
 #include "analytic/corsa.h"
+#include "gnomonica/angoli_parete.h"
 #include "gnomonica/contorno.h"
 #include "gnomonica/originale.h"
 #include "sessione/limiti.h"
@@ -91,21 +92,6 @@ void EseguiGraficaAnalitica(Sessione &s) {
     Percorri(c, Motore::Analitica, CARATTERISTICHE);
     TracciaCornice(s, c.letto);
     s.utente.Puntatore(false);
-}
-
-void CalcolaAngoliAnalitici(Sessione &s) {
-    Variabili &v = s.v;
-    LeggiParametri(s);
-    const Valore segno = v.decR == 0 ? Valore(1) : Sgn(v.decR);
-    if (v.lat == 0) {
-        v.angSustilare = (PI / 2) * segno;
-        v.altStilo = StiloMuroEquatore(v.decR);
-        v.angoloOra = (PI / 2) * v.segnoDec;  // the sign that the run before left: meant
-    } else {
-        v.angSustilare = SustilareMuro(v.latR, v.decR);
-        v.altStilo = StiloMuro(v.latR, v.decR);
-        v.angoloOra = -Atn(tan(v.angSustilare) / sin(v.altStilo));
-    }
 }
 
 void CalcolaCentroAnalitico(Corsa &c) {

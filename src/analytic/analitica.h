@@ -9,9 +9,6 @@ namespace ombrelia::analytic {
 // Draws the whole dial onto what is there. Refuses, with a message, southern latitudes and loops too long.
 void EseguiGraficaAnalitica(Sessione &s);
 
-// Reads the fields; leaves substyle angle, style elevation and hour angle of the substyle, radians. The last is known
-// but for half a turn. Resets gn and y0 to the fields.
-void CalcolaAngoliAnalitici(Sessione &s);
 // Points and lines of this engine have no layer, but for the hour lines.
 inline constexpr IdNome SENZA_STRATO = 0;
 

@@ -1,9 +1,9 @@
 // Day lines of the analytic engine, point by point from their conics, and the solstices on the horizon.
 #include <array>
 
-#include "analytic/conica.h"
 #include "analytic/corsa.h"
 #include "core/conteggio.h"
+#include "gnomonica/conica.h"
 #include "gnomonica/declinazioni.h"
 
 namespace ombrelia::analytic {

@@ -1,6 +1,6 @@
 // The analemma of the analytic engine: each day's conic met with the hour line of its mean noon.
-#include "analytic/conica.h"
 #include "analytic/corsa.h"
+#include "gnomonica/conica.h"
 #include "gnomonica/spazzate.h"
 
 namespace ombrelia::analytic {

@@ -1,8 +1,8 @@
 // Italic and Babylonian hour lines: tangents to the conic of the declination at which the Sun neither rises nor sets, and
 // that conic.
-#include "analytic/conica.h"
 #include "analytic/corsa.h"
 #include "core/conteggio.h"
+#include "gnomonica/conica.h"
 
 namespace ombrelia::analytic {
 

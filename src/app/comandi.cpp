@@ -8,6 +8,7 @@
 #include "app/etichette.h"
 #include "app/lingua.h"
 #include "app/parametri_default.h"
+#include "app/rapporti.h"
 #include "certificato/corrette.h"
 
 namespace ombrelia::app {
@@ -18,13 +19,14 @@ namespace {
 class Registro {
 public:
     Registro() {
-        for (const auto gestori :
-             {GestoriPrincipale(), GestoriTavolo(), GestoriRapporti(), GestoriFile(), GestoriSole(), GestoriMappa()})
+        for (const auto gestori : {GestoriPrincipale(), GestoriTavolo(), GestoriFile(), GestoriSole(), GestoriMappa()})
             for (const Gestore &g : gestori) azioni_.insert_or_assign(chiave(g.controllo, g.evento), g.azione);
     }
     Esito avvisa(Sessione &s, IdControllo id, Evento evento) const {
         const auto i = azioni_.find(chiave(id, evento));
-        return i == azioni_.end() ? Esito(Esito::Fatto) : i->second(s, RigaDi(id).indice);
+        if (i != azioni_.end()) return i->second(s, RigaDi(id).indice);
+        if (evento == Evento::Clic) PremiRapporto(s, id);
+        return Esito::Fatto;
     }
 
 private:

@@ -79,7 +79,6 @@ void cmdRun(Sessione &s);
 // The handlers of each form, for the dispatch.
 std::span<const Gestore> GestoriPrincipale();
 std::span<const Gestore> GestoriTavolo();
-std::span<const Gestore> GestoriRapporti();
 std::span<const Gestore> GestoriSole();
 std::span<const Gestore> GestoriMappa();
 std::span<const Gestore> GestoriFile();

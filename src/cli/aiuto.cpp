@@ -1,9 +1,12 @@
 // Help texts.
 #include "cli/aiuto.h"
 
-#include "cli/formati.h"
+#include <algorithm>
+
 #include "cli/report.h"
+#include "formati/formati.h"
 #include "officina/scrittori.h"
+#include "reports/rapporti.h"
 
 namespace ombrelia::cli {
 
@@ -123,7 +126,7 @@ Performs the actions of a user at the main window, one a line. Blank lines and l
   mouse X Y             presses the mouse on the sheet, device position
   answer TEXT           queues the answer to the next message, input or file box
   sheet L H X Y         sheet width, height and shift in metres
-  list FILE             writes the display list; also dxf, svg, pdf, bmp, png FILE
+  FORM FILE             writes the drawing; FORM is one of those below
   report FILE           writes the report opened last, as text; print FILE what its Stampa menu prints
   show CONTROL, value NAME
 
@@ -131,10 +134,12 @@ A FILE of - is standard output. The exit status is 2, with FILE:LINE: reason, at
 
 example:
   printf '%s\n' 'set txtInc 0' 'check chkOreAstronomiche' 'click cmdRun' 'svg muro.svg' | ombrelia batch -
+
+forms:
 )";
 
 constexpr std::string_view REPORT =
-    R"(usage: ombrelia report NAME [--project FILE] [--set FIELD=TEXT]... [--check BOX]... [--text | --csv | --csv-it | --html] [--print] [-o FILE]
+    R"(usage: ombrelia report NAME [--project FILE] [--set FIELD=TEXT]... [--check BOX]... [FORM] [--print] [-o FILE]
 
 The numbers of a dial, as the program's report forms give them.
 
@@ -142,10 +147,6 @@ The numbers of a dial, as the program's report forms give them.
   --set FIELD=TEXT   a field of the main window, as in ombrelia draw; TxtInizio and TxtFine are the first and last hour of the
                      tables, TxtFraz the lines in an hour, txtX0 txtY0 and txtX1 txtY1 the lines that the hour lines are cut with
   --check BOX        ChCentimetro: lengths are millimetres; ck_Etna: true time of the zone
-  --text             lines in print zones of 14 columns, as on the form (without a choice)
-  --csv              labelled values, then one block a table: numbers with all their digits
-  --csv-it           the same with ; and decimal commas, for Italian spreadsheets
-  --html             a page with tables
   --print            what the form's Stampa menu prints
   -o FILE            where it goes; without it, or with -, standard output
 
@@ -265,12 +266,25 @@ examples:
   ombrelia draw --place Köln --set txtInc=0 --check chkOreAstronomiche muro.svg
 )";
 
+// A row of a table behind a help text.
+void riga(std::string &t, std::string_view nome, std::string_view cosa) {
+    t.append("  ").append(nome).append(13 - std::min<std::size_t>(nome.size(), 12), ' ').append(cosa).append("\n");
+}
+
 }  // namespace
 
 std::string Aiuto(std::string_view comando) {
     if (comando == "gui") return std::string(GUI);
-    if (comando == "batch") return std::string(BATCH);
-    if (comando == "report") return std::string(REPORT) + NomiRapporti();
+    if (comando == "batch") {
+        std::string t(BATCH);
+        for (const FormatoDisegno &f : Formati()) riga(t, f.azione, f.descrizione);
+        return t;
+    }
+    if (comando == "report") {
+        std::string t = std::string(REPORT) + NomiRapporti() + "\nforms:\n";
+        for (const auto &f : reports::FormeRapporto()) riga(t, f.opzione, f.descrizione);
+        return t;
+    }
     if (comando == "certify") return std::string(CERTIFY);
     if (comando == "read") return std::string(READ);
     if (comando == "shadow") return std::string(SHADOW);
@@ -278,14 +292,13 @@ std::string Aiuto(std::string_view comando) {
     if (comando == "solid") return std::string(SOLID);
     if (comando == "cut") {
         std::string t(CUT);
-        for (const auto &f : officina::FormatiMacchina())
-            t += "  ." + std::string(f.estensione) + "   " + std::string(f.descrizione) + "\n";
+        for (const auto &f : officina::FormatiMacchina()) riga(t, "." + std::string(f.estensione), f.descrizione);
         return t;
     }
     if (comando == "place") return std::string(PLACE);
     if (comando != "draw") return std::string(GENERALE);
     std::string t(DRAW);
-    for (const Formato &f : Formati()) t += "  ." + std::string(f.estensione) + "   " + std::string(f.descrizione) + "\n";
+    for (const FormatoDisegno &f : Formati()) riga(t, "." + std::string(f.estensione), f.descrizione);
     return t;
 }
 

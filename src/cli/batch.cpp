@@ -5,13 +5,15 @@
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
-#include <vector>
+#include <span>
 
 #include "app/comandi.h"
 #include "app/progetto.h"
+#include "app/rapporti.h"
+#include "cli/consegna.h"
 #include "cli/console.h"
-#include "cli/formati.h"
 #include "core/file.h"
+#include "formati/formati.h"
 #include "reports/rapporti.h"
 
 namespace ombrelia::cli {
@@ -31,7 +33,7 @@ public:
     Esecuzione() : console_(stdout), s_(console_) {
         s_.suImmagine = [](Sessione &s) {
             std::string errore;
-            return FormatoDi("bmp")->scrivi(s, errore);
+            return FormatoDi("bmp")->scrivi(s.tavolo, errore);
         };
         app::Avvia(s_);
     }
@@ -39,12 +41,11 @@ public:
     Sessione &sessione() { return s_; }
 
 private:
-    using Azione = void (Esecuzione::*)(std::string_view);
-    struct Voce {
+    struct Azione {
         std::string_view nome;
-        Azione azione;
+        void (Esecuzione::*esegui)(std::string_view);
     };
-    static const std::vector<Voce> &azioni();
+    static std::span<const Azione> azioni();
 
     // Takes the next word off the line.
     static std::string_view parola(std::string_view &resto) {
@@ -104,13 +105,7 @@ private:
     void mouse(std::string_view resto);
     void answer(std::string_view resto) { console_.rispondi(std::string(resto)); }
     void sheet(std::string_view resto);
-    void list(std::string_view resto) { disegno(resto, "txt"); }
-    void disegno(std::string_view resto, std::string_view formato);
-    template <int N>
-    void forma(std::string_view resto) {
-        constexpr std::string_view forme[] = {"dxf", "svg", "pdf", "bmp", "png"};
-        disegno(resto, forme[N]);
-    }
+    void disegno(std::string_view resto, const FormatoDisegno &formato);
     void show(std::string_view resto);
     void value(std::string_view resto);
     void report(std::string_view resto);
@@ -127,23 +122,25 @@ private:
     Sessione s_;
 };
 
-const std::vector<Esecuzione::Voce> &Esecuzione::azioni() {
+// Besides these each form of a drawing is an action.
+std::span<const Esecuzione::Azione> Esecuzione::azioni() {
     using E = Esecuzione;
-    static const std::vector<Voce> tutte{
-        {"set", &E::set},      {"type", &E::type},     {"check", &E::check},  {"uncheck", &E::uncheck}, {"click", &E::click},
-        {"mouse", &E::mouse},  {"answer", &E::answer}, {"sheet", &E::sheet},  {"list", &E::list},       {"dxf", &E::forma<0>},
-        {"svg", &E::forma<1>}, {"pdf", &E::forma<2>},  {"bmp", &E::forma<3>}, {"png", &E::forma<4>},    {"show", &E::show},
-        {"value", &E::value},  {"open", &E::open},     {"save", &E::save},    {"report", &E::report},   {"print", &E::print},
+    static constexpr Azione TUTTE[] = {
+        {"set", &E::set},     {"type", &E::type},     {"check", &E::check},   {"uncheck", &E::uncheck}, {"click", &E::click},
+        {"mouse", &E::mouse}, {"answer", &E::answer}, {"sheet", &E::sheet},   {"show", &E::show},       {"value", &E::value},
+        {"open", &E::open},   {"save", &E::save},     {"report", &E::report}, {"print", &E::print},
     };
-    return tutte;
+    return TUTTE;
 }
 
 void Esecuzione::esegui(std::string_view riga) {
     if (!riga.empty() && riga.back() == '\r') riga.remove_suffix(1);
     if (riga.find_first_not_of(" \t") == std::string_view::npos || riga.front() == '#') return;
     const std::string_view nome = parola(riga);
-    for (const Voce &v : azioni())
-        if (v.nome == nome) return (this->*v.azione)(riga);
+    for (const Azione &a : azioni())
+        if (a.nome == nome) return (this->*a.esegui)(riga);
+    for (const FormatoDisegno &f : Formati())
+        if (f.azione == nome) return disegno(riga, f);
     throw Rifiuto{"unknown action: " + std::string(nome)};
 }
 
@@ -184,10 +181,10 @@ void Esecuzione::sheet(std::string_view resto) {
     t.ShiftY(y);
 }
 
-void Esecuzione::disegno(std::string_view resto, std::string_view formato) {
+void Esecuzione::disegno(std::string_view resto, const FormatoDisegno &formato) {
     const std::string percorso = file(resto);
     std::string errore;
-    const std::string contenuto = FormatoDi(formato)->scrivi(s_, errore);
+    const std::string contenuto = formato.scrivi(s_.tavolo, errore);
     if (!errore.empty()) throw Rifiuto{errore};
     consegna(percorso, contenuto);
 }
@@ -200,11 +197,10 @@ void Esecuzione::report(std::string_view resto) {
 
 void Esecuzione::print(std::string_view resto) {
     const std::string percorso = file(resto);
-    const Rapporti &r = s_.rapporti;
+    Rapporti &r = s_.rapporti;
     if (r.aperto.modulo.empty()) throw Rifiuto{"no report was opened yet"};
-    if (!r.stampa) throw Rifiuto{r.aperto.modulo + " has no Stampa menu"};
-    s_.rapporti.stampato = {};
-    r.stampa(s_);
+    r.stampato = {};
+    if (!app::StampaRapporto(s_)) throw Rifiuto{r.aperto.modulo + " has no Stampa menu"};
     consegna(percorso, reports::RapportoTesto(r.stampato));
 }
 

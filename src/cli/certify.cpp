@@ -2,8 +2,8 @@
 #include "cli/certify.h"
 
 #include "certificato/certificato.h"
+#include "cli/consegna.h"
 #include "cli/disegno.h"
-#include "cli/formati.h"
 
 namespace ombrelia::cli {
 

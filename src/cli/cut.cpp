@@ -8,9 +8,10 @@
 #include <vector>
 
 #include "certificato/posa.h"
+#include "cli/consegna.h"
 #include "cli/disegno.h"
-#include "cli/formati.h"
 #include "cli/opzioni.h"
+#include "formati/formati.h"
 #include "officina/scrittori.h"
 #include "officina/solidi.h"
 #include "officina/tratti.h"

@@ -7,8 +7,9 @@
 #include <vector>
 
 #include "certificato/certificato.h"
+#include "cli/consegna.h"
 #include "cli/disegno.h"
-#include "cli/formati.h"
+#include "formati/formati.h"
 
 namespace ombrelia::cli {
 
@@ -20,8 +21,8 @@ struct Richiesta {
     std::vector<std::string> uscite;
     std::string formato;  // of outputs whose names tell none
 
-    [[nodiscard]] const Formato *formatoDi(const std::string &uscita) const {
-        const Formato *f = FormatoDi(Estensione(uscita));
+    [[nodiscard]] const FormatoDisegno *formatoDi(const std::string &uscita) const {
+        const FormatoDisegno *f = FormatoDi(Estensione(uscita));
         return f ? f : FormatoDi(formato);
     }
 };
@@ -41,7 +42,7 @@ std::string leggi(int argc, char **argv, Richiesta &r) {
     const auto ignota = std::find_if(r.uscite.begin(), r.uscite.end(), [&r](const std::string &u) { return !r.formatoDi(u); });
     if (ignota == r.uscite.end()) return {};
     std::string note;
-    for (const Formato &f : Formati()) note += " ." + std::string(f.estensione);
+    for (const FormatoDisegno &f : Formati()) note += " ." + std::string(f.estensione);
     return *ignota + ": unknown ending; I write" + note + ", and a name without one takes --format";
 }
 
@@ -55,7 +56,7 @@ std::string conta(std::size_t quanti, std::string_view cosa) {
 std::string metrico(double mm) { return TestoNumero(Round(mm, 1).v); }
 
 // What a file holds of the drawing, how large it is, and what of the drawing is not in it.
-std::string riassunto(const Sessione &s, const Formato &f) {
+std::string riassunto(const Sessione &s, const FormatoDisegno &f) {
     const Lista &l = s.tavolo.lista();
     std::string t =
         conta(l.Linee.size(), "lines") + ", " + conta(l.Punti.size(), "points") + ", " + conta(l.Figure.size(), "figures");
@@ -81,9 +82,9 @@ int Draw(int argc, char **argv) {
     if (const auto &carta = r.disegno.carta; carta) c.s.tavolo.Pagina(*carta);
     std::fprintf(stderr, "certificate: %s\n", VerdettoInglese(Certifica(DatiDelCertificato(c.s), c.s.tavolo.lista())).c_str());
     for (const std::string &uscita : r.uscite) {
-        const Formato &f = *r.formatoDi(uscita);
+        const FormatoDisegno &f = *r.formatoDi(uscita);
         std::string errore;
-        const std::string contenuto = r.disegno.carta && f.aPagine ? f.aPagine(c.s, errore) : f.scrivi(c.s, errore);
+        const std::string contenuto = r.disegno.carta && f.aPagine ? f.aPagine(c.s.tavolo, errore) : f.scrivi(c.s.tavolo, errore);
         if (errore.empty()) errore = Consegna(uscita, contenuto);
         if (!errore.empty()) return Rifiuta("draw", errore);
         std::fprintf(voce, "%s: %s\n", uscita.c_str(), riassunto(c.s, f).c_str());

@@ -8,9 +8,10 @@
 #include "app/comandi.h"
 #include "certificato/istante.h"
 #include "certificato/percorso.h"
+#include "cli/consegna.h"
 #include "cli/disegno.h"
-#include "cli/formati.h"
 #include "cli/place.h"
+#include "formati/formati.h"
 #include "luoghi/fusi.h"
 
 namespace ombrelia::cli {

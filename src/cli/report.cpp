@@ -6,10 +6,10 @@
 
 #include "app/comandi.h"
 #include "app/rapporti.h"
+#include "cli/consegna.h"
 #include "cli/disegno.h"
-#include "cli/formati.h"
 #include "gnomonica/longitudine.h"
-#include "reports/rapporti.h"
+#include "reports/foglio.h"
 
 namespace ombrelia::cli {
 
@@ -32,19 +32,10 @@ std::string scegli(const std::string &nome, Richiesta &r) {
     return r.voce ? std::string() : "unknown report " + nome + "; they are:\n" + NomiRapporti();
 }
 
-struct Forma {
-    std::string_view opzione;
-    std::string (*scrivi)(const Rapporto &);
-};
-constexpr Forma FORME[] = {{"--text", reports::RapportoTesto},
-                           {"--csv", reports::RapportoCsv},
-                           {"--csv-it", reports::RapportoCsvItaliano},
-                           {"--html", reports::RapportoHtml}};
-
 std::string leggi(int argc, char **argv, Richiesta &r) {
     Opzioni o{.comando = "report", .righe = {}, .parola = [&r](const std::string &p) { return scegli(p, r); }};
     r.campi.opzioni(o);
-    for (const Forma &f : FORME)
+    for (const reports::FormaRapporto &f : reports::FormeRapporto())
         o.righe.push_back({f.opzione, 0, {}, [&r, &f](const Valori &) {
                                r.forma = f.scrivi;
                                return std::string();
@@ -95,13 +86,11 @@ int Report(int argc, char **argv) {
     Sessione &s = comando.s;
     if (const std::string e = r.campi.Applica(s); !e.empty()) return rifiuta(e);
     if (r.voce->ckFunzione >= 0) s.in.ckFunzione = r.voce->ckFunzione;
-    for (const std::optional<NomeControllo> id : {r.voce->prima, std::optional(r.voce->controllo)})
-        if (id && app::Premi(s, *id) == app::Esito::Disabilitato) return rifiuta(perche(s, *r.voce));
+    if (r.voce->controllo == NESSUN_CONTROLLO) app::ApriRapporto(s, *r.voce);
+    for (const NomeControllo id : {r.voce->prima, r.voce->controllo})
+        if (id != NESSUN_CONTROLLO && app::Premi(s, id) == app::Esito::Disabilitato) return rifiuta(perche(s, *r.voce));
     if (s.rapporti.aperto.modulo != r.voce->modulo) return rifiuta(perche(s, *r.voce));
-    if (r.stampa) {
-        if (!s.rapporti.stampa) return rifiuta(std::string(r.voce->nome) + " has no printed form");
-        s.rapporti.stampa(s);
-    }
+    if (r.stampa && !app::StampaRapporto(s)) return rifiuta(std::string(r.voce->nome) + " has no printed form");
     const std::string errore = Consegna(r.uscita, r.forma(intestato(s, r.stampa ? s.rapporti.stampato : s.rapporti.aperto)));
     return errore.empty() ? 0 : rifiuta(errore);
 }

@@ -46,11 +46,12 @@ inline constexpr IdControllo NESSUN_CONTROLLO = -1;
 // compile and nothing is looked up at run. Whoever writes such a name includes controlli/nomi.h.
 class NomeControllo {
 public:
+    constexpr NomeControllo() = default;        // none
     consteval NomeControllo(const char *nome);  // NOLINT: a name is a control
     constexpr operator IdControllo() const { return id_; }
 
 private:
-    IdControllo id_;
+    IdControllo id_ = NESSUN_CONTROLLO;
 };
 
 // The whole table, form by form, in each form's own order.

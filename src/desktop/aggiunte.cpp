@@ -9,6 +9,7 @@
 #include <functional>
 #include <utility>
 
+#include "app/rapporti.h"
 #include "desktop/barra_tempo.h"
 #include "desktop/comandi.h"
 #include "desktop/finestra.h"
@@ -54,8 +55,8 @@ Aggiunte::Aggiunte(Finestra &finestra, Dialoghi &dialoghi) : QObject(&finestra),
     });
     if (auto *detti = f_.findChild<QLayout *>(QStringLiteral("detti"))) detti->addWidget(certificato_->distintivo());
     // The points of a report's row, as the report counts them.
-    for (const char *nome : {"Form1", "Form2", "Form3", "Form4", "Form6", "Form7", "Form8", "Form9", "Form10"})
-        if (TavoleRapporto *t = f_.moduli().tavole(nome))
+    for (const app::VoceRapporto &r : app::ElencoRapporti())
+        if (TavoleRapporto *t = f_.moduli().tavole(r.modulo))
             t->suPunti = [this](std::vector<ombra::Punto> punti) {
                 const double mm = PosaDelDisegno(f_.sessione()).unita * 1000;
                 for (ombra::Punto &p : punti) p.x *= mm, p.y *= mm;

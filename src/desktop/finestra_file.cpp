@@ -13,10 +13,8 @@
 #include "desktop/pagine_carta.h"
 #include "desktop/parole.h"
 #include "desktop/per_macchina.h"
+#include "formati/formati.h"
 #include "paint/documenti.h"
-#include "paint/file_disegno.h"
-#include "plot/dxf.h"
-#include "plot/svg.h"
 
 namespace ombrelia::desktop {
 
@@ -204,17 +202,17 @@ void Finestra::esportaPdf() {
 }
 
 void Finestra::esporta() {
-    const auto f = dialoghi_.file(this, true, QStringLiteral("svg"), QStringLiteral("*.svg;;*.png;;*.bmp;;*.dxf;;*.pdf"),
+    QStringList filtri, fini;
+    for (const FormatoDisegno &forma : Formati())
+        if (forma.disegno) filtri << QStringLiteral("*.") + Q(forma.estensione), fini << Q(forma.estensione);
+    filtri.move(filtri.indexOf(QStringLiteral("*.svg")), 0);
+    const auto f = dialoghi_.file(this, true, QStringLiteral("svg"), filtri.join(QStringLiteral(";;")),
                                   Q(app::CartellaDisegni()) + QStringLiteral("/quadrante.svg"));
     if (!f || f->isEmpty()) return;
-    const QString fine = QFileInfo(*f).suffix().toLower();
+    const FormatoDisegno *forma = FormatoDi(QFileInfo(*f).suffix().toStdString());
     std::string errore, contenuto;
-    if (fine == QStringLiteral("svg")) contenuto = SVG_Generate(perCarta());
-    else if (fine == QStringLiteral("dxf")) contenuto = DXF_Generate(perCarta());
-    else if (fine == QStringLiteral("png")) contenuto = paint::Png(perCarta(), errore);
-    else if (fine == QStringLiteral("bmp")) contenuto = paint::Bmp(perCarta(), errore);
-    else if (fine == QStringLiteral("pdf")) contenuto = paint::Pdf(perCarta(), errore);
-    else errore = f->toStdString() + ": svg, dxf, pdf, png, bmp";
+    if (forma && forma->disegno) contenuto = forma->scrivi(perCarta(), errore);
+    else errore = f->toStdString() + ": " + fini.join(QStringLiteral(", ")).toStdString();
     if (!errore.empty()) return dialoghi_.avviso(this, Motivo(ponte_, errore));
     scrivi(*f, contenuto);
 }

@@ -13,6 +13,7 @@
 #include <QToolBar>
 #include <QWhatsThis>
 
+#include "app/rapporti.h"
 #include "desktop/aiuti.h"
 #include "desktop/comandi.h"
 #include "desktop/esempi.h"
@@ -90,6 +91,21 @@ void Finestra::costruisciMenu() {
     QMenu *quadrante = menuBar()->addMenu(ponte_.Traduci("&Quadrante"));
     for (const std::string_view nome : {"cmdRun", "cmdEqui", "cmdData", "cmdTrasforma", "Tavolo1.cmdPulisci"})
         bottone(quadrante, nome);
+    // The reports that the fields have.
+    QMenu *tabelle = quadrante->addMenu(ponte_.Traduci("Tabelle"));
+    connect(tabelle, &QMenu::aboutToShow, this, [this, tabelle] {
+        tabelle->clear();
+        for (const app::VoceRapporto &r : app::ElencoRapporti()) {
+            if (!app::HaRapporto(s_, r)) continue;
+            QAction *a = tabelle->addAction(Leggibile(s_.Traduci(s_.titolo(r.modulo))), this, [this, &r] {
+                ponte_.fai(r.controllo, [&] {
+                    if (r.controllo == NESSUN_CONTROLLO) app::ApriRapporto(s_, r);
+                    else app::Premi(s_, r.controllo);
+                });
+            });
+            a->setEnabled(r.controllo == NESSUN_CONTROLLO || s_.stato(r.controllo).abilitato);
+        }
+    });
     quadrante->addSeparator();
     nostro(quadrante, "scegliPagine", [this] {
         ponte_.passo = ponte_.Traduci("Pagina scelta");

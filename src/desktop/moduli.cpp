@@ -1,6 +1,7 @@
 // The lesser forms.
 #include "desktop/moduli.h"
 
+#include <QFileInfo>
 #include <QFontDatabase>
 #include <QGridLayout>
 #include <QGroupBox>
@@ -18,6 +19,7 @@
 #include <QTextDocument>
 #include <QVBoxLayout>
 
+#include "app/rapporti.h"
 #include "core/file.h"
 #include "desktop/figure.h"
 #include "desktop/letture_parete.h"
@@ -28,12 +30,6 @@
 namespace ombrelia::desktop {
 
 namespace {
-
-// The report forms with their one menu entry.
-constexpr std::pair<std::string_view, std::string_view> RAPPORTI[] = {
-    {"Form1", "menuFond"},   {"Form2", "mnuPrinta"},  {"Form3", "mnustampat"}, {"Form4", "mnubabprint"}, {"Form6", "mnu_Print"},
-    {"Form7", "menustampa"}, {"Form8", "menuprinta"}, {"Form9", "mnuStammpa"}, {"Form10", "mnuDatiQ"},
-};
 
 QPlainTextEdit *lettura(QWidget *genitore) {
     auto *t = new QPlainTextEdit(genitore);
@@ -63,7 +59,8 @@ void riempi(QPlainTextEdit *t, const Rapporto &r) {
 }  // namespace
 
 Moduli::Moduli(Ponte &ponte, Dialoghi &dialoghi, QWidget *finestra) : ponte_(ponte), dialoghi_(dialoghi), finestra_(finestra) {
-    for (const auto &r : RAPPORTI) rapporto(r.first);
+    for (const app::VoceRapporto &r : app::ElencoRapporti())
+        if (app::MenuStampa(r.modulo)) rapporto(r.modulo);
     avviso();
     strumenti();
     istruzioni();
@@ -99,12 +96,9 @@ void Moduli::rapporto(std::string_view nome) {
     testo->setObjectName(QStringLiteral("testo"));
     w->setCentralWidget(new TavoleRapporto(ponte_, dialoghi_, testo, w));
     w->resize(900, 560);
-    for (const auto &[modulo, menu] : RAPPORTI) {
-        if (modulo != nome) continue;
-        QAction *stampa = ponte_.voce(std::string(modulo) + "." + std::string(menu), w);
-        stampa->setShortcut(QKeySequence::Print);
-        w->menuBar()->addAction(stampa);
-    }
+    QAction *stampa = ponte_.voce(std::string(nome) + "." + std::string(RigaDi(*app::MenuStampa(nome)).nome), w);
+    stampa->setShortcut(QKeySequence::Print);
+    w->menuBar()->addAction(stampa);
     auto *salva = new QAction(ponte_.Traduci("Salva come..."), w);
     salva->setObjectName(QStringLiteral("salva"));
     salva->setShortcut(QKeySequence::Save);
@@ -117,12 +111,13 @@ void Moduli::rapporto(std::string_view nome) {
 }
 
 void Moduli::salvaTesto(QWidget *sopra, const Rapporto &r) {
-    const auto f = dialoghi_.file(sopra, true, QStringLiteral("txt"), QStringLiteral("*.txt;;*.csv;;*.html"),
+    QStringList filtri;
+    for (const reports::FormaRapporto &forma : reports::FormeRapporto()) filtri << QStringLiteral("*.") + Q(forma.estensione);
+    filtri.removeDuplicates();
+    const auto f = dialoghi_.file(sopra, true, QStringLiteral("txt"), filtri.join(QStringLiteral(";;")),
                                   Q(r.modulo) + QStringLiteral(".txt"));
     if (!f || f->isEmpty()) return;
-    const std::string contenuto = f->endsWith(QStringLiteral(".csv"), Qt::CaseInsensitive)    ? reports::RapportoCsv(r)
-                                  : f->endsWith(QStringLiteral(".html"), Qt::CaseInsensitive) ? reports::RapportoHtml(r)
-                                                                                              : reports::RapportoTesto(r);
+    const std::string contenuto = reports::FormaRapportoDi(QFileInfo(*f).suffix().toStdString()).scrivi(r);
     if (const auto errore = ScriviFile(f->toStdString(), contenuto)) dialoghi_.avviso(sopra, Q(*errore));
 }
 

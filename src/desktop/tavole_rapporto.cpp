@@ -233,8 +233,7 @@ void TavoleRapporto::salva(const QString &forma) {
         d.print(&pdf);
         return;
     }
-    if (const auto errore = ScriviFile(f->toStdString(), forma == QStringLiteral("csv") ? reports::RapportoCsv(rapporto_)
-                                                                                        : reports::RapportoHtml(rapporto_)))
+    if (const auto errore = ScriviFile(f->toStdString(), reports::FormaRapportoDi(forma.toStdString()).scrivi(rapporto_)))
         dialoghi_.avviso(this, Q(*errore));
 }
 

@@ -1,12 +1,11 @@
 // The data of the equivalent vertical dial, worked out again on the original one: the fields hold the equivalent by now.
-#include "analytic/conica.h"
-#include "reports/rapporti.h"
+#include "gnomonica/conica.h"
+#include "gnomonica/declinazioni.h"
+#include "reports/foglio.h"
 
 namespace ombrelia::reports {
 
 namespace {
-
-constexpr double OBLIQUITA = 23.445;
 
 Elemento gradi(Valore radianti) { return Fmt(Gradi(radianti), "0.00000"); }
 
@@ -115,11 +114,11 @@ void solstizi(Sessione &s, Foglio &f, Parete &p) {
         v.altStilo = Atn(cf * cd / Sqr(1 - cd * cd * (cf * cf)));
     }
     v.y0 = v.gn * tan(v.altStilo);
-    analytic::Conica k;
-    k.calcola(analytic::QuadratoCotangente(OBLIQUITA), v.altStilo, v.gn);
+    Conica k;
+    k.calcola(QuadratoCotangente(OBLIQUITA), v.altStilo, v.gn);
     if (Abs(v.inc_o) != 90) {
         if (daConica) {
-            const analytic::Radici x = analytic::AscisseConica(k, v.angSustilare, v.y0, yo);
+            const Radici x = AscisseConica(k, v.angSustilare, v.y0, yo);
             xPiu = x.piu;
             xMeno = x.meno;
         }
@@ -165,9 +164,12 @@ Valore sustilareOriginale(Variabili &v) {
     return u;
 }
 
-void datiEquivalente(Sessione &s, Uscita uscita) {
+}  // namespace
+
+void DatiEquivalente(Sessione &s, Uscita uscita) {
     Variabili &v = s.v;
-    Foglio f(s, "Form10", uscita, StampaForm10);
+    if (uscita == Uscita::Stampa && v.flagVerticale != 1) return DatiFondamentali(s, uscita);
+    Foglio f(s, "Form10", uscita);
     v.unita = s.in.ChCentimetro == 1 ? 0.001 : 1.0;
     v.lon = Val(s.in.txtLonG);
     v.meridiano = Val(s.in.txtMeridiano);
@@ -197,16 +199,6 @@ void datiEquivalente(Sessione &s, Uscita uscita) {
     f.riga({f.tr("inclinazione = "_it), Numero(v.inc_o), "°  "});
     f.riga({f.tr("longitudine = "_it), Numero(v.lonCopia), "°  "});
     f.chiudi();
-}
-
-}  // namespace
-
-void MostraDatiEquivalente(Sessione &s) { datiEquivalente(s, Uscita::Schermo); }
-void StampaDatiEquivalente(Sessione &s) { datiEquivalente(s, Uscita::Stampa); }
-
-void StampaForm10(Sessione &s) {
-    if (s.v.flagVerticale == 1) StampaDatiEquivalente(s);
-    else StampaDatiFondamentali(s);
 }
 
 }  // namespace ombrelia::reports

@@ -265,4 +265,23 @@ std::string RapportoHtml(const Rapporto &r) {
     return h;
 }
 
+namespace {
+
+constexpr FormaRapporto FORME[] = {
+    {"txt", "--text", "lines in print zones of 14 columns, as on the form (without a choice)", RapportoTesto},
+    {"csv", "--csv", "labelled values, then one block a table: numbers with all their digits", RapportoCsv},
+    {"csv", "--csv-it", "the same with ; and decimal commas, for Italian spreadsheets", RapportoCsvItaliano},
+    {"html", "--html", "a page with tables", RapportoHtml},
+};
+
+}  // namespace
+
+std::span<const FormaRapporto> FormeRapporto() { return FORME; }
+
+const FormaRapporto &FormaRapportoDi(std::string_view estensione) {
+    for (const FormaRapporto &f : FORME)
+        if (UguaglianzaSenzaCaso(f.estensione, estensione)) return f;
+    return FORME[0];
+}
+
 }  // namespace ombrelia::reports

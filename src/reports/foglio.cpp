@@ -57,12 +57,11 @@ Elemento Ornamento(std::string_view testo) {
 Elemento Zona() { return separatore(Separatore::Zona, 0); }
 Elemento Spc(int n) { return separatore(Separatore::Blank, n); }
 
-Foglio::Foglio(Sessione &s, std::string_view modulo, Uscita uscita, void (*stampa)(Sessione &))
+Foglio::Foglio(Sessione &s, std::string_view modulo, Uscita uscita)
     : s_(s), uscita_(uscita), r_(uscita == Uscita::Schermo ? s.rapporti.aperto : s.rapporti.stampato) {
     r_ = {};
     r_.modulo = modulo;
     r_.caption = s.titolo(modulo);
-    if (schermo()) s.rapporti.stampa = stampa;
 }
 
 void Foglio::aggiungi(std::vector<Elemento> voci, Genere genere) {

@@ -9,13 +9,11 @@
 #include <string_view>
 
 #include "core/conteggio.h"
+#include "reports/rapporti.h"
 #include "sessione/limiti.h"
 #include "sessione/sessione.h"
 
 namespace ombrelia::reports {
-
-// Screen and printer share a routine's body and differ where its text asks.
-enum class Uscita : std::uint8_t { Schermo, Stampa };
 
 // --- items ------------------------------------------------------------------------------------------------------------
 
@@ -44,8 +42,7 @@ using Trilingue = std::array<std::string, 3>;
 // One opening of a report. On the screen it empties the form first; to the printer it begins a new document.
 class Foglio {
 public:
-    // stampa is what the form's "Stampa" menu runs.
-    Foglio(Sessione &s, std::string_view modulo, Uscita uscita, void (*stampa)(Sessione &));
+    Foglio(Sessione &s, std::string_view modulo, Uscita uscita);
     Foglio(const Foglio &) = delete;
     Foglio &operator=(const Foglio &) = delete;
 

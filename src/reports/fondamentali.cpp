@@ -1,13 +1,12 @@
 // The fundamental data of a dial.
-#include "analytic/conica.h"
+#include "gnomonica/conica.h"
+#include "gnomonica/declinazioni.h"
 #include "gnomonica/longitudine.h"
-#include "reports/rapporti.h"
+#include "reports/foglio.h"
 
 namespace ombrelia::reports {
 
 namespace {
-
-constexpr double OBLIQUITA = 23.445;
 
 // What the preparation computes beside the shared variables.
 struct Preparazione {
@@ -157,7 +156,7 @@ void lineeDiurne(Sessione &s, Foglio &f) {
     const Reale dOpz = Val(s.in.txtDelta);
     const Reale Y = v.yOriz;
     v.segnoDec = v.dec == 0 ? Valore(1) : Sgn(v.decR);
-    analytic::Conica k;
+    Conica k;
     Reale m, xPiu, xMeno, yPiu, yMeno;
     const struct {
         Valore delta;
@@ -173,9 +172,9 @@ void lineeDiurne(Sessione &s, Foglio &f) {
         const Valore cl = cos(v.latR), cd = cos(v.decR);
         v.altStilo = Atn(cl * cd / Sqr(1 - cd * cd * (cl * cl)));
         v.y0 = v.gn * tan(v.altStilo);
-        m = analytic::QuadratoCotangente(linea.delta);
+        m = QuadratoCotangente(linea.delta);
         k.calcola(m, v.altStilo, v.gn);
-        const analytic::Radici x = analytic::AscisseConica(k, v.angSustilare, v.y0, Y);
+        const Radici x = AscisseConica(k, v.angSustilare, v.y0, Y);
         xPiu = x.piu;
         xMeno = x.meno;
         f.riga({f.tr(linea.orizzonte), Spc(2), Zona(), Fmt(xPiu, "0.000000"), Spc(2), Zona(), Fmt(xMeno, "0.000000")});
@@ -210,9 +209,11 @@ void equinoziale(Sessione &s, Foglio &f) {
     }
 }
 
-void datiFondamentali(Sessione &s, Uscita uscita) {
+}  // namespace
+
+void DatiFondamentali(Sessione &s, Uscita uscita) {
     if (TroppeRighe(s, -6, 6, Val(s.in.TxtFraz), 1)) return;
-    Foglio f(s, "Form1", uscita, StampaDatiFondamentali);
+    Foglio f(s, "Form1", uscita);
     const Preparazione p = prepara(s);
     primari(s, f, p);
     lunghezze(s, f, p);
@@ -220,10 +221,5 @@ void datiFondamentali(Sessione &s, Uscita uscita) {
     equinoziale(s, f);
     f.chiudi();
 }
-
-}  // namespace
-
-void MostraDatiFondamentali(Sessione &s) { datiFondamentali(s, Uscita::Schermo); }
-void StampaDatiFondamentali(Sessione &s) { datiFondamentali(s, Uscita::Stampa); }
 
 }  // namespace ombrelia::reports

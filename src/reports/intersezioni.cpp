@@ -1,17 +1,14 @@
 // Where the hour lines meet the day lines, by spherical trigonometry and by analytic geometry.
-#include "analytic/analitica.h"
-#include "analytic/conica.h"
+#include "gnomonica/angoli_parete.h"
+#include "gnomonica/conica.h"
+#include "gnomonica/declinazioni.h"
 #include "gnomonica/longitudine.h"
 #include "gnomonica/proiezione.h"
-#include "reports/rapporti.h"
+#include "reports/foglio.h"
 
 namespace ombrelia::reports {
 
 namespace {
-
-using analytic::Conica;
-
-constexpr double OBLIQUITA = 23.445;
 
 const Trilingue LINEE{
     "                                                            linea diurna invernale                        linea diurna "
@@ -39,13 +36,15 @@ std::vector<std::string> colonne(const Sessione &s) {
 
 Elemento quattro(Valore x) { return Fmt(x, "0.0000"); }
 
-void sferica(Sessione &s, Uscita uscita) {
+}  // namespace
+
+void IntersezioniSferiche(Sessione &s, Uscita uscita) {
     Variabili &v = s.v;
     const Valore inizio = Val(s.in.TxtInizio), fine = Val(s.in.TxtFine);
     if (TroppeRighe(s, inizio, fine, Val(s.in.TxtFraz), 5)) return;
     v.oraFuso = s.in.ck_Etna == 1 ? 1 : 0;
     LeggiParametri(s);
-    Foglio f(s, "Form6", uscita, StampaInterSferica);
+    Foglio f(s, "Form6", uscita);
     v.unita = s.in.ChCentimetro == 1 ? 0.001 : 1.0;
     const Valore cL = v.lonPiu15 * v.oraFuso * (v.latR == 0 ? Valore(1) : Sgn(v.latR));  // degrees
 
@@ -83,12 +82,12 @@ void sferica(Sessione &s, Uscita uscita) {
     f.chiudi();
 }
 
-void analitica(Sessione &s, Uscita uscita) {
+void IntersezioniAnalitiche(Sessione &s, Uscita uscita) {
     Variabili &v = s.v;
     const Valore inizio = Val(s.in.TxtInizio), fine = Val(s.in.TxtFine);
     if (TroppeRighe(s, inizio, fine, Val(s.in.TxtFraz), 4)) return;
-    analytic::CalcolaAngoliAnalitici(s);
-    Foglio f(s, "Form7", uscita, StampaInterAnalitica);
+    CalcolaAngoliAnalitici(s);
+    Foglio f(s, "Form7", uscita);
     const Reale seno = sin(v.decR) * cos(v.incR) / cos(v.altStilo);
     v.angoloOra = ArcSin(seno) + (DalMeridiano(v.lonCopia, v.meridiano) * PI / 180) * v.oraFuso;
     v.y0 = v.gn * tan(v.altStilo);
@@ -96,7 +95,7 @@ void analitica(Sessione &s, Uscita uscita) {
     f.etichetta(" Geometria Analitica "_it);
     const auto tabella = [&](Valore delta) { f.tabella("delta = +/- " + TestoNumero(delta.v), colonne(s)); };
     const Valore tabelle[] = {v.deltaOpz, 20, 11.5, 0};
-    const analytic::RiferimentoSustilare quadro(v.angSustilare, v.y0);
+    const RiferimentoSustilare quadro(v.angSustilare, v.y0);
     Conica k;
     Reale m, h, q, x1, y1, x2, y2;
     bool prima = true;
@@ -109,7 +108,7 @@ void analitica(Sessione &s, Uscita uscita) {
         }
         const bool equinozio = &delta == &tabelle[3];
         prima = false;
-        m = analytic::QuadratoCotangente(delta);
+        m = QuadratoCotangente(delta);
         k.calcola(m, v.altStilo, v.gn);
         for (const double V : Conteggio(180 - 15 * fine, 180 - 15 * inizio, 15 / v.fraz)) {
             const Valore t = V * PI / 180;
@@ -118,7 +117,7 @@ void analitica(Sessione &s, Uscita uscita) {
             const Valore a = equinozio ? Valore(1) : 1 + k.R * (q * q);
             const Valore b = equinozio ? Valore(0) : k.Q - 2 * k.R * h * q;
             const Valore c = equinozio ? Valore(0) : k.P + k.R * (h * h);
-            const analytic::Radici r = analytic::RisolviQuadratica(a, b, c);
+            const Radici r = RisolviQuadratica(a, b, c);
             if (r.reali) {
                 const Valore u1 = -(h - r.piu * q), u2 = -(h - r.meno * q);
                 x1 = quadro.x(u1, r.piu);
@@ -134,12 +133,5 @@ void analitica(Sessione &s, Uscita uscita) {
     s.in.OptInter = 0;
     f.chiudi();
 }
-
-}  // namespace
-
-void MostraInterSferica(Sessione &s) { sferica(s, Uscita::Schermo); }
-void StampaInterSferica(Sessione &s) { sferica(s, Uscita::Stampa); }
-void MostraInterAnalitica(Sessione &s) { analitica(s, Uscita::Schermo); }
-void StampaInterAnalitica(Sessione &s) { analitica(s, Uscita::Stampa); }
 
 }  // namespace ombrelia::reports

@@ -1,7 +1,7 @@
 // The day lines of four declinations, ordinate by abscissa.
-#include "analytic/analitica.h"
-#include "analytic/conica.h"
-#include "reports/rapporti.h"
+#include "gnomonica/angoli_parete.h"
+#include "gnomonica/conica.h"
+#include "reports/foglio.h"
 
 namespace ombrelia::reports {
 
@@ -14,7 +14,9 @@ constexpr std::string_view PRIME[] = {"ascissa                ordinata e      or
 constexpr std::string_view ALTRE[] = {"    ordinata e      ordinata i  ", "    ordonnée é      ordonnée h  ",
                                       "    ordinate s      ordinate w  "};
 
-void lineeDiurne(Sessione &s, Uscita uscita) {
+}  // namespace
+
+void LineeDiurne(Sessione &s, Uscita uscita) {
     Variabili &v = s.v;
     const Reale unita = s.in.ChCentimetro == 1 ? 0.001 : 1.0;
     const Conteggio ascisse(Val(s.in.txtMinus), Val(s.in.txtMax), 0.05 / unita);
@@ -22,16 +24,16 @@ void lineeDiurne(Sessione &s, Uscita uscita) {
     if (TroppoFitto(
             s, {{inizio ? "txtMinus" : "txtMax", inizio ? s.in.txtMinus : s.in.txtMax, ascisse, PUNTI_MASSIMI / RIGHE_MASSIME}}))
         return;
-    analytic::CalcolaAngoliAnalitici(s);
-    Foglio f(s, "Form8", uscita, StampaLineeDiurne);
+    CalcolaAngoliAnalitici(s);
+    Foglio f(s, "Form8", uscita);
     v.unita = unita;
     v.y0 = v.gn * tan(v.altStilo);
 
     const Valore declinazioni[] = {23.445, 20, 11.5, v.deltaOpz};
-    std::vector<analytic::OrdinateConica> linee;
+    std::vector<OrdinateConica> linee;
     for (const Valore &d : declinazioni) {
-        analytic::Conica k;
-        const Reale m = analytic::QuadratoCotangente(d);  // a declination of 0 has none: m stays empty
+        Conica k;
+        const Reale m = QuadratoCotangente(d);  // a declination of 0 has none: m stays empty
         k.calcola(m, v.altStilo, v.gn);
         linee.emplace_back(k, v.angSustilare, v.y0);
     }
@@ -58,7 +60,7 @@ void lineeDiurne(Sessione &s, Uscita uscita) {
     for (const double V : ascisse) {
         std::vector<Elemento> voci{Fmt(V, "0.00")};
         for (std::size_t i = 0; i < linee.size(); ++i) {
-            const analytic::Radici r = linee[i](V);
+            const Radici r = linee[i](V);
             estive[i] = r.meno;
             invernali[i] = r.piu;
             for (const Valore y : {Valore(estive[i]), Valore(invernali[i])}) {
@@ -70,10 +72,5 @@ void lineeDiurne(Sessione &s, Uscita uscita) {
     }
     f.chiudi();
 }
-
-}  // namespace
-
-void MostraLineeDiurne(Sessione &s) { lineeDiurne(s, Uscita::Schermo); }
-void StampaLineeDiurne(Sessione &s) { lineeDiurne(s, Uscita::Stampa); }
 
 }  // namespace ombrelia::reports

@@ -127,7 +127,7 @@ void oreVere(Sessione &s, Uscita uscita, Specie specie) {
     Variabili &v = s.v;
     if (TroppeRighe(s, Val(s.in.TxtInizio), Val(s.in.TxtFine), Val(s.in.TxtFraz), 2)) return;
     LeggiParametri(s);
-    Foglio f(s, "Form2", uscita, StampaForm2);
+    Foglio f(s, "Form2", uscita);
     v.deltaOpz = Abs(Val(s.in.txtDelta));
     Calcolo c;
     c.specie = specie;
@@ -161,18 +161,12 @@ void oreVere(Sessione &s, Uscita uscita, Specie specie) {
 
 }  // namespace
 
-void MostraOreVere(Sessione &s) { oreVere(s, Uscita::Schermo, Specie::Inclinato); }
-void StampaOreVere(Sessione &s) { oreVere(s, Uscita::Stampa, Specie::Inclinato); }
-void MostraOreVereVerticale(Sessione &s) { oreVere(s, Uscita::Schermo, Specie::Parete); }
-void StampaOreVereVerticale(Sessione &s) { oreVere(s, Uscita::Stampa, Specie::Parete); }
-void MostraOreVereLatZero(Sessione &s) { oreVere(s, Uscita::Schermo, Specie::LatZero); }
-void StampaOreVereLatZero(Sessione &s) { oreVere(s, Uscita::Stampa, Specie::LatZero); }
-
-void StampaForm2(Sessione &s) {
-    if (s.v.lat < 0) return;
-    if (s.v.lat == 0) StampaOreVereLatZero(s);
-    else if (s.v.incR == 0) StampaOreVereVerticale(s);
-    else StampaOreVere(s);
+void OreVere(Sessione &s, Uscita uscita) {
+    const bool stampa = uscita == Uscita::Stampa;
+    if (stampa && s.v.lat < 0) return;
+    const bool equatore = (stampa ? Valore(s.v.lat) : Val(s.in.txtLAT)) == 0;
+    const bool parete = (stampa ? Valore(s.v.incR) : Val(s.in.txtInc)) == 0;
+    oreVere(s, uscita, equatore ? Specie::LatZero : parete ? Specie::Parete : Specie::Inclinato);
 }
 
 }  // namespace ombrelia::reports

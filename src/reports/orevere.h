@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "reports/rapporti.h"
+#include "reports/foglio.h"
 
 namespace ombrelia::reports::ore {
 

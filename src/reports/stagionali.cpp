@@ -2,7 +2,7 @@
 #include <functional>
 
 #include "gnomonica/proiezione.h"
-#include "reports/rapporti.h"
+#include "reports/foglio.h"
 
 namespace ombrelia::reports {
 
@@ -14,7 +14,6 @@ enum class Ora : std::uint8_t { Italica, Babilonica, Temporaria };
 
 struct Testi {
     std::string_view modulo;
-    void (*stampa)(Sessione &);
     // Titles and heads of the table of solstices, then of those of chosen lines; Italian, French, English.
     std::array<std::string_view, 3> titoloSolstizi, testaSolstizi, titoloRette, testaRette;
 };
@@ -22,7 +21,6 @@ struct Testi {
 const Testi &testi(Ora ora) {
     static const Testi tutti[] = {
         {"Form9",
-         StampaItaliche,
          {"COORDINATE CARTESIANE DEGLI INTERCETTI DELLE RETTE ORARIE Italiche con le linee diurne dei SOLSTIZI.",
           "Coordonnées rectangulaires des points d'intersection des droites horaires italiques avec les lignes des solstices.",
           "Rectangular coordinates of the intercepts of the Italic hour lines with the curves of the solstices"},
@@ -36,7 +34,6 @@ const Testi &testi(Ora ora) {
           "heure italique    abscisse h         ordonnée h               ordonnée               abscisse ",
           "Italic hour           abscissa               ordinate               ordinate            abscissa"}},
         {"Form4",
-         StampaBabiloniche,
          {"COORDINATE CARTESIANE DEGLI INTERCETTI DELLE RETTE ORARIE Babiloniche con le linee diurne dei SOLSTIZI.",
           "Coordonnées rectangulaires des points d'intersection des droites horaires babyloniques avec les lignes des solstices.",
           "Rectangular coordinates of the intercepts of the Babylonic hour lines with the curves of the solstices"},
@@ -50,7 +47,6 @@ const Testi &testi(Ora ora) {
           "heure babylonique    abscisse h         ordonnée h               ordonnée               abscisse ",
           "Babylonic hour           abscissa               ordinate               ordinate            abscissa"}},
         {"Form3",
-         StampaTemporarie,
          {},
          {},
          {"COORDINATE DEGLI INTERCETTI DELLE RETTE ORARIE Temporarie CON RETTE A PIACERE, PER ESEMPIO I BORDI DEL QUADRO.",
@@ -167,7 +163,7 @@ void italicheBabiloniche(Sessione &s, Uscita uscita, Ora ora) {
     if (TroppeRighe(s, Val(s.in.TxtInizio), Val(s.in.TxtFine), Val(s.in.TxtFraz), 3)) return;
     LeggiParametri(s);
     const Testi &t = testi(ora);
-    Foglio f(s, t.modulo, uscita, t.stampa);
+    Foglio f(s, t.modulo, uscita);
     s.in.OptIta = 0;
     s.in.OptBab = 0;
     ripristinaOrizzontale(v);
@@ -189,11 +185,13 @@ void italicheBabiloniche(Sessione &s, Uscita uscita, Ora ora) {
     f.chiudi();
 }
 
-void temporarie(Sessione &s, Uscita uscita) {
+}  // namespace
+
+void OreTemporarie(Sessione &s, Uscita uscita) {
     Variabili &v = s.v;
     if (TroppeRighe(s, 0, 11, Val(s.in.TxtFraz), 2)) return;
     LeggiParametri(s);
-    Foglio f(s, "Form3", uscita, StampaTemporarie);
+    Foglio f(s, "Form3", uscita);
     s.in.OptTEMP = 0;
     ripristinaOrizzontale(v);
     if (v.lat_o == 0) {
@@ -227,13 +225,7 @@ void temporarie(Sessione &s, Uscita uscita) {
     f.chiudi(orizzontale ? "Lia Berna 220408 " : "");
 }
 
-}  // namespace
-
-void MostraItaliche(Sessione &s) { italicheBabiloniche(s, Uscita::Schermo, Ora::Italica); }
-void StampaItaliche(Sessione &s) { italicheBabiloniche(s, Uscita::Stampa, Ora::Italica); }
-void MostraBabiloniche(Sessione &s) { italicheBabiloniche(s, Uscita::Schermo, Ora::Babilonica); }
-void StampaBabiloniche(Sessione &s) { italicheBabiloniche(s, Uscita::Stampa, Ora::Babilonica); }
-void MostraTemporarie(Sessione &s) { temporarie(s, Uscita::Schermo); }
-void StampaTemporarie(Sessione &s) { temporarie(s, Uscita::Stampa); }
+void OreItaliche(Sessione &s, Uscita uscita) { italicheBabiloniche(s, uscita, Ora::Italica); }
+void OreBabiloniche(Sessione &s, Uscita uscita) { italicheBabiloniche(s, uscita, Ora::Babilonica); }
 
 }  // namespace ombrelia::reports

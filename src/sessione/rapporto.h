@@ -15,8 +15,6 @@
 
 namespace ombrelia {
 
-struct Sessione;
-
 // What stands behind an item of a line, before the next one.
 enum class Separatore : std::uint8_t { Nessuno, Zona, Blank };
 
@@ -71,9 +69,8 @@ struct Rapporto {
 
 // The reports of a session.
 struct Rapporti {
-    Rapporto aperto;                       // the one opened last; without a form none was opened yet
-    void (*stampa)(Sessione &) = nullptr;  // what its "Stampa" menu runs; null where it has none
-    Rapporto stampato;                     // what a "Stampa" menu sent to the printer last
+    Rapporto aperto;    // the one opened last; without a form none was opened yet
+    Rapporto stampato;  // what a "Stampa" menu sent to the printer last
     // Told when a report was filled and when one was sent to the printer; a window shows or prints it.
     std::function<void(const Rapporto &)> suApertura, suStampa;
     std::function<std::tm()> orologio = AdessoLocale;

@@ -9,10 +9,10 @@
 #include "app/azioni.h"
 #include "app/comandi.h"
 #include "app/progetto.h"
-#include "cli/formati.h"
 #include "core/campi.h"
 #include "core/file.h"
 #include "core/percorsi.h"
+#include "formati/formati.h"
 #include "luoghi/angolo.h"
 #include "officina/scrittori.h"
 #include "officina/tratti.h"
@@ -263,9 +263,9 @@ std::string Pagina::Esporta(std::string_view forma) {
         if (!m || !errore.empty()) throw std::runtime_error(errore);
         return m->scrivi(d, {.titolo = "Ombrelia"});
     }
-    const cli::Formato *f = cli::FormatoDi(forma);
+    const FormatoDisegno *f = FormatoDi(forma);
     if (!f) throw std::invalid_argument("unknown form " + std::string(forma));
-    std::string errore, contenuto = f->scrivi(disegno(), errore);
+    std::string errore, contenuto = f->scrivi(disegno().tavolo, errore);
     if (!errore.empty()) throw std::runtime_error(errore);
     return contenuto;
 }
@@ -299,8 +299,7 @@ std::string Pagina::ApriRapporto(std::string_view nome) {
 }
 
 std::string Pagina::RapportoCome(std::string_view forma) const {
-    const Rapporto &r = prova_.rapporti.aperto;
-    return forma == "csv" ? reports::RapportoCsv(r) : reports::RapportoTesto(r);
+    return reports::FormaRapportoDi(forma).scrivi(prova_.rapporti.aperto);
 }
 
 }  // namespace ombrelia::web

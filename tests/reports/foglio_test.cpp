@@ -1,4 +1,6 @@
 // The line model: print zones, blanks, numbers, faults, exports; how reports open, clear and print.
+#include "reports/foglio.h"
+
 #include <functional>
 #include <numeric>
 
@@ -20,7 +22,7 @@ const Valore NIENTE = Valore::nessuno();
 
 std::string Riga(std::initializer_list<Elemento> voci) {
     Banco b;
-    Foglio f(b.s, "Form1", Uscita::Schermo, nullptr);
+    Foglio f(b.s, "Form1", Uscita::Schermo);
     f.riga(voci);
     const auto righe = Righe(b.s.rapporti.aperto);
     return righe.empty() ? "(none)" : righe[0];
@@ -41,7 +43,7 @@ TEST(Foglio, ZonesBlanksNumbersAndFaults) {
     EXPECT_EQ(Riga({"a ", Numero(1), Fmt(NIENTE, "0.0"), "tail"}), "a  1 ");
     EXPECT_EQ(Riga({Fmt(NIENTE, "0.0"), "tail"}), "(none)");
     Banco b;
-    Foglio f(b.s, "Form1", Uscita::Schermo, nullptr);
+    Foglio f(b.s, "Form1", Uscita::Schermo);
     f.rigaUnita({"a ", reports::Unito(NIENTE), "tail"});
     f.rigaUnita({"b ", reports::Unito(0.015), " m"});
     EXPECT_EQ(Righe(b.s.rapporti.aperto), std::vector<std::string>{"b 0.015 m"});

@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "app/rapporti.h"
 #include "comuni/prova.h"
 #include "reports/rapporti.h"
 
@@ -55,7 +56,7 @@ public:
             else spunta(c);
     }
     const Rapporto &apri(std::string_view controllo) { return premi(controllo), s.rapporti.aperto; }
-    const Rapporto &stampa() { return s.rapporti.stampa(s), s.rapporti.stampato; }
+    const Rapporto &stampa() { return app::StampaRapporto(s), s.rapporti.stampato; }
 };
 
 }  // namespace ombrelia::prova

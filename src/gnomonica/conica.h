@@ -4,7 +4,7 @@
 
 #include "core/angoli.h"
 
-namespace ombrelia::analytic {
+namespace ombrelia {
 
 // 1 / tan² of a declination in degrees. Faults at 0.
 inline Valore QuadratoCotangente(Valore gradi) {
@@ -87,4 +87,4 @@ inline Radici AscisseConica(const Conica &k, Valore sigma, Valore y0, Valore L) 
     return RisolviQuadratica(a, b, c);
 }
 
-}  // namespace ombrelia::analytic
+}  // namespace ombrelia

@@ -43,8 +43,8 @@ Opens the window, with PROJECT when it is named.
 )";
 
 constexpr std::string_view DRAW =
-    R"(usage: ombrelia draw [--project FILE] [--set FIELD=TEXT]... [--check BOX]... [--engine ENGINE] [--sheet L H X Y] [--paper PAPER]
-                    FILE...
+    R"(usage: ombrelia draw [--project FILE] [--set FIELD=TEXT]... [--check BOX]... [--engine ENGINE] [--map] [--sheet L H X Y]
+                    [--paper PAPER] FILE...
 
 Draws a dial and writes it, once for each FILE, in the form of its ending. For each it tells what the file holds, a picture's scale
 and size, and what of the drawing the form has no place for.
@@ -59,6 +59,7 @@ and size, and what of the drawing the form has no place for.
                      ChCentimetro: lengths are millimetres; ck_Etna: true time of the zone; ckFunzione: intermediate lines
   --corrected        true lines in place of those that are not (the box ckCorretta)
   --engine ENGINE    auto (as the run button decides), direct, vertical or analytic (walls only)
+  --map              the map of the world on the dial
   --sheet L H X Y    width, height and origin of the sheet in metres; without it the project's, or fitted to the frame
   --paper PAPER      a PDF in pages to be pasted together, those that hold lines: a4, a3, letter, or WxH in millimetres
   --format ENDING    the form of a FILE whose name has no ending, as /dev/stdout; - is standard output

@@ -44,6 +44,7 @@ std::string LeggiCarta(std::string_view testo, Carta &carta) {
 void Disegno::opzioni(Opzioni &o) {
     campi.opzioni(o);
     o.righe.push_back({"--engine", 1, "an engine", [this](const Valori &v) { return leggiMotore(v[0], motore); }});
+    o.righe.push_back(Bandiera("--map", mappa));
     o.righe.push_back(
         {"--sheet", 4, "four numbers: L H X Y", [this](const Valori &v) { return leggiFoglio(v, foglio.emplace()); }});
     o.righe.push_back(
@@ -90,6 +91,7 @@ std::string Disegno::Esegui(Sessione &s) const {
         return std::string(RigaDi(bottone).nome) + " is disabled: it works on walls only (txtInc must read 0)";
     if (!e) return e.motivo.empty() ? "the run was refused" : e.motivo;
     if (s.tavolo.lista().Ordine.empty()) return "nothing was drawn, and nothing is written";
+    if (const app::Esito m = mappa ? app::Premi(s, NomeControllo("cmdPlot")) : app::Esito(app::Esito::Fatto); !m) return m.motivo;
     return {};
 }
 

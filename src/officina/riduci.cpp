@@ -47,7 +47,7 @@ double scoperto(const Cammino &c, const Griglia &tutti, const Griglia *suoi, dou
         s[i] = s[i - 1] + l;
         parti.clear();
         tutti.coperto(c.punti[i - 1], c.punti[i], vicino, parti);
-        if (suoi) suoi->coperto(c.punti[i - 1], c.punti[i], STESSO, parti);
+        if (suoi) suoi->coperto(c.punti[i - 1], c.punti[i], (1 - PRIMA) * STESSO, parti);
         for (const auto &[p, q] : parti) {
             const double da = s[i - 1] + p * l, a = s[i - 1] + q * l;
             if (!coperti.empty() && da <= coperti.back().second + 1e-6)

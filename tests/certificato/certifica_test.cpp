@@ -116,7 +116,7 @@ double disegna(Tavolo &t, const DatiCertificato &dati, const Linea &l, const Gua
     return mm;
 }
 
-TEST(Certificato, JudgesWhatIsTrueAndWhatIsNot) {
+TEST(Certificato, GiudicaIlVeroEIlFalso) {
     int viste = 0;
     double peggiore = 0;
     for (const Quadro &q : QUADRI) {
@@ -170,7 +170,7 @@ TEST(Certificato, JudgesWhatIsTrueAndWhatIsNot) {
 }
 
 // Night and the far side: a day line drawn all round the clock.
-TEST(Certificato, DarkLinesAreSuperfluous) {
+TEST(Certificato, LeLineeAlBuioSonoSuperflue) {
     prova::Banco b({{"txtLAT", "45"},
                     {"txtDec", "0"},
                     {"txtInc", "35"},
@@ -192,7 +192,7 @@ TEST(Certificato, DarkLinesAreSuperfluous) {
     }
 }
 
-TEST(Certificato, KnownLinesOfTheEngines) {
+TEST(Certificato, LineeNoteDeiMotori) {
     int righe = 0;
     for (const auto &r : prova::Tabella("certificato.txt")) {
         prova::Banco b({{"txtLAT", r[0]},
@@ -221,7 +221,7 @@ TEST(Certificato, KnownLinesOfTheEngines) {
     EXPECT_GE(righe, 8);
 }
 
-TEST(Certificato, WordsAndForms) {
+TEST(Certificato, ParoleEForme) {
     prova::Banco b({{"txtLAT", "45"},
                     {"txtDec", "18"},
                     {"txtInc", "0"},

@@ -33,7 +33,7 @@ std::string disegnoDi(const std::vector<std::pair<std::string_view, std::string_
     return ListaTesto(s.tavolo.lista());
 }
 
-TEST(Affidabile, AFailedSaveOrOpenKeepsTheMark) {
+TEST(Affidabile, UnSalvataggioFallitoTieneIlSegno) {
     BancoFinestra b;
     b.scrivi("txtDec", "7.25");
     b.dialoghi.risposte = {"no such folder/x.omb"};
@@ -56,7 +56,7 @@ TEST(Affidabile, AFailedSaveOrOpenKeepsTheMark) {
     EXPECT_TRUE(b.f.close());
 }
 
-TEST(Affidabile, AProjectIsSavedWhereItLiesAndAnotherAsksAboutTheChanges) {
+TEST(Affidabile, IlProgettoSiSalvaDoveStaEUnAltroChiede) {
     BancoFinestra b;
     b.scrivi("txtDec", "3");
     b.dialoghi.risposte = {"uno.omb"};
@@ -85,7 +85,7 @@ TEST(Affidabile, AProjectIsSavedWhereItLiesAndAnotherAsksAboutTheChanges) {
     EXPECT_TRUE(b.f.percorso().isEmpty() && !b.f.modificato());
 }
 
-TEST(Affidabile, ADxfGoesWhereTheFileBoxSaysOrNowhere) {
+TEST(Affidabile, IlDxfVaDoveSiDiceODaNessunaParte) {
     BancoFinestra b;
     b.premi("Tavolo1.cmdDxf");  // cancelled
     EXPECT_TRUE(QDir().entryList({QStringLiteral("*.dxf")}, QDir::Files | QDir::Hidden).isEmpty());
@@ -95,7 +95,7 @@ TEST(Affidabile, ADxfGoesWhereTheFileBoxSaysOrNowhere) {
     EXPECT_NE(b.campo("Tavolo1.p_mess").find("muro.dxf"), std::string::npos);
 }
 
-TEST(Affidabile, ADialIsOfItsFieldsWhateverWasThereBefore) {
+TEST(Affidabile, UnQuadranteEDeiSuoiCampi) {
     const std::vector<std::string_view> caselle{"chkOreAstronomiche", "ck_babiloniche"};
     for (const auto &[campo, testo] : {std::pair{"txtDec", "-33"}, {"txtInc", "40"}, {"txtLAT", "38.25"}}) {
         const std::string attesa = disegnoDi({{campo, testo}}, caselle);
@@ -130,7 +130,7 @@ TEST(Affidabile, ADialIsOfItsFieldsWhateverWasThereBefore) {
     EXPECT_TRUE(b.lista() == disegnoDi({{"txtLAT", "50"}}, caselle));
 }
 
-TEST(Affidabile, NumeralsStandOnce) {
+TEST(Affidabile, INumeriUnaVoltaSola) {
     for (const bool universale : {false, true}) {
         BancoFinestra b;
         b.scrivi("txtInc", "0");
@@ -155,7 +155,7 @@ TEST(Affidabile, NumeralsStandOnce) {
     }
 }
 
-TEST(Affidabile, AFieldTakesWhatItsKeysWouldTake) {
+TEST(Affidabile, UnCampoPrendeQuelCheITastiPrenderebbero) {
     BancoFinestra b;
     auto *campo = b.w<QLineEdit>("txtDec");
     b.scrivi("txtDec", "-33");
@@ -185,7 +185,7 @@ TEST(Affidabile, AFieldTakesWhatItsKeysWouldTake) {
     EXPECT_TRUE(QFile::exists(QStringLiteral("scorciatoia.pdf")));
 }
 
-TEST(Affidabile, TheWindowContradictsItselfNowhere) {
+TEST(Affidabile, LaFinestraNonSiContraddice) {
     BancoFinestra b;
     b.f.findChild<QAbstractButton *>(QStringLiteral("Adatta"))->click();
     // Both read-outs of one point.
@@ -227,7 +227,7 @@ TEST(Affidabile, TheWindowContradictsItselfNowhere) {
     EXPECT_NE(pianta(), nord);
 }
 
-TEST(Affidabile, AnItalianProjectLeavesAnEnglishWindowEnglish) {
+TEST(Affidabile, UnProgettoItalianoInFinestraInglese) {
     {
         BancoFinestra b;
         b.dialoghi.risposte = {"italiano.omb"};
@@ -249,7 +249,7 @@ TEST(Affidabile, AnItalianProjectLeavesAnEnglishWindowEnglish) {
     QSettings().remove(QStringLiteral("lingua"));
 }
 
-TEST(Affidabile, TheBoardSaysWhatItWroteAndTakesItBack) {
+TEST(Affidabile, IlQuadroDiceEDisfa) {
     BancoFinestra b;
     b.f.ponte().premi("mnuAusiliaria");
     b.f.ponte().fai(NESSUN_CONTROLLO, [&] { app::Imposta(b.s(), TrovaControllo("frmDeclin.txtAngle"), "12"); });
@@ -268,7 +268,7 @@ TEST(Affidabile, TheBoardSaysWhatItWroteAndTakesItBack) {
     EXPECT_EQ(b.campo("txtAO"), "-15");
 }
 
-TEST(Affidabile, AWantOfMemoryKeepsTheDial) {
+TEST(Affidabile, SenzaMemoriaIlQuadranteResta) {
     BancoFinestra b;
     b.spunta("chkOreAstronomiche");
     b.premi("cmdRun");
@@ -282,7 +282,7 @@ TEST(Affidabile, AWantOfMemoryKeepsTheDial) {
     EXPECT_NE(b.dialoghi.avvisi[0].find("memoria"), std::string::npos);
 }
 
-TEST(Affidabile, TextsAreShownAsTheyStand) {
+TEST(Affidabile, ITestiComeStanno) {
     BancoFinestra b;
     const std::string marcato = "<img src='segreto.png'>x";
     b.s().stato("lblLatitudine").caption = marcato;
@@ -296,7 +296,7 @@ TEST(Affidabile, TextsAreShownAsTheyStand) {
         }
 }
 
-TEST(Affidabile, NumbersKnowNoLocale) {
+TEST(Affidabile, INumeriNonSannoDiLocale) {
     BancoFinestra b;
     b.scrivi("txtLAT", "45.0703");
     b.f.ponte().premi("cmdData");
@@ -318,7 +318,7 @@ TEST(Affidabile, NumbersKnowNoLocale) {
     std::setlocale(LC_ALL, "C");
 }
 
-TEST(Affidabile, EveryStepIsTakenBackAndDoneAgain) {
+TEST(Affidabile, OgniPassoSiAnnullaESiRipete) {
     BancoFinestra b;
     b.scrivi("txtInc", "0");
     b.dialoghi.risposte = {"passi.omb"};

@@ -42,7 +42,7 @@ double contrasto(const QColor &a, const QColor &b) {
     return (std::max(luce(a), luce(b)) + 0.05) / (std::min(luce(a), luce(b)) + 0.05);
 }
 
-TEST(Aspetto, AWholeDialStandsThereAtOnce) {
+TEST(Aspetto, UnQuadranteInteroSubito) {
     BancoFinestra b;
     b.f.primoQuadrante();
     b.aspettaVivo();
@@ -62,7 +62,7 @@ TEST(Aspetto, AWholeDialStandsThereAtOnce) {
     b.vivo()->setChecked(false);
 }
 
-TEST(Aspetto, NothingLeavesTheWindowWhereItIsSmall) {
+TEST(Aspetto, NullaEsceDaUnaFinestraPiccola) {
     for (const QSize misura : {QSize(1024, 700), QSize(1360, 900)}) {
         BancoFinestra b;
         b.f.resize(misura);
@@ -84,7 +84,7 @@ TEST(Aspetto, NothingLeavesTheWindowWhereItIsSmall) {
     }
 }
 
-TEST(Aspetto, TextsAndLinesStandOut) {
+TEST(Aspetto, TestiELineeRisaltano) {
     for (const bool scuro : {false, true}) {
         desktop::VestiApplicazione(*qApp, scuro ? desktop::Tema::Scuro : desktop::Tema::Chiaro);
         const desktop::StileFoglio stile = desktop::StileDi(scuro);
@@ -119,7 +119,7 @@ TEST(Aspetto, TextsAndLinesStandOut) {
     desktop::VestiApplicazione(*qApp, desktop::Tema::Chiaro);
 }
 
-TEST(Aspetto, TheSheetTellsItsLines) {
+TEST(Aspetto, IlFoglioDiceLeSueLinee) {
     BancoFinestra b;
     b.f.primoQuadrante();
     b.aspettaVivo();
@@ -169,7 +169,7 @@ TEST(Aspetto, TheSheetTellsItsLines) {
     EXPECT_FALSE(carta.lista().Linee.empty());
 }
 
-TEST(Aspetto, FieldsStepReadAnglesAndTellTheirRange) {
+TEST(Aspetto, ICampiLeggonoAngoliEDiconoIlCampo) {
     BancoFinestra b;
     auto *lat = b.w<QLineEdit>("txtLAT");
     b.scrivi("txtLAT", "45°04'13 N");
@@ -206,7 +206,7 @@ TEST(Aspetto, FieldsStepReadAnglesAndTellTheirRange) {
     EXPECT_EQ(b.campo("txtMeridiano"), "-15");
 }
 
-TEST(Aspetto, WorkOfAWindowThatDiedIsOffered) {
+TEST(Aspetto, IlLavoroDiUnaFinestraMortaSiOffre) {
     {
         BancoFinestra b;
         b.scrivi("txtDec", "6.5");
@@ -226,7 +226,7 @@ TEST(Aspetto, WorkOfAWindowThatDiedIsOffered) {
     EXPECT_FALSE(QFile::exists(QStringLiteral("ripreso.omb.ripresa-999999999")));
 }
 
-TEST(Aspetto, ALongRunIsStopped) {
+TEST(Aspetto, UnaCorsaLungaSiFerma) {
     BancoFinestra b;
     for (const std::string_view nome : {"chkOreAstronomiche", "Ck_DayLightCurves", "ckAlt"}) b.spunta(nome);
     b.f.findChild<QAbstractButton *>(QStringLiteral("Adatta"))->click();
@@ -294,7 +294,7 @@ std::set<QString> testi(BancoFinestra &b) {
     return t;
 }
 
-TEST(Aspetto, NoTextStaysItalian) {
+TEST(Aspetto, NessunTestoRestaItaliano) {
     std::set<QString> italiani;
     {
         BancoFinestra b;

@@ -46,7 +46,7 @@ struct BancoMacchina : BancoFinestra {
     }
 };
 
-TEST(PerMacchina, ShowsThePathsBeforeTheyAreSaved) {
+TEST(PerMacchina, MostraIPercorsiPrimaDiSalvarli) {
     BancoMacchina b;
     b.apri();
     ASSERT_TRUE(b.d->disegno());
@@ -81,7 +81,7 @@ TEST(PerMacchina, ShowsThePathsBeforeTheyAreSaved) {
     EXPECT_TRUE(b.dialoghi.avvisi.empty());
 }
 
-TEST(PerMacchina, SaysWhyThereIsNothingToSave) {
+TEST(PerMacchina, DicePercheNonCENullaDaSalvare) {
     BancoMacchina b;
     b.s().tavolo.Clear();
     b.apri();
@@ -114,7 +114,7 @@ struct BancoParete : BancoFinestra {
     }
 };
 
-TEST(LettureParete, MeanSpreadAndTheReadingThatStandsOut) {
+TEST(LettureParete, MediaScartoELaLetturaCheStona) {
     BancoParete b("44.494", "-11.343", "-15");
     // The board's own answer, reading by reading: the wall's declination is the azimuth less the angle.
     const auto azimut = [&](int ore, int minuti) {
@@ -157,7 +157,7 @@ TEST(LettureParete, MeanSpreadAndTheReadingThatStandsOut) {
 }
 
 // Zone and summer time of the day, by the rules of the place: known dates of its changes.
-TEST(LettureParete, TheBoardHasTheClockOfThePlace) {
+TEST(LettureParete, IlQuadroHaLOraDelLuogo) {
     struct Caso {
         const char *lat, *lon, *meridiano;
         int giorno, mese, anno, ore;

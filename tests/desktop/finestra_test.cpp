@@ -25,7 +25,7 @@ using desktop::Finestra;
 
 using prova::BancoFinestra;
 
-TEST(Finestra, EachRowOfTheTableHasItsWidget) {
+TEST(Finestra, OgniRigaHaIlSuoControllo) {
     BancoFinestra b;
     std::size_t trovati = 0;
     for (const Controllo &c : TavolaControlli()) {
@@ -50,7 +50,7 @@ TEST(Finestra, EachRowOfTheTableHasItsWidget) {
     EXPECT_GT(trovati, 150U);
 }
 
-TEST(Finestra, TheSameUserAtWindowAndScriptLeavesTheSameDrawing) {
+TEST(Finestra, FinestraECopioneLoStessoDisegno) {
     struct Caso {
         const char *nome;
         std::vector<std::pair<std::string_view, const char *>> campi;
@@ -97,7 +97,7 @@ TEST(Finestra, TheSameUserAtWindowAndScriptLeavesTheSameDrawing) {
     }
 }
 
-TEST(Finestra, KeysPassTheirFilter) {
+TEST(Finestra, ITastiPassanoIlFiltro) {
     struct Caso {
         std::string_view campo;
         const char *tasti, *resta;
@@ -122,7 +122,7 @@ TEST(Finestra, KeysPassTheirFilter) {
     }
 }
 
-TEST(Finestra, FieldsFollowTheirRules) {
+TEST(Finestra, ICampiSeguonoLeRegole) {
     BancoFinestra b;
     EXPECT_FALSE(b.w("cmdEqui")->isEnabled());
     b.scrivi("txtInc", "0");
@@ -135,7 +135,7 @@ TEST(Finestra, FieldsFollowTheirRules) {
     EXPECT_EQ(b.w<QLineEdit>("txtInc")->text(), QStringLiteral("0"));
 }
 
-TEST(Finestra, EachReportOpensWithItsTextAndPrints) {
+TEST(Finestra, OgniRapportoSiApreESiStampa) {
     struct Caso {
         std::string_view comando, modulo, menu;
     };
@@ -163,7 +163,7 @@ TEST(Finestra, EachReportOpensWithItsTextAndPrints) {
     EXPECT_TRUE(b.f.moduli().modulo("Form5")->isVisible());
 }
 
-TEST(Finestra, TheBoardHandsItsNumbersOver) {
+TEST(Finestra, IlQuadroPassaINumeri) {
     BancoFinestra b;
     b.f.ponte().premi("mnuAusiliaria");
     QWidget *board = b.f.moduli().modulo("frmDeclin");
@@ -183,7 +183,7 @@ TEST(Finestra, TheBoardHandsItsNumbersOver) {
     EXPECT_FALSE(board->isVisible());
 }
 
-TEST(Finestra, TheLiveDialIsTheRunOfItsFields) {
+TEST(Finestra, IlVivoELaCorsaDeiCampi) {
     BancoFinestra b;
     b.spunta("chkOreAstronomiche");
     b.spunta("Ck_DayLightCurves");
@@ -211,7 +211,7 @@ TEST(Finestra, TheLiveDialIsTheRunOfItsFields) {
     b.f.findChild<QAbstractButton *>(QStringLiteral("disegnaMentreScrivi"))->setChecked(false);
 }
 
-TEST(Finestra, ALongRunIsStoppedByTheNextKey) {
+TEST(Finestra, UnaCorsaLungaSiFermaAlTasto) {
     BancoFinestra b;
     for (const std::string_view nome : {"chkOreAstronomiche", "Ck_DayLightCurves", "ckAlt", "ckAz"}) b.spunta(nome);
     b.f.findChild<QAbstractButton *>(QStringLiteral("disegnaMentreScrivi"))->setChecked(true);
@@ -227,7 +227,7 @@ TEST(Finestra, ALongRunIsStoppedByTheNextKey) {
     b.f.findChild<QAbstractButton *>(QStringLiteral("disegnaMentreScrivi"))->setChecked(false);
 }
 
-TEST(Finestra, SheetFollowsTheFrameAndTheSwitchClears) {
+TEST(Finestra, IlFoglioSegueLaCornice) {
     BancoFinestra b;
     auto *avviso = b.f.findChild<QLabel *>(QStringLiteral("avvisoCornice"));
     EXPECT_FALSE(avviso->text().isEmpty());
@@ -242,7 +242,7 @@ TEST(Finestra, SheetFollowsTheFrameAndTheSwitchClears) {
     EXPECT_EQ(b.lista(), una);
 }
 
-TEST(Finestra, AClickOnTheSheetReadsOutAndChoosesItsTile) {
+TEST(Finestra, UnClicSulFoglioLeggeESceglie) {
     BancoFinestra b;
     b.f.findChild<QPushButton *>(QStringLiteral("Adatta"))->click();
     desktop::Foglio &foglio = b.f.quadro().foglio();
@@ -263,7 +263,7 @@ TEST(Finestra, AClickOnTheSheetReadsOutAndChoosesItsTile) {
     EXPECT_FALSE(b.w("Tavolo1.picPrint")->isVisible());
 }
 
-TEST(Finestra, PagesReachThePrinter) {
+TEST(Finestra, LePagineArrivanoAllaStampante) {
     if (QStandardPaths::findExecutable(QStringLiteral("pdfinfo")).isEmpty()) GTEST_SKIP() << "needs poppler-utils";
     BancoFinestra b;
     b.spunta("chkOreAstronomiche");
@@ -305,7 +305,7 @@ TEST(Finestra, PagesReachThePrinter) {
     EXPECT_EQ(b.dialoghi.avvisi[0], "Nessuna area selezionata");
 }
 
-TEST(Finestra, TheWheelZoomsAboutThePointer) {
+TEST(Finestra, LaRotellaIngrandisceAlPuntatore) {
     BancoFinestra b;
     b.f.findChild<QPushButton *>(QStringLiteral("Adatta"))->click();
     desktop::Foglio &foglio = b.f.quadro().foglio();
@@ -328,7 +328,7 @@ TEST(Finestra, TheWheelZoomsAboutThePointer) {
     EXPECT_TRUE(QRectF(foglio.viewport()->rect()).contains(intero));
 }
 
-TEST(Finestra, AProjectIsSavedOpenedAndAskedAbout) {
+TEST(Finestra, UnProgettoSiSalvaSiApreSiChiede) {
     BancoFinestra b;
     b.scrivi("txtDec", "7.25");
     EXPECT_TRUE(b.f.modificato());

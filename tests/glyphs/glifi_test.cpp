@@ -58,8 +58,8 @@ std::size_t Pezzi(const Linee &linee, double gioco) {
 }
 
 // A south wall on which numerals are 150 mm high and signs 15.
-struct Muro : Banco {
-    explicit Muro(Campi campi = {}) : Banco({{"txtInc", "0"}, {"txtArabi", ".15"}, {"txtNumbersize", ".15"}}) {
+struct MuroDiCifre : Banco {
+    explicit MuroDiCifre(Campi campi = {}) : Banco({{"txtInc", "0"}, {"txtArabi", ".15"}, {"txtNumbersize", ".15"}}) {
         imposta({{"txtZodiacsize", "0.015"}, {"txtLonG", "-15"}, {"ck_Etna", "0"}});
         imposta(campi);
         LeggiParametri(s);
@@ -92,8 +92,8 @@ struct Muro : Banco {
     }
 };
 
-TEST(Cifre, KeepToTheCellJoinAndStandUpright) {
-    Muro banco;
+TEST(Cifre, NellaCellaUniteEDiritte) {
+    MuroDiCifre banco;
     for (const auto &r : Tabella("cifre.txt")) {
         const Linee &linee = banco.cifra(std::stoi(r[0]));
         const Ingombro i(linee);
@@ -106,8 +106,8 @@ TEST(Cifre, KeepToTheCellJoinAndStandUpright) {
     EXPECT_TRUE(banco.cifra(10).empty() && banco.cifra(-1).empty());
 }
 
-TEST(Numeri, TakeACellForEachDigit) {
-    Muro banco;
+TEST(Numeri, UnaCellaPerCifra) {
+    MuroDiCifre banco;
     const auto fuori = [&v = banco.s.v](double x, double y) { return std::hypot(v.x1.numero() - x, v.y1.numero() - y); };
     for (const int n : {1, 5, 9, 10, 11, 12}) {
         const bool due = n > 9;
@@ -121,8 +121,8 @@ TEST(Numeri, TakeACellForEachDigit) {
     }
 }
 
-TEST(NumeriRomani, SpellTheHours) {
-    Muro banco;
+TEST(NumeriRomani, ScrivonoLeOre) {
+    MuroDiCifre banco;
     int ora = 0;
     for (const std::string attese : {"I", "II", "III", "IV", "V", "VI", "VII", "VIII", "IX", "X", "XI", "XII"}) {
         const Ingombro i(banco.romano(++ora));
@@ -136,9 +136,9 @@ TEST(NumeriRomani, SpellTheHours) {
     EXPECT_TRUE(banco.romano(0).empty() && banco.romano(2000000000).empty());
 }
 
-TEST(NumeriSulleOre, StandOnTheHourLinesOfTheDayLine) {
+TEST(NumeriSulleOre, SulleOreDellaDiurna) {
     for (const auto &[lat, dec, delta] : {std::array{"45", "0", "-10"}, {"38", "-20", "23.445"}, {"60", "35", "0"}}) {
-        Muro banco({{"txtLAT", lat}, {"txtDec", dec}, {"txtDelta", delta}, {"txtNumbersize", ".0015"}}), campione;
+        MuroDiCifre banco({{"txtLAT", lat}, {"txtDec", dec}, {"txtDelta", delta}, {"txtNumbersize", ".0015"}}), campione;
         banco.s.in.ckRomani = 1, banco.romani();
         const Proiezione proietta(banco.s.v);
         auto primo = banco.lista().Linee.begin(), fine = banco.lista().Linee.end();
@@ -156,8 +156,8 @@ TEST(NumeriSulleOre, StandOnTheHourLinesOfTheDayLine) {
     }
 }
 
-TEST(NumeriSulleOre, WaitForAWallAndARun) {
-    Muro banco({{"txtLonG", "0"}});
+TEST(NumeriSulleOre, AspettanoUnMuroEUnaCorsa) {
+    MuroDiCifre banco({{"txtLonG", "0"}});
     EXPECT_TRUE(banco.arabi() > 0 && banco.romani() == banco.arabi()) << "the box is clear: Arabic";
     EXPECT_TRUE(banco.s.v.deltaOpz.numero() == 23.445 && banco.s.v.angOraLong.numero() == 15) << "degrees";
     banco.s.in.txtInc = "25.2";
@@ -167,8 +167,8 @@ TEST(NumeriSulleOre, WaitForAWallAndARun) {
     EXPECT_EQ(banco.romani() + banco.arabi(), 0U) << "no run before";
 }
 
-TEST(Segni, HaveTheirStrokesWithinTheirSizeAndStandUpright) {
-    Muro cielo;
+TEST(Segni, NellaMisuraEDiritti) {
+    MuroDiCifre cielo;
     int n = 0;
     for (const auto &r : Tabella("segni.txt")) {
         const Ingombro i = cielo.segno(n++, 1, 2);
@@ -182,8 +182,8 @@ TEST(Segni, HaveTheirStrokesWithinTheirSizeAndStandUpright) {
     EXPECT_EQ(n, SEGNI);
 }
 
-TEST(Glifi, ScaleWithTheirFieldsAndTheUnit) {
-    Muro banco;
+TEST(Glifi, CresconoColCampoEConLUnita) {
+    MuroDiCifre banco;
     const double alto = banco.segno(SEGNI - 1).altezza();
     banco.imposta({{"txtArabi", "30"}, {"txtNumbersize", "60"}, {"txtZodiacsize", "30"}});
     banco.s.v.unita = MM;
@@ -200,10 +200,10 @@ TEST(Glifi, ScaleWithTheirFieldsAndTheUnit) {
     }
 }
 
-TEST(Zodiaco, FollowsTheLongitudeOnAnyWall) {
+TEST(Zodiaco, SegueLaLongitudineSuOgniMuro) {
     for (const char *lon : {"-9.2", "0", "-15", "-21"})
         for (const char *dec : {"-40", "0", "62"}) {
-            Muro cielo({{"txtLonG", lon}, {"txtDec", dec}, {"txtLAT", "41.9"}, {"txtZodiacsize", "0"}});
+            MuroDiCifre cielo({{"txtLonG", lon}, {"txtDec", dec}, {"txtLAT", "41.9"}, {"txtZodiacsize", "0"}});
             const Linee posti = cielo.posti();
             ASSERT_EQ(posti.size(), 11U);
             const Proiezione proietta(cielo.s.v);
@@ -216,16 +216,16 @@ TEST(Zodiaco, FollowsTheLongitudeOnAnyWall) {
         }
 }
 
-TEST(Zodiaco, SouthernRunTurnsTheYear) {
-    Muro cielo({{"txtDec", "0"}, {"txtLAT", "30"}, {"txtZodiacsize", "0"}});
+TEST(Zodiaco, AlSudLAnnoSiVolta) {
+    MuroDiCifre cielo({{"txtDec", "0"}, {"txtLAT", "30"}, {"txtZodiacsize", "0"}});
     cielo.s.v.segnoLat = -1;
     const Linee posti = cielo.posti();
     EXPECT_TRUE(posti.at(0).Y1 > posti.at(5).Y1 && posti[5].Y1 > posti.at(10).Y1)
         << "Capricorn a summer sign, below the equinoctial";
 }
 
-TEST(Zodiaco, DotsCloseTheFigure) {
-    Muro cielo({{"txtDec", "10"}, {"txtLAT", "45"}}), nord({{"txtDec", "180"}, {"txtLAT", "45"}});
+TEST(Zodiaco, IPuntiChiudonoLaFigura) {
+    MuroDiCifre cielo({{"txtDec", "10"}, {"txtLAT", "45"}}), nord({{"txtDec", "180"}, {"txtLAT", "45"}});
     cielo.s.v.flagVerticale = 1, cielo.s.v.lonEq = -12;
     ChiudiZodiaco(cielo.s);
     EXPECT_EQ(cielo.s.v.lonPiu15.numero(), 3) << "the equivalent dial's longitude counts";

@@ -118,7 +118,7 @@ std::map<std::string, TestoSorgente> TuttiITesti() {
     return tutti;
 }
 
-TEST(Dizionari, EachTextOfTheProgramIsTranslatedAndEachEntryUsed) {
+TEST(Dizionari, OgniTestoTradottoEOgniVoceUsata) {
     const auto tutti = TuttiITesti();
     ASSERT_GT(tutti.size(), 150U);
     for (const auto &file : LINGUE) {
@@ -140,7 +140,7 @@ TEST(Dizionari, EachTextOfTheProgramIsTranslatedAndEachEntryUsed) {
 }
 
 // Captions are laid out, and numbers joined to labels, by the blanks around the texts.
-TEST(Dizionari, FilesAreWholeAndKeepTheBlanksAround) {
+TEST(Dizionari, FileInteriConGliSpazi) {
     std::vector<std::string> tutti;
     for (const auto &file : LINGUE) tutti.insert(tutti.end(), file.begin(), file.end());
     for (const std::string &lingua : tutti) {
@@ -161,7 +161,7 @@ TEST(Dizionari, FilesAreWholeAndKeepTheBlanksAround) {
 }
 
 // A file that translates what is no literal has marked its literals, unless it only hands texts on.
-TEST(Dizionari, TextsTranslatedByVariableAreMarked) {
+TEST(Dizionari, TestiTradottiPerVariabile) {
     const auto &[testi, variabili] = DelProgramma();
     const std::set<std::string> senzaTesti{"cli/disegno.cpp",     "lang/dizionario.h", "lang/dizionario.cpp",
                                            "sessione/sessione.h", "app/lingua.cpp",    "reports/foglio.h",
@@ -173,7 +173,7 @@ TEST(Dizionari, TextsTranslatedByVariableAreMarked) {
     }
 }
 
-TEST(Dizionari, TheGathererSeesWhatItShould) {
+TEST(Dizionari, IlRaccoglitoreVedeQuelCheDeve) {
     Raccolta r;
     r.Leggi(R"(#include "no"
         // s.Traduci("no")

@@ -25,7 +25,7 @@ const Atlante &atlante() {
     return a;
 }
 
-TEST(Luoghi, KnownTowns) {
+TEST(Luoghi, CittaNote) {
     double peggiore = 0;
     int righe = 0;
     for (const auto &r : prova::Tabella("luoghi_noti.txt")) {
@@ -41,7 +41,7 @@ TEST(Luoghi, KnownTowns) {
     EXPECT_EQ(righe, 50);
 }
 
-TEST(Luoghi, NamesakesAndNearMisses) {
+TEST(Luoghi, OmonimiEQuasi) {
     EXPECT_TRUE(atlante().Scegli("Cambridge").omonimi);
     EXPECT_EQ(atlante().Scegli("Cambridge, MA").luogo->regione, "MA");
     EXPECT_EQ(atlante().Scegli("Cambridge", "gb").luogo->paese, "GB");
@@ -56,7 +56,7 @@ TEST(Luoghi, NamesakesAndNearMisses) {
     EXPECT_EQ(rotto.luoghi()[0].longitudine, -7);
 }
 
-TEST(Luoghi, AnswersAtEveryKey) {
+TEST(Luoghi, RispondeAOgniTasto) {
     for (const std::string_view nome : {"San Francisco", "zürich", "qwertyuiop", "Saint-Étienne", "new york"})
         for (std::size_t k = 1; k <= nome.size(); ++k)
             ASSERT_LE(atlante().Suggerisci(nome.substr(0, k)).size(), 12U) << nome.substr(0, k);
@@ -65,7 +65,7 @@ TEST(Luoghi, AnswersAtEveryKey) {
     EXPECT_EQ(atlante().Suggerisci("rom").front()->nome, "Rome");
 }
 
-TEST(Angoli, AsPeopleWriteThem) {
+TEST(Angoli, ComeSiScrivono) {
     for (const auto &r : prova::Tabella("angoli_scritti.txt")) {
         const CampoAngolo *campo = TrovaCampoAngolo(r[0]);
         ASSERT_TRUE(campo) << r[0];
@@ -83,7 +83,7 @@ TEST(Angoli, AsPeopleWriteThem) {
 }
 
 // Any text at all: either a reason, or a number in range that the field's text gives again.
-TEST(Angoli, AnyText) {
+TEST(Angoli, QualunqueTesto) {
     std::mt19937 g(1);
     const std::string_view pezzi[] = {"4", "5", "0", "9", "60", "179", ".", ",", " ", "-", "+",   "°",    "'",    "\"", "''",
                                       "′", "N", "S", "E", "W",  "o",   "d", "m", "s", "e", "nan", "\xC2", "\xFF", "x"};
@@ -114,7 +114,7 @@ Orario orario(const std::string &t) {
     return o;
 }
 
-TEST(Fusi, Clocks) {
+TEST(Fusi, Orologi) {
     for (const auto &r : prova::Tabella("ore_civili.txt")) {
         const auto f = Fuso::Leggi(r[0]);
         if (!f) GTEST_SKIP() << "no zone data on this system";
@@ -128,7 +128,7 @@ TEST(Fusi, Clocks) {
     EXPECT_EQ(Fuso::LeggiOppure("Europe/Nowhere", 345).InUT(0).scarto, 345 * 60);
 }
 
-TEST(Fusi, LikeTheCLibrary) {
+TEST(Fusi, ComeLaLibreriaDelC) {
     const char *prima = std::getenv("TZ");
     const std::string tz = prima ? prima : "";
     std::mt19937_64 g(7);
@@ -166,7 +166,7 @@ TEST(Fusi, LikeTheCLibrary) {
     EXPECT_EQ(base, 0);
 }
 
-TEST(Fusi, BrokenFiles) {
+TEST(Fusi, FileRotti) {
     const auto file = LeggiFile("/usr/share/zoneinfo/Australia/Lord_Howe", 1U << 20);
     if (!file) GTEST_SKIP() << "no zone data on this system";
     std::mt19937 g(3);
@@ -198,7 +198,7 @@ int place(std::vector<std::string> a, std::string &uscita) {
     return esito;
 }
 
-TEST_F(ComandoPlace, ListsAndStatus) {
+TEST_F(ComandoPlace, ElenchiEStato) {
     scrivi("luoghi.csv", tabella());
     std::string t;
     EXPECT_EQ(place({"New", "York"}, t), 0);

@@ -37,7 +37,7 @@ struct Foglio200 : Tavolo {
 
 bool diCornice(const Cammino &c) { return c.genere == Genere::Cornice; }
 
-TEST(Officina, ChordsToPaths) {
+TEST(Officina, DaCordeAPercorsi) {
     int righe = 0;
     for (const auto &r : prova::Tabella("taglio.txt")) {
         ++righe;
@@ -68,7 +68,7 @@ TEST(Officina, ChordsToPaths) {
 }
 
 // An arc of radius R within a tolerance t takes chords of 2 acos(1 - t/R) at the most; the fewest points are near that.
-TEST(Officina, CurvesKeepTheFewestPoints) {
+TEST(Officina, CurveConPochiPunti) {
     for (const double t : {0.1, 0.01, 0.002}) {
         Foglio200 f;
         const int n = 20000;
@@ -87,7 +87,7 @@ TEST(Officina, CurvesKeepTheFewestPoints) {
     }
 }
 
-TEST(Officina, PointsJoinAlongTheirCurvesAndKeepGaps) {
+TEST(Officina, IPuntiSiUnisconoTenendoIVuoti) {
     Foglio200 f;
     // Two branches drawn in turn, one with a gap of ten steps, a lone point.
     for (int i = 0; i <= 100; ++i) {
@@ -107,7 +107,7 @@ TEST(Officina, PointsJoinAlongTheirCurvesAndKeepGaps) {
 }
 
 // A glyph whose middle is inside stays whole, another goes whole.
-TEST(Officina, GlyphsAreNotCut) {
+TEST(Officina, IGlifiNonSiTagliano) {
     for (const double x : {98.0, 102.0}) {
         Foglio200 f;
         f.linea({x - 5, 0}, {x + 5, 0}, "");
@@ -118,7 +118,7 @@ TEST(Officina, GlyphsAreNotCut) {
     }
 }
 
-TEST(Officina, KindsHaveNamesThatEveryReaderTakes) {
+TEST(Officina, IGeneriHannoNomiPerTutti) {
     std::set<std::string_view> nomi;
     for (const RigaGenere &r : Generi()) {
         EXPECT_TRUE(nomi.insert(r.nome).second);
@@ -129,7 +129,7 @@ TEST(Officina, KindsHaveNamesThatEveryReaderTakes) {
 }
 
 // What any reader of the format must find: tags in pairs, sections in their order, units, extents that hold every vertex.
-TEST(Officina, DxfIsWhole) {
+TEST(Officina, IlDxfEIntero) {
     for (const Unita unita : {Unita::Millimetri, Unita::Pollici}) {
         Foglio200 f;
         f.linea({-30, 0}, {30, 25.4}, "hour");
@@ -166,7 +166,7 @@ TEST(Officina, DxfIsWhole) {
 }
 
 // Pen moves of a plotter file give back the path's length, in fortieths of a millimetre.
-TEST(Officina, HpglHasTheLength) {
+TEST(Officina, LHpglHaLaLunghezza) {
     Foglio200 f;
     f.linea({-30, 0}, {30, 0}, "hour");
     const std::string t = Hpgl(f.pronto(), {});
@@ -187,7 +187,7 @@ TEST(Officina, HpglHasTheLength) {
     EXPECT_NEAR(giu / 40, 600 + 60, 0.1);
 }
 
-TEST(Officina, StrokesCarryAccentsAndDegrees) {
+TEST(Officina, ITrattiHannoAccentiEGradi) {
     if (!CiSonoTratti()) GTEST_SKIP() << "no alphabet here";
     EXPECT_TRUE(TrattiDi(" ", 5).empty());
     for (const char *c : {"à", "è", "é", "ì", "ò", "ù", "ç", "ü", "°", "♈", "♎", "♓"}) {
@@ -206,7 +206,7 @@ bool incrocia(P2 a, P2 b, P2 c, P2 d) {
 }
 
 // Labels cross nothing and stay inside; without the box the list is what it was.
-TEST(Officina, LabelsStandClear) {
+TEST(Officina, LeEtichetteStannoLibere) {
     const prova::Campi muro{{"txtLAT", "45"}, {"txtDec", "0"}, {"txtInc", "0"},
                             {"txtX0", "-.6"}, {"txtX1", ".6"}, {"txtY1", "-.8"}};
     prova::Banco senza(muro, {"chkOreAstronomiche", "Ck_DayLightCurves"});
@@ -249,7 +249,7 @@ double chiuso(const Solido &s, const char *che) {
     return s.volume();
 }
 
-TEST(Officina, SolidsAreClosedAndOfTheirVolume) {
+TEST(Officina, SolidiChiusiEDelLoroVolume) {
     Foglio200 f;
     f.linea({-60, -30}, {60, 30}, "hour");
     f.linea({-60, 30}, {60, -30}, "hour");

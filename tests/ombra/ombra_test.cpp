@@ -22,7 +22,7 @@ struct Caso {
     Quadrante piano() { return {tra(-90, 90) * RADIANTI, tra(-180, 180) * RADIANTI, tra(-90, 90) * RADIANTI, tra(0.01, 0.5)}; }
 };
 
-TEST(Ombra, PublishedPoints) {
+TEST(Ombra, PuntiPubblicati) {
     for (const auto &r : prova::Tabella("punti_pubblicati.txt")) {
         const Piano p({n(r[0]) * RADIANTI, n(r[1]) * RADIANTI, n(r[2]) * RADIANTI, 1});
         const Getto e = p.getta(n(r[3]) * RADIANTI, n(r[4]) * RADIANTI);
@@ -32,7 +32,7 @@ TEST(Ombra, PublishedPoints) {
     }
 }
 
-TEST(Ombra, BackIsForwardUndone) {
+TEST(Ombra, IlRitornoDisfaLAndata) {
     Caso c;
     double peggiore = 0, mirato = 0, derivata = 0;
     int lette = 0, notti = 0, dietro = 0;
@@ -71,7 +71,7 @@ TEST(Ombra, BackIsForwardUndone) {
 }
 
 // Points with no sunlight, and the lines that part them.
-TEST(Ombra, LinesOfThePlane) {
+TEST(Ombra, LineeDelPiano) {
     Caso c;
     for (int k = 0; k < 2000; ++k) {
         const Quadrante q = c.piano();
@@ -105,7 +105,7 @@ TEST(Ombra, LinesOfThePlane) {
     EXPECT_GT(mattino.x, 0.01);
 }
 
-TEST(Ombra, HoursOfTheDay) {
+TEST(Ombra, OreDelGiorno) {
     // Latitude 45, summer solstice: half of the day is arc cos(-tan 23.44) = 115.69419 degrees, 7.712946 hours.
     const double f = 45 * RADIANTI, d = 23.44 * RADIANTI;
     EXPECT_NEAR(*semiarco(f, d) * GRADI, 115.69419, 1e-5);
@@ -120,7 +120,7 @@ TEST(Ombra, HoursOfTheDay) {
             EXPECT_FALSE(semiarco(polo * RADIANTI, delta * RADIANTI) || italica(polo * RADIANTI, 0, delta * RADIANTI));
 }
 
-TEST(SoleDiUnaData, AgainstAlmanacs) {
+TEST(SoleDiUnaData, ControGliAlmanacchi) {
     double delta = 0, tempo = 0;
     int righe = 0;
     for (const char *tavola : {"sole_efemeridi.txt", "sole_pubblicati.txt"}) {
@@ -139,7 +139,7 @@ TEST(SoleDiUnaData, AgainstAlmanacs) {
     EXPECT_GE(righe, 35);
 }
 
-TEST(SoleDiUnaData, DatesOfADeclination) {
+TEST(SoleDiUnaData, DateDiUnaDeclinazione) {
     for (const int anno : {1900, 1999, 2024, 2026, 2099})
         for (int giorno = 3; giorno < 362; giorno += 7) {
             const double jd0 = giornoGiuliano({anno, 1, 1}) + giorno, t = (giorno % 90 - 45) * RADIANTI;

@@ -70,7 +70,7 @@ void foglio(Tavolo &t, double l, double h, double x, double y) {
     t.ShiftY(y);
 }
 
-TEST(Carta, PageBoxesAreTheSheetToTheHundredthOfAPoint) {
+TEST(Carta, LaPaginaEIlFoglio) {
     if (!ceStrumento("pdfinfo")) GTEST_SKIP() << "needs poppler-utils";
     struct Caso {
         double l, h;
@@ -91,7 +91,7 @@ TEST(Carta, PageBoxesAreTheSheetToTheHundredthOfAPoint) {
     }
 }
 
-TEST(Carta, AHundredMillimetresAreAHundredMillimetresAtAnyScale) {
+TEST(Carta, CentoMillimetriAOgniScala) {
     if (!ceStrumento("pdftoppm")) GTEST_SKIP() << "needs poppler-utils";
     for (const int scala : {1, 2, 5}) {
         Tavolo t;
@@ -112,7 +112,7 @@ TEST(Carta, AHundredMillimetresAreAHundredMillimetresAtAnyScale) {
     }
 }
 
-TEST(Carta, TilesShowWhatTheirOutlineHoldsAndMeet) {
+TEST(Carta, LePiastrelleSiIncontrano) {
     if (!ceStrumento("pdftoppm")) GTEST_SKIP() << "needs poppler-utils";
     Tavolo t;
     foglio(t, 0.5, 0.6, 0.05, 0.04);
@@ -162,7 +162,7 @@ TEST(Carta, TilesShowWhatTheirOutlineHoldsAndMeet) {
     EXPECT_NEAR(righello[1] - righello[0], 100, ESATTO);
 }
 
-TEST(Carta, StoppedOrEmptyRunsLeaveNothing) {
+TEST(Carta, FermateOVuoteNonLascianoNulla) {
     Tavolo t;
     EXPECT_TRUE(paint::PdfPiastrelle(t).isEmpty());
     t.xTrovaA4(0.1, 0.1);
@@ -181,7 +181,7 @@ TEST(Carta, StoppedOrEmptyRunsLeaveNothing) {
     EXPECT_FALSE(errore.empty());
 }
 
-TEST(Carta, PicturesHaveTheSheetsSizeAndAreDarkOnWhite) {
+TEST(Carta, ImmaginiDellaMisuraDelFoglio) {
     Tavolo t;
     foglio(t, 0.6, 0.3, 0.1, 0.1);
     ASSERT_EQ(t.Scala(), 2);

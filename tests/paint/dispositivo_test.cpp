@@ -40,7 +40,7 @@ struct Schermo {
 
 constexpr int ACCESO = 100;
 
-TEST(Dispositivo, SimplifiedLinesStayWhereTheyAre) {
+TEST(Dispositivo, LeLineeSemplificateRestano) {
     using Linea = std::vector<QPointF>;
     std::vector<Linea> casi(5);
     constexpr int PASSI = 3000;
@@ -67,7 +67,7 @@ TEST(Dispositivo, SimplifiedLinesStayWhereTheyAre) {
     }
 }
 
-TEST(Dispositivo, CurvesTracedByTurnsAndPointsAmongThemAreAllThere) {
+TEST(Dispositivo, CurveAlternateEPuntiCiSonoTutti) {
     Schermo s;
     paint::DispositivoQt d(s.pittore, Supporto::Schermo, s.posa);
     constexpr int CURVE = 9;  // more than are kept in hand
@@ -84,7 +84,7 @@ TEST(Dispositivo, CurvesTracedByTurnsAndPointsAmongThemAreAllThere) {
         }
 }
 
-TEST(Dispositivo, EachColourOfThePaletteIsSeenOnBothGrounds) {
+TEST(Dispositivo, OgniColoreSiVedeSuiDueFondi) {
     for (int n = 0; n < 16; ++n) {
         const auto distanza = [](const QColor &a, const QColor &b) {
             return std::abs(a.red() - b.red()) + std::abs(a.green() - b.green()) + std::abs(a.blue() - b.blue());
@@ -96,7 +96,7 @@ TEST(Dispositivo, EachColourOfThePaletteIsSeenOnBothGrounds) {
     EXPECT_EQ(paint::Inchiostro(QB(0), Supporto::Carta), QColor(Qt::black));
 }
 
-TEST(Dispositivo, ArcsRunCounterClockwiseFromTheRight) {
+TEST(Dispositivo, ArchiAntiorari) {
     Schermo s;
     paint::DispositivoQt d(s.pittore, Supporto::Schermo, s.posa);
     d.Cerchio(200, 200, 100, QB(10), -1, 0.2, 1.4, 1);

@@ -14,7 +14,7 @@ namespace {
 using prova::Atti;
 using prova::Registratore;
 
-constexpr double INF = std::numeric_limits<double>::infinity();
+constexpr double INFINITO = std::numeric_limits<double>::infinity();
 
 // Pages of 0.25 by 0.5 metres, exact in binary as far as the edges allow.
 Tavolo tavoloDiProva() { return Tavolo((0.25 + 0.013) * 56700, (0.5 + 0.015) * 56700); }
@@ -23,8 +23,8 @@ TEST(Pagine, NumeroDellaPiastrella) {
     // Sheet in tiles; position in tiles; number, 0 for none.
     const double casi[][4] = {{2.04, 0.5, 0.5, 1},    {2.04, 1.5, 0.5, 2}, {2.04, 0.5, 1.5, 3}, {2.06, 0.5, 1.5, 4},
                               {2.06, 2.03, 2.5, 9},   {1, 0.5, 3.5, 4},    {2, -0.01, 0.5, 0},  {2, 0.5, -0.01, 0},
-                              {2, 0.5, 4999.5, 9999}, {2, 0.5, 5000.5, 0}, {2, 1e18, 0.5, 0},   {2, INF, 0.5, 0},
-                              {2, 0.5, -INF, 0},      {-1, 0.5, 0.5, 1}};
+                              {2, 0.5, 4999.5, 9999}, {2, 0.5, 5000.5, 0}, {2, 1e18, 0.5, 0},   {2, INFINITO, 0.5, 0},
+                              {2, 0.5, -INFINITO, 0}, {-1, 0.5, 0.5, 1}};
     for (const auto &[larghezze, x, y, pagina] : casi) {
         Tavolo t = tavoloDiProva();
         t.QuadranteL(larghezze * t.LarghezzaPagina());
@@ -84,7 +84,7 @@ TEST(Pagine, MouseInMillimetri) {
     t.MouseDown(0, 567);
     EXPECT_EQ(t.pannello.lblXYval, "-200 : 10");
     EXPECT_EQ(t.lista().Aree.size(), 1U);
-    t.MouseDown(INF, 0);
+    t.MouseDown(INFINITO, 0);
     EXPECT_EQ(t.pannello.lblXYval, "-200 : 10");
 }
 

@@ -6,7 +6,7 @@ namespace {
 
 using namespace prova;
 
-constexpr double G = 3.14159265358979324 / 180;
+constexpr double GRADO = 3.14159265358979324 / 180;
 
 // On a south wall the style meets it gn * tan lat above the foot, and the line of the hour angle H goes from there
 // cos lat * tan H to the right a unit down.
@@ -26,10 +26,10 @@ TEST(Zona, OreDiUnaPareteAlMeridianoDelLuogo) {
             for (const auto &riga : RigheTabella(b.apri(r.controllo), 0)) {
                 const double H = (Numero(riga[0]) - 12) * 15 - scarto;
                 if (std::fabs(H) > 70) continue;
-                const double passo = std::cos(lat * G) * std::tan(H * G);
+                const double passo = std::cos(lat * GRADO) * std::tan(H * GRADO);
                 const auto cade = [&](const std::string &x, const std::string &y) {
                     if (x == "inf" || y == "inf") return;
-                    const double atteso = (100 * std::tan(lat * G) - Numero(y)) * passo;
+                    const double atteso = (100 * std::tan(lat * GRADO) - Numero(y)) * passo;
                     EXPECT_NEAR(Numero(x), atteso, 2e-4 * (1 + std::fabs(passo))) << t[0] << " " << r.controllo << " " << riga[0];
                     ++punti;
                 };

@@ -14,7 +14,7 @@
 namespace ombrelia::sun {
 namespace {
 
-TEST(EqTempo, DatesAsTextsAndNumbers) {
+TEST(EqTempo, DateTestiENumeri) {
     for (const auto &r : prova::Tabella("sole_date.txt")) {
         std::string mese = r.at(1), giorno = r.at(2);
         Sole sole;
@@ -27,7 +27,7 @@ TEST(EqTempo, DatesAsTextsAndNumbers) {
     }
 }
 
-TEST(Sole, PrintedValuesAndPreciseTheoryFrom1900To2100) {
+TEST(Sole, ValoriStampatiETeoriaDal1900Al2100) {
     int righe = 0;
     for (const char *tavola : {"sole_pubblicati.txt", "sole_efemeridi.txt"}) {
         for (const auto &r : prova::Tabella(tavola)) {
@@ -50,7 +50,7 @@ TEST(Sole, PrintedValuesAndPreciseTheoryFrom1900To2100) {
     EXPECT_GE(righe, 24 + 48);
 }
 
-TEST(Conversioni, DecimalToSexagesimalAndBack) {
+TEST(Conversioni, DecimaliESessagesimali) {
     for (const auto &r : prova::Tabella("sole_gradi.txt")) {
         const Valore valore = Val(r.at(0)), segno = valore < 0 ? -1 : 1;
         const Sessagesimale s = GradiDecToSex(valore);

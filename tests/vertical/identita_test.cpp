@@ -9,8 +9,8 @@ namespace {
 constexpr double CENTESIMO = 1e-5;  // metres
 
 // ckFunzione: the direct engine draws the days between the solstices with it, the vertical engine without it.
-struct Muro : prova::Quadro {
-    Muro(const std::string &muro, bool verticale)
+struct DoppioMuro : prova::Quadro {
+    DoppioMuro(const std::string &muro, bool verticale)
         : Quadro(
               "txtInc=0 TxtStilo=.2 TxtFraz=1 txtLonG=-12 txtX0=-6 txtX1=6 txtY0=6 txtY1=-6 chkOreAstronomiche Ck_DayLightCurves "
               "ck_Equinoziale ck_Lemniscate ckTemp " +
@@ -41,7 +41,7 @@ TEST(VerticaleEDiretta, LoStessoMuro) {
     std::size_t confrontati = 0;
     for (const std::string muro : {"45.7 txtDec=-20", "45 txtDec=30", "30 txtDec=-60", "60 txtDec=10", "52 txtDec=75",
                                    "10 txtDec=-35", "45 txtDec=120", "35 txtDec=-150"}) {
-        const Muro v("txtDelta=10.001 txtLAT=" + muro, true), d("txtDelta=10 txtLAT=" + muro, false);
+        const DoppioMuro v("txtDelta=10.001 txtLAT=" + muro, true), d("txtDelta=10 txtLAT=" + muro, false);
         for (const auto &linea : linee) {
             const auto di = v.linee(linea.verticale), su = d.linee(linea.diretta);
             for (std::size_t i = 0; i < di.size(); i += linea.passo) {
@@ -59,7 +59,7 @@ TEST(VerticaleEDiretta, LoStessoMuro) {
 // The other way round on a wall that looks South, where no night hour falls on the plane. Sunset and sunrise themselves
 // lie on the horizon, where the tenth digit of PI decides what is drawn; they are left out.
 TEST(VerticaleEDiretta, NienteDiPiuNellaDiretta) {
-    const Muro v("txtLAT=45.7 txtDec=-20", true), d("txtLAT=45.7 txtDec=-20", false);
+    const DoppioMuro v("txtLAT=45.7 txtDec=-20", true), d("txtLAT=45.7 txtDec=-20", false);
     for (const auto &[diretta, verticale, passo] : {std::tuple{"hour", "Astro", 7U}, {"Ita", "Ita", 23U}, {"Bab", "Bab", 23U}}) {
         const auto di = d.linee(diretta), su = v.linee(verticale);
         std::size_t lontani = 0, tutti = 0;

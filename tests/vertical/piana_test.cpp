@@ -306,5 +306,28 @@ TEST(Piana, NumeriEZodiaco) {
     EXPECT_GT(tratti("ckZodiac ck_Lemniscate ckFunzione"), tratti("ck_Lemniscate ckFunzione") + 400);
 }
 
+// Ten, eleven and twelve take two cells beside one another; the hours before and after one.
+TEST(Piana, CifreDelleOre) {
+    constexpr double ALTEZZA = .002, CELLA = ALTEZZA * 110 / 150;
+    const auto cifre = [](const std::string &altezza) {
+        auto linee = Muro("txtDec=0 txtDelta=0 txtArabi=" + altezza, "chkOreAstronomiche ckArabi").premuto().linee("");
+        std::erase_if(linee, [](const RecLinea &l) { return l.Spessore != 2; });
+        return linee;
+    };
+    std::vector<double> posti;
+    for (const RecLinea &l : cifre("0"))
+        if (posti.empty() || l.X1 != posti.back()) posti.push_back(l.X1);
+    ASSERT_EQ(posti.size(), 11U) << "from 7 to 17, sorted";
+    std::vector<std::pair<double, double>> estremi(posti.size(), {1e9, -1e9});
+    for (const RecLinea &l : cifre(TestoNumero(ALTEZZA))) {
+        const auto vicino = std::ranges::min_element(posti, {}, [&](double x) { return std::fabs(x - l.X1); });
+        auto &[da, a] = estremi[static_cast<std::size_t>(vicino - posti.begin())];
+        da = std::min({da, l.X1, l.X2});
+        a = std::max({a, l.X1, l.X2});
+    }
+    for (std::size_t k = 0; k < posti.size(); ++k)
+        EXPECT_EQ(estremi[k].second - estremi[k].first > CELLA, k >= 3 && k <= 5) << k + 7 << " h";
+}
+
 }  // namespace
 }  // namespace ombrelia

@@ -209,7 +209,9 @@ bool Adatta(Sessione &s) {
     if (!(l > 2 * MARGINE && h > 2 * MARGINE && l <= Tavolo::LATO_MASSIMO && h <= Tavolo::LATO_MASSIMO)) return false;
     t.QuadranteH(h);
     t.QuadranteL(l);
-    t.ShiftX(MARGINE - c.xMin.numero());
+    // A southern dial that is mirrored at once has its frame the other way round.
+    const bool specchio = s.australeMontato && Val(s.in.txtLAT) < 0;
+    t.ShiftX(MARGINE + (specchio ? c.xMax.numero() : -c.xMin.numero()));
     t.ShiftY(MARGINE + c.yMax.numero());
     return true;
 }

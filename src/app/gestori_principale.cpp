@@ -41,15 +41,17 @@ void leggiLatitudine(Sessione &s) {
     RinfrescaOriginale(s, Lettura(s.in));
 }
 
-// Mirrors a southern drawing that is whole, and says so.
-void monta(Sessione &s) {
-    if (s.tavolo.lista().Ordine.empty()) return;
-    s.tavolo.cmdInvX();
-    s.Messaggio(s.Traduci("Quadrante australe: il disegno è già specchiato come va montato"));
+// Shows a drawing as it is mounted: a southern one mirrored, which is said, a northern one behind it as it was before.
+void monta(Sessione &s, bool eraAustrale) {
+    if (!s.australeMontato || s.tavolo.lista().Ordine.empty()) return;
+    const bool australe = s.v.segnoLat == -1;
+    if (australe ? s.tavolo.FattoreX > 0 : eraAustrale && s.tavolo.FattoreX < 0) s.tavolo.cmdInvX();
+    if (australe) s.Messaggio(s.Traduci("Quadrante australe: il disegno è già specchiato come va montato"));
 }
 
 void cmdEqui_Click(Sessione &s, int) {
     Tavolo &t = s.tavolo;
+    const bool eraAustrale = s.v.segnoLat == -1;
     leggiLatitudine(s);
     if (t.ShiftX() == 0 && t.ShiftY() == 0) {
         t.ShiftX(t.QuadranteL() / 2.0);
@@ -57,6 +59,7 @@ void cmdEqui_Click(Sessione &s, int) {
     }
     if (Val(s.in.txtInc) == 0) {
         analytic::EseguiGraficaAnalitica(s);
+        if (s.v.segnoLat != -1) monta(s, eraAustrale);  // the South is refused
         TracciaEtichette(s);
     }
 }
@@ -97,6 +100,7 @@ void AbilitaPerInclinazione(Sessione &s) {
 }
 
 void cmdRun(Sessione &s) {
+    const bool eraAustrale = s.v.segnoLat == -1;
     leggiLatitudine(s);
     const Reale lat = Val(s.in.txtLAT);
     if (lat < 0) {
@@ -110,12 +114,12 @@ void cmdRun(Sessione &s) {
         direct::I_Graf_diretta(s);
         // The next press of a corrected dial is the same dial too.
         if (s.australeMontato || s.in.ckCorretta == 1) s.Scrivi(&DialInputs::txtLAT, scritta);
-        if (s.australeMontato) monta(s);
     } else if (Val(s.in.txtInc) == 0 && s.in.CkUNI == 1) {
         vertical::Piana_Esegui(s);
     } else {
         direct::I_Graf_diretta(s);
     }
+    monta(s, eraAustrale);
     TracciaEtichette(s);
 }
 

@@ -61,9 +61,10 @@ public:
         doppi = 0;
         opposti = opposti_;
         if (vera_.forma() == LineaVera::Forma::Retta) {
-            const double somma = Lunghezza(tratti_);
+            const double somma = Lunghezza(tratti_) + Lunghezza(soli_);
             Unisci(tratti_);
-            doppi = (somma - Lunghezza(tratti_)) * MM;
+            Unisci(soli_);
+            doppi = (somma - Lunghezza(tratti_) - Lunghezza(soli_)) * MM;
             tratti_.insert(tratti_.end(), soli_.begin(), soli_.end());
             Unisci(tratti_);
             r.visibili = Lunghezza(vera_.visibili()) * MM;
@@ -75,7 +76,7 @@ public:
                 quante += coperte_[i];
                 sole += sole_[i];
                 const double l = std::hypot(c[i + 1].p.x - c[i].p.x, c[i + 1].p.y - c[i].p.y) * MM;
-                if (quante > 1 && l < SCARTO_MASSIMO) doppi += (quante - 1) * l;
+                if (l < SCARTO_MASSIMO) doppi += (std::max(quante - 1, 0) + std::max(sole - 1, 0)) * l;
                 if (!c[i].visibile || !c[i + 1].visibile) continue;
                 r.visibili += l;
                 if (quante == 0 && sole == 0) r.mancanti += l;
@@ -86,12 +87,12 @@ public:
         r.mancanti = std::max(r.mancanti, 0.0);
         r.medio = lette_ > 0 ? somma_ / static_cast<double>(lette_) : 0;
         // The worst one as time or angle.
+        r.tempo = r.specie == Specie::Ora || r.specie == Specie::Italica || r.specie == Specie::Babilonica ||
+                  r.specie == Specie::Temporaria || r.specie == Specie::Analemma || r.specie == Specie::Mezzogiorno ||
+                  r.specie == Specie::OraSustilare;
         if (r.massimo > 1e-6) {
             const ombra::Piano piano(dati_.posa.quadrante);
             const ombra::Lettura l = piano.leggi(Punto{r.xPeggiore / MM, r.yPeggiore / MM});
-            r.tempo = r.specie == Specie::Ora || r.specie == Specie::Italica || r.specie == Specie::Babilonica ||
-                      r.specie == Specie::Temporaria || r.specie == Specie::Analemma || r.specie == Specie::Mezzogiorno ||
-                      r.specie == Specie::OraSustilare;
             const ombra::Moto m = piano.moto(l.t, l.delta);
             const double perT = std::hypot(m.perT.x, m.perT.y), perDelta = std::hypot(m.perDelta.x, m.perDelta.y);
             const double radianti = r.massimo / MM / (r.tempo ? perT : perDelta);
@@ -160,12 +161,30 @@ private:
     RigaCertificato riga_;
     Tratti tratti_, soli_;
     // Differences: how often the stretch behind each sample was drawn. A dot with none before it covers a little to either
-    // side, which counts as drawn but not as drawn twice.
+    // side: not twice where a run of dots begins, but twice where such a dot lies on another.
     std::vector<int> coperte_, sole_;
     LineaVera::Esame ultimo_{};
     double somma_ = 0, opposti_ = 0;
     std::size_t lette_ = 0;
 };
+
+// The original dial where it is not the one of the fields: the next one of a session that keeps its first.
+std::optional<QuadranteOriginale> altroOriginale(const Sessione &s) {
+    const Variabili &v = s.v;
+    if (!(v.letture > 0) || v.flagVerticale == 1) return {};
+    const auto gradi = [](const Reale &r) { return r.numero() * ombra::GRADI; };
+    const QuadranteOriginale o{gradi(v.lat_o), gradi(v.dec_o), v.inc_o.numero()};
+    const auto altro = [](double a, const std::string &testo) {
+        const Valore t = Val(testo);
+        return std::fabs(a - (t.esiste() ? t.v : 0)) > 1e-6;
+    };
+    const DialInputs &in = s.in;
+    const bool stesso = !altro(std::fabs(o.latitudine), in.txtLAT) || !altro(-std::fabs(o.latitudine), in.txtLAT);
+    // A level plane's declination is put to 0 behind the first reading.
+    const bool dec = altro(o.declinazione, in.txtDec) && !(std::fabs(o.inclinazione) == 90 && !altro(o.inclinazione, in.txtInc));
+    if (stesso && !dec && !altro(o.inclinazione, in.txtInc)) return {};
+    return o;
+}
 
 bool giudicabile(Specie s) { return s != Specie::Etichetta && s != Specie::Nessuna; }
 
@@ -189,8 +208,10 @@ DatiCertificato DatiDelCertificato(const Sessione &s) {
     }
     // On an equivalent dial the longitude's field carries the shift of the plane.
     const double diffLong = s.v.flagVerticale == 1 ? s.v.diffLong.numero() : 0;
-    d.scartoOra = in.ck_Etna == 1 ? campo(in.txtLonG) * ombra::RADIANTI - d.posa.meridiano + diffLong : 0;
+    d.delFuso = in.ck_Etna == 1;
+    d.scartoOra = d.delFuso ? campo(in.txtLonG) * ombra::RADIANTI - d.posa.meridiano + diffLong : 0;
     d.anno = AnnoDelSole(s);
+    d.originale = altroOriginale(s);
     d.qiblaLat = campo(in.txtQlat) * ombra::RADIANTI;
     d.qiblaLon = campo(in.txtQlon) * ombra::RADIANTI;
     return d;
@@ -234,9 +255,10 @@ Certificato Certifica(const DatiCertificato &dati, const Lista &lista, double to
         }
     }
     c.ignoti = lista.Ordine.size() - giudicati;
-    const auto due = [&](RigaCertificato r, double mm) {
-        r = {r.strato, r.specie, r.valore, true, 0, 0, mm};
-        c.righe.push_back(r);
+    const auto due = [&](const RigaCertificato &r, double mm) {
+        RigaCertificato d;
+        d.strato = r.strato, d.specie = r.specie, d.valore = r.valore, d.doppia = true, d.disegnati = mm;
+        c.righe.push_back(d);
     };
     for (Giudice &g : giudici) {
         double doppi = 0, opposti = 0;
@@ -254,6 +276,12 @@ Certificato Certifica(const DatiCertificato &dati, const Lista &lista, double to
         if (!ora) continue;
         r.valore = altra;
         due(r, opposti);
+    }
+    if (dati.originale && !c.righe.empty()) {
+        RigaCertificato r;
+        r.originale = dati.originale;
+        r.vera = c.vero();
+        c.righe.push_back(r);
     }
     return c;
 }

@@ -18,6 +18,8 @@ struct RigaCertificato {
     Specie specie = Specie::Nessuna;
     double valore = 0;
     bool doppia = false;  // the row of what is drawn a second time; its only figure is the length
+    // The row of a drawing that an earlier dial still speaks in: no figures, beside what is false of its lines.
+    std::optional<QuadranteOriginale> originale;
     std::size_t corde = 0, punti = 0;
     double disegnati = 0;           // length of the chords, and of dots no further apart than two millimetres
     double massimo = 0, medio = 0;  // deviation
@@ -29,6 +31,8 @@ struct RigaCertificato {
     double oltre = 0;               // beyond the frame: told, not condemned
     double xPeggiore = 0, yPeggiore = 0;
     bool vera = true;
+    // Whether it has a deviation and a worst place.
+    [[nodiscard]] bool misurata() const { return !doppia && !originale; }
 };
 
 struct Certificato {
@@ -59,6 +63,9 @@ struct LineaVicina {
 [[nodiscard]] std::string TestoPretesa(Specie specie, double valore);
 // "ora vera 10.5", in the dictionary's language.
 [[nodiscard]] std::string TestoPretesa(const Dizionario &d, Specie specie, double valore);
+// Of a row: what it claims, or what else it tells.
+[[nodiscard]] std::string TestoRiga(const RigaCertificato &r);
+[[nodiscard]] std::string TestoRiga(const Dizionario &d, const RigaCertificato &r);
 // "vero entro 0.03 mm", "3 linee non sono vere".
 [[nodiscard]] std::string Verdetto(const Dizionario &d, const Certificato &c);
 [[nodiscard]] std::string VerdettoInglese(const Certificato &c);

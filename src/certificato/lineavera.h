@@ -11,13 +11,21 @@
 
 namespace ombrelia {
 
+// The dial that a session's first reading of the fields fixed, in the fields' own degrees; what a later dial is drawn with
+// where an engine asks for the original.
+struct QuadranteOriginale {
+    double latitudine, declinazione, inclinazione;
+};
+
 // What the judgement of a drawing needs of a session: plain values, to be carried to another thread.
 struct DatiCertificato {
     Posa posa;
     double xMin = 0, xMax = 0, yMin = 0, yMax = 0;  // the frame as mounted, metres
     double scartoOra = 0;                           // radians of hour angle that the face runs ahead of the site's true time
+    bool delFuso = false;                           // the hours are the zone's
     double qiblaLat = 0, qiblaLon = 0;              // radians, North and West positive
     int anno = 2026;                                // of the analemma's Sun
+    std::optional<QuadranteOriginale> originale;    // where it is another than the fields' dial
     std::string titolo, luogo, piano, data;         // for the page
 };
 

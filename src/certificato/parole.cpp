@@ -58,6 +58,29 @@ std::string TestoPretesa(const Dizionario &d, Specie specie, double valore) {
     return n ? conValore(d.Traduci(n->italiano), *n, valore) : "";
 }
 
+namespace {
+
+std::string secondo(std::string testo, const QuadranteOriginale &o) {
+    for (const double v : {o.latitudine, o.declinazione, o.inclinazione})
+        testo.replace(testo.find('%'), 1, TestoNumero(std::round(v * 1e4) / 1e4));
+    return testo;
+}
+
+}  // namespace
+
+std::string TestoRiga(const RigaCertificato &r) {
+    if (r.originale)
+        return secondo("second dial: the original's latitude %, declination %, inclination % still count", *r.originale);
+    return TestoPretesa(r.specie, r.valore) + (r.doppia ? ", drawn twice" : "");
+}
+
+std::string TestoRiga(const Dizionario &d, const RigaCertificato &r) {
+    if (r.originale)
+        return secondo(d.Traduci("secondo quadrante: contano ancora latitudine %, declinazione %, inclinazione % del primo"),
+                       *r.originale);
+    return TestoPretesa(d, r.specie, r.valore) + (r.doppia ? d.Traduci(", due volte") : "");
+}
+
 // The largest deviation as it is told: up, so that nothing is called better than it is.
 static std::string millimetri(double mm) {
     const double n = std::ceil(mm * 100 - 1e-9) / 100;

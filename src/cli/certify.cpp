@@ -37,7 +37,9 @@ int Certify(int argc, char **argv) {
     if (const std::string e = disegno.Applica(s); !e.empty()) return Rifiuta("certify", e);
     if (const std::string e = disegno.Esegui(s); !e.empty()) return Rifiuta("certify", e);
     DatiCertificato dati = DatiDelCertificato(s);
-    dati.titolo = disegno.campi.progetto;
+    const std::string &progetto = disegno.campi.progetto;
+    dati.titolo = progetto.substr(progetto.find_last_of("/\\") + 1);
+    dati.luogo = disegno.campi.luogo;
     const Certificato c = Certifica(dati, s.tavolo.lista(), tolleranza);
     const std::string testo = forma == Forma::Json   ? CertificatoJson(c)
                               : forma == Forma::Html ? CertificatoHtml(dati, c)

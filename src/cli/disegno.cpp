@@ -60,7 +60,7 @@ bool Disegno::Prendi(int argc, char **argv, int &i, std::string &errore) {
 }
 
 std::string Disegno::Applica(Sessione &s) const {
-    s.tavolo.specchiaArchi = true;
+    s.tavolo.specchiaArchi = s.australeMontato = true;
     if (std::string e = campi.Applica(s); !e.empty()) return e;
     if (motore == "vertical") s.in.CkUNI = 1;
     if (motore == "direct") s.in.CkUNI = 0;
@@ -85,7 +85,6 @@ std::string Disegno::Esegui(Sessione &s) const {
     for (const app::Dubbio &d : app::Dubbi(s.in))
         std::fprintf(stderr, "warning: %s reads %s: %s\n", std::string(RigaDi(d.campo).nome).c_str(), s.testo(d.campo).c_str(),
                      s.Traduci(d.motivo).c_str());
-    s.australeMontato = true;
     const app::Esito e = app::Premi(s, bottone);
     if (e == app::Esito::Disabilitato)
         return std::string(RigaDi(bottone).nome) + " is disabled: it works on walls only (txtInc must read 0)";

@@ -139,9 +139,7 @@ void PannelloCertificato::arrivato(const DatiCertificato &dati, const Certificat
     tavola_->setRowCount(static_cast<int>(c.righe.size()));
     for (int i = 0; i < tavola_->rowCount(); ++i) {
         const RigaCertificato &r = c.righe[static_cast<std::size_t>(i)];
-        QString nome = Q(TestoPretesa(ponte_.sessione().dizionario, r.specie, r.valore));
-        if (r.doppia) nome += ponte_.Traduci(", due volte");
-        auto *linea = new QTableWidgetItem(nome);
+        auto *linea = new QTableWidgetItem(Q(TestoRiga(ponte_.sessione().dizionario, r)));
         linea->setData(Qt::UserRole, i);
         tavola_->setItem(i, 0, linea);
         tavola_->setItem(i, 1, new Cifra(r.disegnati, 1));
@@ -175,7 +173,7 @@ void PannelloCertificato::mostraRiga(int riga) {
     for (const Pretesa &p : ponte_.sessione().tavolo.lista().pretese)
         if (p.specie == r.specie && std::fabs(p.valore - r.valore) < UGUALE) tratti.emplace_back(p.da, p.a);
     sopra_.accendi(std::move(tratti),
-                   r.doppia ? std::vector<ombra::Punto>() : std::vector{ombra::Punto{r.xPeggiore, r.yPeggiore}},
+                   r.misurata() ? std::vector{ombra::Punto{r.xPeggiore, r.yPeggiore}} : std::vector<ombra::Punto>(),
                    dati_.posa.australe);
 }
 

@@ -22,7 +22,7 @@ double modulo(double x, double m) {
 double angolo(double x) { return x - PI2 * std::floor(x / PI2 + 0.5); }
 
 // One term a cos(b + c tau) of the Earth's longitude, a in 1e-8 radians, tau in thousands of years from 2000. The series
-// is cut at half a second of arc.
+// is cut at a tenth of a second of arc.
 struct Termine {
     double a, b, c;
 };
@@ -37,10 +37,30 @@ constexpr Termine L0[] = {{175347046, 0, 0},           {3341656, 4.6692568, 6283
                           {505, 4.583, 18849.228},     {492, 4.205, 775.523},
                           {357, 2.92, 0.067},          {317, 5.849, 11790.629},
                           {284, 1.899, 796.298},       {271, 0.315, 10977.079},
-                          {243, 0.345, 5486.778}};
-constexpr Termine L1[] = {{628331966747, 0, 0}, {206059, 2.678235, 6283.07585}, {4303, 2.6351, 12566.1517}, {425, 1.59, 3.523}};
+                          {243, 0.345, 5486.778},      {206, 4.806, 2544.314},
+                          {205, 1.869, 5573.143},      {202, 2.458, 6069.777},
+                          {156, 0.833, 213.299},       {132, 3.411, 2942.463},
+                          {126, 1.083, 20.775},        {115, 0.645, 0.98},
+                          {103, 0.636, 4694.003},      {102, 0.976, 15720.839},
+                          {102, 4.267, 7.114},         {99, 6.21, 2146.17},
+                          {98, 0.68, 155.42},          {86, 5.98, 161000.69},
+                          {85, 1.3, 6275.96},          {85, 3.67, 71430.7},
+                          {80, 1.81, 17260.15},        {79, 3.04, 12036.46},
+                          {75, 1.76, 5088.63},         {74, 3.5, 3154.69},
+                          {74, 4.68, 801.82},          {70, 0.83, 9437.76},
+                          {62, 3.98, 8827.39},         {61, 1.82, 7084.9},
+                          {57, 2.78, 6286.6},          {56, 4.39, 14143.5},
+                          {56, 3.47, 6279.55},         {52, 0.19, 12139.55},
+                          {52, 1.33, 1748.02},         {51, 0.28, 5856.48},
+                          {49, 0.49, 1194.45}};
+constexpr Termine L1[] = {
+    {628331966747, 0, 0},   {206059, 2.678235, 6283.07585}, {4303, 2.6351, 12566.1517}, {425, 1.59, 3.523}, {119, 5.796, 26.298},
+    {109, 2.966, 1577.344}, {93, 2.59, 18849.23},           {72, 1.14, 529.69},         {68, 1.87, 398.15}, {67, 4.41, 5507.55}};
 constexpr Termine L2[] = {{52919, 0, 0}, {8720, 1.0721, 6283.0758}, {309, 0.867, 12566.152}};
 constexpr Termine L3[] = {{289, 5.844, 6283.076}};
+// Of its latitude.
+constexpr Termine B0[] = {
+    {280, 3.199, 84334.662}, {102, 5.422, 5507.553}, {80, 3.88, 5223.69}, {44, 3.7, 2352.87}, {32, 4, 1577.34}};
 
 // Terrestrial less universal time, seconds: published means of the years, joined by straight lines. A minute more or
 // less moves the Sun by 2.5 seconds of arc.
@@ -111,10 +131,12 @@ Sole soleDi(double jd) {
     const double eps = 23.4392911 - T * (46.8150 + T * 0.00059) / 3600 + dEps;
     const double lambda = terra + 180 - 0.09033 / 3600 + dPsi - 20.4898 / 3600 / raggio;
 
-    const double alfa = std::atan2(cosi(eps) * sen(lambda), cosi(lambda));
+    const double beta = -somma(B0) * 1e-8;  // small: its own sine and tangent
+
+    const double alfa = std::atan2(cosi(eps) * sen(lambda) - beta * sen(eps), cosi(lambda));
     // The mean Sun runs by universal time.
     const double e = angolo((media - 0.9856474 * attesa - 0.0057183 + dPsi * cosi(eps)) * RADIANTI - alfa);
-    return {std::asin(sen(eps) * sen(lambda)), e * GRADI * 4, modulo(lambda * RADIANTI, PI2)};
+    return {std::asin(sen(eps) * sen(lambda) + beta * cosi(eps)), e * GRADI * 4, modulo(lambda * RADIANTI, PI2)};
 }
 
 double angoloOrario(double jd, double equazione, double longitudine) {

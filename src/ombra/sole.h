@@ -1,6 +1,6 @@
 // The Sun of a date: declination and equation of time, the civil calendar, and the dates that have a declination.
 // Apparent place after Meeus, Astronomical Algorithms, chapters 22, 25 and 28: the Earth's longitude of VSOP87 cut short.
-// Against a precise theory, 1900 to 2100: 2.1 seconds of arc, 0.31 seconds of time.
+// Against a precise theory, 1900 to 2100: 0.55 seconds of arc, 0.12 seconds of time.
 #pragma once
 
 #include <optional>

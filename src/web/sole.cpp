@@ -118,7 +118,7 @@ std::string Pagina::Certificato() {
     for (const RigaCertificato &r : c.righe) {
         j.apri('{')
             .nome("linea")
-            .testo(TestoPretesa(d, r.specie, r.valore))
+            .testo(r.originale ? TestoRiga(d, r) : TestoPretesa(d, r.specie, r.valore))
             .nome("vera")
             .vero(r.vera)
             .nome("doppia")

@@ -127,7 +127,8 @@ TEST(SoleDiUnaData, ControGliAlmanacchi) {
         for (const auto &r : prova::Tabella(tavola)) {
             if (r[7] != "delta" && r[7] != "tempo") continue;
             const Sole s = soleDi(giornoGiuliano({int(n(r[2])), int(n(r[1])), int(n(r[0]))}) + n(r[3]) / 24);
-            // Series and printed digits: 2.1 seconds of arc and 0.31 of time over 1900 to 2100, half a unit of the third place.
+            // The published rows come from several theories and delta Ts: 2.1 seconds of arc, 0.31 of time, and half a unit of
+            // the third place.
             if (r[7] == "delta") EXPECT_NEAR(s.delta * GRADI, n(r[8]), 2.1 / 3600 + 0.0005) << r[2];
             else EXPECT_NEAR(s.equazione, n(r[8]), 0.31 / 60 + 0.0005) << r[2];
             double &peggiore = r[7] == "delta" ? delta : tempo;

@@ -139,7 +139,7 @@ void Esempi::prossimo() {
     const double l = s.tavolo.LarghezzaImmagine(), h = s.tavolo.AltezzaImmagine();
     v.fattore = std::min((MISURA.width() - MARGINE) / l, (MISURA.height() - MARGINE) / h);
     v.origine = {(MISURA.width() - l * v.fattore) / 2, (MISURA.height() - h * v.fattore) / 2};
-    vivo_->chiedi(s, v);
+    vivo_->chiedi(s, v, Val(s.in.txtLAT) < 0);
 }
 
 void Esempi::arrivata(const QImage &immagine) {

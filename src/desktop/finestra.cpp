@@ -60,7 +60,7 @@ Finestra::Finestra(Dialoghi &dialoghi) : dialoghi_(dialoghi), utente_(dialoghi),
     std::error_code nonImporta;
     std::filesystem::create_directories(app::CartellaDisegni(), nonImporta);
     app::Avvia(s_);
-    s_.originaleFresco = true;
+    s_.originaleFresco = s_.australeMontato = true;
     LinguaRicordata(s_);
 
     // Made in the order in which the eye, and so the Tab key, goes: commands, the dial, the sheet, the drawing.
@@ -190,6 +190,7 @@ bool Finestra::prima(IdControllo id) {
 // With live drawing the button draws again what is there; the sheet is emptied so, or when the user wishes it. The drawing
 // is kept aside until the run has drawn.
 void Finestra::primaDiEsegui() {
+    specchioPrima_ = s_.tavolo.FattoreX;
     inScorta_ = vivo_acceso() || pulisciPrima_->isChecked();
     if (inScorta_) {
         scorta_.Clear();
@@ -205,10 +206,20 @@ void Finestra::conAttesa() {
     s_.tavolo.dispositivo = attesa_.get();
 }
 
+// A southern drawing is the mirror image of what is mounted: the sheet shows it as it is mounted. The mirror is turned where the
+// dial on it goes from one half of the Earth to the other, so that the user's own mirrors stay.
+bool Finestra::australe() const { return Val(s_.in.txtLAT) < 0; }
+
+void Finestra::montaAustrale() {
+    if (australe() != std::exchange(montato_, australe())) s_.tavolo.FattoreX = -s_.tavolo.FattoreX;
+}
+
 void Finestra::dopoEsegui() {
     s_.tavolo.dispositivo = nullptr;
     attesa_.reset();
     for (const auto &[casella, valore] : std::exchange(mascherate_, {})) s_.in.*casella = valore;
+    s_.tavolo.FattoreX = specchioPrima_;
+    if (!s_.tavolo.lista().Ordine.empty()) montaAustrale();
     if (!std::exchange(inScorta_, false)) return;
     if (s_.tavolo.lista().Ordine.empty()) s_.tavolo.ScambiaDisegno(scorta_);
     scorta_.Clear();
@@ -299,6 +310,7 @@ void Finestra::interrotto(bool memoria) {
 
 void Finestra::rimesso(bool rifai) {
     vivo_->ferma();
+    montato_ = australe();
     ponte_.sincronizza();
     quadro_->foglio().cambiato();
     strati_->aggiorna();
@@ -341,7 +353,7 @@ void Finestra::titolo() {
 
 void Finestra::chiediVivo() {
     improntaCampi_ = impronta(s_);
-    vivo_->chiedi(s_, quadro_->foglio().vista());
+    vivo_->chiedi(s_, quadro_->foglio().vista(), australe() != montato_);
 }
 
 // A run off the thread has come: its drawing, its variables and its sheet are the session's, its fields are not.
@@ -362,7 +374,9 @@ void Finestra::disegnoVivo(Vivo::Esito &e) {
     if (t.QuadranteH() != e.tavolo->QuadranteH()) t.QuadranteH(e.tavolo->QuadranteH());
     constexpr double DENTRO = 1e-3;
     for (const RecArea &a : pagine) t.xTrovaA4(a.X + DENTRO, a.Y + DENTRO);  // the pages stay chosen
-    t.Messaggio(e.avviso);
+    montaAustrale();
+    t.Messaggio(e.avviso.empty() && montato_ ? s_.Traduci("Quadrante australe: il disegno è già specchiato come va montato")
+                                             : e.avviso);
     quadro_->foglio().cambiato(e.immagine, e.vista);
     strati_->aggiorna();
     ponte_.sincronizza();

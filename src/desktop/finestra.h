@@ -73,6 +73,8 @@ private:
     [[nodiscard]] bool vivo_acceso() const;
     void primaDiEsegui();
     void conAttesa();
+    [[nodiscard]] bool australe() const;
+    void montaAustrale();
     void dopoEsegui();
     void soleDelGiorno();
     void interrotto(bool memoria);
@@ -130,8 +132,9 @@ private:
     QByteArray primaGeometria_, primoStato_;  // as the window was first seen
     QString percorso_;
     std::unique_ptr<Passi> passi_;
-    Tavolo scorta_;  // the drawing that a run replaces, until the run has drawn
-    bool inScorta_ = false;
+    Tavolo scorta_;                                              // the drawing that a run replaces, until the run has drawn
+    bool inScorta_ = false, montato_ = false;                    // montato_: the sheet's mirror is a southern dial's
+    double specchioPrima_ = 1;                                   // before a run
     std::vector<std::pair<int DialInputs::*, int>> mascherate_;  // boxes that don't answer, set aside while a run lasts
     std::string deltaPrima_, aoPrima_;
 };

@@ -68,10 +68,11 @@ void Vivo::ferma() {
     attese_ = 0;
 }
 
-void Vivo::chiedi(const Sessione &s, const Vista &vista) {
+void Vivo::chiedi(const Sessione &s, const Vista &vista, bool specchia) {
     const Tavolo &t = s.tavolo;
     Richiesta r{s.in,       s.v,       s.stati,    t.QuadranteL(), t.QuadranteH(), t.ShiftX(),
                 t.ShiftY(), t.Scala(), t.FattoreX, t.FattoreY,     vista};
+    if (specchia) r.fattoreX = -r.fattoreX;
     {
         const std::lock_guard chiave(mutex_);
         prossima_ = std::move(r);
@@ -84,7 +85,7 @@ void Vivo::chiedi(const Sessione &s, const Vista &vista) {
 void Vivo::lavora() {
     Muto utente;
     Sessione s(utente);
-    s.originaleFresco = true;
+    s.originaleFresco = s.australeMontato = true;
     s.dizionario = dizionario_;
     for (;;) {
         Richiesta r;

@@ -42,7 +42,8 @@ public:
     Vivo(const Vivo &) = delete;
     Vivo &operator=(const Vivo &) = delete;
 
-    void chiedi(const Sessione &s, const Vista &vista);
+    // specchia: the picture's mirror of X is turned against the sheet's.
+    void chiedi(const Sessione &s, const Vista &vista, bool specchia = false);
     // Gives up what is asked and what runs; nothing of it will arrive.
     void ferma();
     [[nodiscard]] bool attivo() const { return attese_ > 0; }

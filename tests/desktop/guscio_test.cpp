@@ -183,6 +183,30 @@ TEST(Guscio, ALineHasLooksOfItsOwn) {
     EXPECT_EQ(quante(stile, [](const RecLinea &) { return true; }), tutte - verdi);
 }
 
+TEST(Guscio, ASouthernDialIsMirroredByItself) {
+    BancoFinestra b;
+    const auto specchio = [&] { return b.s().tavolo.FattoreX; };
+    b.spunta("chkOreAstronomiche");
+    // Run, run again, back to the North, live, undone: mirrored when southern, whatever came before.
+    const std::pair<const char *, double> passi[] = {{"-33", -1}, {"-34", -1}, {"45", 1}, {"-20", -1}};
+    for (const bool vivo : {false, true}) {
+        b.vivo()->setChecked(vivo);
+        for (const auto &[lat, atteso] : passi) {
+            b.scrivi("txtLAT", lat);
+            vivo ? b.aspettaVivo() : b.premi("cmdRun");
+            EXPECT_EQ(specchio(), atteso) << lat << ' ' << vivo;
+            EXPECT_EQ(b.campo("txtLAT"), lat);
+        }
+    }
+    b.vivo()->setChecked(false);
+    EXPECT_TRUE(b.dialoghi.avvisi.empty());
+    // The user's own mirror stays turned over his dial's.
+    b.premi("Tavolo1.cmdInvX");
+    EXPECT_EQ(specchio(), 1);
+    b.premi("cmdRun");
+    EXPECT_EQ(specchio(), 1);
+}
+
 TEST(Guscio, StepsAreAList) {
     BancoFinestra b;
     auto *storia = b.f.findChild<QUndoView *>(QStringLiteral("elencoPassi"));

@@ -31,7 +31,8 @@ struct Disegno {
     std::optional<std::array<double, 4>> foglio;  // L H X Y, metres; without it the project's, else fitted to the frame
     std::optional<Carta> carta;                   // of the pages; without it A4, and a PDF is one page
 
-    // Adds the rows of the fields, --engine ENGINE, --map, --sheet L H X Y and --paper PAPER, which keep what they take in this object.
+    // Adds the rows of the fields, --engine ENGINE, --map, --sheet L H X Y and --paper PAPER, which keep what they take in this
+    // object.
     void opzioni(Opzioni &o);
     // Takes the option at argv[i] with its words; i then stands on the last of them. False when it is none of these; errore tells
     // what is wrong with it.

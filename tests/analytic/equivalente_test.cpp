@@ -54,6 +54,7 @@ TEST(Equivalente, QuelCheScrive) {
         EXPECT_NEAR(Val(in.txtLonG).v, Val(r.at(8)).v, 1e-9) << dove;
         EXPECT_EQ(v.diffLong, PI * Val(r.at(9))) << dove;
         EXPECT_EQ(in.ck_Etna, r[2] != "90" || r[3] == "1") << dove;
+        for (const char *nome : {"CkQibla", "ckAlt", "ckAsr"}) EXPECT_FALSE(b.s.stato(TrovaControllo(nome)).abilitato) << nome;
         EXPECT_EQ(v.flagTrasformato, r[2] == "90") << dove;
         EXPECT_EQ(v.flagVerticale, 1) << dove;
         EXPECT_EQ(v.lon, v.lonEq) << dove;

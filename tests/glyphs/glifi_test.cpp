@@ -1,6 +1,7 @@
 // The strokes of digits, Roman numerals and signs, and their places on the wall against the projection of the direct engine.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
 #include <numeric>
 #include <set>
@@ -131,6 +132,17 @@ TEST(NumeriRomani, ScrivonoLeOre) {
         for (const char c : attese) larghezza += (c == 'I' ? 50 : 110) * MM;
         EXPECT_NEAR(i.larghezza(), larghezza, 8 * MM) << attese;
         EXPECT_TRUE(std::fabs(i.altezza() - 150 * MM) + std::fabs(i.y()) < 1e-9 && std::fabs(i.x()) < MM) << attese;
+    }
+    // Which comes first: the strokes of one, moved aside.
+    const Linee uno = banco.romano(1);
+    for (const auto &[numero, davanti] : {std::pair{2, true}, {4, true}, {5, false}, {6, false}, {9, true}, {11, false}}) {
+        const Linee linee = banco.romano(numero);
+        ASSERT_GE(linee.size(), uno.size());
+        double scarto = 0;
+        for (std::size_t i = 0; i < uno.size(); ++i)
+            scarto +=
+                std::hypot(linee[i].X2 - linee[i].X1 - uno[i].X2 + uno[i].X1, linee[i].Y2 - linee[i].Y1 - uno[i].Y2 + uno[i].Y1);
+        EXPECT_EQ(scarto < 1e-9, davanti) << numero;
     }
     EXPECT_NEAR(Ingombro(banco.romano(8, 0)).altezza(), 256 * MM, 1e-9) << "the baseline runs down the sheet";
     EXPECT_TRUE(banco.romano(0).empty() && banco.romano(2000000000).empty());

@@ -50,8 +50,9 @@ std::vector<std::vector<double>> avuti(prova::BancoRapporti &b, const std::strin
         b.premi(premi);
         return {{prova::Numero(b.s.in.*TavolaControlli()[static_cast<std::size_t>(TrovaControllo(quali))].testo)}};
     }
-    if (premi == "cmdData") return {{prova::Numero(prova::RigaCon(b.apri(premi), quali).substr(quali.size() + 1))}};
-    if (premi != "OptInter") {
+    if (!quali.starts_with("Form") && (premi == "cmdData" || premi == "optHorae"))
+        return {{prova::Numero(SenzaBlanks(prova::RigaCon(b.apri(premi), quali).substr(quali.size() + 1)))}};
+    if (!quali.starts_with("Form")) {
         if (premi == "punto" || premi.starts_with("ck")) b.spunta(premi);
         else b.premi(premi);
         return registrati(b, quali);
@@ -59,7 +60,7 @@ std::vector<std::vector<double>> avuti(prova::BancoRapporti &b, const std::strin
     std::vector<std::vector<double>> righe;
     for (const auto &celle : prova::RigheTabella(b.apri(premi), 0)) {
         auto &n = righe.emplace_back();
-        for (std::size_t i = 0; i < 6; ++i) n.push_back(prova::Numero(celle.at(i)));
+        for (std::size_t i = 0; i < std::min<std::size_t>(celle.size(), 6); ++i) n.push_back(prova::Numero(celle[i]));
     }
     return righe;
 }

@@ -126,6 +126,17 @@ TEST(Officina, IGeneriHannoNomiPerTutti) {
         EXPECT_EQ(r.nome.find_first_not_of("ABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789_"), std::string_view::npos) << r.nome;
         EXPECT_EQ(&Riga(r.genere), &r) << "the table stands in the order of the kinds";
     }
+    const std::pair<std::string_view, std::string_view> strati[] = {{"hour", "ORE"},
+                                                                    {"half", "MEZZE_ORE"},
+                                                                    {"quarter", "QUARTI"},
+                                                                    {"Astro", "ORE"},
+                                                                    {"equinox", "EQUINOZIALE"},
+                                                                    {"Ita", "ITALICHE"},
+                                                                    {"Bab", "BABILONICHE"},
+                                                                    {"Temp", "TEMPORARIE"},
+                                                                    {"delta 20°", "DIURNE"},
+                                                                    {"21 III or 23 IX Eq", "EQUINOZIALE"}};
+    for (const auto &[strato, nome] : strati) EXPECT_EQ(Riga(GenereDi(strato)).nome, nome) << strato;
 }
 
 // What any reader of the format must find: tags in pairs, sections in their order, units, extents that hold every vertex.
@@ -134,6 +145,7 @@ TEST(Officina, IlDxfEIntero) {
         Foglio200 f;
         f.linea({-30, 0}, {30, 25.4}, "hour");
         f.xCircle(0.02, 0.01, 0.005, 0);
+        f.xCircle(0.05, 0.01, 0.005, 0, -1, 1, 0.5, 1.5);
         const std::string t = Dxf12(f.pronto(), {unita, ""});
         std::stringstream righe(t);
         std::vector<std::pair<int, std::string>> coppie;
@@ -144,13 +156,15 @@ TEST(Officina, IlDxfEIntero) {
         ASSERT_EQ(coppie.back(), std::pair(0, std::string("EOF")));
         std::string sezioni, variabile, entita;
         std::map<std::string, std::vector<std::string>> testa;
-        double minimo = 1e9, massimo = -1e9;
+        double minimo = 1e9, massimo = -1e9, da = 0, a = 0;
         for (std::size_t i = 0; i < coppie.size(); ++i) {
             const auto &[c, v] = coppie[i];
             if (c == 0) entita = v;
             if (c == 2 && coppie[i - 1].second == "SECTION") sezioni += v + " ";
             if (c == 9) variabile = v;
             else if (!variabile.empty() && sezioni == "HEADER ") testa[variabile].push_back(v);
+            if (entita == "ARC" && c == 50) da = std::stod(v);
+            if (entita == "ARC" && c == 51) a = std::stod(v);
             if (entita == "VERTEX" && c == 10) minimo = std::min(minimo, std::stod(v)), massimo = std::max(massimo, std::stod(v));
         }
         const double k = unita == Unita::Pollici ? 25.4 : 1;
@@ -162,6 +176,11 @@ TEST(Officina, IlDxfEIntero) {
         EXPECT_NEAR(minimo * k, -100, 1e-4);
         EXPECT_NEAR(massimo * k, 100, 1e-4);
         EXPECT_NE(t.find("CIRCLE\r\n  8\r\nFIGURE\r\n"), std::string::npos);
+        EXPECT_NEAR(a - da, 180 / std::acos(-1.0), 1e-3) << "a radian, counter-clockwise";
+        // The page of the other form is the field at true size: 72 points an inch.
+        const std::string pdf = PdfStrati(f.pronto(), {unita, ""});
+        const double larga = std::stod(pdf.substr(pdf.find("/MediaBox [ 0 0 ") + 16));
+        EXPECT_NEAR(larga, 200 * 72 / 25.4, 0.01);
     }
 }
 

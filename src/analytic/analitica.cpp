@@ -32,10 +32,6 @@ bool troppoFitto(Sessione &s) {
 using In = DialInputs;
 using Riga = Caratteristica<Corsa>;
 
-template <int colore>
-void unaLinea(const Corsa &, LineeAttese &linee) {
-    linee.push_back({0, 0, "", QB(colore)});
-}
 // A wall that has a centre within reach; true lines need none.
 bool conCentro(const Corsa &c) {
     const Variabili &v = c.s.v;
@@ -49,22 +45,22 @@ constexpr Riga CARATTERISTICHE[] = {
     {nullptr, Specie::Diurna, "the day of choice", LineaScelta, TracciaLineaDiurnaScelta, nullptr, PreparaDiurne},
     {&In::Ck_DayLightCurves, Specie::Diurna, "days of solstices and signs", LineeDiurne, TracciaLineeDiurneAnalitiche, nullptr,
      PreparaDiurne},
-    {&In::ck_Sustilare, Specie::Sustilare, "the substyle", unaLinea<14>, TracciaSustilareAnalitica},
-    {&In::ck_Equinoziale, Specie::Equinoziale, "the equinoctial", unaLinea<10>, TracciaEquinozialeAnalitica},
+    {&In::ck_Sustilare, Specie::Sustilare, "the substyle", UnaLinea<GIALLO>, TracciaSustilareAnalitica},
+    {&In::ck_Equinoziale, Specie::Equinoziale, "the equinoctial", UnaLinea<VERDE>, TracciaEquinozialeAnalitica},
     {nullptr, Specie::Stilo, "triangle of the style, laid flat",
      [](const Corsa &, LineeAttese &l) {
-         l.push_back({0, 0, "", QB(9)});
-         l.push_back({0, 0, "", QB(12)});
+         l.push_back({0, 0, "", BLU});
+         l.push_back({0, 0, "", ROSSO});
      },
      TracciaTriangoloAnalitico, conCentro},
-    {nullptr, Specie::Orizzonte, "horizontal through the foot", unaLinea<14>, TracciaOrizzontale, conCentro},
+    {nullptr, Specie::Orizzonte, "horizontal through the foot", UnaLinea<GIALLO>, TracciaOrizzontale, conCentro},
     {nullptr, Specie::Nessuna, "solstices on the horizon, as text", nullptr, CalcolaSolstiziOrizzonte},
     {&In::ck_Italiche, Specie::Italica, "hours from sunset", LineeItaliche, TracciaItalicheAnalitiche, nullptr, PreparaTangenti},
     {&In::ck_babiloniche, Specie::Babilonica, "hours from sunrise", LineeBabiloniche, TracciaBabilonicheAnalitiche, nullptr,
      PreparaTangenti},
     {&In::ck_Lemniscate, Specie::Analemma, "mean noon of the zone",
      [](const Corsa &, LineeAttese &l) {
-         l.push_back({0, 12, "", QB(12)});
+         l.push_back({0, 12, "", ROSSO});
      },
      TracciaLemniscataAnalitica, nullptr, PreparaLemniscata},
 };
@@ -105,12 +101,12 @@ void CalcolaCentroAnalitico(Corsa &c) {
     v.yCentro = v.segStiloSus * cos(v.angSustilare);
 }
 void LineeCentro(const Corsa &c, LineeAttese &linee) {
-    if (!(Abs(c.s.v.dec) == 90)) linee.push_back({0, 0, "", QB(4)});
+    if (!(Abs(c.s.v.dec) == 90)) linee.push_back({0, 0, "", ROSSO_SCURO});
 }
 void TracciaCentro(Corsa &c, const LineeAttese &linee) {
     const Variabili &v = c.s.v;
     const Pretendi pretendi(c.s.tavolo, Specie::Mezzogiorno);
-    for (const LineaAttesa &l : linee) c.s.tavolo.xLine(v.xCentro, -v.semiH, v.xCentro, v.semiH, l.colore);
+    for (const LineaAttesa &l : linee) c.s.tavolo.TracciaLinea(v.xCentro, v.semiH, v.xCentro, -v.semiH, l.colore);
 }
 
 }  // namespace ombrelia::analytic

@@ -34,8 +34,8 @@ struct Diurna {
     Lato lato;
     Reale meno, piu;
 
-    Diurna(const Variabili &v, Valore m, double delta, int colore_)
-        : ordinate(conica(v, m), v.angSustilare, v.y0), colore(QB(colore_)), lato(v, delta) {}
+    Diurna(const Variabili &v, Valore m, double delta, Colore colore_)
+        : ordinate(conica(v, m), v.angSustilare, v.y0), colore(colore_), lato(v, delta) {}
     void punto(Tavolo &t, double x) {
         const Radici y = ordinate(x);
         if (!y.reali) return;
@@ -43,7 +43,7 @@ struct Diurna {
         piu = y.piu;
         for (const Reale y : {meno, piu}) {
             const Pretendi pretendi = lato(t, x, y);
-            t.xPset(x, -y, colore, SENZA_STRATO);
+            t.TracciaPunto(x, y, colore, SENZA_STRATO);
         }
     }
 
@@ -63,11 +63,11 @@ struct DiurnaEquatore {
     Lato lato;
     Reale y;
 
-    DiurnaEquatore(const Variabili &v, Valore m_, double delta, int colore_) : m(m_), colore(QB(colore_)), lato(v, delta) {}
+    DiurnaEquatore(const Variabili &v, Valore m_, double delta, Colore colore_) : m(m_), colore(colore_), lato(v, delta) {}
     void punti(Tavolo &t, double x) const {
         const Pretendi pretendi = lato(t, -x, y);
-        t.xPset(-x, -y, colore, SENZA_STRATO);
-        t.xPset(-x, y, colore, SENZA_STRATO);
+        t.TracciaPunto(-x, y, colore, SENZA_STRATO);
+        t.TracciaPunto(-x, -y, colore, SENZA_STRATO);
     }
 };
 
@@ -98,7 +98,7 @@ void PreparaDiurne(Corsa &c) { c.s.v.y0 = DistanzaEquinoziale(c.s.v.gn, c.s.v.al
 // One conic holds a declination and its opposite.
 void LineaScelta(const Corsa &c, LineeAttese &linee) {
     const double delta = c.s.v.deltaOpz.numero();
-    for (const double d : {delta, -delta}) linee.push_back({d, d, "", QB(9)});
+    for (const double d : {delta, -delta}) linee.push_back({d, d, "", BLU});
 }
 void TracciaLineaDiurnaScelta(Corsa &c, const LineeAttese &) {
     const Variabili &v = c.s.v;
@@ -106,20 +106,20 @@ void TracciaLineaDiurnaScelta(Corsa &c, const LineeAttese &) {
     Reale m;  // stays 0 on the equinox, whose cotangent faults
     m = QuadratoCotangente(v.deltaOpz);
     if (v.lat != 0) {
-        Diurna linea(v, m, v.deltaOpz.numero(), 9);
+        Diurna linea(v, m, v.deltaOpz.numero(), BLU);
         for (const double x : Conteggio(-1, 1, v.passo)) linea.punto(tavolo, x);
     } else if (!paralleloAlPolo(v)) {
         const Equatore equatore(v);
-        DiurnaEquatore linea(v, m, v.deltaOpz.numero(), 9);
+        DiurnaEquatore linea(v, m, v.deltaOpz.numero(), BLU);
         for (const double x : Equatore::ascisse())
             if (equatore.esiste(linea, x)) linea.punti(tavolo, x);
     }
 }
 
 void LineeDiurne(const Corsa &, LineeAttese &linee) {
-    const std::pair<double, int> coppie[] = {{OBLIQUITA, 15}, {DELTA_SEGNI, 14}, {DELTA_SEGNI_VICINI, 13}};
+    const std::pair<double, Colore> coppie[] = {{OBLIQUITA, BIANCO}, {DELTA_SEGNI, GIALLO}, {DELTA_SEGNI_VICINI, MAGENTA}};
     for (const auto &[delta, colore] : coppie)
-        for (const double d : {delta, -delta}) linee.push_back({d, d, "", QB(colore)});
+        for (const double d : {delta, -delta}) linee.push_back({d, d, "", colore});
 }
 void TracciaLineeDiurneAnalitiche(Corsa &c, const LineeAttese &) {
     const Variabili &v = c.s.v;
@@ -128,13 +128,14 @@ void TracciaLineeDiurneAnalitiche(Corsa &c, const LineeAttese &) {
     const Valore m2345 = QuadratoCotangente(OBLIQUITA_2345), m20 = QuadratoCotangente(DELTA_SEGNI),
                  m115 = QuadratoCotangente(DELTA_SEGNI_VICINI);
     if (v.lat != 0) {
-        std::array linee{Diurna(v, m2345, OBLIQUITA, 15), Diurna(v, m20, DELTA_SEGNI, 14),
-                         Diurna(v, m115, DELTA_SEGNI_VICINI, 13)};
+        std::array linee{Diurna(v, m2345, OBLIQUITA, BIANCO), Diurna(v, m20, DELTA_SEGNI, GIALLO),
+                         Diurna(v, m115, DELTA_SEGNI_VICINI, MAGENTA)};
         for (const double x : Conteggio(-1, 1, v.passo))
             for (Diurna &linea : linee) linea.punto(tavolo, x);
     } else if (!paralleloAlPolo(v)) {
         const Equatore equatore(v);
-        DiurnaEquatore d2345(v, m2345, OBLIQUITA, 2), d20(v, m20, DELTA_SEGNI, 3), d115(v, m115, DELTA_SEGNI_VICINI, 4);
+        DiurnaEquatore d2345(v, m2345, OBLIQUITA, VERDE_SCURO), d20(v, m20, DELTA_SEGNI, ACQUA),
+            d115(v, m115, DELTA_SEGNI_VICINI, ROSSO_SCURO);
         for (const double x : Equatore::ascisse()) {
             // Each line only where those nearer the equinox exist; the innermost is drawn first.
             if (!equatore.esiste(d115, x)) continue;
@@ -175,11 +176,11 @@ void CalcolaSolstiziOrizzonte(Corsa &c, const LineeAttese &) {
         }
     }
 
-    s.tavolo.ForeColor = QB(11);
-    s.Dati(s.Traduci("Ascisse delle intersezioni dei solstizi con l'orizzonte "), 0.1, -0.5);
-    s.Dati(Formato(xa / v.unita, "0.000000"), 0.1, -0.45);
-    s.Dati(Formato(xb / v.unita, "0.000000"), 0.1, -0.4);
-    s.tavolo.ForeColor = QB(15);
+    s.tavolo.ForeColor = CIANO;
+    s.Dati(s.Traduci("Ascisse delle intersezioni dei solstizi con l'orizzonte "), 0.1, 0.5);
+    s.Dati(Formato(xa / v.unita, "0.000000"), 0.1, 0.45);
+    s.Dati(Formato(xb / v.unita, "0.000000"), 0.1, 0.4);
+    s.tavolo.ForeColor = BIANCO;
     const struct {
         std::string_view etichetta;
         Valore valore;
@@ -189,14 +190,14 @@ void CalcolaSolstiziOrizzonte(Corsa &c, const LineeAttese &) {
                  {"i = "_it, Gradi(v.iz_o), -0.6},
                  {"gn = "_it, v.gn / v.unita, -0.55}};
     for (const auto &riga : righe) {
-        s.Dati(s.Traduci(riga.etichetta), 0.1, riga.y);
-        s.Dati(Frase() << riga.valore, 0.15, riga.y);
+        s.Dati(s.Traduci(riga.etichetta), 0.1, -riga.y);
+        s.Dati(Frase() << riga.valore, 0.15, -riga.y);
     }
     if (v.inc_o == 90) return;
     Reale ore12;
     if (v.lat_o != 0) ore12 = Round(v.gn * tan(v.iz_o), 4) / v.unita;
-    s.Dati(s.Traduci(" ordinata ore 12 itabab"), 0.31, -0.35);
-    s.Dati(Frase() << ore12, 0.1, -0.35);
+    s.Dati(s.Traduci(" ordinata ore 12 itabab"), 0.31, 0.35);
+    s.Dati(Frase() << ore12, 0.1, 0.35);
 }
 
 }  // namespace ombrelia::analytic

@@ -25,7 +25,7 @@ void oreParallele(Corsa &c, IdNome strato) {
         y2 = -Sqr(m2 * (x2 * x2) - v.gn * v.gn);
         // One limit an end: meant.
         if (v.x1 > limiti.xMin && x2 < limiti.xMax && v.y1 < limiti.yMax && y2 > limiti.yMin)
-            c.s.tavolo.xLine(v.x1, -v.y1, x2, -y2, QB(14), strato, SPESSORE);
+            c.s.tavolo.TracciaLinea(v.x1, v.y1, x2, y2, GIALLO, strato, SPESSORE);
     }
 }
 
@@ -45,7 +45,7 @@ void PreparaOre(Corsa &c) {
 
 void LineeOre(const Corsa &c, LineeAttese &linee) {
     for (const double h : Conteggio(-90, 90, 15 / c.s.v.fraz))
-        linee.push_back({h, 12 + h / 15, "Ore_astro", QB(h == 0 ? 12 : 15)});
+        linee.push_back({h, 12 + h / 15, "Ore_astro", h == 0 ? ROSSO : BIANCO});
 }
 
 void TracciaOreAstronomiche(Corsa &c, const LineeAttese &linee) {
@@ -64,7 +64,7 @@ void TracciaOreAstronomiche(Corsa &c, const LineeAttese &linee) {
         v.y1 = 2;
         v.x1 = -m * 2 + k;
         x2 = m * 2 + k;
-        c.s.tavolo.xLine(v.x1, -2, x2, 2, l.colore, strato, SPESSORE);
+        c.s.tavolo.TracciaLinea(v.x1, 2, x2, -2, l.colore, strato, SPESSORE);
         v.xEq = 0.8;
     }
     if (v.lat == 0 && Abs(v.dec) == 90) oreParallele(c, strato);
@@ -75,7 +75,7 @@ void TracciaSustilareAnalitica(Corsa &c, const LineeAttese &linee) {
     if (v.angSustilare == 0) return;
     const Valore t = tan(v.angSustilare);
     const Pretendi pretendi(c.s.tavolo, Specie::Sustilare);
-    for (const double i : Conteggio(-1, 1, 0.002)) c.s.tavolo.xPset(i, i / t, linee[0].colore, SENZA_STRATO);
+    for (const double i : Conteggio(-1, 1, 0.002)) c.s.tavolo.TracciaPunto(i, -i / t, linee[0].colore, SENZA_STRATO);
 }
 
 void TracciaEquinozialeAnalitica(Corsa &c, const LineeAttese &linee) {
@@ -86,12 +86,12 @@ void TracciaEquinozialeAnalitica(Corsa &c, const LineeAttese &linee) {
         Reale y;
         for (const double x : Conteggio(-3, 3, 0.001)) {
             y = x * t - q;
-            c.s.tavolo.xPset(x, -y, linee[0].colore, SENZA_STRATO);
+            c.s.tavolo.TracciaPunto(x, y, linee[0].colore, SENZA_STRATO);
         }
     }
     if (v.lat == 0 && sin(v.angSustilare) != 0) {
         const Valore x = v.y0 / sin(v.angSustilare);
-        c.s.tavolo.xLine(x, 0, x, 1, linee[0].colore);  // one unit long: meant
+        c.s.tavolo.TracciaLinea(x, PIEDE, x, -1, linee[0].colore);  // one unit long: meant
     }
 }
 
@@ -104,14 +104,14 @@ void TracciaTriangoloAnalitico(Corsa &c, const LineeAttese &linee) {
     xT = (v.yCentroNeg - v.yCentro - t * v.xCentroNeg) / (1 / a - t) + v.xCentro / (1 - a * t);
     yT = (xT - v.xCentro) / a + v.yCentro;
     const Pretendi pretendi(tavolo, Specie::Stilo);
-    if (Abs(v.yCentro) < 3) tavolo.xLine(xT, -yT, v.xCentro, -v.yCentro, linee[0].colore);
-    tavolo.xLine(xT, -yT, v.xCentroNeg, -v.yCentroNeg, linee[1].colore);
-    tavolo.xPset(v.xCentroNeg, -v.yCentroNeg, QB(15), SENZA_STRATO);
+    if (Abs(v.yCentro) < 3) tavolo.TracciaLinea(xT, yT, v.xCentro, v.yCentro, linee[0].colore);
+    tavolo.TracciaLinea(xT, yT, v.xCentroNeg, v.yCentroNeg, linee[1].colore);
+    tavolo.TracciaPunto(v.xCentroNeg, v.yCentroNeg, BIANCO, SENZA_STRATO);
 }
 void TracciaOrizzontale(Corsa &c, const LineeAttese &linee) {
     const Variabili &v = c.s.v;
     const Pretendi pretendi(c.s.tavolo, Specie::Orizzonte);
-    c.s.tavolo.xLine(-v.semiL, -v.yCentroNeg, v.semiL, -v.yCentroNeg, linee[0].colore);
+    c.s.tavolo.TracciaLinea(-v.semiL, v.yCentroNeg, v.semiL, v.yCentroNeg, linee[0].colore);
 }
 
 }  // namespace ombrelia::analytic

@@ -25,7 +25,7 @@ void TracciaLemniscataAnalitica(Corsa &c, const LineeAttese &linee) {
             const Valore tanQ = tan(-v.corrLong + m.Et);
             y = -v.gn / (m.tanD * Sqr(tanQ * tanQ + 1));
             x = -tanQ * y;
-            tavolo.xPset(-x, -y, QB(6), SENZA_STRATO);
+            tavolo.TracciaPunto(-x, y, OLIVA, SENZA_STRATO);
         }
         return;
     }
@@ -56,7 +56,7 @@ void TracciaLemniscataAnalitica(Corsa &c, const LineeAttese &linee) {
         const Valore u = h * (1 - z / r);
         x = u * cs - z * ss + v.y0 * ss;
         y = u * ss + z * cs - v.y0 * cs;
-        tavolo.xPset(x, -y, linee[0].colore, SENZA_STRATO);
+        tavolo.TracciaPunto(x, y, linee[0].colore, SENZA_STRATO);
     }
 }
 

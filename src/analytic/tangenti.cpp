@@ -11,7 +11,7 @@ namespace {
 // ora is the hour, so counted, of noon at the equinox.
 void conta(const Corsa &c, double ora, LineeAttese &linee) {
     if (c.s.v.lat_o == 0 && c.s.in.ckCorretta != 1) return;  // no tangents at the equator
-    for (const double a : Conteggio(-90, 90, 15)) linee.push_back({a, ora + a / 15, "", QB(15)});
+    for (const double a : Conteggio(-90, 90, 15)) linee.push_back({a, ora + a / 15, "", BIANCO});
 }
 
 // verso is the sign before the root of the tangent's slope: -1 from sunset, 1 from sunrise.
@@ -28,7 +28,7 @@ void traccia(Corsa &c, const LineeAttese &linee, Specie specie, double verso) {
     const Valore R = k.R, Q = k.Q, P = k.P;
     const RiferimentoSustilare dial(v.angSustilare, v.y0);
     const auto punto = [&](Valore u, Valore w, Colore colore) {
-        tavolo.xPset(dial.x(u, w), -dial.y(u, w), colore, SENZA_STRATO);
+        tavolo.TracciaPunto(dial.x(u, w), dial.y(u, w), colore, SENZA_STRATO);
     };
 
     const Valore q4 = Q * Q / 4 - P, mezzo = -Q / 2;
@@ -37,8 +37,8 @@ void traccia(Corsa &c, const LineeAttese &linee, Specie specie, double verso) {
         if (!(quadrato >= 0)) continue;
         const Valore radice = Sqr(quadrato);
         // A help to the eye, on which no Sun need ever stand: it claims nothing.
-        punto(u, mezzo + radice, QB(5));
-        punto(u, mezzo - radice, QB(10));
+        punto(u, mezzo + radice, VIOLA);
+        punto(u, mezzo - radice, VERDE);
     }
 
     const Valore obliqua = v.gn / cos(v.altStilo), t0 = v.angoloOra + v.diffLong;

@@ -287,7 +287,7 @@ void etichette(const Disegno &d) {
         const auto p = d.scena.punto(sole);
         if (!p) continue;
         d.s.tavolo.ForeColor = l.colore;
-        d.s.tavolo.Dati(l.strato, p->x, -p->y);
+        d.s.tavolo.Scritta(l.strato, p->x, p->y);
     }
     d.s.tavolo.ForeColor = prima;
 }
@@ -312,10 +312,10 @@ void triangolo(const Disegno &d) {
     const bool vicino = c && std::hypot(c->x, c->y) < LONTANO;
     const Punto centro = vicino ? d.scena.nellaLista(*c) : Punto{}, piede;
     if (d.attesa.motore == Motore::Analitica) {
-        t.xPset(0, 0, QB(15));
+        t.xPset(0, 0, BIANCO);
     } else {
-        if (vicino) t.xPset(centro.x, -centro.y, QB(12));
-        t.xPset(punta.x, -punta.y, QB(12));
+        if (vicino) t.TracciaPunto(centro.x, centro.y, ROSSO);
+        t.TracciaPunto(punta.x, punta.y, ROSSO);
     }
     if (d.attesa.motore == Motore::Verticale) {
         enum { STILO_LUNGO, FALSO, SOTTO_LUNGO, STILO, SOTTO, MERIDIANA, ORTOSTILO };

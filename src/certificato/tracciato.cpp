@@ -118,7 +118,7 @@ public:
         const auto pa = punto(a), pb = punto(b);
         if (!pa || !pb) return;
         prima_ = inizio_ = *pa;
-        if (tratto_.punti) t_.xPset(pa->x, -pa->y, tratto_.colore, strato_);
+        if (tratto_.punti) t_.TracciaPunto(pa->x, pa->y, tratto_.colore, strato_);
         segui(a, *pa, b, *pb, 0);
     }
 
@@ -147,8 +147,8 @@ private:
         constexpr double NIENTE = 1e-9;
         const auto lontano = [&](const Punto &p) { return std::fabs(pb.x - p.x) > NIENTE || std::fabs(pb.y - p.y) > NIENTE; };
         if (!lontano(prima_)) return;
-        if (!tratto_.punti) t_.xLine(pb.x, -pb.y, prima_.x, -prima_.y, tratto_.colore, strato_);
-        else if (lontano(inizio_)) t_.xPset(pb.x, -pb.y, tratto_.colore, strato_);
+        if (!tratto_.punti) t_.TracciaLinea(pb.x, pb.y, prima_.x, prima_.y, tratto_.colore, strato_);
+        else if (lontano(inizio_)) t_.TracciaPunto(pb.x, pb.y, tratto_.colore, strato_);
         prima_ = pb;
     }
 
@@ -263,13 +263,13 @@ void TracciaSegmento(Tavolo &t, const Scena &scena, Punto a, Punto b, const Trat
     const double l = std::hypot(b.x - a.x, b.y - a.y);
     const IdNome strato = t.nome(tratto.strato);
     if (!tratto.punti) {
-        if (l > 0) t.xLine(a.x, -a.y, b.x, -b.y, tratto.colore, strato);
+        if (l > 0) t.TracciaLinea(a.x, a.y, b.x, b.y, tratto.colore, strato);
         return;
     }
     const int n = static_cast<int>(std::ceil(l / scena.passoPunti));
     for (int i = 0; i <= n; ++i) {
         const double k = n > 0 ? static_cast<double>(i) / n : 0;
-        t.xPset(a.x + k * (b.x - a.x), -(a.y + k * (b.y - a.y)), tratto.colore, strato);
+        t.TracciaPunto(a.x + k * (b.x - a.x), a.y + k * (b.y - a.y), tratto.colore, strato);
     }
 }
 

@@ -15,6 +15,10 @@ constexpr Colore QB(int n) {
     return tavolozza[static_cast<std::size_t>(n) & 15];
 }
 
+inline constexpr Colore NERO = QB(0), BLU_SCURO = QB(1), VERDE_SCURO = QB(2), ACQUA = QB(3), ROSSO_SCURO = QB(4), VIOLA = QB(5),
+                        OLIVA = QB(6), ARGENTO = QB(7), GRIGIO = QB(8), BLU = QB(9), VERDE = QB(10), CIANO = QB(11),
+                        ROSSO = QB(12), MAGENTA = QB(13), GIALLO = QB(14), BIANCO = QB(15);
+
 constexpr Colore Rgb(int rosso, int verde, int blu) { return rosso | (verde << 8) | (blu << 16); }
 
 }  // namespace ombrelia

@@ -8,14 +8,8 @@
 #include <memory>
 #include <system_error>
 
+#include "core/posix.h"
 #include "core/provvisorio.h"
-
-#if defined(__unix__) || defined(__APPLE__)
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
-#define OMBRELIA_POSIX 1
-#endif
 
 namespace ombrelia {
 

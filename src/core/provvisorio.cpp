@@ -10,13 +10,7 @@
 #include <string>
 #include <system_error>
 
-#if defined(__unix__) || defined(__APPLE__)
-#include <fcntl.h>
-#include <sys/file.h>
-#include <sys/stat.h>
-#include <unistd.h>
-#define OMBRELIA_POSIX 1
-#endif
+#include "core/posix.h"
 
 namespace ombrelia {
 

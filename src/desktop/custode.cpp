@@ -10,45 +10,21 @@ Custode::Custode(QObject *contesto, std::function<void(const DatiCertificato &, 
     : contesto_(contesto), pronto_(std::move(pronto)), filo_([this] { lavora(); }) {}
 
 Custode::~Custode() {
-    {
-        const std::lock_guard chiave(mutex_);
-        fine_ = true;
-    }
-    sveglia_.notify_one();
+    sportello_.chiudi();
     filo_.join();
 }
 
-void Custode::chiedi(DatiCertificato dati, Lista lista) {
-    {
-        const std::lock_guard chiave(mutex_);
-        prossima_ = Richiesta{std::move(dati), std::move(lista)};
-        ++numero_;
-    }
-    sveglia_.notify_one();
-}
+void Custode::chiedi(DatiCertificato dati, Lista lista) { sportello_.chiedi({std::move(dati), std::move(lista)}); }
 
 void Custode::lavora() {
-    for (;;) {
-        Richiesta r;
-        unsigned mio = 0;
-        {
-            std::unique_lock chiave(mutex_);
-            sveglia_.wait(chiave, [this] { return fine_ || prossima_; });
-            if (fine_) return;
-            r = std::move(*prossima_);
-            prossima_.reset();
-            mio = numero_;
-        }
+    while (auto incarico = sportello_.attendi()) {
+        auto &[r, mio] = *incarico;
         Certificato c = Certifica(r.dati, r.lista);
         // Its context is gone with this object: what arrives later is dropped by the toolkit.
         QMetaObject::invokeMethod(
             contesto_,
-            [this, mio, dati = std::move(r.dati), c = std::move(c)] {
-                {
-                    const std::lock_guard chiave(mutex_);
-                    if (mio != numero_) return;
-                }
-                pronto_(dati, c);
+            [this, numero = mio, dati = std::move(r.dati), c = std::move(c)] {
+                if (numero == sportello_.numero()) pronto_(dati, c);
             },
             Qt::QueuedConnection);
     }

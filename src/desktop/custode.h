@@ -2,13 +2,11 @@
 #pragma once
 
 #include <QObject>
-#include <condition_variable>
 #include <functional>
-#include <mutex>
-#include <optional>
 #include <thread>
 
 #include "certificato/certificato.h"
+#include "desktop/sportello.h"
 
 namespace ombrelia::desktop {
 
@@ -31,11 +29,7 @@ private:
 
     QObject *contesto_;
     std::function<void(const DatiCertificato &, const Certificato &)> pronto_;
-    std::mutex mutex_;
-    std::condition_variable sveglia_;
-    std::optional<Richiesta> prossima_;
-    unsigned numero_ = 0;  // of the newest request; read and written under the mutex
-    bool fine_ = false;
+    Sportello<Richiesta> sportello_;
     std::thread filo_;
 };
 

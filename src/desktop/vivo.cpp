@@ -52,19 +52,12 @@ Vivo::Vivo(QObject *contesto, const Dizionario &dizionario, std::function<void(E
     : contesto_(contesto), dizionario_(dizionario), pronto_(std::move(pronto)), filo_([this] { lavora(); }) {}
 
 Vivo::~Vivo() {
-    {
-        const std::lock_guard chiave(mutex_);
-        fine_ = true;
-        ++numero_;
-    }
-    sveglia_.notify_one();
+    sportello_.chiudi();
     filo_.join();
 }
 
 void Vivo::ferma() {
-    const std::lock_guard chiave(mutex_);
-    prossima_.reset();
-    ++numero_;
+    sportello_.lascia();
     attese_ = 0;
 }
 
@@ -73,13 +66,8 @@ void Vivo::chiedi(const Sessione &s, const Vista &vista, bool specchia) {
     Richiesta r{s.in,       s.v,       s.stati,    t.QuadranteL(), t.QuadranteH(), t.ShiftX(),
                 t.ShiftY(), t.Scala(), t.FattoreX, t.FattoreY,     vista};
     if (specchia) r.fattoreX = -r.fattoreX;
-    {
-        const std::lock_guard chiave(mutex_);
-        prossima_ = std::move(r);
-        ++numero_;
-        attese_ = 1;
-    }
-    sveglia_.notify_one();
+    attese_ = 1;
+    sportello_.chiedi(std::move(r));
 }
 
 void Vivo::lavora() {
@@ -87,17 +75,9 @@ void Vivo::lavora() {
     Sessione s(utente);
     s.originaleFresco = s.australeMontato = true;
     s.dizionario = dizionario_;
-    for (;;) {
-        Richiesta r;
-        unsigned mio = 0;
-        {
-            std::unique_lock chiave(mutex_);
-            sveglia_.wait(chiave, [this] { return fine_ || prossima_; });
-            if (fine_) return;
-            r = std::move(*prossima_);
-            prossima_.reset();
-            mio = numero_;
-        }
+    while (auto incarico = sportello_.attendi()) {
+        Richiesta &r = incarico->cosa;
+        const unsigned mio = incarico->numero;
         utente.avviso.clear();
         s.in = std::move(r.in);
         s.v = r.v;
@@ -113,7 +93,7 @@ void Vivo::lavora() {
         t.Scala(r.scala);
         auto esito = std::make_shared<Esito>();
         try {
-            Guardia guardia(numero_, mio);
+            Guardia guardia(sportello_.numero(), mio);
             t.dispositivo = &guardia;
             for (const Controllo &c : ControlliDi("MDIForm1"))
                 if (c.classe == Classe::Casella && c.casella && !s.stato(IdDi(c)).abilitato) s.in.*c.casella = 0;
@@ -151,7 +131,7 @@ void Vivo::lavora() {
         QMetaObject::invokeMethod(
             contesto_,
             [this, esito, mio] {
-                if (mio != numero_) return;
+                if (mio != sportello_.numero()) return;
                 attese_ = 0;
                 pronto_(*esito);
             },

@@ -3,14 +3,12 @@
 #pragma once
 
 #include <atomic>
-#include <condition_variable>
 #include <functional>
 #include <memory>
-#include <mutex>
-#include <optional>
 #include <thread>
 #include <vector>
 
+#include "desktop/sportello.h"
 #include "desktop/vista.h"
 #include "sessione/sessione.h"
 
@@ -54,12 +52,8 @@ private:
     QObject *contesto_;
     Dizionario dizionario_;
     std::function<void(Esito &)> pronto_;
-    std::mutex mutex_;
-    std::condition_variable sveglia_;
-    std::optional<Richiesta> prossima_;
-    std::atomic<unsigned> numero_ = 0;  // of the newest request; an older run stops
+    Sportello<Richiesta> sportello_;
     std::atomic<int> attese_ = 0;
-    bool fine_ = false;
     std::thread filo_;
 };
 

@@ -37,7 +37,7 @@ void didascalia(Corsa &c, Valore seno, Valore q) {
         {"Altezza del sole alle 12 d'estate = "_it, Tronca5(estate), " °"},
         {"Altezza del sole alle 12 d'inverno = "_it, Tronca5(inverno), " °"},
     };
-    s.tavolo.ForeColor = QB(15);
+    s.tavolo.ForeColor = BIANCO;
     s.Dati(s.Traduci("DATI QUADRANTE "));
     for (const auto &riga : righe) s.Dati(Frase(s.Traduci(riga.etichetta)) << riga.valore << riga.coda);
     Frase costante(s.Traduci("Costante locale = "_it));
@@ -55,7 +55,7 @@ void rettaOrizzonte(Corsa &c, const LineeAttese &linee) {
     const Valore y = c.s.v.yOriz;
     const double l = c.s.tavolo.ShiftX();
     const Pretendi pretendi(c.s.tavolo, Specie::Orizzonte);
-    c.s.tavolo.xLine(-l, -y, l, -y, linee[0].colore);
+    c.s.tavolo.TracciaLinea(-l, y, l, y, linee[0].colore);
 }
 
 // --- the table of features ------------------------------------------------------------------------------------------
@@ -66,10 +66,6 @@ void cornice(Corsa &c) {
 }
 
 // One line, with no counter of its own.
-template <int colore>
-void unaLinea(const Corsa &, LineeAttese &linee) {
-    linee.push_back({0, 0, "", QB(colore)});
-}
 
 // The signs read the fields once more; the horizon is the field's from here on, unscaled, and the plane what was typed.
 void zodiaco(Corsa &c, const LineeAttese &) {
@@ -91,7 +87,7 @@ constexpr Riga CARATTERISTICHE[] = {
      cornice},
     {&In::ck_Equinoziale, Specie::Equinoziale, "the equinoctial",
      [](const Corsa &, LineeAttese &l) {
-         l.push_back({0, 0, "equinox", QB(9)});
+         l.push_back({0, 0, "equinox", BLU});
      },
      TracciaEquinoziale},
     {&In::ck_Italiche, Specie::Italica, "hours from sunset", LineeItaliche, TracciaOreItaliche},
@@ -99,17 +95,18 @@ constexpr Riga CARATTERISTICHE[] = {
     {&In::ckTemp, Specie::Temporaria, "twelfths of the day", LineeTemporarie, TracciaOreTemporarie},
     {&In::ck_Sustilare, Specie::OraSustilare, "hour line of the substyle",
      [](const Corsa &, LineeAttese &l) {
-         l.push_back({0, 0, "substyle hour", QB(9)});
+         l.push_back({0, 0, "substyle hour", BLU});
      },
      TracciaSustilare},
     {&In::ck_Triangolo, Specie::Stilo, "triangle of the polar style",
      [](const Corsa &, LineeAttese &l) {
-         l.push_back({0, 0, "polar style", QB(9)});
-         l.push_back({0, 0, "pillar", QB(13)});
-         l.push_back({0, 0, "substyle", QB(14)});
+         l.push_back({0, 0, "polar style", BLU});
+         l.push_back({0, 0, "pillar", MAGENTA});
+         l.push_back({0, 0, "substyle", GIALLO});
      },
      TracciaStiloPolare},
-    {&In::ck_Triangolo, Specie::Mezzogiorno, "line of greatest slope through the centre", unaLinea<8>, TracciaVerticaleCentro},
+    {&In::ck_Triangolo, Specie::Mezzogiorno, "line of greatest slope through the centre", UnaLinea<GRIGIO>,
+     TracciaVerticaleCentro},
     {&In::ckZodiac, Specie::Nessuna, "signs of the zodiac", nullptr, zodiaco},
     {&In::ckAlt, Specie::Almucantarat, "equal altitudes", [](const Corsa &c, LineeAttese &l) { LineeAlmucantarat(c.letto, l); },
      almucantarat},
@@ -117,19 +114,19 @@ constexpr Riga CARATTERISTICHE[] = {
      PreparaLemniscata},
     {&In::ckAsr, Specie::Asr, "afternoon prayer",
      [](const Corsa &, LineeAttese &l) {
-         l.push_back({0, 1, "", QB(7)});
+         l.push_back({0, 1, "", ARGENTO});
      },
      TracciaAsr},
 };
 
 // After the Qibla and the centre.
 constexpr Riga ORIZZONTE[] = {
-    {&In::ck_Orizzonte, Specie::Orizzonte, "the horizon", unaLinea<14>, rettaOrizzonte,
+    {&In::ck_Orizzonte, Specie::Orizzonte, "the horizon", UnaLinea<GIALLO>, rettaOrizzonte,
      [](const Corsa &c) { return !c.orizzontale; }},
 };
 // After the caption the horizon comes once more, on a level plane too.
 constexpr Riga ORIZZONTE_DI_NUOVO[] = {
-    {&In::ck_Orizzonte, Specie::Orizzonte, "the horizon again", unaLinea<14>, rettaOrizzonte,
+    {&In::ck_Orizzonte, Specie::Orizzonte, "the horizon again", UnaLinea<GIALLO>, rettaOrizzonte,
      [](const Corsa &c) { return c.s.in.ckCorretta != 1; }},
 };
 // Behind the frame; the lines appear once a request.
@@ -143,7 +140,7 @@ Reale qibla(Corsa &c) {
     Sessione &s = c.s;
     Qibla qibla = CalcolaQibla(c);
     const bool chiesta = s.in.CkQibla == 1;
-    const LineaAttesa curva{0, 0, "Quibla", QB(10)};
+    const LineaAttesa curva{0, 0, "Quibla", VERDE};
     const bool fatta = s.corretta({Motore::Diretta, Specie::Qibla, Specie::Nessuna, {&curva, chiesta ? 1U : 0U}, &qibla.q});
     if (chiesta) {
         if (!fatta && s.v.latR != 0) TracciaQibla(c, qibla.B);

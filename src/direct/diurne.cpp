@@ -15,11 +15,11 @@ struct Diurna {
     std::string_view strato;
 };
 constexpr Diurna DIURNE[] = {
-    {-OBLIQUITA, -OBLIQUITA, false, 1, true, QB(14), "delta -23.445°"},
-    {-20.001, -DELTA_SEGNI, true, 1, true, QB(13), "delta -20°"},
-    {20.001, DELTA_SEGNI, true, -1, true, QB(13), "delta 20°"},
-    {-11.501, -DELTA_SEGNI_VICINI, true, 1, true, QB(11), "delta -11.5°"},
-    {11.501, DELTA_SEGNI_VICINI, true, -1, false, QB(11), "delta 11.5°"},
+    {-OBLIQUITA, -OBLIQUITA, false, 1, true, GIALLO, "delta -23.445°"},
+    {-20.001, -DELTA_SEGNI, true, 1, true, MAGENTA, "delta -20°"},
+    {20.001, DELTA_SEGNI, true, -1, true, MAGENTA, "delta 20°"},
+    {-11.501, -DELTA_SEGNI_VICINI, true, 1, true, CIANO, "delta -11.5°"},
+    {11.501, DELTA_SEGNI_VICINI, true, -1, false, CIANO, "delta 11.5°"},
 };
 constexpr std::string_view STRATO_OPZIONALE = "Delta opt";
 
@@ -32,7 +32,7 @@ void LineeDiurne(const Corsa &c, LineeAttese &linee) {
         if (!d.intermedia || intermedie) linee.push_back({d.delta, (d.dichiarata * verso).v, d.strato, d.colore});
     // A whole ten-thousandth more than asked for: meant.
     const Valore opzionale = c.letto.delta * verso * 1.0001;
-    linee.push_back({opzionale.v, c.letto.delta.v, STRATO_OPZIONALE, QB(9)});
+    linee.push_back({opzionale.v, c.letto.delta.v, STRATO_OPZIONALE, BLU});
 }
 
 void TracciaLineeDiurne(Corsa &c, const LineeAttese &linee) {

@@ -32,18 +32,18 @@ void TracciaStiloPolare(Corsa &c, const LineeAttese &linee) {
     const Reale py = v.gn * sin(-S) * v.unita;
 
     const Pretendi pretendi(t, Specie::Stilo);
-    t.xPset(xc, -yc, QB(12));
-    t.xPset(px, -py, QB(12));
-    t.xLine(px, -py, xc, -yc, linee[0].colore, linee[0].strato);
-    t.xLine(px, -py, 0, 0, linee[1].colore, linee[1].strato);
-    t.xLine(xc, -yc, 0, 0, linee[2].colore, linee[2].strato);
+    t.TracciaPunto(xc, yc, ROSSO);
+    t.TracciaPunto(px, py, ROSSO);
+    t.TracciaLinea(px, py, xc, yc, linee[0].colore, linee[0].strato);
+    t.TracciaLinea(px, py, 0, PIEDE, linee[1].colore, linee[1].strato);
+    t.TracciaLinea(xc, yc, 0, PIEDE, linee[2].colore, linee[2].strato);
 }
 
 void TracciaVerticaleCentro(Corsa &c, const LineeAttese &linee) {
     Tavolo &t = c.s.tavolo;
     const Reale xc = centro(*c.piano).x;
     const Pretendi pretendi(t, Specie::Mezzogiorno);
-    t.xLine(xc, -t.ShiftY(), xc, 2 * t.ShiftY(), linee[0].colore);
+    t.TracciaLinea(xc, t.ShiftY(), xc, -2 * t.ShiftY(), linee[0].colore);
 }
 
 void TracciaSustilare(Corsa &c, const LineeAttese &linee) {
@@ -65,7 +65,7 @@ void TracciaSustilare(Corsa &c, const LineeAttese &linee) {
 void LineeAzimutali(const Corsa &c, LineeAttese &linee) {
     // The azimuth that the mirror of north and south makes of one.
     const bool australe = c.s.v.segnoLat == -1;
-    for (const double A : Conteggio(-90, 90, 15)) linee.push_back({A, !australe ? A : A < 0 ? -180 - A : 180 - A, "", QB(6)});
+    for (const double A : Conteggio(-90, 90, 15)) linee.push_back({A, !australe ? A : A < 0 ? -180 - A : 180 - A, "", OLIVA});
 }
 
 void TracciaRetteAzimutali(Corsa &c, const LineeAttese &linee) {
@@ -98,7 +98,7 @@ void TracciaRetteAzimutali(Corsa &c, const LineeAttese &linee) {
             const Reale r = d.tanD * senB / tanLat;
             t = B - ArcSin(r);
             proietta(SenCos(t), d.tanD, x, y);
-            if (y <= limite && c.cornice.contiene(x, y)) s.tavolo.xPset(x, -y, l.colore);
+            if (y <= limite && c.cornice.contiene(x, y)) s.tavolo.TracciaPunto(x, y, l.colore);
         }
     }
     v.deltaOpz = Anno().back().d;  // left: the end of the sweep

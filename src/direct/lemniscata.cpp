@@ -25,8 +25,8 @@ void PreparaLemniscata(Corsa &c) {
 void LineeLemniscata(const Corsa &c, LineeAttese &linee) {
     const Variabili &v = c.s.v;
     const bool pendente = v.incR < PI / 2.0;
-    if (v.segnoLat == -1) linee.push_back({0, 12, "Analemma Sud", pendente ? QB(10) : QB(2)});
-    else linee.push_back({0, 12, "Analemma", QB(10)});
+    if (v.segnoLat == -1) linee.push_back({0, 12, "Analemma Sud", pendente ? VERDE : VERDE_SCURO});
+    else linee.push_back({0, 12, "Analemma", VERDE});
 }
 
 void TracciaLemniscata(Corsa &c, const LineeAttese &linee) {

@@ -15,15 +15,15 @@ void LineeOrarie(const Corsa &c, LineeAttese &linee) {
     };
     // The quarters run over hours and halves too and overlie them: meant.
     const Famiglia famiglie[] = {
-        {-90, 15, "hour", true, QB(14)},
-        {-97.5, 15, "half", v.fraz > 1, QB(13)},
-        {-97.5, 30.0 / 8.0, "quarter", v.fraz == 4, QB(3)},
+        {-90, 15, "hour", true, GIALLO},
+        {-97.5, 15, "half", v.fraz > 1, MAGENTA},
+        {-97.5, 30.0 / 8.0, "quarter", v.fraz == 4, ACQUA},
     };
     for (const Famiglia &f : famiglie) {
         if (!f.si) continue;
         const bool ore = f.inizio == -90;
         for (const double A : Conteggio(f.inizio, -f.inizio, f.passo)) {
-            const Colore colore = !ore ? f.colore : A == 0 ? QB(12) : std::fabs(A) == 90 ? QB(9) : f.colore;
+            const Colore colore = !ore ? f.colore : A == 0 ? ROSSO : std::fabs(A) == 90 ? BLU : f.colore;
             linee.push_back({A, 12 + A / 15, f.strato, colore});
         }
     }
@@ -110,12 +110,12 @@ bool diGiorno(double t, double H0) { return std::fabs(t) <= H0; }
 }  // namespace
 
 void LineeItaliche(const Corsa &c, LineeAttese &linee) {
-    conta({c.letto.inizio, c.letto.fine, 1 / frazione(c)}, "Ita", QB(12), linee);
+    conta({c.letto.inizio, c.letto.fine, 1 / frazione(c)}, "Ita", ROSSO, linee);
 }
 void LineeBabiloniche(const Corsa &c, LineeAttese &linee) {
-    conta({c.letto.inizio, c.letto.fine, 1 / frazione(c)}, "Bab", QB(11), linee);
+    conta({c.letto.inizio, c.letto.fine, 1 / frazione(c)}, "Bab", CIANO, linee);
 }
-void LineeTemporarie(const Corsa &c, LineeAttese &linee) { conta({0, 12, 1 / frazione(c)}, "Temp", QB(3), linee); }
+void LineeTemporarie(const Corsa &c, LineeAttese &linee) { conta({0, 12, 1 / frazione(c)}, "Temp", ACQUA, linee); }
 
 void TracciaOreItaliche(Corsa &c, const LineeAttese &linee) {
     const double diff = c.s.v.diffLong.numero();

@@ -19,9 +19,9 @@ void TracciaAsr(Corsa &c, const LineeAttese &linee) {
         cosT = (sin(h) - senLat * D.sen) / (cosLat * D.cos);
         t = (PI / 2.0) - Atn(cosT / Sqr(-cosT * cosT + 1));
         proietta(SenCos(t), Anno()[i].tanD, x, y);
-        if (passa(x, y)) s.tavolo.xPset(x, -y, colore);
+        if (passa(x, y)) s.tavolo.TracciaPunto(x, y, colore);
         // A horizontal plane takes every point of the frame, a second time where the horizon let it pass.
-        if (c.orizzontale && c.cornice.contiene(x, y)) s.tavolo.xPset(x, -y, colore);
+        if (c.orizzontale && c.cornice.contiene(x, y)) s.tavolo.TracciaPunto(x, y, colore);
     }
     v.deltaOpz = Anno().back().d;  // left: the end of the sweep
 }
@@ -55,15 +55,15 @@ void TracciaQibla(Corsa &c, Valore B) {
         t = B - ArcSin(r);
         proietta(SenCos(t), tanD, x, y);
         const bool dentro = c.cornice.contiene(x, y);
-        if (dentro && (piana || (nord ? y <= limite : y >= limite))) s.tavolo.xPset(x, -y, QB(10));
-        if (c.orizzontale) catena.punto(x, y, dentro, QB(10));
+        if (dentro && (piana || (nord ? y <= limite : y >= limite))) s.tavolo.TracciaPunto(x, y, VERDE);
+        if (c.orizzontale) catena.punto(x, y, dentro, VERDE);
     }
 }
 
 void TestiQibla(Corsa &c, Valore q) {
     Sessione &s = c.s;
     s.tavolo.ForeColor = 65280;  // bright green
-    s.tavolo.Dati("", -s.tavolo.ShiftX(), 0.75);
+    s.tavolo.Scritta("", -s.tavolo.ShiftX(), -0.75);
     const auto riga = [&s](std::string_view etichetta, Valore gradi, std::string_view coda) {
         s.Dati(Frase(s.Traduci(etichetta)) << Tronca5(gradi) << coda);
     };
@@ -76,7 +76,7 @@ void TestiQibla(Corsa &c, Valore q) {
         riga("Qibla from North = "_it, -q, "° azimuth");
         riga("Qibla from South = "_it, q < 0 ? -180 - q : 180 - q, "° azimuth");
     }
-    s.tavolo.ForeColor = QB(15);
+    s.tavolo.ForeColor = BIANCO;
 }
 
 }  // namespace ombrelia::direct

@@ -13,7 +13,7 @@ namespace ombrelia {
 
 namespace {
 
-constexpr int COLORE_NUMERI = 7;
+constexpr Colore COLORE_NUMERI = ARGENTO;
 constexpr int PESO_ARABI = 2;
 // The most a chord of a round part may fall short of the round, in units of the cell.
 constexpr double FRECCIA = 0.1;
@@ -25,7 +25,7 @@ public:
         : tavolo_(tavolo), x_(X), y_(Y), sen_(sin(angolo)), cos_(cos(angolo)), scala_(altezza / ALTEZZA_CELLA) {}
 
     void linea(double a1, double b1, double a2, double b2, int peso) const {
-        tavolo_.xLine(x(a1, b1), -y(a1, b1), x(a2, b2), -y(a2, b2), QB(COLORE_NUMERI), IdNome{}, peso);
+        tavolo_.TracciaLinea(x(a1, b1), y(a1, b1), x(a2, b2), y(a2, b2), COLORE_NUMERI, IdNome{}, peso);
     }
 
 private:

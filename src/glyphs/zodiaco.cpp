@@ -49,7 +49,7 @@ void DisegnaSegno(Sessione &s, Segno segno, Valore x0, Valore y0, Valore gradi) 
     for (const Tratto &t : TrattiSegno(segno)) {
         if (t.forma != Forma::Arco) {
             t.percorri(t.corde, [&](double a1, double b1, double a2, double b2) {
-                s.tavolo.xLine(X(a1, b1), -Y(a1, b1), X(a2, b2), -Y(a2, b2), QB(t.colore));
+                s.tavolo.TracciaLinea(X(a1, b1), Y(a1, b1), X(a2, b2), Y(a2, b2), QB(t.colore));
             });
             continue;
         }
@@ -60,7 +60,7 @@ void DisegnaSegno(Sessione &s, Segno segno, Valore x0, Valore y0, Valore gradi) 
             fine = entroUnGiro(Radianti(t.fine + gradi - 90));
             if (fine == 0) fine = CERCHIO;
         }
-        s.tavolo.xCircle(X(t.a, t.b), -Y(t.a, t.b), raggio, QB(t.colore), -1, 1, inizio, fine);
+        s.tavolo.TracciaCerchio(X(t.a, t.b), Y(t.a, t.b), raggio, QB(t.colore), -1, 1, inizio, fine);
     }
 }
 
@@ -125,7 +125,7 @@ void ChiudiZodiaco(Sessione &s) {
         for (const double H : Conteggio(-v.corrLong + minuti(t.da), -v.corrLong + minuti(t.a), t.passo)) {
             calcola(p, v, H);
             if (!s.ombraVera(H, PI * t.delta / 180, p.x, p.y)) continue;
-            if (p.y <= 0) s.tavolo.xPset(p.x, -p.y, QB(14));
+            if (p.y <= 0) s.tavolo.TracciaPunto(p.x, p.y, GIALLO);
         }
     }
 }

@@ -9,7 +9,7 @@ namespace ombrelia {
 
 void LineeAlmucantarat(const Lettura &letto, LineeAttese &linee) {
     const Reale hMax = (90 - letto.lat) + OBLIQUITA;
-    for (const double h : Conteggio(10, hMax, 10)) linee.push_back({h, h, "", QB(4)});
+    for (const double h : Conteggio(10, hMax, 10)) linee.push_back({h, h, "", ROSSO_SCURO});
 }
 
 void TracciaAlmucantarat(Sessione &s, const Lettura &letto, const Cornice &cornice, const LineeAttese &linee) {
@@ -44,10 +44,10 @@ void TracciaAlmucantarat(Sessione &s, const Lettura &letto, const Cornice &corni
                 t = mattina ? -ArcCos(c) : ArcCos(c);
                 proietta(SenCos(t), a.tanD, x, y);
                 if (!cornice.contiene(x, y)) continue;
-                if (nord && y <= limite) s.tavolo.xPset(x, -y, l.colore);
-                if (!nord && y >= limite) s.tavolo.xPset(-x, y, l.colore);
+                if (nord && y <= limite) s.tavolo.TracciaPunto(x, y, l.colore);
+                if (!nord && y >= limite) s.tavolo.TracciaPunto(-x, -y, l.colore);
                 // On a horizontal plane every point of the frame is plotted once more.
-                if (orizzontale) s.tavolo.xPset(x, -y, l.colore);
+                if (orizzontale) s.tavolo.TracciaPunto(x, y, l.colore);
             }
         }
     }

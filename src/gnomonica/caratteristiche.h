@@ -38,4 +38,10 @@ void Percorri(Corsa &c, Motore motore, const Caratteristica<Corsa> (&tavola)[N])
     }
 }
 
+// Lists the one line of a row that has no more to say of it than its colour.
+template <Colore colore, class Corsa>
+void UnaLinea(const Corsa &, LineeAttese &linee) {
+    linee.push_back({0, 0, "", colore});
+}
+
 }  // namespace ombrelia

@@ -35,7 +35,7 @@ public:
     Catena(Tavolo &tavolo, std::string_view strato) : tavolo_(tavolo), strato_(tavolo.nome(strato)) {}
     // The next point, y upward; the chord to it is drawn when passa says so.
     void punto(Reale x, Reale y, bool passa, Colore colore) {
-        if (iniziata_ && passa) tavolo_.xLine(x, -y, x_, -y_, colore, strato_);
+        if (iniziata_ && passa) tavolo_.TracciaLinea(x, y, x_, y_, colore, strato_);
         x_ = x;
         y_ = y;
         iniziata_ = true;

@@ -6,8 +6,8 @@ namespace ombrelia {
 void TracciaAssi(Sessione &s) {
     if (s.in.ckAssi != 1) return;
     Tavolo &t = s.tavolo;
-    t.xLine(-t.ShiftX(), 0, t.ShiftX(), 0, QB(15));
-    t.xLine(0, -2 * t.ShiftY(), 0, 2 * t.ShiftY(), QB(15));
+    t.xLine(-t.ShiftX(), 0, t.ShiftX(), 0, BIANCO);
+    t.TracciaLinea(0, 2 * t.ShiftY(), 0, -2 * t.ShiftY(), BIANCO);
 }
 
 void TracciaLimiti(Sessione &s, const Lettura &letto, const Cornice &c) {
@@ -16,17 +16,17 @@ void TracciaLimiti(Sessione &s, const Lettura &letto, const Cornice &c) {
     const double l = t.ShiftX(), h = t.ShiftY();
     // Under the frame's own sides: a corrected dial has these once.
     if (s.in.ckCorretta != 1) {
-        t.xLine(-l, -c.yMax, l, -c.yMax, QB(12));
-        t.xLine(-l, -c.yMin, l, -c.yMin, QB(4));
+        t.TracciaLinea(-l, c.yMax, l, c.yMax, ROSSO);
+        t.TracciaLinea(-l, c.yMin, l, c.yMin, ROSSO_SCURO);
         // Upward half as far as downward, unlike the axes: meant.
-        t.xLine(c.xMin, -h, c.xMin, 2 * h, QB(12));
-        t.xLine(c.xMax, -h, c.xMax, 2 * h, QB(4));
+        t.TracciaLinea(c.xMin, h, c.xMin, -2 * h, ROSSO);
+        t.TracciaLinea(c.xMax, h, c.xMax, -2 * h, ROSSO_SCURO);
     }
     TracciaCornice(s, letto);
-    s.Dati(Frase() << c.xMin / v.unita, c.xMin, 0);
-    s.Dati(Frase() << c.xMax / v.unita, c.xMax, 0);
-    s.Dati(Frase() << c.yMax / v.unita, 0, -c.yMax);
-    s.Dati(Frase() << c.yMin / v.unita, 0, -c.yMin);
+    s.Dati(Frase() << c.xMin / v.unita, c.xMin, PIEDE);
+    s.Dati(Frase() << c.xMax / v.unita, c.xMax, PIEDE);
+    s.Dati(Frase() << c.yMax / v.unita, 0, c.yMax);
+    s.Dati(Frase() << c.yMin / v.unita, 0, c.yMin);
 }
 
 }  // namespace ombrelia

@@ -64,7 +64,7 @@ public:
             xs_[n] = x_;
             ys_[n] = y_;
             if (n > 1 && cornice_.contiene(x_, y_) && lunghezza(n) < filtro_) {
-                s_.tavolo.xLine(xs_[n], -ys_[n], xs_[n - 1], -ys_[n - 1], colore, strato_);
+                s_.tavolo.TracciaLinea(xs_[n], ys_[n], xs_[n - 1], ys_[n - 1], colore, strato_);
             }
         }
     }
@@ -128,10 +128,10 @@ void DisegnaMondo(Sessione &s) {
 
     const Mondo &m = s.mondo;
     if (s.in.cmbStati == MONDO_INTERO) {
-        for (std::size_t t = 0; t < m.tratti.size(); ++t) contorni.traccia(m, t, QB(11));
+        for (std::size_t t = 0; t < m.tratti.size(); ++t) contorni.traccia(m, t, CIANO);
     }
     for (std::size_t t = 0; t < m.tratti.size(); ++t) {
-        if (m.paesi[m.tratti[t].paese] == s.in.cmbStati) contorni.traccia(m, t, QB(12));
+        if (m.paesi[m.tratti[t].paese] == s.in.cmbStati) contorni.traccia(m, t, ROSSO);
     }
     s.in.punto = 0;
     s.utente.Puntatore(false);

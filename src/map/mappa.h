@@ -20,7 +20,7 @@ void DisegnaMondo(Sessione &s);
 void DisegnaCitta(Sessione &s);
 // Marks an optional position of the Sun or Moon: declination txtDelta, hour angle txtAO, degrees.
 void PuntoOpzionale(Sessione &s);
-// A five-pointed star of QB(colore) about (X, Y), a point of the sheet; raggio is that of its tips, metres.
-void DisegnaStella(Sessione &s, Valore X, Valore Y, Valore raggio, int colore);
+// A five-pointed star about (X, Y), a point of the sheet; raggio is that of its tips, metres.
+void DisegnaStella(Sessione &s, Valore X, Valore Y, Valore raggio, Colore colore);
 
 }  // namespace ombrelia

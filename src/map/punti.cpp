@@ -25,8 +25,8 @@ void DisegnaCitta(Sessione &s) {
         if (!(riga >= 1 && riga <= static_cast<double>(citta.size()))) continue;
         const Citta &c = citta[static_cast<std::size_t>(riga) - 1];
         if (!zenit(c.X - sito, c.Y, x, y)) continue;
-        s.tavolo.xCircle(x, -y, 0.0009, QB(14), QB(12), 1, -2 * PI, 0);
-        s.tavolo.Dati(c.nome, x, -(y - 0.02));
+        s.tavolo.TracciaCerchio(x, y, 0.0009, GIALLO, ROSSO, 1, -2 * PI, 0);
+        s.tavolo.Scritta(c.nome, x, y - 0.02);
     }
 }
 
@@ -47,17 +47,17 @@ void PuntoOpzionale(Sessione &s) {
     Proiezione(v.latR, v.decR, zr, v.gn, v.unita)(H, D, x, y);
     if (!s.ombraVera(H, D, x, y)) return;
     // The circle's radius is not scaled by unita, the star's is: meant.
-    s.tavolo.xCircle(x, -y, (v.gn / 20) * std::sin(18 * PI / 180) / std::sin(126 * PI / 180), QB(14), QB(9), 1, -CERCHIO, 0);
-    DisegnaStella(s, x, -y, v.unita * v.gn / 20, 15);
+    s.tavolo.TracciaCerchio(x, y, (v.gn / 20) * std::sin(18 * PI / 180) / std::sin(126 * PI / 180), GIALLO, BLU, 1, -CERCHIO, 0);
+    DisegnaStella(s, x, -y, v.unita * v.gn / 20, BIANCO);
 }
 
-void DisegnaStella(Sessione &s, Valore X, Valore Y, Valore raggio, int colore) {
+void DisegnaStella(Sessione &s, Valore X, Valore Y, Valore raggio, Colore colore) {
     // Tips at even multiples of 36 degrees, notches at odd ones; ordinates grow downward on the sheet.
     const auto ascissa = [&](int gradi) { return X + (gradi % 72 == 0 ? 1 : 0.381966) * raggio * std::cos(gradi * PI / 180); };
     const auto ordinata = [&](int gradi) { return Y - (gradi % 72 == 0 ? 1 : 0.381966) * raggio * std::sin(gradi * PI / 180); };
     for (int k = 0; k < 10; ++k) {
         const int da = (72 + 36 * k) % 360, a = (da + 36) % 360;
-        s.tavolo.xLine(ascissa(da), ordinata(da), ascissa(a), ordinata(a), QB(colore));
+        s.tavolo.xLine(ascissa(da), ordinata(da), ascissa(a), ordinata(a), colore);
     }
 }
 

@@ -17,7 +17,7 @@ namespace {
 constexpr double ARIA = 0.3;    // heights between a label and anything else
 constexpr int INDIETRO = 14;    // places tried back along the line, half a height apart
 constexpr double FITTO = 0.02;  // mm: enough for places
-constexpr Colore INCHIOSTRO = QB(7);
+constexpr Colore INCHIOSTRO = ARGENTO;
 
 struct Scatola {
     P2 centro, asse;

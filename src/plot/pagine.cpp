@@ -96,7 +96,6 @@ private:
 void Tavolo::xPlotA4() {
     // The picture is the sheet at the present scale, so in metres it is the sheet again.
     const double w = LarghezzaImmagine() / ScalaBase * scala_, h = AltezzaImmagine() / ScalaBase * scala_;
-    constexpr Colore GRIGIO = 0x808080;
     if (dispositivo) dispositivo->Tratteggio(true);
     for (const double x : Conteggio(larghezzaPagina_, w + 3 * larghezzaPagina_, larghezzaPagina_))
         xLine(x - q_.x, -q_.y, x - q_.x, h - q_.y, GRIGIO, idGriglia_, 1);

@@ -80,34 +80,23 @@ bool Tavolo::Pagina(const Carta &carta) {
 
 // --- drawing ---------------------------------------------------------------------------------------------------------
 
-void Tavolo::xLine(Valore X1, Valore Y1, Valore X2, Valore Y2, Colore colore, std::string_view Id, bool Store) {
-    if (Store) return xLine(X1, Y1, X2, Y2, colore, nome(Id));
-    if (dispositivo && X1.esiste() && Y1.esiste() && X2.esiste() && Y2.esiste())
-        pittore().linea(X1.v, Y1.v, X2.v, Y2.v, colore, Penna(), specchia(nome(Id)));
-}
-
-void Tavolo::xPset(Valore X, Valore Y, Colore colore, std::string_view Id, bool Store) {
-    if (Store) return xPset(X, Y, colore, nome(Id));
-    if (dispositivo && q_.tiene(X, Y)) pittore().punto(X.v, Y.v, colore);
-}
-
 void Tavolo::figura(const RecFigura &r, char ordine) {
     lista_.Figure.push_back(r);
     if (ordine != 0) lista_.Ordine.push_back(ordine);
 }
 
-void Tavolo::xBox(Valore X1, Valore Y1, Valore X2, Valore Y2, Colore colore, bool Filled, std::string_view Id, bool Store) {
+void Tavolo::xBox(Valore X1, Valore Y1, Valore X2, Valore Y2, Colore colore, bool Filled, std::string_view Id) {
     if (!(X1.esiste() && Y1.esiste() && X2.esiste() && Y2.esiste())) return;
-    if (Store) figura({'B', Voce::START, Filled, X1.v, Y1.v, X2.v, Y2.v, 0, 0, colore, 0, nome(Id)}, 'B');
+    figura({'B', Voce::START, Filled, X1.v, Y1.v, X2.v, Y2.v, 0, 0, colore, 0, nome(Id)}, 'B');
     if (dispositivo) pittore().riquadro(X1.v, Y1.v, X2.v, Y2.v, colore, Filled, specchia(nome(Id)));
 }
 
 void Tavolo::xCircle(Valore X, Valore Y, Valore Raggio, Colore colore, Colore FillColor, Valore Aspect, Valore Start, Valore End,
-                     std::string_view Id, bool Store) {
+                     std::string_view Id) {
     for (const Valore v : {X, Y, Raggio, Aspect, Start, End})
         if (!v.esiste()) return;
     const RecFigura r{'C', Voce::START, false, X.v, Y.v, Raggio.v, Aspect.v, Start.v, End.v, colore, FillColor, nome(Id)};
-    if (Store) figura(r, 'C');
+    figura(r, 'C');
     if (dispositivo) pittore().cerchio(r);
 }
 
@@ -122,19 +111,16 @@ void Tavolo::xPlineEnd(std::string_view Id) {
     if (dispositivo) pittore().polilinea(lista_, nome(Id));
 }
 
-void Tavolo::Dati(std::string_view Text, std::optional<Valore> X, std::optional<Valore> Y, bool Store) {
+void Tavolo::Dati(std::string_view Text, std::optional<Valore> X, std::optional<Valore> Y) {
     if ((X && !X->esiste()) || (Y && !Y->esiste())) return;
     // A position that overflows leaves the old one.
     Reale xd = currentX_, yd = currentY_;
     if (X) xd = (*X + q_.x) * scalaCorrente_;
     if (Y) yd = (*Y + q_.y) * scalaCorrente_;
-    if (Store) {
-        const double x = X ? X->v : xCurrentX(), y = Y ? Y->v : xCurrentY();
-        lista_.Testi.push_back({x, y, std::string(tagliato(Text)), ForeColor});
-    }
+    const double x = X ? X->v : xCurrentX(), y = Y ? Y->v : xCurrentY();
+    lista_.Testi.push_back({x, y, std::string(tagliato(Text)), ForeColor});
     // Painted whole the first time; a replay shows the cut text of the record.
     if (dispositivo) pittore().testo(xd.numero(), yd.numero(), Text, ForeColor);
-    if (!Store) return;
     currentX_ = 0;
     currentY_ = yd.numero() + ALTEZZA_RIGA;
 }
@@ -242,8 +228,8 @@ void Tavolo::cmdInvY() {
 }
 
 void Tavolo::Assi() {
-    xLine(-q_.x, 0, q_.L - q_.x, 0, QB(12), idAssi_);
-    xLine(0, -q_.y, 0, q_.H - q_.y, QB(12), idAssi_);
+    xLine(-q_.x, 0, q_.L - q_.x, 0, ROSSO, idAssi_);
+    xLine(0, -q_.y, 0, q_.H - q_.y, ROSSO, idAssi_);
     Dati("O", 0.04, -0.04);
     Dati("y", 0.04, -q_.y + 0.04);
     Dati("x", q_.L - q_.x - 0.04, -0.06);

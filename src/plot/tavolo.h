@@ -2,7 +2,6 @@
 // device. Engines draw only through it and it records whether or not a device is there.
 #pragma once
 
-#include <concepts>
 #include <cstdint>
 #include <functional>
 #include <optional>
@@ -21,6 +20,9 @@
 
 namespace ombrelia {
 
+// Ordinate of the foot for what is drawn y upward: turned, it is the list's 0, where the turn of 0 would be -0.
+inline constexpr double PIEDE = -0.0;
+
 // World coordinates: metres on the dial's plane, origin at (ShiftX, ShiftY) from the sheet's top left corner, x to the
 // right, y downward. Every coordinate argument is a Valore: a call with an argument that has no value is a faulted
 // statement and does nothing.
@@ -34,8 +36,28 @@ public:
     explicit Tavolo(double larghezzaPagina = 11906, double altezzaPagina = 16838);
 
     // --- drawing -------------------------------------------------------------------------------------------------
-    // Width 1 is the pen's own; Store false paints only.
-    void xLine(Valore X1, Valore Y1, Valore X2, Valore Y2, Colore colore, std::string_view Id = {}, bool Store = true);
+    // For whoever thinks as a dial does, y upward from the foot: here, and nowhere else, y is turned into the sheet's. See PIEDE.
+    template <class... T>
+    void TracciaLinea(Valore x1, Valore y1, Valore x2, Valore y2, Colore colore, const T &...altro) {
+        xLine(x1, -y1, x2, -y2, colore, altro...);
+    }
+    template <class... T>
+    void TracciaPunto(Valore x, Valore y, Colore colore, const T &...altro) {
+        xPset(x, -y, colore, altro...);
+    }
+    template <class... T>
+    void TracciaCerchio(Valore x, Valore y, Valore raggio, Colore colore, const T &...altro) {
+        xCircle(x, -y, raggio, colore, altro...);
+    }
+    void TracciaRiquadro(Valore x1, Valore y1, Valore x2, Valore y2, Colore colore, bool pieno, std::string_view Id) {
+        xBox(x1, -y1, x2, -y2, colore, pieno, Id);
+    }
+    void Scritta(std::string_view testo, Valore x, Valore y) { Dati(testo, x, -y); }
+
+    // In the sheet's own frame. Width 1 is the pen's own.
+    void xLine(Valore X1, Valore Y1, Valore X2, Valore Y2, Colore colore, std::string_view Id = {}) {
+        xLine(X1, Y1, X2, Y2, colore, nome(Id));
+    }
     void xLine(Valore X1, Valore Y1, Valore X2, Valore Y2, Colore colore, IdNome Id) {
         xLine(X1, Y1, X2, Y2, colore, Id, Penna());
     }
@@ -47,29 +69,23 @@ public:
         if (dispositivo) pittore().linea(X1.v, Y1.v, X2.v, Y2.v, colore, Spessore, specchia(Id));
     }
     // Only a point of the sheet is kept: its low edges belong to it, its high edges do not.
-    void xPset(Valore X, Valore Y, Colore colore, std::string_view Id = {}, bool Store = true);
+    void xPset(Valore X, Valore Y, Colore colore, std::string_view Id = {}) { xPset(X, Y, colore, nome(Id)); }
     void xPset(Valore X, Valore Y, Colore colore, IdNome Id) {
         if (!q_.tiene(X, Y)) return;
         lista_.Punti.push_back({X.v, Y.v, colore, Id});
         lista_.Ordine.push_back('P');
         if (dispositivo) pittore().punto(X.v, Y.v, colore);
     }
-    // Store stands behind the name: a bool in its place is a slip.
-    template <std::same_as<bool> B>
-    void xLine(Valore, Valore, Valore, Valore, Colore, B) = delete;
-    template <std::same_as<bool> B>
-    void xPset(Valore, Valore, Colore, B) = delete;
-    void xBox(Valore X1, Valore Y1, Valore X2, Valore Y2, Colore colore, bool Filled, std::string_view Id = {},
-              bool Store = true);
+    void xBox(Valore X1, Valore Y1, Valore X2, Valore Y2, Colore colore, bool Filled, std::string_view Id = {});
     void xCircle(Valore X, Valore Y, Valore Raggio, Colore colore, Colore FillColor = -1, Valore Aspect = 1, Valore Start = 0,
-                 Valore End = 0, std::string_view Id = {}, bool Store = true);
+                 Valore End = 0, std::string_view Id = {});
     void xPlineStart(std::string_view Id);
     void xPLineVertex(Valore X, Valore Y, Colore colore, std::string_view Id);
     // Paints the polyline: it appears only when ended.
     void xPlineEnd(std::string_view Id);
     // Text at (X, Y), or at the present device position where a coordinate is missing. Afterwards the position is the
-    // left edge of the sheet, one line lower. Texts do not mirror. Store false paints only and leaves the position.
-    void Dati(std::string_view Text, std::optional<Valore> X = {}, std::optional<Valore> Y = {}, bool Store = true);
+    // left edge of the sheet, one line lower. Texts do not mirror.
+    void Dati(std::string_view Text, std::optional<Valore> X = {}, std::optional<Valore> Y = {});
     // Status line; records nothing.
     void Messaggio(std::string_view Text);
     // Empties list and picture, mirrors off; sheet, shift and scale stay.

@@ -185,11 +185,11 @@ void DatiEquivalente(Sessione &s, Uscita uscita) {
     f.vuota();
     if (v.inc == 90) orizzontale(v, f);
     else inclinato(v, f, p);
-    f.colore(9);
+    f.colore(BLU);
     if (v.incR != 0) solstizi(s, f, p);
 
     const Valore u = sustilareOriginale(v);
-    f.colore(0);
+    f.colore(NERO);
     f.riga({f.tr("angolo sustilare = "_it), gradi(u), "°  "});
     f.riga({f.tr("ora sustilare = "_it), Fmt(12 + v.angoloOra * 12 / PI, "0.00000")});
     f.vuota();

@@ -47,8 +47,8 @@ public:
     Foglio &operator=(const Foglio &) = delete;
 
     [[nodiscard]] bool schermo() const { return uscita_ == Uscita::Schermo; }
-    // Colour of the palette of the lines that follow.
-    void colore(int n) { colore_ = QB(n); }
+    // Of the lines that follow.
+    void colore(Colore c) { colore_ = c; }
 
     // A line of separate items: a fault ends it, those before the fault are printed.
     void riga(std::initializer_list<Elemento> voci);
@@ -80,7 +80,7 @@ private:
     Sessione &s_;
     Uscita uscita_;
     Rapporto &r_;
-    Colore colore_ = QB(0);
+    Colore colore_ = NERO;
 };
 
 // Address of the closing lines.

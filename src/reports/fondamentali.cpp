@@ -121,33 +121,33 @@ void lunghezze(Sessione &s, Foglio &f, const Preparazione &p) {
     const Variabili &v = s.v;
     const std::string_view misura = TestoUnita(s);
     const auto cinque = [](Valore x) { return Fmt(x, "0.00000"); };
-    f.colore(0);
+    f.colore(NERO);
     const auto coppia = [&](std::string_view a, Valore x, std::string_view b, Valore y) {
         f.riga({f.tr(a), cinque(x), misura, Spc(3), f.tr(b), cinque(y), misura});
     };
     coppia("CM = "_it, v.segCentroPiede, "MS = "_it, v.segPiedeEq);
     coppia("CG = "_it, v.segStiloSus, "CP = "_it, v.segAsse);
     coppia("GP = "_it, Abs(v.segAsse) - Abs(v.segStiloSus), "PM = "_it, Abs(v.segAsse * tan(p.sigma)));
-    f.colore(5);
+    f.colore(VIOLA);
     const auto angolo = [&](std::string_view nome, Valore x, std::string_view cosa) {
         f.riga({f.tr(nome), cinque(x), f.tr(" rad   ; "_it), cinque(Gradi(x)), " °", Zona(), f.tr(cosa)});
     };
     angolo("sigma = "_it, p.sigma, "angolo sustilare "_it);
     angolo("epsilon = "_it, -v.altStilo, "elevazione dello stilo "_it);
-    f.colore(12);
+    f.colore(ROSSO);
     f.riga({f.tr("CX = "_it), cinque(v.xCentro), misura, Spc(3), f.tr("CY = "_it), cinque(v.yCentro), misura, Zona(),
             f.tr("Coordinate del centro"_it)});
-    f.colore(9);
+    f.colore(BLU);
     const Reale H = 12 + v.angoloOra * 12 / PI;
     const Valore minuti = 60 * (H - Int(H));
     f.riga({f.tr("ORA VERA SUSTILARE "_it), cinque(H), Zona(), Numero(Int(H)), Numero(Int(minuti)),
             Fmt(60 * (minuti - Int(minuti)), "00.00")});
-    f.colore(12);
+    f.colore(ROSSO);
     f.riga({f.tr("declinazione sole a scelta "_it), Zona(), Numero(v.deltaOpz), " °"});
-    f.colore(5);
+    f.colore(VIOLA);
     f.legenda();
     f.riga({INDIRIZZO});
-    f.colore(9);
+    f.colore(BLU);
 }
 
 // Where the day lines of the solstices, then of txtDelta, meet the horizon and the line x = 0.

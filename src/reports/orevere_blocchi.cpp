@@ -60,7 +60,7 @@ void Blocchi(Sessione &s, Foglio &f, Calcolo &c) {
     Variabili &v = s.v;
     const bool equatore = c.specie == Specie::LatZero || c.specie == Specie::LatZeroInclinato;
     s.in.optHorae = 0;
-    f.colore(9);
+    f.colore(BLU);
     if (equatore) {
         v.xSusEq = Sgn(v.xCentro) * v.gn * tan(v.altStilo);
         f.etichetta("E Q U I N O Z I A L E"_it);
@@ -76,16 +76,16 @@ void Blocchi(Sessione &s, Foglio &f, Calcolo &c) {
             f.tr("CP = "_it), Arrotonda5(v.segAsse)});
     f.riga({f.tr("GP = "_it), Arrotonda5(GP), Spc(3), f.tr("PM = "_it), Arrotonda5(PM), Spc(3), f.tr("MS = "_it),
             Arrotonda5(v.segPiedeEq)});
-    f.colore(0);
+    f.colore(NERO);
     const auto angolo = [&](std::string_view nome, Valore x, std::string_view cosa) {
         f.riga({f.tr(nome), Arrotonda5(x), f.tr(" rad   "_it), Arrotonda5(Gradi(x)), " °", Zona(), f.tr(cosa)});
     };
     angolo("sigma ="_it, v.angSustilare, "angolo sustilare i"_it);
     angolo("epsilon ="_it, -v.altStilo, "elevazione dello stilo j"_it);
-    if (equatore) f.colore(1);
+    if (equatore) f.colore(BLU_SCURO);
     f.riga({f.tr("CX ="_it), Arrotonda5(v.xCentro), Spc(3), f.tr("CY ="_it), Arrotonda5(v.yCentro), Zona(),
             f.tr("Coordinate del centro"_it)});
-    if (equatore) f.colore(0);
+    if (equatore) f.colore(NERO);
 
     const Valore minuti = 60 * (c.oraSus - Int(c.oraSus));
     const Valore angolare = Gradi(equatore ? Valore(v.angoloOra) : v.angoloOra - v.diffLong);
@@ -98,7 +98,7 @@ void Blocchi(Sessione &s, Foglio &f, Calcolo &c) {
             Arrotonda5(v.gn), unita, f.tr(", assostilo "_it), Arrotonda5(v.assostiloLen), unita});
     f.riga({f.tr("longitudine "_it), Arrotonda5(v.lon), f.tr(", declinazione sole "_it), Arrotonda5(v.deltaOpz)});
     f.legenda();
-    if (equatore) f.colore(13);
+    if (equatore) f.colore(MAGENTA);
     f.chiudi();
 }
 

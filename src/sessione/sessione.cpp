@@ -100,7 +100,7 @@ void TracciaCornice(Sessione &s, const Lettura &letto) {
     Variabili &v = s.v;
     v.x1 = letto.x0 * v.unita;
     v.y1 = letto.y0 * v.unita;
-    s.tavolo.xBox(v.x1, -v.y1, letto.x1 * v.unita, -letto.y1 * v.unita, QB(15), true, "Cornice");
+    s.tavolo.TracciaRiquadro(v.x1, v.y1, letto.x1 * v.unita, letto.y1 * v.unita, BIANCO, true, "Cornice");
 }
 
 std::string_view TestoUnita(const Sessione &s) { return s.in.ChCentimetro == 1 ? " mm" : " m"; }

@@ -83,8 +83,9 @@ struct Sessione {
     void Dati(const Frase &frase) {
         if (frase.esiste()) tavolo.Dati(frase.testo());
     }
+    // At a place, y upward.
     void Dati(const Frase &frase, Valore x, Valore y) {
-        if (frase.esiste()) tavolo.Dati(frase.testo(), x, y);
+        if (frase.esiste()) tavolo.Scritta(frase.testo(), x, y);
     }
     // Gives a field a text, as a routine does; its change handler runs.
     void Scrivi(std::string DialInputs::*campo, std::string testo);

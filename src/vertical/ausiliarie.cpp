@@ -29,7 +29,7 @@ void TracciaSustilare(Corsa &c, const LineeAttese &linee) {
         sfera.A = Arco2(ora.sen, sfera.denominatore(ora, giorno));
         sfera.altezza(ora, giorno);
         sfera.punto(x, y);
-        if (c.cornice.contiene(x, y)) c.s.tavolo.xPset(x, -y, linee[0].colore);
+        if (c.cornice.contiene(x, y)) c.s.tavolo.TracciaPunto(x, y, linee[0].colore);
     }
 }
 
@@ -42,12 +42,12 @@ void TracciaOrizzonte(Corsa &c, const LineeAttese &linee) {
     const Valore y = c.s.v.yOriz;
     const double l = c.s.tavolo.ShiftX();
     const Pretendi pretendi(c.s.tavolo, Specie::Orizzonte);
-    c.s.tavolo.xLine(-l, -y, l, -y, linee[0].colore);
+    c.s.tavolo.TracciaLinea(-l, y, l, y, linee[0].colore);
 }
 
 void LineeAzimutali(const Corsa &c, LineeAttese &linee) {
     const bool sud = c.s.v.latR < 0;  // whose swept half of the plane looks north
-    for (const double a : Conteggio(-90, 90, 15)) linee.push_back({a, !sud ? a : a < 0 ? a + 180 : a - 180, "", QB(6)});
+    for (const double a : Conteggio(-90, 90, 15)) linee.push_back({a, !sud ? a : a < 0 ? a + 180 : a - 180, "", OLIVA});
 }
 void TracciaAzimutali(Corsa &c, const LineeAttese &linee) {
     Sessione &s = c.s;
@@ -65,7 +65,7 @@ void TracciaAzimutali(Corsa &c, const LineeAttese &linee) {
             ht = ArcSin(d.tanD * senBeta / tanLat);
             Hr = beta - ht;
             proietta.perParete(SenCos(Hr), d.tanD, x, y);
-            if (!(y > limite) && c.cornice.contiene(x, y)) s.tavolo.xPset(x, -y, l.colore);
+            if (!(y > limite) && c.cornice.contiene(x, y)) s.tavolo.TracciaPunto(x, y, l.colore);
         }
     }
     v.deltaOpz = Anno().back().d;  // left: the end of the sweep
@@ -92,10 +92,10 @@ void TracciaAsr(Corsa &c, const LineeAttese &linee) {
         Hr = segno * ArcCos((sin(hA) - senLat * std::sin(dr)) / (cosLat * std::cos(dr)));
         proietta.perParete(SenCos(Hr), std::tan(dr), x, y);
         const bool dentro = c.cornice.contiene(x, y);
-        if (nord && y <= v.yOriz && dentro) s.tavolo.xPset(x, -y, colore);
-        if (!nord && y >= v.yOriz && dentro) s.tavolo.xPset(-x, y, colore);
+        if (nord && y <= v.yOriz && dentro) s.tavolo.TracciaPunto(x, y, colore);
+        if (!nord && y >= v.yOriz && dentro) s.tavolo.TracciaPunto(-x, -y, colore);
         // On a plane that faces East or West every point comes once more, whatever the frame.
-        if (orientale) s.tavolo.xPset(x * segno, -y * segno, colore);
+        if (orientale) s.tavolo.TracciaPunto(x * segno, y * segno, colore);
     }
 }
 
@@ -124,9 +124,9 @@ void TracciaQibla(Corsa &c, const LineeAttese &) {
         }
         proietta.perParete(SenCos(Hr), tanD, x, y);
         if (!c.cornice.contiene(x, y)) continue;
-        if (orientale) s.tavolo.xPset(x, -y, QB(10));
-        if (nord && y <= limite) s.tavolo.xPset(x, -y, QB(12));
-        if (!nord && y >= limite) s.tavolo.xPset(-x, y, QB(13));
+        if (orientale) s.tavolo.TracciaPunto(x, y, VERDE);
+        if (nord && y <= limite) s.tavolo.TracciaPunto(x, y, ROSSO);
+        if (!nord && y >= limite) s.tavolo.TracciaPunto(-x, -y, MAGENTA);
     }
 }
 

@@ -30,14 +30,14 @@ struct Diurna {
 // The declinations are not symmetrical, the horizon's sign and the sweeps are not alike: meant.
 // In the order of drawing.
 constexpr Diurna DIURNE[] = {
-    {-OBLIQUITA, -OBLIQUITA, QB(12), "Solstizio dicembre", false, true, 360},
-    {-20.005, -20, QB(13), "20 XI or 20 I", true, false, 360},
-    {-11.5, -11.5, QB(11), "20 II or 20 X", true, true, 180},
-    {11.5, 11.5, QB(11), "20 IV or 20 VIII", true, true, 180},
-    {20, 20, QB(13), "20 V or 20 VII", true, true, 360},
-    {OBLIQUITA_2345, OBLIQUITA, QB(12), "Solstizio giugno", false, false, 360},
+    {-OBLIQUITA, -OBLIQUITA, ROSSO, "Solstizio dicembre", false, true, 360},
+    {-20.005, -20, MAGENTA, "20 XI or 20 I", true, false, 360},
+    {-11.5, -11.5, CIANO, "20 II or 20 X", true, true, 180},
+    {11.5, 11.5, CIANO, "20 IV or 20 VIII", true, true, 180},
+    {20, 20, MAGENTA, "20 V or 20 VII", true, true, 360},
+    {OBLIQUITA_2345, OBLIQUITA, ROSSO, "Solstizio giugno", false, false, 360},
 };
-constexpr Diurna OPZIONALE{0, 0, QB(14), "Diurna opzionale", false, true, 360};
+constexpr Diurna OPZIONALE{0, 0, GIALLO, "Diurna opzionale", false, true, 360};
 
 // The two hour angles, degrees, between which the Sun stands before the plane on the day of declination dr (radians),
 // from the elevation of the style and the meridian on it; leaves both in altStilo and angoloOra.
@@ -164,7 +164,7 @@ void PuntiEquinozialeDecZero(Corsa &c, const LineeAttese &linee) {
         const Valore A = sfera.A - v.decR;
         x = v.unita * tan(A) * v.gn;
         y = v.unita * tan(sfera.h) * v.gn / cos(A);
-        if (y < v.yOriz && c.cornice.contiene(x, y)) c.s.tavolo.xPset(x, -y, linee[0].colore);
+        if (y < v.yOriz && c.cornice.contiene(x, y)) c.s.tavolo.TracciaPunto(x, y, linee[0].colore);
     }
 }
 

@@ -50,12 +50,12 @@ void TracciaLemniscata(Corsa &c, const LineeAttese &linee) {
         const auto k = static_cast<std::size_t>(std::nearbyint(m.gradi + 80));
         sfera.punto(x[k], y[k]);
         if (k == 0 || !(y[k] < v.yOriz) || Sgn(x[k]) != Sgn(x[k - 1]) || !c.cornice.contiene(x[k], y[k])) continue;
-        c.s.tavolo.xLine(x[k], -y[k], x[k - 1], -y[k - 1], linee[0].colore, strato);
+        c.s.tavolo.TracciaLinea(x[k], y[k], x[k - 1], y[k - 1], linee[0].colore, strato);
     }
 }
 
 void LineeTacche(const Corsa &, LineeAttese &linee) {
-    for (const Tacche &t : TACCHE) linee.push_back({t.delta, t.delta, "", QB(14)});
+    for (const Tacche &t : TACCHE) linee.push_back({t.delta, t.delta, "", GIALLO});
 }
 void TracciaTacche(Corsa &c, const LineeAttese &linee) {
     Variabili &v = c.s.v;
@@ -76,7 +76,7 @@ void TracciaTacche(Corsa &c, const LineeAttese &linee) {
             sfera.puntoOra(Orario(Hr), giorno, x, y);
             // The horizon is the one that the lemniscate left.
             const bool dentro = y < v.yOriz && c.cornice.contiene(x, y);
-            if (dentro && dentroPrima) c.s.tavolo.xLine(xPrima, -yPrima, x, -y, linee[n].colore);
+            if (dentro && dentroPrima) c.s.tavolo.TracciaLinea(xPrima, yPrima, x, y, linee[n].colore);
             xPrima = x;
             yPrima = y;
             dentroPrima = dentro;
@@ -106,7 +106,7 @@ void RettaMezzogiorno(Corsa &c, const LineeAttese &linee) {
     punto(-OBLIQUITA, x2, y2);
     const Pretendi pretendi(c.s.tavolo, Specie::Mezzogiorno);
     // A wall's points lie below its horizon, so this seldom passes: meant.
-    if (v.yOriz <= y2) c.s.tavolo.xLine(v.x1, -v.y1, x2, -y2, linee[0].colore);
+    if (v.yOriz <= y2) c.s.tavolo.TracciaLinea(v.x1, v.y1, x2, y2, linee[0].colore);
 }
 
 }  // namespace ombrelia::vertical

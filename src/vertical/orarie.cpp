@@ -25,14 +25,14 @@ void LineeOre(const Corsa &c, LineeAttese &linee) {
     };
     // The quarters run over hours and halves too and overlie them: meant.
     const Famiglia famiglie[] = {
-        {-180 + verso, 15, "Astro", true, true, QB(7)},
-        {-172.5 + verso, 15, "", v.gradiPasso < 15, false, QB(13)},
-        {-172.5 + verso, 3.75, "", c.letto.fraz == 4, false, QB(4)},
+        {-180 + verso, 15, "Astro", true, true, ARGENTO},
+        {-172.5 + verso, 15, "", v.gradiPasso < 15, false, MAGENTA},
+        {-172.5 + verso, 3.75, "", c.letto.fraz == 4, false, ROSSO_SCURO},
     };
     for (const Famiglia &f : famiglie) {
         if (!f.si) continue;
         for (const double H : Conteggio(f.inizio, 180 + verso, f.passo)) {
-            const Colore colore = !f.ore ? f.colore : H == 0 ? QB(12) : std::fabs(H) == 90 ? QB(9) : f.colore;
+            const Colore colore = !f.ore ? f.colore : H == 0 ? ROSSO : std::fabs(H) == 90 ? BLU : f.colore;
             // The claim in 0..24: the sweep goes past midnight.
             linee.push_back({H, H < -180 ? 36 + H / 15 : H > 180 ? H / 15 - 12 : 12 + H / 15, f.strato, colore});
         }
@@ -73,7 +73,7 @@ void PreparaNumeri(Corsa &c) {
 }
 
 void LineeNumeri(const Corsa &, LineeAttese &linee) {
-    for (const double H : Conteggio(-90, 90, 15)) linee.push_back({H, 12 + H / 15, "", QB(7)});
+    for (const double H : Conteggio(-90, 90, 15)) linee.push_back({H, 12 + H / 15, "", ARGENTO});
 }
 
 void PosizionaNumeriOrari(Corsa &c, const LineeAttese &linee) {

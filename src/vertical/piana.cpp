@@ -85,10 +85,6 @@ void calcolaCentroPiana(Variabili &v) {
 using In = DialInputs;
 using Riga = Caratteristica<Corsa>;
 
-template <int colore>
-void unaLinea(const Corsa &, LineeAttese &linee) {
-    linee.push_back({0, 0, "", QB(colore)});
-}
 bool conRomani(const Corsa &c) { return c.s.in.ckRomani == 1; }
 bool conArabi(const Corsa &c) { return c.s.in.ckArabi == 1; }
 bool senzaCifre(const Corsa &c) { return !conRomani(c) && !conArabi(c); }
@@ -118,37 +114,37 @@ constexpr Riga CARATTERISTICHE[] = {
      Specie::Temporaria},
     {&In::ck_Equinoziale, Specie::Equinoziale, "the equinoctial of a wall that declines",
      [](const Corsa &, LineeAttese &l) {
-         l.push_back({0, 0, "21 III or 23 IX Eq", QB(9)});
+         l.push_back({0, 0, "21 III or 23 IX Eq", BLU});
      },
      TracciaEquinoziale, [](const Corsa &c) { return !(c.s.v.declinSessag == 0); }, PreparaEquinoziale},
-    {&In::ck_Equinoziale, Specie::Equinoziale, "the equinoctial of one that does not", unaLinea<9>, PuntiEquinozialeDecZero,
+    {&In::ck_Equinoziale, Specie::Equinoziale, "the equinoctial of one that does not", UnaLinea<BLU>, PuntiEquinozialeDecZero,
      [](const Corsa &c) { return c.s.v.declinSessag == 0; }, PreparaEquinoziale},
-    {&In::ck_Orizzonte, Specie::Orizzonte, "the horizon", unaLinea<2>, TracciaOrizzonte, nullptr, PreparaOrizzonte},
+    {&In::ck_Orizzonte, Specie::Orizzonte, "the horizon", UnaLinea<VERDE_SCURO>, TracciaOrizzonte, nullptr, PreparaOrizzonte},
     {&In::ck_Lemniscate, Specie::Analemma, "mean noon of the zone",
      [](const Corsa &, LineeAttese &l) {
-         l.push_back({0, 12, "Lemniscata", QB(13)});
+         l.push_back({0, 12, "Lemniscata", MAGENTA});
      },
      TracciaLemniscata, nullptr, PreparaLemniscata},
     {&In::ck_Lemniscate, Specie::Tacca, "day marks across it", LineeTacche, TracciaTacche, piena},
     // ckZodiac has no step of its own: the signs come with the lemniscate.
     {&In::ck_Lemniscate, Specie::Nessuna, "signs of the zodiac", nullptr,
      [](Corsa &c, const LineeAttese &) { DisegnaZodiaco(c.s); }, [](const Corsa &c) { return piena(c) && c.s.in.ckZodiac == 1; }},
-    {&In::ck_Lemniscate, Specie::Mezzogiorno, "the noon line", unaLinea<12>, RettaMezzogiorno, piena, PreparaMezzogiorno},
-    {&In::ck_Sustilare, Specie::OraSustilare, "hour line of the substyle", unaLinea<9>, TracciaSustilare},
+    {&In::ck_Lemniscate, Specie::Mezzogiorno, "the noon line", UnaLinea<ROSSO>, RettaMezzogiorno, piena, PreparaMezzogiorno},
+    {&In::ck_Sustilare, Specie::OraSustilare, "hour line of the substyle", UnaLinea<BLU>, TracciaSustilare},
     {&In::ck_Triangolo, Specie::Stilo, "triangle of the polar style", LineeTriangolo, TracciaTriangoloStilo},
     {&In::ck_Triangolo, Specie::Nessuna, "its measures", nullptr, TestiTriangolo},
-    {&In::CkQibla, Specie::Qibla, "bearing of the Qibla", unaLinea<12>, TracciaQibla, nullptr, RileggiPiano},
+    {&In::CkQibla, Specie::Qibla, "bearing of the Qibla", UnaLinea<ROSSO>, TracciaQibla, nullptr, RileggiPiano},
     {&In::ckAlt, Specie::Almucantarat, "equal altitudes", [](const Corsa &c, LineeAttese &l) { LineeAlmucantarat(c.letto, l); },
      [](Corsa &c, const LineeAttese &l) { TracciaAlmucantarat(c.s, c.letto, c.cornice, l); }},
     {&In::ckAz, Specie::Azimut, "equal azimuths", LineeAzimutali, TracciaAzimutali, nullptr, RileggiPiano},
 };
 
 constexpr Riga ORIZZONTE_DI_NUOVO[] = {
-    {&In::ck_Orizzonte, Specie::Orizzonte, "the horizon again", unaLinea<14>,
+    {&In::ck_Orizzonte, Specie::Orizzonte, "the horizon again", UnaLinea<GIALLO>,
      [](Corsa &c, const LineeAttese &linee) {
          const Variabili &v = c.s.v;
          const Pretendi pretendi(c.s.tavolo, Specie::Orizzonte);
-         c.s.tavolo.xLine(-v.semiL, -v.yOriz, v.semiL, -v.yOriz, linee[0].colore);
+         c.s.tavolo.TracciaLinea(-v.semiL, v.yOriz, v.semiL, v.yOriz, linee[0].colore);
      },
      [](const Corsa &c) { return c.s.in.ckCorretta != 1; }},
 };

@@ -151,7 +151,7 @@ void tracciaOre(Corsa &c, const LineeAttese &linee, Specie specie, std::string_v
             if (p.y > 0 || !cornice.contiene(p.x, p.y)) continue;
             Posto &prima = posti[i - 1];
             prima.completa(sfera, ricordi, posto - 1);
-            s.tavolo.xLine(p.x, -p.y, prima.x, -prima.y, l.colore, id);
+            s.tavolo.TracciaLinea(p.x, p.y, prima.x, prima.y, l.colore, id);
         }
     }
 }
@@ -176,7 +176,7 @@ void etichette(Corsa &c, const LineeAttese &linee, Angolo angolo) {
             sfera.altezza(ora, giorno);
             if (!sfera.davanti()) continue;
             sfera.punto(x, y);
-            if (!(y > 0) && c.cornice.contiene(x, y)) s.tavolo.Dati(l.strato, x, -y);
+            if (!(y > 0) && c.cornice.contiene(x, y)) s.tavolo.Scritta(l.strato, x, y);
         }
     }
     s.tavolo.ForeColor = prima;
@@ -223,8 +223,8 @@ void LineeItaliche(const Corsa &c, LineeAttese &linee) {
     const double scarto = campanili(c) ? 0.5 : 0;
     conta(c, 6 + scarto, 24 + scarto, "Ita", Rgb(255, 128, 128), linee);
 }
-void LineeBabiloniche(const Corsa &c, LineeAttese &linee) { conta(c, 0, 18, "Bab", QB(11), linee); }
-void LineeTemporarie(const Corsa &c, LineeAttese &linee) { conta(c, 0, 12, "Temp", QB(6), linee); }
+void LineeBabiloniche(const Corsa &c, LineeAttese &linee) { conta(c, 0, 18, "Bab", CIANO, linee); }
+void LineeTemporarie(const Corsa &c, LineeAttese &linee) { conta(c, 0, 12, "Temp", OLIVA, linee); }
 
 void TracciaItaliche(Corsa &c, const LineeAttese &linee) {
     tracciaOre(c, linee, Specie::Italica, "Ita", [](double n, double H0) { return H0 + PI * n / 12 - 2 * PI; });
@@ -242,8 +242,8 @@ void PreparaEtichette(Corsa &c) {
 }
 
 void NumeriItaliche(const Corsa &c, LineeAttese &linee) { numeri(ITALICHE, c.s.tavolo.ForeColor, linee); }
-void NumeriBabiloniche(const Corsa &, LineeAttese &linee) { numeri(BABILONICHE, QB(13), linee); }
-void NumeriTemporarie(const Corsa &, LineeAttese &linee) { numeri(TEMPORARIE, QB(6), linee); }
+void NumeriBabiloniche(const Corsa &, LineeAttese &linee) { numeri(BABILONICHE, MAGENTA, linee); }
+void NumeriTemporarie(const Corsa &, LineeAttese &linee) { numeri(TEMPORARIE, OLIVA, linee); }
 
 void EtichetteItaliche(Corsa &c, const LineeAttese &linee) {
     etichette(c, linee, [&v = c.s.v](double n, Valore H0) { return v.diffLong + H0 + PI * n / 12 - 2 * PI; });

@@ -51,14 +51,14 @@ enum { IPOTENUSA_L, FALSO, CATETO_L, IPOTENUSA, CATETO, MEZZOGIORNO, ORTOSTILO }
 }  // namespace
 
 void LineeTriangolo(const Corsa &, LineeAttese &linee) {
-    for (const auto &[strato, colore] : std::initializer_list<std::pair<std::string_view, int>>{{"IPOTENUSA_L", 9},
-                                                                                                {"FALSO ortostilo", 9},
-                                                                                                {"CATETO_L", 9},
-                                                                                                {"Ipotenusa", 9},
-                                                                                                {"Cateto", 14},
-                                                                                                {"Mezzogiorno", 8},
-                                                                                                {"Ortostilo", 13}})
-        linee.push_back({0, 0, strato, QB(colore)});
+    for (const auto &[strato, colore] : std::initializer_list<std::pair<std::string_view, Colore>>{{"IPOTENUSA_L", BLU},
+                                                                                                   {"FALSO ortostilo", BLU},
+                                                                                                   {"CATETO_L", BLU},
+                                                                                                   {"Ipotenusa", BLU},
+                                                                                                   {"Cateto", GIALLO},
+                                                                                                   {"Mezzogiorno", GRIGIO},
+                                                                                                   {"Ortostilo", MAGENTA}})
+        linee.push_back({0, 0, strato, colore});
 }
 
 void TracciaTriangoloStilo(Corsa &c, const LineeAttese &linee) {
@@ -66,31 +66,31 @@ void TracciaTriangoloStilo(Corsa &c, const LineeAttese &linee) {
     Tavolo &t = c.s.tavolo;
     const auto [lunghezza, ortoFalso, P, Q, F, G] = calcola(c);
     const auto cerchio = [&](const Vertice &p, int divisore, Colore colore) {
-        t.xCircle(p.x, -p.y, v.unita * v.gn / divisore, colore);
+        t.TracciaCerchio(p.x, p.y, v.unita * v.gn / divisore, colore);
     };
     const auto linea = [&](const Vertice &a, const Vertice &b, int n) {
         const LineaAttesa &l = linee[static_cast<std::size_t>(n)];
-        t.xLine(a.x, -a.y, b.x, -b.y, l.colore, l.strato);
+        t.TracciaLinea(a.x, a.y, b.x, b.y, l.colore, l.strato);
     };
     const Vertice origine;
     std::optional<Pretendi> pretendi(std::in_place, t, Specie::Stilo);
-    cerchio(P, 10, QB(15));
-    cerchio(Q, 10, QB(12));
+    cerchio(P, 10, BIANCO);
+    cerchio(Q, 10, ROSSO);
     linea(F, Q, IPOTENUSA_L);
     linea(P, Q, FALSO);
     linea(origine, P, CATETO_L);
     for (int volta = 0; volta < (c.s.in.ckFunzione == 1 ? 1 : 2); ++volta) {
-        t.xPset(F.x, -F.y, QB(12));
-        t.xPset(G.x, -G.y, QB(12));
+        t.TracciaPunto(F.x, F.y, ROSSO);
+        t.TracciaPunto(G.x, G.y, ROSSO);
         linea(G, F, IPOTENUSA);
         linea(F, origine, CATETO);
     }
-    cerchio(F, 10, QB(12));
+    cerchio(F, 10, ROSSO);
     pretendi.emplace(t, Specie::Mezzogiorno);
-    t.xLine(F.x, -F.y, F.x, 2 * t.ShiftY(), linee[MEZZOGIORNO].colore, linee[MEZZOGIORNO].strato);
+    t.TracciaLinea(F.x, F.y, F.x, -2 * t.ShiftY(), linee[MEZZOGIORNO].colore, linee[MEZZOGIORNO].strato);
     pretendi.emplace(t, Specie::Stilo);
     linea(G, origine, ORTOSTILO);
-    cerchio(F, 100, QB(12));
+    cerchio(F, 100, ROSSO);
 }
 
 void TestiTriangolo(Corsa &c, const LineeAttese &) {

@@ -290,7 +290,7 @@ TEST(PuntoOpzionale, UnaStellaSullOmbra) {
         EXPECT_TRUE(in.punto == 0 && b.s.v.deltaOpz == 20);
         EXPECT_EQ(b.utente.messaggi, std::vector<std::string>{"Optional position"});
         // The star: five tips in one closed stroke, anticlockwise as seen from 72 degrees; ordinates grow downward.
-        DisegnaStella(b.s, 0, 0, Valore::nessuno(), 12);  // draws nothing
+        DisegnaStella(b.s, 0, 0, Valore::nessuno(), ROSSO);  // draws nothing
         ASSERT_EQ(b.l.size(), 10u);
         for (std::size_t k = 0; k < 10; ++k) {
             const RecLinea &l = b.l[k], &poi = b.l[(k + 1) % 10];

@@ -47,7 +47,7 @@ private:
 
 using Atti = std::vector<std::string>;
 
-// Draws steps divided by ";": a letter (a small one only paints), its numbers ("no": no value) and the rest as a name.
+// Draws steps divided by ";": a letter, its numbers ("no": no value) and the rest as a name.
 inline void Disegna(Tavolo &t, std::string_view passi) {
     constexpr std::string_view SEGNI = "LPBCTVDSEMFKAZNXO", QUANTI = "53682300024100100";
     const auto prendi = [](std::string_view &da, char fine) {
@@ -58,8 +58,7 @@ inline void Disegna(Tavolo &t, std::string_view passi) {
     };
     while (!passi.empty()) {
         const std::string passo = prendi(passi, ';');
-        const bool tieni = std::isupper(static_cast<unsigned char>(passo.at(0))) != 0;
-        const char segno = static_cast<char>(std::toupper(static_cast<unsigned char>(passo[0])));
+        const char segno = passo.at(0);
         std::string_view resto = std::string_view(passo).substr(std::min<std::size_t>(2, passo.size()));
         std::vector<Valore> n(8, 0.0);
         for (std::size_t i = 0; i < static_cast<std::size_t>(QUANTI.at(SEGNI.find(segno)) - '0'); ++i) {
@@ -67,11 +66,11 @@ inline void Disegna(Tavolo &t, std::string_view passi) {
             n[i] = parola == "no" ? Valore::nessuno() : Val(parola);
         }
         const auto c = [&n](std::size_t i) { return static_cast<Colore>(n[i].v); };
-        if (segno == 'L') t.xLine(n[0], n[1], n[2], n[3], c(4), resto, tieni);
-        else if (segno == 'P') t.xPset(n[0], n[1], c(2), resto, tieni);
-        else if (segno == 'B') t.xBox(n[0], n[1], n[2], n[3], c(4), c(5) != 0, resto, tieni);
-        else if (segno == 'C') t.xCircle(n[0], n[1], n[2], c(3), c(4), n[5], n[6], n[7], resto, tieni);
-        else if (segno == 'T') t.Dati(resto, n[0], n[1], tieni);
+        if (segno == 'L') t.xLine(n[0], n[1], n[2], n[3], c(4), resto);
+        else if (segno == 'P') t.xPset(n[0], n[1], c(2), resto);
+        else if (segno == 'B') t.xBox(n[0], n[1], n[2], n[3], c(4), c(5) != 0, resto);
+        else if (segno == 'C') t.xCircle(n[0], n[1], n[2], c(3), c(4), n[5], n[6], n[7], resto);
+        else if (segno == 'T') t.Dati(resto, n[0], n[1]);
         else if (segno == 'D') t.Dati(resto);
         else if (segno == 'S') t.xPlineStart(resto);
         else if (segno == 'V') t.xPLineVertex(n[0], n[1], c(2), resto);

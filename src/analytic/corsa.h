@@ -19,6 +19,13 @@ struct Corsa {
 // What each feature leaves in the shared variables whoever draws it (Prepara, Calcola), its lines, and their drawing; see
 // the table in analitica.cpp. gn and unita are taken as they stand; only the hour lines read the fields, and leave gn
 // scaled.
+//
+// What for: the lines of a row on a northern wall, each bracketed by its claim. Given: the run and the angles that
+// CalcolaAngoliAnalitici left. Gives: straight lines whole, points of conics by abscissa, in the unit of gn; origin at the foot,
+// x to the right, y upward. Source: the day line as a conic about the substyle (Conica, RiferimentoSustilare), hours from sunset
+// and sunrise as tangents of the conic of the declination at which the Sun neither rises nor sets. Faults: a root of a negative
+// gives no point; elsewhere the last value stands. Departures: no inclination; a day line and that of the opposite declination
+// are one conic, told apart by the side of the equinoctial.
 void PreparaOre(Corsa &c);
 void LineeOre(const Corsa &c, LineeAttese &linee);
 void TracciaOreAstronomiche(Corsa &c, const LineeAttese &linee);

@@ -39,6 +39,13 @@ struct Corsa {
 };
 
 // Lines of the features, and their drawing; see the table in diretta.cpp.
+//
+// What for: the lines of a row, each bracketed by its claim. Given: the run; angles in radians, lengths as typed. Gives: chords
+// or points that pass the horizon and the frame, metres, origin at the foot, x to the right, y upward. Source: Proiezione, swept
+// by declination (hours) or by hour angle (days). Faults: a point that does not exist stays the one before; a chord to it may
+// pass. Departures: hours end at the solstices of 23.445 degrees; day lines lie a thousandth of a degree beyond their claim, that
+// of choice a ten-thousandth part more; the horizon's bound of azimuth lines and Qibla is not scaled to metres. What sweeps the
+// year leaves in deltaOpz where it ends.
 void LineeOrarie(const Corsa &c, LineeAttese &linee);
 void TracciaRetteOrarie(Corsa &c, const LineeAttese &linee);
 void LineeItaliche(const Corsa &c, LineeAttese &linee);
@@ -55,7 +62,10 @@ void TracciaStiloPolare(Corsa &c, const LineeAttese &linee);
 void TracciaVerticaleCentro(Corsa &c, const LineeAttese &linee);
 void PreparaLemniscata(Corsa &c);
 void LineeLemniscata(const Corsa &c, LineeAttese &linee);
+// Mean noon of the zone through a year of tenths of days, from SoleAllaLongitudine; its own test: beyond the horizontal and in
+// the South the frame alone decides.
 void TracciaLemniscata(Corsa &c, const LineeAttese &linee);
+// The afternoon prayer: altitude h with cot h = 1 + tan(phi - delta), no Abs around the difference.
 void TracciaAsr(Corsa &c, const LineeAttese &linee);
 void LineeAzimutali(const Corsa &c, LineeAttese &linee);
 void TracciaRetteAzimutali(Corsa &c, const LineeAttese &linee);

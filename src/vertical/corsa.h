@@ -26,6 +26,12 @@ struct Corsa {
 
 // What each feature leaves in the shared variables whoever draws it (Prepara), its lines, and their drawing; see the
 // table in piana.cpp.
+//
+// What for: the lines of a row on a wall, each bracketed by its claim. Given: the run; latitude with its sign, declination,
+// radians; lengths as typed. Gives: chords or points below the horizon and inside the frame, metres, origin at the foot, x to the
+// right, y upward: a Sun above the horizon has y < 0. Source: altitude and azimuth of the Sun by the spherical triangle of pole,
+// zenith and Sun (Sfera), laid on the wall; azimuth and prayer lines by Proiezione. Faults: a statement without a value keeps the
+// last one, from line to line too. Departures stand beside the rows and routines that make them.
 void PreparaOre(Corsa &c);
 void LineeOre(const Corsa &c, LineeAttese &linee);
 void TracciaOreAstro(Corsa &c, const LineeAttese &linee);

@@ -87,12 +87,13 @@ Esempi::Esempi(Ponte &ponte, QWidget *sopra) : QDialog(sopra), ponte_(ponte) {
 
 Esempi::~Esempi() { vivo_.reset(); }
 
-QString Esempi::ritrattoDi(const QString &file) {
+QString Esempi::ritrattoDi(const QString &file) const {
     const QFileInfo f(file);
-    return QStringLiteral("%1/esempi/%2-%3%4.png")
+    return QStringLiteral("%1/esempi/%2-%3%4@%5.png")
         .arg(QStandardPaths::writableLocation(QStandardPaths::CacheLocation), f.completeBaseName())
         .arg(f.lastModified().toSecsSinceEpoch())
-        .arg(TemaScuro() ? QStringLiteral("-scuro") : QString());
+        .arg(TemaScuro() ? QStringLiteral("-scuro") : QString())
+        .arg(devicePixelRatioF());
 }
 
 void Esempi::showEvent(QShowEvent *e) {
@@ -118,6 +119,7 @@ void Esempi::metti(const QString &file, const QImage &immagine) {
     QPixmap q(MISURA);
     q.fill(palette().color(QPalette::AlternateBase));
     if (!immagine.isNull()) q = QPixmap::fromImage(immagine);
+    if (!immagine.isNull()) q.setDevicePixelRatio(static_cast<double>(immagine.width()) / MISURA.width());
     for (int i = 0; i < lista_->count(); ++i)
         if (lista_->item(i)->data(Qt::UserRole).toString() == file) lista_->item(i)->setIcon(QIcon(q));
 }
@@ -134,6 +136,7 @@ void Esempi::prossimo() {
     }
     Vista v;
     v.misura = MISURA;
+    v.rapporto = devicePixelRatioF();
     v.stile = StileDi(TemaScuro());
     constexpr double MARGINE = 8;
     const double l = s.tavolo.LarghezzaImmagine(), h = s.tavolo.AltezzaImmagine();

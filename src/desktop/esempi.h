@@ -29,7 +29,7 @@ protected:
 private:
     void prossimo();
     void arrivata(const QImage &immagine);
-    [[nodiscard]] static QString ritrattoDi(const QString &file);
+    [[nodiscard]] QString ritrattoDi(const QString &file) const;
     void metti(const QString &file, const QImage &immagine);
 
     Ponte &ponte_;

@@ -4,6 +4,7 @@
 #include <QCheckBox>
 #include <QClipboard>
 #include <QDockWidget>
+#include <QLineEdit>
 #include <QMenuBar>
 #include <QMimeData>
 #include <QPushButton>
@@ -263,6 +264,7 @@ void Finestra::showEvent(QShowEvent *e) {
     piegaBarra();
     if (e->spontaneous() || !primoStato_.isEmpty()) return;
     QTimer::singleShot(0, this, [this] {
+        if (auto *campo = qobject_cast<QLineEdit *>(focusWidget())) campo->selectAll();  // as one entered by hand
         primaGeometria_ = saveGeometry();
         primoStato_ = saveState();
     });

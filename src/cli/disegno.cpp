@@ -72,6 +72,9 @@ std::string Disegno::Applica(Sessione &s) const {
     } else if (campi.progetto.empty() && !app::Adatta(s)) {
         return "the frame " + s.in.txtX0 + ".." + s.in.txtX1 + " by " + s.in.txtY1 + ".." + s.in.txtY0 +
                " fits no sheet: txtX0 < txtX1, txtY1 < txtY0, within 15 m";
+    } else if (campi.progetto.empty() && motore != "analytic" && Val(s.in.txtLAT) < 0) {
+        // A southern dial is mounted the other way round, its frame too.
+        s.tavolo.ShiftX(s.tavolo.QuadranteL() - s.tavolo.ShiftX());
     }
     return {};
 }

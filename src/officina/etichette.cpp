@@ -81,18 +81,35 @@ std::optional<P2> fuoco(const std::vector<const Linea *> &linee) {
     return P2{(bx * yy - by * xy) / det, (by * xx - bx * xy) / det};
 }
 
+// The sheet as it will be read: as its mirrors show it, and turned where its user will mirror it yet.
+class Lettura {
+public:
+    Lettura(const Tavolo &t, bool specchiata)
+        : x_(specchiata || t.FattoreX < 0 ? -1 : 1), y_(t.FattoreY < 0 ? -1 : 1), giro_(x_ * (t.FattoreX < 0 ? -1 : 1)) {}
+    // From what is seen.
+    void specchia(P2 &p) const { p.x *= giro_; }
+    void specchia(Riquadro &r) const {
+        if (giro_ < 0) r = {-r.x1, r.y0, -r.x0, r.y1};
+    }
+    // A stroke, mm.
+    void traccia(Tavolo &t, P2 a, P2 b, IdNome strato) const {
+        t.xLine(0.001 * x_ * a.x, -0.001 * y_ * a.y, 0.001 * x_ * b.x, -0.001 * y_ * b.y, INCHIOSTRO, strato);
+    }
+
+private:
+    double x_, y_, giro_;
+};
+
 class Scrivano {
 public:
-    Scrivano(Tavolo &t, const StileEtichette &s) : tavolo_(t), s_(s) {
+    Scrivano(Tavolo &t, const StileEtichette &s) : tavolo_(t), s_(s), lettura_(t, s.specchiata) {
         bool senza = false;
         campo_ = Campo(t, Ritaglio::Cornice, senza);
         Resoconto r;
         Raccolta tutto = Raccogli(t, campo_, {}, r);
-        if (s_.specchiata) {
-            campo_ = {-campo_.x1, campo_.y0, -campo_.x0, campo_.y1};
-            for (Cammino &c : tutto.cammini)
-                for (P2 &p : c.punti) p.x = -p.x;
-        }
+        lettura_.specchia(campo_);
+        for (Cammino &c : tutto.cammini)
+            for (P2 &p : c.punti) lettura_.specchia(p);
         griglia_.emplace(campo_);
         std::map<int, std::vector<Cammino>> linee;
         for (Cammino &c : tutto.cammini)
@@ -187,19 +204,15 @@ private:
         const P2 su{-q.asse.y, q.asse.x};
         const Pretendi pretendi(tavolo_, Specie::Etichetta);
         for (const auto &tratto : TrattiDi(testo, s_.altezza)) {
-            for (std::size_t i = 1; i < tratto.size(); ++i) {
-                const auto metri = [&](P2 p) {
-                    const P2 m = 0.001 * (q.centro + (p.x - q.a) * q.asse + (p.y - q.b) * su);
-                    return s_.specchiata ? P2{-m.x, m.y} : m;
-                };
-                const P2 a = metri(tratto[i - 1]), b = metri(tratto[i]);
-                tavolo_.xLine(a.x, -a.y, b.x, -b.y, INCHIOSTRO, strato);
-            }
+            const auto posto = [&](P2 p) { return q.centro + (p.x - q.a) * q.asse + (p.y - q.b) * su; };
+            for (std::size_t i = 1; i < tratto.size(); ++i)
+                lettura_.traccia(tavolo_, posto(tratto[i - 1]), posto(tratto[i]), strato);
         }
     }
 
     Tavolo &tavolo_;
     const StileEtichette &s_;
+    const Lettura lettura_;
     Riquadro campo_;
     std::optional<Griglia> griglia_;
     std::vector<Linea> linee_;
@@ -211,19 +224,24 @@ private:
 EsitoEtichette Etichetta(Tavolo &tavolo, const StileEtichette &stile) { return Scrivano(tavolo, stile).scrivi(); }
 
 void Cartiglio(Tavolo &tavolo, const std::vector<std::string> &righe, double altezza, bool specchiata) {
-    constexpr double RIGA = 1.7;  // heights from one base line to the next
+    constexpr double RIGA = 1.7;               // heights from one base line to the next
+    constexpr double ALTEZZA_LEGGIBILE = 2.5;  // mm: smaller letters help nobody
     if (righe.empty()) return;
     bool senza = false;
     Riquadro cornice = Campo(tavolo, Ritaglio::Cornice, senza), foglio = Campo(tavolo, Ritaglio::Foglio, senza);
-    if (specchiata) cornice = {-cornice.x1, cornice.y0, -cornice.x0, cornice.y1};
+    const Lettura lettura(tavolo, specchiata);
+    lettura.specchia(cornice);
+    lettura.specchia(foglio);
     double largo = 0;
     for (const std::string &r : righe) largo = std::max(largo, LarghezzaTratti(r, altezza));
     const double alto = altezza * (1 + RIGA * static_cast<double>(righe.size() - 1)), aria = altezza;
     P2 angolo{cornice.x0, cornice.y0 - aria};  // top left corner of the block
-    if (cornice.y0 - foglio.y0 < alto + 2 * aria) {
+    if (const double sotto = cornice.y0 - foglio.y0, chiesto = alto + 2 * aria; sotto < chiesto) {
         if (foglio.x1 - cornice.x1 >= largo + 2 * aria) angolo = {cornice.x1 + aria, cornice.y1};
         else if (cornice.x0 - foglio.x0 >= largo + 2 * aria) angolo = {cornice.x0 - aria - largo, cornice.y1};
-        else if (foglio.y1 - cornice.y1 >= alto + 2 * aria) angolo = {cornice.x0, cornice.y1 + aria + alto};
+        else if (foglio.y1 - cornice.y1 >= chiesto) angolo = {cornice.x0, cornice.y1 + aria + alto};
+        else if (const double minore = altezza * sotto / chiesto; minore >= ALTEZZA_LEGGIBILE)
+            return Cartiglio(tavolo, righe, minore * (1 - 1e-9), specchiata);
     }
     const IdNome strato = tavolo.nome("Cartiglio");
     double base = angolo.y - altezza;
@@ -231,12 +249,8 @@ void Cartiglio(Tavolo &tavolo, const std::vector<std::string> &righe, double alt
         const Pretendi pretendi(tavolo, Specie::Etichetta);
         for (const auto &tratto : TrattiDi(r, altezza))
             for (std::size_t i = 1; i < tratto.size(); ++i) {
-                const auto metri = [&](P2 p) {
-                    const P2 m = 0.001 * P2{angolo.x + p.x, base + p.y};
-                    return specchiata ? P2{-m.x, m.y} : m;
-                };
-                const P2 a = metri(tratto[i - 1]), b = metri(tratto[i]);
-                tavolo.xLine(a.x, -a.y, b.x, -b.y, INCHIOSTRO, strato);
+                const P2 angoloRiga{angolo.x, base};
+                lettura.traccia(tavolo, angoloRiga + tratto[i - 1], angoloRiga + tratto[i], strato);
             }
         base -= RIGA * altezza;
     }

@@ -26,7 +26,7 @@ struct EsitoEtichette {
 EsitoEtichette Etichetta(Tavolo &tavolo, const StileEtichette &stile);
 
 // Records lines of text as strokes on the layer "Cartiglio": under the frame when the sheet has room there, else beside
-// it, else above; under it all the same where there is none. Never over the frame.
+// it, else above; where there is none, in smaller letters under it. Never over the frame.
 void Cartiglio(Tavolo &tavolo, const std::vector<std::string> &righe, double altezza, bool specchiata);
 
 }  // namespace ombrelia::officina

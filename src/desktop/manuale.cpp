@@ -8,8 +8,19 @@
 
 #include "core/percorsi.h"
 #include "desktop/dialoghi.h"
+#include "desktop/lingua_finestra.h"
 
 namespace ombrelia::desktop {
+
+QString ManualeDi(const QString &manuale, const QString &lingua) {
+    const QString titolo = lingua == QLatin1String("fr")   ? QStringLiteral("\n## Français\n")
+                           : lingua == QLatin1String("en") ? QStringLiteral("\n## English\n")
+                                                           : QStringLiteral("\n## Italiano\n");
+    const qsizetype da = manuale.indexOf(titolo);
+    if (da < 0) return manuale;
+    const qsizetype a = manuale.indexOf(QLatin1String("\n## "), da + titolo.size());
+    return manuale.mid(da + 1, a < 0 ? -1 : a - da);
+}
 
 bool ApriManuale(Ponte &ponte, QWidget *sopra, const QString &parola) {
     const auto dato = TrovaDato("luoghi.csv");
@@ -34,7 +45,7 @@ bool ApriManuale(Ponte &ponte, QWidget *sopra, const QString &parola) {
     testo->setOpenExternalLinks(true);
     testo->setSearchPaths({Q(dato->parent_path().string()) + QStringLiteral("/../docs"),
                            Q(dato->parent_path().string()) + QStringLiteral("/../doc/ombrelia")});
-    testo->setMarkdown(QString::fromUtf8(file.readAll()));
+    testo->setMarkdown(ManualeDi(QString::fromUtf8(file.readAll()), CodiceLingua(ponte.sessione())));
     giu->addWidget(testo, 1);
     QObject::connect(cerca, &QLineEdit::returnPressed, testo, [cerca, testo] {
         if (testo->find(cerca->text())) return;

@@ -5,6 +5,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDir>
+#include <QFile>
 #include <QListWidget>
 #include <QMenu>
 #include <QScrollArea>
@@ -18,6 +19,7 @@
 #include "desktop/comandi.h"
 #include "desktop/esempi.h"
 #include "desktop/icone.h"
+#include "desktop/manuale.h"
 
 namespace ombrelia {
 namespace {
@@ -253,6 +255,19 @@ TEST(Guscio, ExamplesHavePicturesAndOpenDrawn) {
         EXPECT_FALSE(b.f.modificato());
     }
     b.vivo()->setChecked(false);
+}
+
+TEST(Guscio, TheManualOpensInTheWindowsLanguage) {
+    QFile file(QStringLiteral(OMBRELIA_RADICE "/docs/manual.md"));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const QString tutto = QString::fromUtf8(file.readAll());
+    const std::pair<const char *, const char *> parti[] = {{"it", "## Italiano"}, {"en", "## English"}, {"fr", "## Français"}};
+    for (const auto &[lingua, titolo] : parti) {
+        const QString parte = desktop::ManualeDi(tutto, QString::fromUtf8(lingua));
+        EXPECT_TRUE(parte.startsWith(QString::fromUtf8(titolo))) << lingua;
+        EXPECT_TRUE(parte.contains(QStringLiteral("txtLAT"))) << lingua;
+        EXPECT_FALSE(parte.contains(QStringLiteral("\n## "))) << lingua << ": another chapter follows";
+    }
 }
 
 }  // namespace

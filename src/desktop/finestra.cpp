@@ -13,11 +13,14 @@
 #include <QVBoxLayout>
 #include <filesystem>
 
+#include "app/plausibile.h"
 #include "app/progetto.h"
 #include "desktop/aggiunte.h"
 #include "desktop/gruppi.h"
 #include "desktop/lingua_finestra.h"
+#include "desktop/note_campi.h"
 #include "desktop/stile.h"
+#include "officina/tratti.h"
 #include "paint/file_disegno.h"
 
 namespace ombrelia::desktop {
@@ -127,6 +130,7 @@ Finestra::Finestra(Dialoghi &dialoghi) : dialoghi_(dialoghi), utente_(dialoghi),
     };
     vivo_ = std::make_unique<Vivo>(this, s_.dizionario, [this](Vivo::Esito &e) { disegnoVivo(e); });
 
+    note_ = new NoteCampi(ponte_, this);
     new Aggiunte(*this, dialoghi_);
     nomina();
     resize(1360, 860);
@@ -178,6 +182,7 @@ bool Finestra::prima(IdControllo id) {
     if (nome == "cmdStampa" && s_.tavolo.lista().Aree.empty() &&
         (s_.tavolo.QuadranteL() > s_.tavolo.LarghezzaPagina() || s_.tavolo.QuadranteH() > s_.tavolo.AltezzaPagina()))
         return impagina(), false;
+    if ((nome == "cmdRun" || nome == "cmdEqui") && !note_->leggiAngoli()) return false;
     if (nome == "cmdRun") primaDiEsegui();
     if (nome == "cmdEqui") conAttesa();
     if (nome == "cmdCalcola" && modulo == "frmDeclin") {
@@ -255,10 +260,25 @@ void Finestra::dopo(IdControllo id, const app::Esito &esito) {
     const bool calcolato = nome == "cmdCalcola" && RigaDi(id).modulo == "frmDeclin";
     if (calcolato) soleDelGiorno();
     moduli_->aggiorna(calcolato);
+    note_->aggiorna();
+    if (nome == "ChCentimetro") altraUnita();
     if (nome == "M_about") moduli_->apri("frmAbout", true);
     if (nome == "mnuEsci")
         QMetaObject::invokeMethod(
             this, [this] { close(); }, Qt::QueuedConnection);
+}
+
+// The lengths stand as they were typed; their user may have them in the other unit, and back by one press.
+void Finestra::altraUnita() {
+    const bool mm = s_.in.ChCentimetro == 1;
+    quadro_->offri(mm ? ponte_.Traduci("Le lunghezze si leggono ora in millimetri.")
+                      : ponte_.Traduci("Le lunghezze si leggono ora in metri."),
+                   {{mm ? ponte_.Traduci("converti quelle scritte (× 1000)") : ponte_.Traduci("converti quelle scritte (: 1000)"),
+                     [this, mm] {
+                         ponte_.passo = ponte_.Traduci("Lunghezze convertite");
+                         ponte_.fai(NESSUN_CONTROLLO, [&] { app::ConvertiLunghezze(s_.in, mm ? 1000 : 0.001); });
+                         if (vivo_acceso()) chiediVivo();
+                     }}});
 }
 
 // The utility board's run leaves the day's Sun in two fields of the dial. The user is told, and may have them back.
@@ -401,6 +421,7 @@ void Finestra::primoQuadrante() {
     for (int DialInputs::*casella :
          {&DialInputs::chkOreAstronomiche, &DialInputs::Ck_DayLightCurves, &DialInputs::ck_Equinoziale})
         s_.in.*casella = 1;
+    etichetteAccese();
     app::Adatta(s_);
     salvato_ = improntaProgetto();
     passi_->aggiorna(true);
@@ -411,6 +432,9 @@ void Finestra::primoQuadrante() {
     quadro_->aggiorna();
     titolo();
 }
+
+// A new dial says what its lines are, where there are letters to say it with.
+void Finestra::etichetteAccese() { s_.in.ckEtichette = officina::CiSonoTratti() ? 1 : 0; }
 
 Tavolo &Finestra::perCarta() {
     if (!Ritoccato(quadro_->foglio().stile())) return s_.tavolo;

@@ -20,6 +20,8 @@ class QToolBar;
 
 namespace ombrelia::desktop {
 
+class NoteCampi;
+
 class Esempi;
 
 class Finestra final : public QMainWindow {
@@ -35,6 +37,7 @@ public:
     [[nodiscard]] Vivo &vivo() { return *vivo_; }
 
     [[nodiscard]] Passi &passi() { return *passi_; }
+    [[nodiscard]] NoteCampi &note() { return *note_; }
 
     // Opens a project; the user is told when it can't be.
     void apri(const QString &percorso);
@@ -77,6 +80,8 @@ private:
     void montaAustrale();
     void dopoEsegui();
     void soleDelGiorno();
+    void altraUnita();
+    void etichetteAccese();
     void interrotto(bool memoria);
     void tieniRipresa();
     void adatta();
@@ -117,6 +122,7 @@ private:
     Sessione s_;
     Ponte ponte_;
     Quadro *quadro_ = nullptr;
+    NoteCampi *note_ = nullptr;
     std::unique_ptr<Moduli> moduli_;
     std::unique_ptr<Vivo> vivo_;
     std::unique_ptr<Attesa> attesa_;

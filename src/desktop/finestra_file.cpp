@@ -133,6 +133,7 @@ void Finestra::nuovo() {
         s_.titolo("frmTavolo").clear();
         app::Avvia(s_);
         Ritraduci(s_);
+        etichetteAccese();
         percorso_.clear();
         salvato_ = improntaProgetto();
     });

@@ -16,14 +16,16 @@
 #include <QSysInfo>
 #include <QTabWidget>
 #include <QTextBlock>
-#include <QTextDocument>
 #include <QVBoxLayout>
 
 #include "app/rapporti.h"
 #include "core/file.h"
+#include "core/testo.h"
 #include "desktop/figure.h"
 #include "desktop/letture_parete.h"
 #include "desktop/tavole_rapporto.h"
+#include "luoghi/angolo.h"
+#include "paint/testo_stampato.h"
 #include "paint/tinte.h"
 #include "reports/rapporti.h"
 
@@ -140,16 +142,45 @@ TavoleRapporto *Moduli::tavole(std::string_view nome) const {
     return w ? dynamic_cast<TavoleRapporto *>(w->centralWidget()) : nullptr;
 }
 
+// Which dial a printed report is of: its place where it has a name, and how it stands.
+QString Moduli::luogo() const {
+    const DialInputs &in = ponte_.sessione().in;
+    const auto angolo = [](const std::string &testo, luoghi::Verso verso) {
+        const Valore v = Val(testo);
+        return v.esiste() ? Q(luoghi::DueForme(v.v, verso)).section(QStringLiteral(" = "), 0, 0) : Q(testo);
+    };
+    QStringList parti;
+    if (!in.txtLuogo.empty()) parti << Q(in.txtLuogo);
+    const std::pair<QString, QString> voci[] = {
+        {ponte_.Traduci("Latitudine N +, S -"), angolo(in.txtLAT, luoghi::Verso::Nudo)},
+        {ponte_.Traduci("Longitudine O +, E -"), angolo(in.txtLonG, luoghi::Verso::Nudo)},
+        {ponte_.Traduci("Declinazione O +, E -"), angolo(in.txtDec, luoghi::Verso::Nudo)},
+        {ponte_.Traduci("Inclinazione zenitale"), angolo(in.txtInc, luoghi::Verso::Nudo)}};
+    for (const auto &[nome, valore] : voci) parti << nome.simplified() + QLatin1Char(' ') + valore;
+    return parti.join(QStringLiteral("  ·  "));
+}
+
 void Moduli::stampa(const Rapporto &r) {
-    const QString testo = Q(reports::RapportoTesto(r));
-    dialoghi_.stampa(finestra_, Q(r.caption).simplified(), [testo](QPrinter &stampante) {
-        QTextDocument d;
-        QFont f = QFontDatabase::systemFont(QFontDatabase::FixedFont);
-        constexpr double CORPO = 7.5;  // the widest table fits an upright page
-        f.setPointSizeF(CORPO);
-        d.setDefaultFont(f);
-        d.setPlainText(testo);
-        d.print(&stampante);
+    paint::TestoStampato t{Q(r.caption).simplified(), luogo(), {}};
+    const QStringList righe = Q(reports::RapportoTesto(r)).split(QLatin1Char('\n'));
+    for (qsizetype i = 0; i < righe.size(); ++i) {
+        const auto n = static_cast<std::size_t>(i);
+        t.righe.push_back({righe.at(i), n < r.righe.size() ? r.righe[n].colore : 0});
+    }
+    bool prima = true, detto = false;
+    dialoghi_.stampa(finestra_, t.titolo, [&](QPrinter &stampante) {
+        // The page is turned as the rows need it; the user may turn it back.
+        if (std::exchange(prima, false))
+            stampante.setPageOrientation(paint::ComponiTesto(t, stampante).orizzontale ? QPageLayout::Landscape
+                                                                                       : QPageLayout::Portrait);
+        if (!paint::StampaTesto(t, stampante).spezzate || std::exchange(detto, true)) return;
+        QMetaObject::invokeMethod(
+            finestra_,
+            [this] {
+                dialoghi_.avviso(finestra_,
+                                 ponte_.Traduci("Le righe sono più larghe di questa carta anche a 6 punti: sono spezzate."));
+            },
+            Qt::QueuedConnection);
     });
 }
 

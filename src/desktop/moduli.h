@@ -38,6 +38,7 @@ public:
 
 private:
     void rapporto(std::string_view nome);
+    [[nodiscard]] QString luogo() const;
     void avviso();
     void strumenti();
     void istruzioni();

@@ -34,6 +34,9 @@ QGroupBox::title { subcontrol-origin: margin; subcontrol-position: top left; lef
 QGroupBox QWidget { font-weight: normal; }
 QLineEdit { padding: 2px 5px; border: 1px solid $bordo; border-radius: 4px; background: $base; color: $testo; selection-background-color: $accento; selection-color: $suAccento; }
 QLineEdit:focus { border: 2px solid $accento; padding: 1px 4px; }
+QLineEdit[dubbio="true"] { border: 2px solid $avviso; padding: 1px 4px; }
+QLabel#nota { color: $testo; }
+QLabel#nota[dubbio="true"], QLabel#dubbio { color: $avviso; }
 QLineEdit[fuori="true"] { border: 2px solid #c0261c; padding: 1px 4px; }
 QLineEdit:disabled { background: $fondoSpento; color: $spento; border-color: $filo; }
 QPushButton { padding: 4px 10px; border: 1px solid $bordo; border-radius: 4px; background: $base; color: $testo; }

@@ -114,6 +114,7 @@ TEST(Affidabile, UnQuadranteEDeiSuoiCampi) {
         b.premi("cmdRun");
         b.premi("Tavolo1.cmdPulisci");
         b.f.nuovo();
+        b.s().in.ckEtichette = 0;  // of a new dial
         for (const std::string_view c : caselle)
             if (b.s().valore(TrovaControllo(c)) == 0) b.spunta(c);
         b.scrivi(campo, testo);

@@ -9,8 +9,10 @@
 #include <cmath>
 #include <fstream>
 
+#include "app/progetto.h"
 #include "desktop/banco.h"
 #include "desktop/letture_parete.h"
+#include "desktop/note_campi.h"
 #include "desktop/pagine_carta.h"
 #include "desktop/per_macchina.h"
 #include "officina/tratti.h"
@@ -243,6 +245,85 @@ TEST(PagineCarta, PrintOffersThePagesThatHoldLines) {
     b.dialoghi.risposte = {"scelte.pdf"};
     d->findChild<QPushButton *>(QStringLiteral("salva"))->click();
     EXPECT_EQ(pagineDelPdf("scelte.pdf"), 2);
+}
+
+// --- fields ------------------------------------------------------------------------------------------------------------------
+
+TEST(NoteCampi, WhatIsUnderstoodAndWhatNoDialCanBeStandsUnderTheField) {
+    struct Caso {
+        const char *campo, *testo, *nota;  // part of the line; empty: none
+        bool dubbio;
+    };
+    BancoFinestra b;
+    for (const Caso &c : {Caso{"txtLAT", "45 4 13", "45.070278° = 45°04'13", false},
+                          {"txtLAT", "95", "-90", true},
+                          {"txtLAT", "45 70", "60", true},
+                          {"txtLonG", "7.6869 E", "-7.6869", false},
+                          {"TxtStilo", "0", "ombra", true},
+                          {"TxtStilo", "-1", "negativo", true},
+                          {"TxtStilo", "900", "diagonali", true},
+                          {"txtX1", "-9", "x1", true},
+                          {"txtY1", "9", "y1", true}}) {
+        const std::string prima = b.campo(c.campo);
+        const auto scrivi = [&](const std::string &testo) {
+            const IdControllo id = TrovaControllo(c.campo);
+            b.f.ponte().fai(id, [&] { app::Cambia(b.s(), id, testo); });
+        };
+        scrivi(c.testo);
+        const QString nota = b.f.note().nota(c.campo);
+        EXPECT_TRUE(nota.contains(QString::fromUtf8(c.nota))) << c.campo << ' ' << c.testo << ": " << nota.toStdString();
+        EXPECT_EQ(b.w(c.campo)->property("dubbio").toBool(), c.dubbio) << c.campo << ' ' << c.testo;
+        scrivi(prima);
+        EXPECT_FALSE(b.w(c.campo)->property("dubbio").toBool()) << c.campo;
+    }
+    // A run takes an angle as it was understood; of one that makes no sense it draws nothing.
+    b.spunta("chkOreAstronomiche");
+    b.f.findChild<QAbstractButton *>(QStringLiteral("Adatta"))->click();
+    const IdControllo lat = TrovaControllo("txtLAT");
+    b.f.ponte().fai(lat, [&] { app::Cambia(b.s(), lat, "44 75"); });
+    b.f.esegui();
+    EXPECT_TRUE(b.s().tavolo.lista().Ordine.empty());
+    b.f.ponte().fai(lat, [&] { app::Cambia(b.s(), lat, "44 30 N"); });
+    b.f.esegui();
+    EXPECT_EQ(b.campo("txtLAT"), "44.5");
+    EXPECT_FALSE(b.s().tavolo.lista().Ordine.empty());
+}
+
+TEST(Unita, LengthsAreConvertedByOnePressAndBackByOne) {
+    BancoFinestra b;
+    const std::pair<const char *, const char *> prima[] = {{"TxtStilo", ".195"}, {"txtX0", "-0.5"}, {"txtNumbersize", ".03"}};
+    for (const auto &[campo, testo] : prima) b.s().testo(TrovaControllo(campo)) = testo;
+    const std::string latitudine = b.campo("txtLAT");
+    b.f.passi().aggiorna(false);
+    b.spunta("ChCentimetro");
+    for (const auto &[campo, testo] : prima) EXPECT_EQ(b.campo(campo), testo) << "not before it is asked for";
+    auto *offerta = b.f.findChild<QLabel *>(QStringLiteral("avvisoCornice"));
+    ASSERT_TRUE(offerta->isVisible());
+    const int passi = b.f.passi().count();
+    emit offerta->linkActivated(QStringLiteral("0"));
+    for (const auto &[campo, testo] : {std::pair{"TxtStilo", "195"}, {"txtX0", "-500"}, {"txtNumbersize", "30"}})
+        EXPECT_EQ(b.campo(campo), testo);
+    EXPECT_EQ(b.campo("txtLAT"), latitudine);
+    EXPECT_EQ(b.f.passi().count(), passi + 1);
+    b.f.passi().undo();
+    for (const auto &[campo, testo] : prima) EXPECT_EQ(b.campo(campo), testo);
+    EXPECT_EQ(b.s().in.ChCentimetro, 1);
+}
+
+TEST(Etichette, ANewDialHasThemAnOpenedOneAsItWasSaved) {
+    const int accese = officina::CiSonoTratti() ? 1 : 0;
+    BancoFinestra b;
+    EXPECT_EQ(b.s().in.ckEtichette, 0);
+    ASSERT_FALSE(app::SalvaProgetto(b.s(), "senza.omb"));
+    b.f.primoQuadrante();
+    b.aspettaVivo();
+    EXPECT_EQ(b.s().in.ckEtichette, accese);
+    b.vivo()->setChecked(false);
+    b.f.apri(QStringLiteral("senza.omb"));
+    EXPECT_EQ(b.s().in.ckEtichette, 0);
+    b.f.nuovo();
+    EXPECT_EQ(b.s().in.ckEtichette, accese);
+    EXPECT_FALSE(b.f.modificato());
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 #include <QBuffer>
 #include <QFile>
 #include <QImage>
+#include <QPdfWriter>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QStandardPaths>
@@ -11,6 +12,7 @@
 
 #include "paint/documenti.h"
 #include "paint/impaginazione.h"
+#include "paint/testo_stampato.h"
 #include "plot/lista_testo.h"
 
 namespace ombrelia {
@@ -243,6 +245,55 @@ TEST(Carta, PagesCoverTheSheetAndShareWhatTheyShould) {
         const double attesa = 175 - 1000 * pagine[static_cast<std::size_t>(p - 1)].x + 7.5 - 8;
         for (const double q : x) vicina = std::fabs(q - attesa) < std::fabs(vicina - attesa) ? q : vicina;
         EXPECT_NEAR(vicina, attesa, ESATTO) << p;
+    }
+}
+
+// Rows stay whole while letters of six points hold them, upright or on the side; each page has its head and its number.
+TEST(Carta, PrintedRowsAreNotBroken) {
+    struct Caso {
+        int lettere;
+        bool orizzontale, spezzate;
+        double daCorpo, aCorpo;
+    };
+    for (const Caso &c : {Caso{40, false, false, 10, 10},
+                          {106, false, false, 7.5, 8.2},
+                          {148, true, false, 8, 9},
+                          {200, true, false, 6, 6.5},
+                          {260, true, true, 6, 6}}) {
+        paint::TestoStampato t{QStringLiteral("Ore vere"), QStringLiteral("Torino"), {}};
+        constexpr int RIGHE = 150;
+        for (int i = 0; i < RIGHE; ++i) {
+            QString riga = QStringLiteral("r%1 ").arg(i);
+            while (riga.size() < c.lettere - 4) riga += QStringLiteral("1.5 ");
+            t.righe.push_back(
+                {riga + QStringLiteral("fine").left(c.lettere - static_cast<int>(riga.size())), i == 0 ? QB(12) : 0});
+        }
+        QByteArray pdf;
+        paint::Composizione come;
+        {
+            QBuffer buffer(&pdf);
+            buffer.open(QIODevice::WriteOnly);
+            QPdfWriter w(&buffer);
+            w.setPageSize(QPageSize(QPageSize::A4));
+            come = paint::ComponiTesto(t, w);
+            w.setPageOrientation(come.orizzontale ? QPageLayout::Landscape : QPageLayout::Portrait);
+            come = paint::StampaTesto(t, w);
+        }
+        EXPECT_EQ(come.orizzontale, c.orizzontale) << c.lettere;
+        EXPECT_EQ(come.spezzate, c.spezzate) << c.lettere;
+        EXPECT_GE(come.corpo, c.daCorpo - 1e-9) << c.lettere;
+        EXPECT_LE(come.corpo, c.aCorpo + 1e-9) << c.lettere;
+        if (!ceStrumento("pdftotext")) continue;
+        salva(pdf, "righe.pdf");
+        const QString letto = QString::fromUtf8(chiama("pdftotext", {"-layout", "righe.pdf", "-"}));
+        EXPECT_EQ(letto.count(QStringLiteral("Ore vere")), come.pagine) << "a head on each page";
+        EXPECT_TRUE(letto.contains(QStringLiteral("%1/%1").arg(come.pagine)));
+        int intere = 0;
+        for (const QString &riga : letto.split(QLatin1Char('\n'))) {
+            const QString r = riga.trimmed();
+            intere += r.startsWith(QLatin1Char('r')) && r.contains(QLatin1Char('f'));
+        }
+        EXPECT_EQ(intere == RIGHE, !c.spezzate) << c.lettere << ": " << intere;
     }
 }
 

@@ -1,6 +1,8 @@
 // The program behind a page: what goes in stays text, what comes out is JSON, layers travel only when they change.
 #include <gtest/gtest.h>
 
+#include <filesystem>
+
 #include "plot/svg.h"
 #include "web/chiamate.h"
 #include "web/json.h"
@@ -66,6 +68,33 @@ TEST(Pagina, IDisegniNonToccanoLoScript) {
             EXPECT_EQ(Chiama(*x, "esegui", riga), "");
     EXPECT_EQ(p.Esporta("txt"), q.Esporta("txt"));
     EXPECT_EQ(Chiama(p, "esegui", "nonsense"), "unknown action: nonsense");
+}
+
+// Another dial after one, and a fresh start after another engine: as a page that draws it first.
+TEST(Pagina, UnQuadranteDopoUnAltro) {
+    const auto disegnato = [](Pagina &p, const char *lat) {
+        p.Scrivi("txtInc", "0");
+        p.Scrivi("txtLAT", lat);
+        (void)p.Disegna(0);
+        return p.Esporta("txt");
+    };
+    Pagina p, q;
+    for (Pagina *x : {&p, &q}) x->Premi("ck_babiloniche"), x->Premi("chkOreAstronomiche");
+    (void)disegnato(p, "45");
+    EXPECT_TRUE(disegnato(p, "30") == disegnato(q, "30"));
+    p.Premi("cmdEqui");
+    EXPECT_FALSE(disegnato(p, "30") == disegnato(q, "30"));
+    p.Avvia(), q.Avvia();
+    EXPECT_TRUE(disegnato(p, "30") == disegnato(q, "30"));
+}
+
+TEST(Pagina, LaTavolaNellaSuaLingua) {
+    const auto prima = std::filesystem::current_path();
+    std::filesystem::current_path(OMBRELIA_RADICE "/data");
+    Pagina p;
+    p.Lingua("fr");
+    std::filesystem::current_path(prima);
+    EXPECT_NE(p.Tavola().find("\"nome\":\"ck_Etna\",\"classe\":\"casella\",\"caption\":\"Heure vraie"), std::string::npos);
 }
 
 // What a screen tells apart, and a nearer one: bends stay, points that touch are a line, a gap stays a gap.

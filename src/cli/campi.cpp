@@ -9,6 +9,7 @@
 #include "cli/place.h"
 #include "core/testo.h"
 #include "luoghi/angolo.h"
+#include "sessione/limiti.h"
 
 namespace ombrelia::cli {
 
@@ -73,6 +74,7 @@ void Campi::opzioni(Opzioni &o) {
 
 std::string Campi::Applica(Sessione &s) const {
     s.originaleFresco = true;
+    s.tavolo.recordMassimi = RecordInMemoria();
     if (!progetto.empty() && !app::ApriProgetto(s, progetto)) return progetto + ": no project file, or unreadable";
     if (luogo.empty() && !paese.empty()) return "--country goes with --place";
     if (!luogo.empty()) {

@@ -22,6 +22,7 @@
 #include "desktop/stile.h"
 #include "officina/tratti.h"
 #include "paint/file_disegno.h"
+#include "sessione/limiti.h"
 
 namespace ombrelia::desktop {
 
@@ -64,6 +65,7 @@ Finestra::Finestra(Dialoghi &dialoghi) : dialoghi_(dialoghi), utente_(dialoghi),
     std::filesystem::create_directories(app::CartellaDisegni(), nonImporta);
     app::Avvia(s_);
     s_.originaleFresco = s_.australeMontato = true;
+    s_.tavolo.recordMassimi = RecordInMemoria();
     LinguaRicordata(s_);
 
     // Made in the order in which the eye, and so the Tab key, goes: commands, the dial, the sheet, the drawing.

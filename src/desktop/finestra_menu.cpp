@@ -57,7 +57,8 @@ void Finestra::costruisciMenu() {
     };
     QMenu *file = menuBar()->addMenu(ponte_.Traduci("&File"));
     QAction *primo = nostro(file, "nuovo", [this] { nuovo(); }), *apri = voce(file, "mnuApri");
-    recenti_ = file->addMenu(IconaDi(TrovaComando("recenti")->icona), ponte_.Traduci(TrovaComando("recenti")->testo));
+    const auto *recenti = TrovaComando("recenti");
+    recenti_ = file->addMenu(IconaDi(recenti->icona), ponte_.Traduci(recenti->testo));
     connect(recenti_, &QMenu::aboutToShow, this, [this] { riempiRecenti(); });
     nostro(file, "esempi", [this] {
         if (!esempi_) {

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "app/comandi.h"
+#include "sessione/limiti.h"
 
 namespace ombrelia::desktop {
 
@@ -74,6 +75,7 @@ void Vivo::lavora() {
     Muto utente;
     Sessione s(utente);
     s.originaleFresco = s.australeMontato = true;
+    s.tavolo.recordMassimi = RecordInMemoria();
     s.dizionario = dizionario_;
     while (auto incarico = sportello_.attendi()) {
         Richiesta &r = incarico->cosa;

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <new>
 
 #include "core/angoli.h"
 #include "core/testo.h"
@@ -77,6 +78,8 @@ bool Tavolo::Pagina(const Carta &carta) {
     if (scelte) Refresh();
     return scelte;
 }
+
+void Tavolo::pieno() { throw std::bad_alloc(); }
 
 // --- drawing ---------------------------------------------------------------------------------------------------------
 

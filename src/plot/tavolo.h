@@ -64,6 +64,7 @@ public:
     // With a pen width of its own.
     void xLine(Valore X1, Valore Y1, Valore X2, Valore Y2, Colore colore, IdNome Id, std::int32_t Spessore) {
         if (!(X1.esiste() && Y1.esiste() && X2.esiste() && Y2.esiste())) return;
+        if (lista_.Ordine.size() >= recordMassimi) pieno();
         lista_.Linee.push_back({X1.v, Y1.v, X2.v, Y2.v, colore, Spessore, Id});
         lista_.Ordine.push_back('L');
         if (dispositivo) pittore().linea(X1.v, Y1.v, X2.v, Y2.v, colore, Spessore, specchia(Id));
@@ -72,6 +73,7 @@ public:
     void xPset(Valore X, Valore Y, Colore colore, std::string_view Id = {}) { xPset(X, Y, colore, nome(Id)); }
     void xPset(Valore X, Valore Y, Colore colore, IdNome Id) {
         if (!q_.tiene(X, Y)) return;
+        if (lista_.Ordine.size() >= recordMassimi) pieno();
         lista_.Punti.push_back({X.v, Y.v, colore, Id});
         lista_.Ordine.push_back('P');
         if (dispositivo) pittore().punto(X.v, Y.v, colore);
@@ -197,6 +199,8 @@ public:
         if (p.a > p.da) lista_.pretese.push_back(p);
     }
 
+    // What the machine's memory can hold, for whoever designs; the record beyond it ends the run as a want of memory does.
+    std::size_t recordMassimi = SIZE_MAX;
     Dispositivo *dispositivo = nullptr;                 // not owned; may be absent
     std::function<void(std::string_view)> suMessaggio;  // hears the status line
     std::function<void(bool)> suAttesa;                 // wait cursor on and off
@@ -213,6 +217,7 @@ private:
     }
 
     void figura(const RecFigura &r, char ordine);
+    [[noreturn]] static void pieno();
     void impostaScala(int n);
     void dopoFoglio();
     // Draws a tile's outline and number and adds it to Aree.

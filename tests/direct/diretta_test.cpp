@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <map>
+#include <new>
 #include <set>
 
 #include "comuni/prova.h"
@@ -197,6 +198,26 @@ TEST(Diretta, SitoAustrale) {
     EXPECT_EQ(b.utente.box.size(), 1U) << "the next press is a northern run";
     EXPECT_TRUE(b.linee("Analemma Sud").empty());
     EXPECT_FALSE(b.testo("Per ottenere le ore italiche cliccare babiloniche e viceversa"));
+}
+
+// A drawing that memory can't hold is refused before it starts where its fields tell, and ends as want of memory does where not.
+TEST(Diretta, UnDisegnoTroppoGrandeNonComincia) {
+    Banco b({{"TxtFraz", "4000"}}, {"ck_Italiche"});
+    b.s.tavolo.recordMassimi = 1000000;
+    b.esegui();
+    ASSERT_EQ(b.utente.box.size(), 1U);
+    EXPECT_TRUE(b.utente.box[0].ends_with("la memoria non basta per tanti punti")) << b.utente.box[0];
+    EXPECT_TRUE(b.lista().Linee.empty());
+
+    Banco c({}, {"Ck_DayLightCurves"});
+    c.esegui();
+    const std::size_t tutti = c.lista().Ordine.size();
+    for (const bool basta : {true, false}) {
+        c.s.tavolo.Clear();
+        c.s.tavolo.recordMassimi = basta ? tutti : tutti - 1000;
+        if (basta) EXPECT_NO_THROW(c.esegui());
+        else EXPECT_THROW(c.esegui(), std::bad_alloc);
+    }
 }
 
 TEST(Diretta, CampiAssurdiSonoRifiutatiOInnocui) {

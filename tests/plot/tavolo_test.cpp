@@ -102,7 +102,7 @@ TEST(Tavolo, FoglioEScala) {
 
 TEST(Tavolo, PosizioneDelTesto) {
     Tavolo t;
-    prova::Disegna(t, "F 0.2 0.28 0.1 0.2;D a;T 0.05 -0.1 b;D c;t 0.5 0.5 painted only");
+    prova::Disegna(t, "F 0.2 0.28 0.1 0.2;D a;T 0.05 -0.1 b;D c");
     t.Dati("e", std::nullopt, 0.3);
     const double attesi[][2] = {{-0.1, -0.2}, {0.05, -0.1}, {-0.1, -0.1 + 195 / 56700.0}, {-0.1, 0.3}};
     ASSERT_EQ(t.lista().Testi.size(), 4U);

@@ -111,7 +111,7 @@ struct BancoParete : BancoFinestra {
         for (const auto &[nome, n] :
              {std::pair{"txtDay", giorno}, {"txtMonth", mese}, {"txtYear", anno}, {"txtHH", ore}, {"txtMM", 0}}) {
             const IdControllo id = TrovaControllo("frmDeclin." + std::string(nome));
-            f.ponte().fai(id, [&] { s().testo(id) = std::to_string(n); });
+            f.ponte().fai(id, [&, n = n] { s().testo(id) = std::to_string(n); });
         }
     }
 };

@@ -102,7 +102,8 @@ public:
                  "max-width:190mm;margin:auto}h1{font-size:18pt;margin:0 0 2mm}h2{font-size:12pt;font-weight:normal;margin:0 0 "
                  "3mm}.dati{font-size:9pt}"
                  "p{margin:2mm 0}table{border-collapse:collapse;width:100%}th{font-weight:600;border-bottom:1px solid #222}"
-                 "tr{page-break-inside:avoid}.righe{font-size:8pt}.verdetto{font-size:14pt}.metodo{font-size:8pt;color:#555}"
+                 "tr{page-break-inside:avoid}.righe{font-size:8pt}.righe "
+                 "td{white-space:nowrap}.verdetto{font-size:14pt}.metodo{font-size:8pt;color:#555}"
                  "</style></head>\n<body>\n<h1>" +
                  html(titolo) + "</h1>\n";
     }

@@ -96,7 +96,9 @@ void Moduli::rapporto(std::string_view nome) {
     w->setObjectName(Q(nome));
     auto *testo = lettura(w);
     testo->setObjectName(QStringLiteral("testo"));
-    w->setCentralWidget(new TavoleRapporto(ponte_, dialoghi_, testo, w));
+    auto *tavole = new TavoleRapporto(ponte_, dialoghi_, testo, w);
+    tavole->suLuogo = [this] { return luogo(); };
+    w->setCentralWidget(tavole);
     w->resize(900, 560);
     QAction *stampa = ponte_.voce(std::string(nome) + "." + std::string(RigaDi(*app::MenuStampa(nome)).nome), w);
     stampa->setShortcut(QKeySequence::Print);
@@ -145,18 +147,18 @@ TavoleRapporto *Moduli::tavole(std::string_view nome) const {
 // Which dial a printed report is of: its place where it has a name, and how it stands.
 QString Moduli::luogo() const {
     const DialInputs &in = ponte_.sessione().in;
+    // With letters in minutes and seconds, without them in degrees.
     const auto angolo = [](const std::string &testo, luoghi::Verso verso) {
         const Valore v = Val(testo);
-        return v.esiste() ? Q(luoghi::DueForme(v.v, verso)).section(QStringLiteral(" = "), 0, 0) : Q(testo);
+        if (!v.esiste()) return Q(testo);
+        return Q(luoghi::DueForme(v.v, verso))
+            .section(QStringLiteral(" = "), verso == luoghi::Verso::Nudo ? 0 : 1, verso == luoghi::Verso::Nudo ? 0 : 1);
     };
     QStringList parti;
     if (!in.txtLuogo.empty()) parti << Q(in.txtLuogo);
-    const std::pair<QString, QString> voci[] = {
-        {ponte_.Traduci("Latitudine N +, S -"), angolo(in.txtLAT, luoghi::Verso::Nudo)},
-        {ponte_.Traduci("Longitudine O +, E -"), angolo(in.txtLonG, luoghi::Verso::Nudo)},
-        {ponte_.Traduci("Declinazione O +, E -"), angolo(in.txtDec, luoghi::Verso::Nudo)},
-        {ponte_.Traduci("Inclinazione zenitale"), angolo(in.txtInc, luoghi::Verso::Nudo)}};
-    for (const auto &[nome, valore] : voci) parti << nome.simplified() + QLatin1Char(' ') + valore;
+    parti << angolo(in.txtLAT, luoghi::Verso::NordSud) + QStringLiteral(", ") + angolo(in.txtLonG, luoghi::Verso::OvestEst);
+    for (const auto &[nome, valore] : {std::pair("Declinazione O +, E -", in.txtDec), {"Inclinazione zenitale", in.txtInc}})
+        parti << ponte_.Traduci(nome).simplified() + QStringLiteral(": ") + angolo(valore, luoghi::Verso::Nudo);
     return parti.join(QStringLiteral("  ·  "));
 }
 

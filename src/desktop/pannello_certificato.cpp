@@ -4,15 +4,17 @@
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
+#include <QPageLayout>
 #include <QPrinter>
 #include <QPushButton>
 #include <QTableWidget>
-#include <QTextDocument>
 #include <QVBoxLayout>
 #include <array>
 #include <cmath>
+#include <utility>
 
 #include "core/file.h"
+#include "paint/tavola_stampata.h"
 
 namespace ombrelia::desktop {
 
@@ -36,6 +38,8 @@ private:
 constexpr std::array<std::string_view, 7> COLONNE{
     "Linea"_it,        "Lunga mm"_it, "Scarto massimo mm"_it, "Scarto in tempo o angolo"_it, "Mancanti mm"_it,
     "Superflui mm"_it, "Esito"_it};
+
+constexpr double CORPO = 8;  // points, of the page's rows
 
 }  // namespace
 
@@ -72,14 +76,18 @@ PannelloCertificato::PannelloCertificato(Ponte &ponte, Dialoghi &dialoghi, Sopra
                         ponte_.Traduci("Accende Geometria corretta e disegna di nuovo: ogni linea è allora quella vera"), [this] {
                             if (suCorreggi) suCorreggi();
                         });
-    stampa_ = bottone(ponte_.Traduci("Stampa il certificato..."),
-                      ponte_.Traduci("Una pagina con titolo, luogo, piano e data, da tenere col quadrante"), [this] {
-                          dialoghi_.stampa(this, ponte_.Traduci("Certificato"), [testo = Q(pagina())](QPrinter &stampante) {
-                              QTextDocument d;
-                              d.setHtml(testo);
-                              d.print(&stampante);
-                          });
-                      });
+    stampa_ =
+        bottone(ponte_.Traduci("Stampa il certificato..."),
+                ponte_.Traduci("Una pagina con titolo, luogo, piano e data, da tenere col quadrante"), [this] {
+                    dialoghi_.stampa(this, ponte_.Traduci("Certificato"), [this, prima = true](QPrinter &stampante) mutable {
+                        const paint::TavolaStampata t{ponte_.Traduci("Certificato"), Q(dati_.titolo), Q(pagina()), CORPO};
+                        // The page is turned as the rows need it; the user may turn it back.
+                        if (std::exchange(prima, false))
+                            stampante.setPageOrientation(paint::ComponiTavola(t, stampante).orizzontale ? QPageLayout::Landscape
+                                                                                                        : QPageLayout::Portrait);
+                        paint::StampaTavola(t, stampante);
+                    });
+                });
     salva_ = bottone(ponte_.Traduci("Salva il certificato..."), ponte_.Traduci("La stessa pagina come file HTML"), [this] {
         const auto f =
             dialoghi_.file(this, true, QStringLiteral("html"), QStringLiteral("*.html"), QStringLiteral("certificato.html"));

@@ -9,19 +9,17 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPageLayout>
-#include <QPdfWriter>
 #include <QScrollBar>
 #include <QShortcut>
 #include <QSortFilterProxyModel>
 #include <QStandardItemModel>
 #include <QTableView>
-#include <QTextDocument>
 #include <QToolButton>
 #include <QVBoxLayout>
 #include <algorithm>
 
 #include "core/file.h"
+#include "paint/tavola_stampata.h"
 
 namespace ombrelia::desktop {
 
@@ -217,24 +215,25 @@ void TavoleRapporto::copia() {
     QGuiApplication::clipboard()->setText(testo);
 }
 
+// The page of tables as paper takes it: letters in points, rows in one piece.
+QByteArray TavoleRapporto::pdf() const {
+    constexpr double CORPO = 9;
+    QString html = Q(reports::RapportoHtml(rapporto_));
+    html.replace(QStringLiteral("</style>"), QStringLiteral("body,table,pre{font-size:%1pt}pre{white-space:pre}"
+                                                            "th,td{padding:1px 5px}</style>")
+                                                 .arg(CORPO));
+    const QString luogo = suLuogo ? suLuogo() : QString();
+    html.replace(QStringLiteral("</h1>"), QStringLiteral("</h1><p>") + luogo.toHtmlEscaped() + QStringLiteral("</p>"));
+    return paint::PdfTavola({Q(rapporto_.caption).simplified(), luogo, html, CORPO});
+}
+
 void TavoleRapporto::salva(const QString &forma) {
     const auto f =
         dialoghi_.file(this, true, forma, QStringLiteral("*.") + forma, Q(rapporto_.modulo) + QLatin1Char('.') + forma);
     if (!f || f->isEmpty()) return;
-    if (forma == QStringLiteral("pdf")) {
-        QPdfWriter pdf(*f);
-        pdf.setPageOrientation(QPageLayout::Landscape);
-        QTextDocument d;
-        d.setHtml(Q(reports::RapportoHtml(rapporto_)));
-        QFont carattere = d.defaultFont();
-        constexpr double CORPO = 7;  // the widest table fits the page on its side
-        carattere.setPointSizeF(CORPO);
-        d.setDefaultFont(carattere);
-        d.print(&pdf);
-        return;
-    }
-    if (const auto errore = ScriviFile(f->toStdString(), reports::FormaRapportoDi(forma.toStdString()).scrivi(rapporto_)))
-        dialoghi_.avviso(this, Q(*errore));
+    const std::string testo =
+        forma == QStringLiteral("pdf") ? pdf().toStdString() : reports::FormaRapportoDi(forma.toStdString()).scrivi(rapporto_);
+    if (const auto errore = ScriviFile(f->toStdString(), testo)) dialoghi_.avviso(this, Q(*errore));
 }
 
 // An abscissa with an ordinate beside it is a point of the drawing.

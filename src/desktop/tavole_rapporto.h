@@ -26,6 +26,8 @@ public:
     void mostra(const Rapporto &r);
     // The points of a chosen row, in the numbers of the report: x to the right, y upward.
     std::function<void(const std::vector<ombra::Punto> &)> suPunti;
+    // Where the dial stands, for the head of a page.
+    std::function<QString()> suLuogo;
 
 protected:
     bool eventFilter(QObject *chi, QEvent *e) override;
@@ -34,6 +36,7 @@ private:
     void riempi(int quale);
     void copia();
     void salva(const QString &forma);
+    [[nodiscard]] QByteArray pdf() const;
     void scelta();
 
     Ponte &ponte_;

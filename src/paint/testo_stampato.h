@@ -1,12 +1,12 @@
 // A text on a printer's pages: rows that are not broken, in their colours, with a head and the page's number.
 #pragma once
 
-#include <QFont>
 #include <QPagedPaintDevice>
 #include <QString>
 #include <vector>
 
 #include "core/colori.h"
+#include "paint/pagina_stampata.h"
 
 namespace ombrelia::paint {
 
@@ -20,18 +20,10 @@ struct TestoStampato {
     std::vector<RigaStampata> righe;
 };
 
-// How a text lies on its pages.
-struct Composizione {
-    bool orizzontale = false;
-    double corpo = 0;       // points
-    bool spezzate = false;  // the widest row does not fit at the smallest size: rows are broken
-    int pagine = 0;
-};
-
 // Upright while the widest row has letters of 7.5 points or more there, else on its side; letters of 10 points at the most and
-// 6 at the least. paper as it lies upright.
-[[nodiscard]] Composizione ComponiTesto(const TestoStampato &t, QPagedPaintDevice &stampante);
-// Composes it for the page as the printer has it and paints it.
+// 6 at the least.
+[[nodiscard]] Composizione ComponiTesto(const TestoStampato &t, const QPagedPaintDevice &stampante);
+// Composes it for the page as the printer has it and paints it. Rows that are too wide at 6 points are broken.
 Composizione StampaTesto(const TestoStampato &t, QPagedPaintDevice &stampante);
 
 }  // namespace ombrelia::paint

@@ -7,11 +7,13 @@
 #include <QPdfWriter>
 #include <QProcess>
 #include <QRegularExpression>
+#include <QSet>
 #include <QStandardPaths>
 #include <cmath>
 
 #include "paint/documenti.h"
 #include "paint/impaginazione.h"
+#include "paint/tavola_stampata.h"
 #include "paint/testo_stampato.h"
 #include "plot/lista_testo.h"
 
@@ -114,9 +116,9 @@ TEST(Carta, CentoMillimetriAOgniScala) {
     }
 }
 
-TEST(Carta, LePiastrelleSiIncontrano) {
-    if (!ceStrumento("pdftoppm")) GTEST_SKIP() << "needs poppler-utils";
+void siIncontrano(const Carta &carta) {
     Tavolo t;
+    t.Pagina(carta);
     foglio(t, 0.5, 0.6, 0.05, 0.04);
     t.Scala(3);
     const double l = t.LarghezzaPagina() * 1000, h = t.AltezzaPagina() * 1000;  // millimetres
@@ -132,7 +134,7 @@ TEST(Carta, LePiastrelleSiIncontrano) {
         t.xTrovaA4(x, y);
     const std::string prima = ListaTesto(t.lista());
 
-    const double bordoX = (A4_L - l) / 2, bordoY = (A4_H - h) / 2;
+    const double bordoX = (carta.larga * 1000 - l) / 2, bordoY = (carta.alta * 1000 - h) / 2;
     QByteArray pdf = paint::PdfPiastrelle(t);
     EXPECT_EQ(ListaTesto(t.lista()), prima);  // marks and ruler are no records
     EXPECT_EQ(t.Scala(), 3);
@@ -162,6 +164,57 @@ TEST(Carta, LePiastrelleSiIncontrano) {
     const std::vector<double> righello = tratti(striscia("tessere.pdf", 1, bordoX + 10, bordoY + h + 1.5 + 2.2, 130, 0.2), 2);
     ASSERT_GE(righello.size(), 2U);
     EXPECT_NEAR(righello[1] - righello[0], 100, ESATTO);
+}
+
+TEST(Carta, LePiastrelleSiIncontrano) {
+    if (!ceStrumento("pdftoppm")) GTEST_SKIP() << "needs poppler-utils";
+    for (const CartaNota &nota : CARTE_NOTE) {
+        if (nota.carta.larga > 0.25) continue;  // both slants lie on its first tile
+        SCOPED_TRACE(nota.nome);
+        siIncontrano(nota.carta);
+    }
+}
+
+// "Whole Area" in the middle of whatever paper there is; of a sheet larger than the page nothing lies where a printer doesn't
+// reach.
+TEST(Carta, TheWholeSheetStandsInTheMiddleOfItsPaper) {
+    if (!ceStrumento("pdftoppm")) GTEST_SKIP() << "needs poppler-utils";
+    struct Caso {
+        QPageSize::PageSizeId carta;
+        double larga, alta, l, h;  // millimetres of paper and of sheet
+    };
+    for (const Caso &c : {Caso{QPageSize::A4, A4_L, A4_H, 150, 200}, Caso{QPageSize::Letter, 215.9, 279.4, 150, 200},
+                          Caso{QPageSize::A4, A4_L, A4_H, 200, 285}, Caso{QPageSize::Letter, 215.9, 279.4, 190, 290}}) {
+        Tavolo t;
+        foglio(t, c.l / 1000, c.h / 1000, 0, 0);
+        t.Scala(1);
+        ASSERT_EQ(t.Scala(), 1);
+        // A line each 5 mm, both ways, from edge to edge.
+        for (double x = 2; x < c.l; x += 5) t.xLine(x / 1000, 0, x / 1000, c.h / 1000, 0, "L");
+        for (double y = 2; y < c.h; y += 5) t.xLine(0, y / 1000, c.l / 1000, y / 1000, 0, "L");
+        QByteArray pdf;
+        {
+            QBuffer buffer(&pdf);
+            buffer.open(QIODevice::WriteOnly);
+            QPdfWriter w(&buffer);
+            w.setPageSize(QPageSize(c.carta));
+            paint::StampaTutto(t, w);
+        }
+        salva(pdf, "tutto.pdf");
+        const bool ciSta = c.l < c.larga - 13 && c.h < c.alta - 15;
+        const double daX = std::max(6.5, (c.larga - c.l) / 2), daY = std::max(7.5, (c.alta - c.h) / 2);
+        const std::vector<double> x = tratti(striscia("tutto.pdf", 1, 0, daY + 4.5, c.larga, 0.5), 5),
+                                  y = tratti(striscia("tutto.pdf", 1, daX + 4.5, 0, 0.5, c.alta), 5, true);
+        ASSERT_GT(x.size(), 5U);
+        ASSERT_GT(y.size(), 5U);
+        EXPECT_NEAR(x.front(), daX + 2, ESATTO) << c.l << " on " << c.larga;
+        EXPECT_NEAR(y.front(), daY + 2, ESATTO) << c.h << " on " << c.alta;
+        EXPECT_LE(x.back(), c.larga - daX + ESATTO);
+        EXPECT_LE(y.back(), c.alta - daY + ESATTO);
+        if (ciSta) {
+            EXPECT_NEAR(x.back() - x.front(), 5 * std::floor((c.l - 2.1) / 5), ESATTO);
+        }
+    }
 }
 
 TEST(Carta, FermateOVuoteNonLascianoNulla) {
@@ -245,6 +298,49 @@ TEST(Carta, PagesCoverTheSheetAndShareWhatTheyShould) {
         const double attesa = 175 - 1000 * pagine[static_cast<std::size_t>(p - 1)].x + 7.5 - 8;
         for (const double q : x) vicina = std::fabs(q - attesa) < std::fabs(vicina - attesa) ? q : vicina;
         EXPECT_NEAR(vicina, attesa, ESATTO) << p;
+    }
+}
+
+// Each row of a table with a head stands on one line, upright or on the side, under a head on each page; a paragraph may be
+// broken.
+TEST(Carta, RowsOfTablesStandOnOneLine) {
+    if (!ceStrumento("pdftotext")) GTEST_SKIP() << "needs poppler-utils";
+    struct Caso {
+        int colonne;
+        bool orizzontale, spezzate;
+    };
+    for (const Caso &c : {Caso{4, false, false}, {11, false, false}, {16, true, false}, {40, true, true}}) {
+        constexpr int RIGHE = 120;
+        QString html = QStringLiteral("<html><head><style></style></head><body><h1>Ore</h1><p>") +
+                       QStringLiteral("parola ").repeated(60) + QStringLiteral("</p><table><thead><tr>");
+        for (int k = 0; k < c.colonne; ++k) html += QStringLiteral("<th>colonna numero%1</th>").arg(k);
+        html += QStringLiteral("</tr></thead>");
+        QStringList righe;
+        for (int r = 0; r < RIGHE; ++r) {
+            QStringList celle;
+            for (int k = 0; k < c.colonne; ++k) celle << QStringLiteral("r%1 %2.5").arg(r).arg(1000 + k);
+            righe << celle.join(QLatin1Char(' '));
+            html += QStringLiteral("<tr><td>") + celle.join(QStringLiteral("</td><td>")) + QStringLiteral("</td></tr>");
+        }
+        const paint::TavolaStampata t{QStringLiteral("Ore vere"), QStringLiteral("Torino"), html + QStringLiteral("</table>"), 8};
+        QBuffer niente;
+        niente.open(QIODevice::WriteOnly);
+        QPdfWriter w(&niente);
+        w.setPageSize(QPageSize(QPageSize::A4));
+        const paint::Composizione come = paint::ComponiTavola(t, w);
+        EXPECT_EQ(come.orizzontale, c.orizzontale) << c.colonne;
+        EXPECT_EQ(come.spezzate, c.spezzate) << c.colonne;
+        salva(paint::PdfTavola(t), "tavola.pdf");
+        const QString letto = QString::fromUtf8(chiama("pdftotext", {"-layout", "tavola.pdf", "-"}));
+        const int pagine = static_cast<int>(letto.count(QLatin1Char('\f')));
+        QSet<QString> lette;
+        for (const QString &riga : letto.split(QRegularExpression(QStringLiteral("[\n\f]")))) lette << riga.simplified();
+        int intere = 0;
+        for (const QString &riga : righe) intere += lette.contains(riga);
+        EXPECT_EQ(intere == RIGHE, !c.spezzate) << c.colonne << ": " << intere;
+        EXPECT_EQ(letto.count(QRegularExpression(QStringLiteral("numero0\\b"))), pagine) << "the table's head on each page";
+        EXPECT_EQ(letto.count(QStringLiteral("Ore vere")), pagine - 1) << "the first page has the document's own title";
+        EXPECT_TRUE(letto.contains(QStringLiteral("%1/%1").arg(pagine)));
     }
 }
 

@@ -11,14 +11,14 @@ namespace ombrelia::analytic {
 
 namespace {
 
-bool troppoFitto(Sessione &s) {
+bool troppoFitto(Sessione &s, const Lettura &letto) {
     const DialInputs &in = s.in;
     const Variabili &v = s.v;
     // As the reading of the fields is about to leave them.
     Reale lat = v.lat, passo = v.passo, fraz = v.fraz;
-    lat = Val(in.txtLAT);
-    passo = Val(in.txtDensity);
-    fraz = Val(in.TxtFraz);
+    lat = letto.lat;
+    passo = letto.passo;
+    fraz = letto.fraz;
     const bool tangenti = (in.ck_Italiche == 1 || in.ck_babiloniche == 1) && (v.letture == 0 ? lat : v.lat_o) != 0;
     const double diurne = in.Ck_DayLightCurves == 1 ? 8 : 2;
     if (in.chkOreAstronomiche == 1 && TroppoFitto(s, {{"TxtFraz", in.TxtFraz, Conteggio(-90, 90, 15 / fraz)}})) return true;
@@ -34,17 +34,17 @@ using Riga = Caratteristica<Corsa>;
 
 // A wall that has a centre within reach; true lines need none.
 bool conCentro(const Corsa &c) {
-    const Variabili &v = c.s.v;
+    const Variabili &v = c.v;
     return c.s.in.ckCorretta == 1 || !((v.lat == 0 && v.dec == 0) || Abs(v.dec) == 90);
 }
 
 constexpr Riga CARATTERISTICHE[] = {
     // The hour lines alone scale gn: without them a dial in millimetres is drawn with gn as typed. Meant.
-    {&In::chkOreAstronomiche, Specie::Ora, "true hours and their parts", LineeOre, TracciaOreAstronomiche, nullptr, PreparaOre},
-    {nullptr, Specie::Mezzogiorno, "vertical through the centre", LineeCentro, TracciaCentro, nullptr, CalcolaCentroAnalitico},
-    {nullptr, Specie::Diurna, "the day of choice", LineaScelta, TracciaLineaDiurnaScelta, nullptr, PreparaDiurne},
+    {&In::chkOreAstronomiche, Specie::Ora, "true hours and their parts", LineeOre, TracciaOreAstronomiche, nullptr, LasciaOre},
+    {nullptr, Specie::Mezzogiorno, "vertical through the centre", LineeCentro, TracciaCentro, nullptr, LasciaCentro},
+    {nullptr, Specie::Diurna, "the day of choice", LineaScelta, TracciaLineaDiurnaScelta, nullptr, LasciaDiurne},
     {&In::Ck_DayLightCurves, Specie::Diurna, "days of solstices and signs", LineeDiurne, TracciaLineeDiurneAnalitiche, nullptr,
-     PreparaDiurne},
+     LasciaDiurne},
     {&In::ck_Sustilare, Specie::Sustilare, "the substyle", UnaLinea<GIALLO>, TracciaSustilareAnalitica},
     {&In::ck_Equinoziale, Specie::Equinoziale, "the equinoctial", UnaLinea<VERDE>, TracciaEquinozialeAnalitica},
     {nullptr, Specie::Stilo, "triangle of the style, laid flat",
@@ -55,56 +55,66 @@ constexpr Riga CARATTERISTICHE[] = {
      TracciaTriangoloAnalitico, conCentro},
     {nullptr, Specie::Orizzonte, "horizontal through the foot", UnaLinea<GIALLO>, TracciaOrizzontale, conCentro},
     {nullptr, Specie::Nessuna, "solstices on the horizon, as text", nullptr, CalcolaSolstiziOrizzonte},
-    {&In::ck_Italiche, Specie::Italica, "hours from sunset", LineeItaliche, TracciaItalicheAnalitiche, nullptr, PreparaTangenti},
+    {&In::ck_Italiche, Specie::Italica, "hours from sunset", LineeItaliche, TracciaItalicheAnalitiche, nullptr, LasciaTangenti},
     {&In::ck_babiloniche, Specie::Babilonica, "hours from sunrise", LineeBabiloniche, TracciaBabilonicheAnalitiche, nullptr,
-     PreparaTangenti},
+     LasciaTangenti},
     {&In::ck_Lemniscate, Specie::Analemma, "mean noon of the zone",
      [](const Corsa &, LineeAttese &l) {
          l.push_back({0, 12, "", ROSSO});
      },
-     TracciaLemniscataAnalitica, nullptr, PreparaLemniscata},
+     TracciaLemniscataAnalitica, nullptr, LasciaLemniscata},
 };
+
+// The sheet's middle, metres, for the lines that cross it; the unit of the fields.
+void lasciaFoglio(Corsa &c) {
+    Variabili &v = c.s.v;
+    v.semiL = c.s.tavolo.ShiftX();
+    v.semiH = c.s.tavolo.ShiftY();
+    v.unita = c.letto.unita;
+}
 
 }  // namespace
 
 void EseguiGraficaAnalitica(Sessione &s) {
-    Variabili &v = s.v;
-    const DialInputs &in = s.in;
-    Tavolo &t = s.tavolo;
+    Corsa c(s);
     s.Messaggio("Piede Esegui: algoritmo che usa prevalentemente la Geometria Analitica ");
-    if (Sgn(Val(in.txtLAT)) == -1) {
+    if (Sgn(c.letto.lat) == -1) {
         s.Messaggio("Grafica Analitica non è abilitata a lavorare a latitudini australi ");
         return;
     }
-    Corsa c(s);
     RinfrescaOriginale(s, c.letto);
-    if (troppoFitto(s)) return;
+    if (troppoFitto(s, c.letto)) return;
     s.utente.Puntatore(true);
-    v.semiL = t.ShiftX();
-    v.semiH = t.ShiftY();
+    lasciaFoglio(c);
     TracciaAssi(s);
-    v.unita = c.letto.unita;
-    CalcolaAngoliAnalitici(s);
+    CalcolaAngoliAnalitici(s, c.letto);
     Percorri(c, Motore::Analitica, CARATTERISTICHE);
     TracciaCornice(s, c.letto);
     s.utente.Puntatore(false);
 }
 
-void CalcolaCentroAnalitico(Corsa &c) {
+Centro CalcolaCentroAnalitico(const Variabili &v) {
+    Reale CG = v.segStiloSus;  // stands where the style is square to the plane
+    CG = v.gn / tan(v.altStilo);
+    return {-CG * sin(v.angSustilare), CG * cos(v.angSustilare), CG};
+}
+// Foot and centre, of which triangle, horizontal and captions are made; a wall that looks due north has its substyle upright.
+void LasciaCentro(Corsa &c) {
     Variabili &v = c.s.v;
     v.xCentroNeg = 0;
     v.yCentroNeg = 0;
     if (v.dec == 180) v.angSustilare = 0;
     if (Abs(v.dec) == 90) return;
-    v.segStiloSus = v.gn / tan(v.altStilo);
-    v.xCentro = -v.segStiloSus * sin(v.angSustilare);
-    v.yCentro = v.segStiloSus * cos(v.angSustilare);
+    const Centro centro = CalcolaCentroAnalitico(v);
+    v.segStiloSus = centro.sottostilo;
+    v.xCentro = centro.x;
+    v.yCentro = centro.y;
 }
 void LineeCentro(const Corsa &c, LineeAttese &linee) {
-    if (!(Abs(c.s.v.dec) == 90)) linee.push_back({0, 0, "", ROSSO_SCURO});
+    if (!(Abs(c.v.dec) == 90)) linee.push_back({0, 0, "", ROSSO_SCURO});
 }
 void TracciaCentro(Corsa &c, const LineeAttese &linee) {
-    const Variabili &v = c.s.v;
+    const Variabili &v = c.v;
     const Pretendi pretendi(c.s.tavolo, Specie::Mezzogiorno);
     for (const LineaAttesa &l : linee) c.s.tavolo.TracciaLinea(v.xCentro, v.semiH, v.xCentro, -v.semiH, l.colore);
 }

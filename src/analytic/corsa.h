@@ -9,14 +9,15 @@
 namespace ombrelia::analytic {
 
 struct Corsa {
-    explicit Corsa(Sessione &sessione) : s(sessione), letto(sessione.in), cornice(CorniceDi(letto)) {}
+    explicit Corsa(Sessione &sessione) : s(sessione), v(sessione.v), letto(sessione.in), cornice(CorniceDi(letto)) {}
 
-    Sessione &s;
+    Sessione &s;         // what lines are drawn on
+    const Variabili &v;  // as they stand; what a routine leaves there it leaves in a function Lascia...
     const Lettura letto;
     const Cornice cornice;
 };
 
-// What each feature leaves in the shared variables whoever draws it (Prepara, Calcola), its lines, and their drawing; see
+// What each feature leaves in the shared variables whoever draws it (Lascia...), its lines, and their drawing; see
 // the table in analitica.cpp. gn and unita are taken as they stand; only the hour lines read the fields, and leave gn
 // scaled.
 //
@@ -26,15 +27,20 @@ struct Corsa {
 // and sunrise as tangents of the conic of the declination at which the Sun neither rises nor sets. Faults: a root of a negative
 // gives no point; elsewhere the last value stands. Departures: no inclination; a day line and that of the opposite declination
 // are one conic, told apart by the side of the equinoctial.
-void PreparaOre(Corsa &c);
+void LasciaOre(Corsa &c);
 void LineeOre(const Corsa &c, LineeAttese &linee);
 void TracciaOreAstronomiche(Corsa &c, const LineeAttese &linee);
 // Centre of the dial in the unit of gn, and the vertical through it; at |dec| = 90 the centre stays what it was.
-void CalcolaCentroAnalitico(Corsa &c);
+struct Centro {
+    Valore x, y;
+    Valore sottostilo;  // its distance from the foot
+};
+[[nodiscard]] Centro CalcolaCentroAnalitico(const Variabili &v);
+void LasciaCentro(Corsa &c);
 void LineeCentro(const Corsa &c, LineeAttese &linee);
 void TracciaCentro(Corsa &c, const LineeAttese &linee);
 // Leaves in y0 the distance from foot to equinoctial.
-void PreparaDiurne(Corsa &c);
+void LasciaDiurne(Corsa &c);
 void LineaScelta(const Corsa &c, LineeAttese &linee);  // of deltaOpz
 void TracciaLineaDiurnaScelta(Corsa &c, const LineeAttese &linee);
 void LineeDiurne(const Corsa &c, LineeAttese &linee);
@@ -44,12 +50,12 @@ void TracciaEquinozialeAnalitica(Corsa &c, const LineeAttese &linee);
 void TracciaTriangoloAnalitico(Corsa &c, const LineeAttese &linee);
 void TracciaOrizzontale(Corsa &c, const LineeAttese &linee);
 void CalcolaSolstiziOrizzonte(Corsa &c, const LineeAttese &linee);  // meeting points of solstices and horizon, as text
-void PreparaTangenti(Corsa &c);
+void LasciaTangenti(Corsa &c);
 void LineeItaliche(const Corsa &c, LineeAttese &linee);
 void LineeBabiloniche(const Corsa &c, LineeAttese &linee);
 void TracciaItalicheAnalitiche(Corsa &c, const LineeAttese &linee);
 void TracciaBabilonicheAnalitiche(Corsa &c, const LineeAttese &linee);
-void PreparaLemniscata(Corsa &c);
+void LasciaLemniscata(Corsa &c);
 void TracciaLemniscataAnalitica(Corsa &c, const LineeAttese &linee);
 
 }  // namespace ombrelia::analytic

@@ -3,6 +3,7 @@
 
 #include "analytic/corsa.h"
 #include "core/conteggio.h"
+#include "gnomonica/angoli_parete.h"
 #include "gnomonica/conica.h"
 #include "gnomonica/declinazioni.h"
 
@@ -93,15 +94,16 @@ bool paralleloAlPolo(const Variabili &v) { return v.dec == 0 || Abs(v.dec) == 18
 
 }  // namespace
 
-void PreparaDiurne(Corsa &c) { c.s.v.y0 = DistanzaEquinoziale(c.s.v.gn, c.s.v.altStilo); }
+// Where the equinoctial lies, in the unit of gn, which the conics' frame begins at.
+void LasciaDiurne(Corsa &c) { c.s.v.y0 = DistanzaEquinoziale(c.v.gn, c.v.altStilo); }
 
 // One conic holds a declination and its opposite.
 void LineaScelta(const Corsa &c, LineeAttese &linee) {
-    const double delta = c.s.v.deltaOpz.numero();
+    const double delta = c.v.deltaOpz.numero();
     for (const double d : {delta, -delta}) linee.push_back({d, d, "", BLU});
 }
 void TracciaLineaDiurnaScelta(Corsa &c, const LineeAttese &) {
-    const Variabili &v = c.s.v;
+    const Variabili &v = c.v;
     Tavolo &tavolo = c.s.tavolo;
     Reale m;  // stays 0 on the equinox, whose cotangent faults
     m = QuadratoCotangente(v.deltaOpz);
@@ -122,7 +124,7 @@ void LineeDiurne(const Corsa &, LineeAttese &linee) {
         for (const double d : {delta, -delta}) linee.push_back({d, d, "", colore});
 }
 void TracciaLineeDiurneAnalitiche(Corsa &c, const LineeAttese &) {
-    const Variabili &v = c.s.v;
+    const Variabili &v = c.v;
     Tavolo &tavolo = c.s.tavolo;
     // Not the 23.445 of the horizon: meant.
     const Valore m2345 = QuadratoCotangente(OBLIQUITA_2345), m20 = QuadratoCotangente(DELTA_SEGNI),
@@ -148,25 +150,27 @@ void TracciaLineeDiurneAnalitiche(Corsa &c, const LineeAttese &) {
     }
 }
 
+namespace {
+
+// The wall's angles once more, at the equator the hour angle of the substyle with this run's sign; where the equinoctial lies.
+void lasciaSolstizi(Variabili &v) {
+    LasciaStiloParete(v);
+    if (v.lat == 0) v.angoloOra = (PI / 2) * v.segnoDec;
+    if (!(v.lat == 0 && v.dec == 0)) v.y0 = DistanzaEquinoziale(v.gn, v.altStilo);
+}
+
+}  // namespace
+
 void CalcolaSolstiziOrizzonte(Corsa &c, const LineeAttese &) {
     Sessione &s = c.s;
-    Variabili &v = s.v;
+    lasciaSolstizi(s.v);
+    const Variabili &v = c.v;
     const Reale L = c.letto.oriz;  // as typed, unscaled: meant
-    v.segnoDec = SegnoDeclinazione(v.dec, v.decR);
     Reale xa, xb;
-    if (v.lat == 0) {
-        v.angSustilare = (PI / 2) * v.segnoDec;
-        v.altStilo = StiloMuroEquatore(v.decR);
-        v.angoloOra = (PI / 2) * v.segnoDec;
-    } else {
-        v.angSustilare = SustilareMuro(v.latR, v.decR);
-        v.altStilo = StiloMuroQuadrati(v.latR, v.decR);
-    }
     if (v.lat == 0 && v.dec == 0) {
         xa = v.gn / tan(Radianti(OBLIQUITA));
         xb = -v.gn / tan(Radianti(OBLIQUITA));
     } else {
-        v.y0 = DistanzaEquinoziale(v.gn, v.altStilo);
         Conica k;
         k.calcola(QuadratoCotangente(OBLIQUITA), v.altStilo, v.gn);
         const Radici x = AscisseConica(k, v.angSustilare, v.y0, L);

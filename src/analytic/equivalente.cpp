@@ -1,6 +1,8 @@
 // The transformation into the equivalent vertical dial.
 #include "analytic/equivalente.h"
 
+#include "gnomonica/equivalente.h"
+
 namespace ombrelia::analytic {
 
 namespace {
@@ -15,50 +17,57 @@ void scriviPiano(Sessione &s, const std::string &lat, const std::string &dec, co
     s.Scrivi(&DialInputs::txtOriz, orizzonte);
 }
 
+// Every run and report of a transformed dial finds these: latitude as typed, unit, longitude as yet.
+void lasciaInizio(Sessione &s, const Lettura &letto) {
+    Variabili &v = s.v;
+    LeggiParametri(s, letto);
+    v.latGradi = letto.lat;
+    v.segnoLat2 = 1;
+    v.unita = letto.unita;
+    v.lonEq = v.lonCopia + (v.diffLong * 180 / PI) * 0;
+}
+
+// The plane's inclination, radians, and its sign of the declination; that a level one was transformed.
+void lasciaPiano(Variabili &v) {
+    v.incR2 = v.incR;
+    v.segnoDec = SegnoDeclinazione(v.dec, v.decR);
+    if (v.inc == 90) v.flagTrasformato = 1;
+}
+
+// The difference of longitudes, radians; unless the wall is turned round, the sign of its latitude and, of the original plane as
+// the reports expect to find them, elevation of the style (E, its sign turned) and hour angle of the substyle.
+void lasciaEquivalente(Variabili &v, const PareteEquivalente &e, Valore E) {
+    v.diffLong = e.diffLong;
+    if (e.girata) return;
+    v.segnoTrasf = Sgn(e.f1);
+    v.altStilo = E;
+    const Reale x = sin(v.decR) * cos(v.incR) / cos(v.altStilo);
+    v.angoloOra = Atn(x / Sqr(1 - x * x));
+}
+
+// The equivalent dial's longitude, degrees.
+void lasciaLongitudine(Variabili &v) { v.lonEq = v.lonCopia - v.diffLong * 180 / PI; }
+
 }  // namespace
 
 void TrasformaInVerticaleEquivalente(Sessione &s) {
-    Variabili &v = s.v;
-    LeggiParametri(s);
-    v.latGradi = Val(s.in.txtLAT);
-    const Valore sl = v.latGradi == 0 ? Valore(1) : Sgn(v.latGradi);
-    v.segnoLat2 = 1;
-    v.unita = s.in.ChCentimetro == 1 ? 0.001 : 1.0;
-    v.lonEq = v.lonCopia + (v.diffLong * 180 / PI) * 0;
+    const Variabili &v = s.v;
+    const Lettura letto(s.in);
+    lasciaInizio(s, letto);
     if (v.incR == 0) return;
-    v.incR2 = v.incR;
+    const Valore segno = SegnoLatitudine(v.latGradi);
+    lasciaPiano(s.v);
     s.utente.Beep();
 
-    const Valore si = sin(v.incR), ci = cos(v.incR), sf = sin(v.latR), cf = cos(v.latR), sg = sin(v.decR), cg = cos(v.decR);
-    const Reale A = si * sf - ci * cf * cg;
-    const Reale E = ArcSin(A);  // -E is the elevation of the style over the plane
-    v.segnoDec = v.dec == 0 ? Valore(1) : Sgn(v.decR);
+    const Piano piano(v);
+    const Reale E = ArcSin(piano.senStilo());
     Reale f1, d1;
-    if (v.inc == 90) {
-        v.flagTrasformato = 1;
-    } else {
-        const Reale B = ci * sf + si * cf * cg;
-        if (v.dec == 0 && A > 0) {
-            f1 = Atn(B / Sqr(1 - B * B));
-            d1 = PI;
-            v.diffLong = PI;
-        } else {
-            f1 = ArcSin(B);
-            v.segnoTrasf = Sgn(f1);
-            const Valore sf1 = sin(f1), cf1 = cos(f1), segno = v.segnoDec;
-            const Reale W = si * sg / cf1;
-            if (v.dec == 0) v.diffLong = 0;
-            else if (Abs(v.dec) == 180) v.diffLong = PI;
-            else v.diffLong = ArcCos((ci - sf * sf1) / (cf * cf1)) * Sgn(W);
-            if (v.dec == 0) d1 = 0;
-            else if (Abs(v.dec) == 180) d1 = PI * segno;
-            else d1 = ArcCos(((ci * sf1 - sf) / (si * cf1)) * Sgn(f1)) * segno;
-            // Of the original plane; its own style and substyle, as the reports expect to find them.
-            v.altStilo = E;
-            const Reale x = sg * ci / cos(v.altStilo);
-            v.angoloOra = Atn(x / Sqr(1 - x * x));
-            if (v.decR != 0 && v.latR != 0) s.utente.Beep();
-        }
+    if (v.inc != 90) {
+        const PareteEquivalente e = EquivalenteDi(piano, v.dec);
+        f1 = e.f1;
+        d1 = e.d1 * v.segnoDec;
+        lasciaEquivalente(s.v, e, E);
+        if (!e.girata && v.decR != 0 && v.latR != 0) s.utente.Beep();
     }
 
     if (v.segnoLat2 == -1 && v.inc == -90) {  // never: the sign was set above. Meant
@@ -72,10 +81,10 @@ void TrasformaInVerticaleEquivalente(Sessione &s) {
         return;
     }
     const Reale orizzonte = Tronca5(v.gn * tan(v.incR2));
-    scriviPiano(s, gradi5(sl * f1), gradi5(d1), TestoNumero(orizzonte.numero()));
+    scriviPiano(s, gradi5(segno * f1), gradi5(d1), TestoNumero(orizzonte.numero()));
     const Reale longitudine = (s.in.ck_Etna == 0 ? v.meridiano : v.lonCopia) - v.diffLong * 180 / PI;
     s.Scrivi(&DialInputs::txtLonG, TestoNumero(longitudine.numero()));
-    v.lonEq = v.lonCopia - v.diffLong * 180 / PI;
+    lasciaLongitudine(s.v);
     s.in.ck_Etna = 1;
 }
 

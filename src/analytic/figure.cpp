@@ -9,50 +9,66 @@ namespace {
 
 constexpr int SPESSORE = 1;
 
+// The upper end of the last hour line, in the place of the frame's corner.
+struct Estremo {
+    Reale x, y;
+};
+void lasciaEstremo(Variabili &v, const Estremo &e) {
+    v.x1 = e.x;
+    v.y1 = e.y;
+}
+// Beside it an abscissa of the reports: once an auxiliary line, overwritten by every hour line and read by the next report.
+void lasciaOre(Variabili &v, const Estremo &e) {
+    lasciaEstremo(v, e);
+    v.xEq = 0.8;
+}
+
 // West and east walls at the equator, where the hour lines are parallel: each between the two solstices.
 void oreParallele(Corsa &c, IdNome strato) {
-    Variabili &v = c.s.v;
+    const Variabili &v = c.v;
     const Cornice &limiti = c.cornice;
     const Valore tanSolstizio = tan(Radianti(OBLIQUITA_2345));  // not the 23.445 of the horizon: meant
     const Valore m2 = 1 / (tanSolstizio * tanSolstizio), radice = Sqr(m2);
-    Reale x2, y2;
+    Estremo primo{v.x1, v.y1};
+    Reale &x1 = primo.x, &y1 = primo.y, x2, y2;
     for (const double h : Conteggio(-75, 75, 15 / v.fraz)) {
         const Pretendi pretendi(c.s.tavolo, Specie::Ora, 12 + h / 15);
         const Valore r = h * PI / 180;
-        v.x1 = v.gn / (radice * cos(r));
+        x1 = v.gn / (radice * cos(r));
         x2 = -v.gn / (radice * cos(r));
-        v.y1 = -Sqr(m2 * (v.x1 * v.x1) - v.gn * v.gn);
+        y1 = -Sqr(m2 * (x1 * x1) - v.gn * v.gn);
         y2 = -Sqr(m2 * (x2 * x2) - v.gn * v.gn);
         // One limit an end: meant.
-        if (v.x1 > limiti.xMin && x2 < limiti.xMax && v.y1 < limiti.yMax && y2 > limiti.yMin)
-            c.s.tavolo.TracciaLinea(v.x1, v.y1, x2, y2, GIALLO, strato, SPESSORE);
+        if (x1 > limiti.xMin && x2 < limiti.xMax && y1 < limiti.yMax && y2 > limiti.yMin)
+            c.s.tavolo.TracciaLinea(x1, y1, x2, y2, GIALLO, strato, SPESSORE);
     }
+    lasciaEstremo(c.s.v, primo);
 }
 
 }  // namespace
 
-// Fields once more, and gn scaled.
-void PreparaOre(Corsa &c) {
+// Fields once more, and gn scaled, which all lines after these take; the longitude's angle of time; where the equinoctial lies.
+void LasciaOre(Corsa &c) {
     Variabili &v = c.s.v;
-    v.unita = c.letto.unita;
     LeggiParametri(c.s, c.letto);
     v.gn = v.gn * v.unita;
     LasciaDalMeridiano(v);
-    v.corrLong = (v.lonPiu15 * PI / 180) * v.oraFuso;
+    v.corrLong = CorrezioneFuso(v);
     v.segnoDec = SegnoDeclinazione(v.dec, v.decR);
     v.y0 = DistanzaEquinoziale(v.gn, v.altStilo);
 }
 
 void LineeOre(const Corsa &c, LineeAttese &linee) {
-    for (const double h : Conteggio(-90, 90, 15 / c.s.v.fraz))
+    for (const double h : Conteggio(-90, 90, 15 / c.v.fraz))
         linee.push_back({h, 12 + h / 15, "Ore_astro", h == 0 ? ROSSO : BIANCO});
 }
 
 void TracciaOreAstronomiche(Corsa &c, const LineeAttese &linee) {
-    Variabili &v = c.s.v;
+    const Variabili &v = c.v;
     const IdNome strato = c.s.tavolo.nome("Ore_astro");
     const Valore r = -v.angSustilare, cr = cos(r), sr = sin(r);
     const Valore sinE = sin(v.altStilo), obliqua = v.gn / cos(v.altStilo), t0 = v.angoloOra - v.corrLong;
+    Estremo primo{v.x1, v.y1};
     Reale a, b, k, m, x2;
     for (const LineaAttesa &l : linee) {
         const Pretendi pretendi(c.s.tavolo, Specie::Ora, l.valore);
@@ -61,17 +77,17 @@ void TracciaOreAstronomiche(Corsa &c, const LineeAttese &linee) {
         b = obliqua * tanT;
         k = (b - v.y0 * a) / (cr + sr * a);  // abscissa at y = 0
         m = (a * cr - sr) / (cr + a * sr);   // dx/dy, y downward
-        v.y1 = 2;
-        v.x1 = -m * 2 + k;
+        primo.x = -m * 2 + k;
         x2 = m * 2 + k;
-        c.s.tavolo.TracciaLinea(v.x1, 2, x2, -2, l.colore, strato, SPESSORE);
-        v.xEq = 0.8;
+        c.s.tavolo.TracciaLinea(primo.x, 2, x2, -2, l.colore, strato, SPESSORE);
+        primo.y = 2;
     }
+    if (!linee.empty()) lasciaOre(c.s.v, primo);
     if (v.lat == 0 && Abs(v.dec) == 90) oreParallele(c, strato);
 }
 
 void TracciaSustilareAnalitica(Corsa &c, const LineeAttese &linee) {
-    const Variabili &v = c.s.v;
+    const Variabili &v = c.v;
     if (v.angSustilare == 0) return;
     const Valore t = tan(v.angSustilare);
     const Pretendi pretendi(c.s.tavolo, Specie::Sustilare);
@@ -79,7 +95,7 @@ void TracciaSustilareAnalitica(Corsa &c, const LineeAttese &linee) {
 }
 
 void TracciaEquinozialeAnalitica(Corsa &c, const LineeAttese &linee) {
-    const Variabili &v = c.s.v;
+    const Variabili &v = c.v;
     const Pretendi pretendi(c.s.tavolo, Specie::Equinoziale);
     if (v.lat > 0) {
         const Valore t = tan(v.angSustilare), q = v.y0 / cos(v.angSustilare);
@@ -96,7 +112,7 @@ void TracciaEquinozialeAnalitica(Corsa &c, const LineeAttese &linee) {
 }
 
 void TracciaTriangoloAnalitico(Corsa &c, const LineeAttese &linee) {
-    const Variabili &v = c.s.v;
+    const Variabili &v = c.v;
     Tavolo &tavolo = c.s.tavolo;
     // T, the tip laid flat: on the line from C at altStilo from the substyle, and square to the substyle at G.
     Reale xT, yT;
@@ -109,7 +125,7 @@ void TracciaTriangoloAnalitico(Corsa &c, const LineeAttese &linee) {
     tavolo.TracciaPunto(v.xCentroNeg, v.yCentroNeg, BIANCO, SENZA_STRATO);
 }
 void TracciaOrizzontale(Corsa &c, const LineeAttese &linee) {
-    const Variabili &v = c.s.v;
+    const Variabili &v = c.v;
     const Pretendi pretendi(c.s.tavolo, Specie::Orizzonte);
     c.s.tavolo.TracciaLinea(-v.semiL, v.yCentroNeg, v.semiL, v.yCentroNeg, linee[0].colore);
 }

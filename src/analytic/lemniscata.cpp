@@ -5,16 +5,18 @@
 
 namespace ombrelia::analytic {
 
-void PreparaLemniscata(Corsa &c) {
+// The longitude, of the equivalent dial where there is one, and its angle of time, whatever oraFuso says; where the equinoctial
+// lies.
+void LasciaLemniscata(Corsa &c) {
     Variabili &v = c.s.v;
     if (v.flagVerticale == 1) v.lon = v.lonEq;
     v.y0 = DistanzaEquinoziale(v.gn, v.altStilo);
     LasciaDalMeridiano(v);
-    v.corrLong = v.lonPiu15 * PI / 180;
+    v.corrLong = CorrezioneLongitudine(v);
 }
 
 void TracciaLemniscataAnalitica(Corsa &c, const LineeAttese &linee) {
-    const Variabili &v = c.s.v;
+    const Variabili &v = c.v;
     Tavolo &tavolo = c.s.tavolo;
     const Pretendi pretendi(tavolo, Specie::Analemma, linee[0].valore);
 

@@ -10,13 +10,13 @@ namespace {
 
 // ora is the hour, so counted, of noon at the equinox.
 void conta(const Corsa &c, double ora, LineeAttese &linee) {
-    if (c.s.v.lat_o == 0 && c.s.in.ckCorretta != 1) return;  // no tangents at the equator
+    if (c.v.lat_o == 0 && c.s.in.ckCorretta != 1) return;  // no tangents at the equator
     for (const double a : Conteggio(-90, 90, 15)) linee.push_back({a, ora + a / 15, "", BIANCO});
 }
 
 // verso is the sign before the root of the tangent's slope: -1 from sunset, 1 from sunrise.
 void traccia(Corsa &c, const LineeAttese &linee, Specie specie, double verso) {
-    const Variabili &v = c.s.v;
+    const Variabili &v = c.v;
     Tavolo &tavolo = c.s.tavolo;
     if (linee.empty()) return;
     const Valore seno = sin(v.latR);
@@ -56,10 +56,12 @@ void traccia(Corsa &c, const LineeAttese &linee, Specie specie, double verso) {
 
 }  // namespace
 
-void PreparaTangenti(Corsa &c) {
+// The original dial's latitude, radians, in the place of the plane's: the analemma after these lines takes it, meant. Where the
+// equinoctial lies.
+void LasciaTangenti(Corsa &c) {
     Variabili &v = c.s.v;
     if (v.lat_o == 0) return;
-    v.latR = v.lat_o;  // stays so: meant
+    v.latR = v.lat_o;
     v.y0 = DistanzaEquinoziale(v.gn, v.altStilo);
 }
 void LineeItaliche(const Corsa &c, LineeAttese &linee) { conta(c, 18, linee); }

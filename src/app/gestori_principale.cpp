@@ -105,7 +105,7 @@ void cmdRun(Sessione &s) {
     const Reale lat = Val(s.in.txtLAT);
     if (lat < 0) {
         // A run that is refused leaves the South as it is typed.
-        if (direct::TroppoFitta(s)) return;
+        if (direct::TroppoFitta(s, Lettura(s.in))) return;
         // A southern dial is the northern one of the mirrored latitude. The drawing is mirrored by the user, or at once; then the
         // field keeps the latitude that the dial has.
         const std::string scritta = s.in.txtLAT;

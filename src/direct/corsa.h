@@ -24,9 +24,10 @@ private:
 };
 
 struct Corsa {
-    explicit Corsa(Sessione &sessione) : s(sessione), letto(sessione.in), cornice(CorniceDi(letto)) {}
+    explicit Corsa(Sessione &sessione) : s(sessione), v(sessione.v), letto(sessione.in), cornice(CorniceDi(letto)) {}
 
-    Sessione &s;
+    Sessione &s;         // what lines are drawn on
+    const Variabili &v;  // as they stand; what a routine leaves there it leaves in a function Lascia...
     Lettura letto;
     Cornice cornice;
     bool orizzontale = false;    // the original dial lies level
@@ -34,8 +35,8 @@ struct Corsa {
     GiornoDiOre giorno;
     std::optional<SemiArchi> archi;  // when a line first asks
 
-    void rifaiPiano() { piano.emplace(s.v); }
-    [[nodiscard]] const SemiArchi &semiArchi() { return archi ? *archi : archi.emplace(s.v.lat_o); }
+    void rifaiPiano() { piano.emplace(v); }
+    [[nodiscard]] const SemiArchi &semiArchi() { return archi ? *archi : archi.emplace(v.lat_o); }
 };
 
 // Lines of the features, and their drawing; see the table in diretta.cpp.
@@ -60,7 +61,7 @@ void TracciaEquinoziale(Corsa &c, const LineeAttese &linee);
 void TracciaSustilare(Corsa &c, const LineeAttese &linee);
 void TracciaStiloPolare(Corsa &c, const LineeAttese &linee);
 void TracciaVerticaleCentro(Corsa &c, const LineeAttese &linee);
-void PreparaLemniscata(Corsa &c);
+void LasciaLemniscata(Corsa &c);
 void LineeLemniscata(const Corsa &c, LineeAttese &linee);
 // Mean noon of the zone through a year of tenths of days, from SoleAllaLongitudine; its own test: beyond the horizontal and in
 // the South the frame alone decides.

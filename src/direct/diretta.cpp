@@ -15,7 +15,7 @@ namespace {
 
 void didascalia(Corsa &c, Valore seno, Valore q) {
     Sessione &s = c.s;
-    const Variabili &v = s.v;
+    const Variabili &v = c.v;
     const std::string_view misura = TestoUnita(s);
     const Reale estate = AltezzaSolstizio(v.latR, 1);
     const Reale inverno = AltezzaSolstizio(v.latR, -1);
@@ -52,7 +52,7 @@ void didascalia(Corsa &c, Valore seno, Valore q) {
 }
 
 void rettaOrizzonte(Corsa &c, const LineeAttese &linee) {
-    const Valore y = c.s.v.yOriz;
+    const Valore y = c.v.yOriz;
     const double l = c.s.tavolo.ShiftX();
     const Pretendi pretendi(c.s.tavolo, Specie::Orizzonte);
     c.s.tavolo.TracciaLinea(-l, y, l, y, linee[0].colore);
@@ -64,8 +64,6 @@ void rettaOrizzonte(Corsa &c, const LineeAttese &linee) {
 void cornice(Corsa &c) {
     if (c.s.in.ckCorretta != 1) TracciaCornice(c.s, c.letto);
 }
-
-// One line, with no counter of its own.
 
 // The signs read the fields once more; the horizon is the field's from here on, unscaled, and the plane what was typed.
 void zodiaco(Corsa &c, const LineeAttese &) {
@@ -111,7 +109,7 @@ constexpr Riga CARATTERISTICHE[] = {
     {&In::ckAlt, Specie::Almucantarat, "equal altitudes", [](const Corsa &c, LineeAttese &l) { LineeAlmucantarat(c.letto, l); },
      almucantarat},
     {&In::ck_Lemniscate, Specie::Analemma, "mean noon of the zone", LineeLemniscata, TracciaLemniscata, nullptr,
-     PreparaLemniscata},
+     LasciaLemniscata},
     {&In::ckAsr, Specie::Asr, "afternoon prayer",
      [](const Corsa &, LineeAttese &l) {
          l.push_back({0, 1, "", ARGENTO});
@@ -132,7 +130,7 @@ constexpr Riga ORIZZONTE_DI_NUOVO[] = {
 // Behind the frame; the lines appear once a request.
 constexpr Riga ULTIME[] = {
     {&In::ckAz, Specie::Azimut, "equal azimuths", LineeAzimutali, TracciaRetteAzimutali,
-     [](const Corsa &c) { return c.s.v.latR != 0 || c.s.in.ckCorretta == 1; }, [](Corsa &c) { c.s.in.ckAz = 0; }},
+     [](const Corsa &c) { return c.v.latR != 0 || c.s.in.ckCorretta == 1; }, [](Corsa &c) { c.s.in.ckAz = 0; }},
 };
 
 // Bearing in every run; curve and texts with CkQibla set, the curve only off the equator. Gives the caption's bearing.
@@ -143,17 +141,86 @@ Reale qibla(Corsa &c) {
     const LineaAttesa curva{0, 0, "Quibla", VERDE};
     const bool fatta = s.corretta({Motore::Diretta, Specie::Qibla, Specie::Nessuna, {&curva, chiesta ? 1U : 0U}, &qibla.q});
     if (chiesta) {
-        if (!fatta && s.v.latR != 0) TracciaQibla(c, qibla.B);
+        if (!fatta && c.v.latR != 0) TracciaQibla(c, qibla.B);
         TestiQibla(c, qibla.q);
     }
     return qibla.q;
 }
 
+// --- what the run leaves in the shared variables beside its features ------------------------------------------------------
+
+// The fields, as every engine reads them; the unit; the sign of a latitude that is positive by now.
+void leggiParametri(Corsa &c) {
+    Variabili &v = c.s.v;
+    v.unita = c.letto.unita;
+    LeggiParametri(c.s, c.letto);
+    v.segnoLat2 = SegnoLatitudine(v.latR);
+}
+
+// A level plane has no declination: in the variables, in the field and for the rest of the run.
+void lasciaOrizzontale(Corsa &c) {
+    c.s.v.decR = 0;
+    c.s.Scrivi(&DialInputs::txtDec, "0");
+    c.letto.dec = 0;
+}
+
+// The place of the origin on a sheet that has none yet, and the shift that holds; metres.
+void lasciaOrigine(Sessione &s) {
+    Variabili &v = s.v;
+    Tavolo &t = s.tavolo;
+    v.rapportoBase = v.inc_o == 90 ? 2.0 : 3.33333;
+    if (t.ShiftX() == 0 && t.ShiftY() == 0) {
+        t.ShiftX(t.QuadranteL() / 2.0);
+        t.ShiftY((t.QuadranteH() / v.rapportoBase).v);
+    }
+    v.origineX = t.ShiftX();
+    v.origineY = t.ShiftY();
+}
+
+// The horizon's ordinate of the original plane, metres, which most lines end at; its field, in its unit. A level plane has none
+// and gets one that lets every line pass.
+void lasciaOrizzonte(Sessione &s) {
+    Variabili &v = s.v;
+    if (v.iz_o == PI / 2.0) {
+        v.yOriz = -1;
+        return;
+    }
+    v.yOriz = v.gn * tan(v.iz_o);
+    s.Scrivi(&DialInputs::txtOriz, TestoNumero(v.yOriz.numero()));
+    v.yOriz = v.yOriz * v.unita;
+}
+
+// Figures and caption start from the fields again, as the zodiac and the azimuth lines may have changed them; the latitude keeps
+// its sign from here on, a level plane its declination of 0.
+void rileggiPiano(Corsa &c) {
+    Variabili &v = c.s.v;
+    v.latR = PI * c.letto.lat / 180.0;
+    v.gn = c.letto.gn;
+    v.lonCopia = c.letto.lon;
+    v.incR = PI * c.letto.inc / 180;
+    c.rifaiPiano();
+}
+
+// The dial's centre, in the unit of the fields; untouched where the style lies in the plane.
+void lasciaCentro(Corsa &c) {
+    Variabili &v = c.s.v;
+    const Piano &p = *c.piano;
+    const Reale polo = p.senStilo();
+    if (polo == 0) return;
+    v.xCentro = (v.gn / polo) * p.cphi * p.sg;
+    v.yCentro = (-v.gn / polo) * p.ordinataCentro();
+}
+
+// The frame's upper left corner, metres.
+void lasciaCornice(Corsa &c) {
+    c.s.v.x1 = c.cornice.xMin;
+    c.s.v.y1 = c.cornice.yMax;
+}
+
 }  // namespace
 
-bool TroppoFitta(Sessione &s) {
+bool TroppoFitta(Sessione &s, const Lettura &letto) {
     const DialInputs &in = s.in;
-    const Lettura letto(in);
     const Valore frazione = letto.fraz == 0 ? Valore(1) : letto.fraz;
     const auto punti = static_cast<double>(Anno().size());
     const bool ore = in.ck_Italiche == 1 || in.ck_babiloniche == 1;
@@ -165,72 +232,36 @@ bool TroppoFitta(Sessione &s) {
 }
 
 void I_Graf_diretta(Sessione &s) {
-    Variabili &v = s.v;
-    Tavolo &t = s.tavolo;
-    if (v.flagVerticale == 1 && Abs(v.inc_o) == 90) {
+    if (s.v.flagVerticale == 1 && Abs(s.v.inc_o) == 90) {
         s.utente.Box(s.Traduci("Funzione disabilitata"));
         return;
     }
     s.Messaggio("I_Graf_diretta per ogni tipo di os comunque orientato ");
     Corsa c(s);
     if (Sgn(c.letto.lat) == -1) return;
-    if (TroppoFitta(s)) return;
+    if (TroppoFitta(s, c.letto)) return;
 
     RinfrescaOriginale(s, c.letto);
-    v.unita = c.letto.unita;
-    LeggiParametri(s, c.letto);
-    v.segnoLat2 = SegnoLatitudine(v.latR);
+    leggiParametri(c);
     s.utente.Puntatore(true);
-
     // The original dial answers here and below, not the fields as they now stand.
-    c.orizzontale = Abs(v.iz_o) == PI / 2.0;
-    if (c.orizzontale) {
-        v.decR = 0;
-        s.Scrivi(&DialInputs::txtDec, "0");
-        c.letto.dec = 0;
-    }
+    c.orizzontale = Abs(c.v.iz_o) == PI / 2.0;
+    if (c.orizzontale) lasciaOrizzontale(c);
     c.rifaiPiano();
     const Reale seno = c.piano->senStilo();
-    v.rapportoBase = v.inc_o == 90 ? 2.0 : 3.33333;
-    if (t.ShiftX() == 0 && t.ShiftY() == 0) {
-        t.ShiftX(t.QuadranteL() / 2.0);
-        t.ShiftY((t.QuadranteH() / v.rapportoBase).v);
-    }
-    v.origineX = t.ShiftX();
-    v.origineY = t.ShiftY();
+    lasciaOrigine(s);
     TracciaAssi(s);
-    if (v.iz_o != PI / 2.0) {
-        v.yOriz = v.gn * tan(v.iz_o);
-        s.Scrivi(&DialInputs::txtOriz, TestoNumero(v.yOriz.numero()));
-        v.yOriz = v.yOriz * v.unita;
-    } else {
-        v.yOriz = -1;
-    }
-
+    lasciaOrizzonte(s);
     Percorri(c, Motore::Diretta, CARATTERISTICHE);
 
-    // The figures and the caption start from the fields again; the latitude keeps its sign from here on, a level plane
-    // its declination of 0.
-    v.latR = PI * c.letto.lat / 180.0;
-    t.Dati("");
-    v.gn = c.letto.gn;
-    v.lonCopia = c.letto.lon;
-    v.incR = PI * c.letto.inc / 180;
-    c.rifaiPiano();
-
+    rileggiPiano(c);
+    s.tavolo.Dati("");
     const Reale q = qibla(c);
-
-    // The centre, left in the unit of the fields.
-    const Reale polo = c.piano->senStilo();
-    if (polo != 0) {
-        v.xCentro = (v.gn / polo) * c.piano->cphi * c.piano->sg;
-        v.yCentro = (-v.gn / polo) * c.piano->ordinataCentro();
-    }
+    lasciaCentro(c);
     Percorri(c, Motore::Diretta, ORIZZONTE);
     didascalia(c, seno, q);
     Percorri(c, Motore::Diretta, ORIZZONTE_DI_NUOVO);
-    v.x1 = c.cornice.xMin;
-    v.y1 = c.cornice.yMax;
+    lasciaCornice(c);
     TracciaLimiti(s, c.letto, c.cornice);
     Percorri(c, Motore::Diretta, ULTIME);
     s.utente.Puntatore(false);

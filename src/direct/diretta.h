@@ -11,6 +11,6 @@ namespace ombrelia::direct {
 void I_Graf_diretta(Sessione &s);
 
 // Whether I_Graf_diretta would refuse for loops too long; tells the user which field.
-[[nodiscard]] bool TroppoFitta(Sessione &s);
+[[nodiscard]] bool TroppoFitta(Sessione &s, const Lettura &letto);
 
 }  // namespace ombrelia::direct

@@ -27,7 +27,7 @@ constexpr std::string_view STRATO_OPZIONALE = "Delta opt";
 
 void LineeDiurne(const Corsa &c, LineeAttese &linee) {
     const bool intermedie = c.s.in.ckFunzione == 1;
-    const Reale verso = c.s.v.segnoLat;
+    const Reale verso = c.v.segnoLat;
     for (const Diurna &d : DIURNE)
         if (!d.intermedia || intermedie) linee.push_back({d.delta, (d.dichiarata * verso).v, d.strato, d.colore});
     // A whole ten-thousandth more than asked for: meant.
@@ -37,7 +37,7 @@ void LineeDiurne(const Corsa &c, LineeAttese &linee) {
 
 void TracciaLineeDiurne(Corsa &c, const LineeAttese &linee) {
     Sessione &s = c.s;
-    Variabili &v = s.v;
+    const Variabili &v = c.v;
     const Piano &p = *c.piano;
     // The half-plane beyond the equinoctial, to tell the branches of the conics: the substyle's angle S, the elevation
     // Hs of the style, and (a, b) where the substyle meets the equinoctial.
@@ -52,6 +52,7 @@ void TracciaLineeDiurne(Corsa &c, const LineeAttese &linee) {
     const Proiezione proietta(v);
     const std::vector<SenCos> &ore = c.giorno.con(v.diffLong);
     Reale x, y;
+    Reale gradi = v.deltaOpz;  // a declination of choice without a value takes that of the line before
     for (const LineaAttesa &l : linee) {
         const Valore delta = l.parametro;
         int lato = delta < 0 ? 1 : delta > 0 ? -1 : 0;
@@ -61,8 +62,8 @@ void TracciaLineeDiurne(Corsa &c, const LineeAttese &linee) {
             lato = d.lato;
             forza = d.forzato && E == 0;
         }
-        v.deltaOpz = delta;
-        const double tanD = tan(PI * v.deltaOpz / 180).v;
+        gradi = delta;
+        const double tanD = tan(PI * gradi / 180).v;
         const Pretendi pretendi(s.tavolo, Specie::Diurna, l.valore);
         Catena catena(s.tavolo, l.strato);
         for (const SenCos &t : ore) {
@@ -71,16 +72,17 @@ void TracciaLineeDiurne(Corsa &c, const LineeAttese &linee) {
             catena.punto(x, y, (forza || (lato > 0 ? W > 0 : lato < 0 && W < 0)) && passa(x, y), l.colore);
         }
     }
+    LasciaDeclinazione(s.v, gradi);
 }
 
 void TracciaEquinoziale(Corsa &c, const LineeAttese &linee) {
-    const Sbarramento passa(c.cornice, c.s.v);
-    const Proiezione proietta(c.s.v);
+    const Sbarramento passa(c.cornice, c.v);
+    const Proiezione proietta(c.v);
     for (const LineaAttesa &l : linee) {
         const Pretendi pretendi(c.s.tavolo, Specie::Equinoziale);
         Catena catena(c.s.tavolo, l.strato);
         Reale x, y;
-        for (const SenCos &t : c.giorno.con(c.s.v.diffLong)) {
+        for (const SenCos &t : c.giorno.con(c.v.diffLong)) {
             proietta.equinozio(t, x, y);
             catena.punto(x, y, passa(x, y), l.colore);
         }

@@ -16,11 +16,20 @@ Centro centro(const Piano &p) {
 
 }  // namespace
 
-void TracciaStiloPolare(Corsa &c, const LineeAttese &linee) {
-    Variabili &v = c.s.v;
-    Tavolo &t = c.s.tavolo;
+namespace {
+
+// The signs with which the style was drawn: the zodiac and the reports take them.
+void lasciaSegni(Variabili &v) {
     v.segnoLat2 = 1;
     v.segnoDec = SegnoDeclinazione(v.dec, v.decR);
+}
+
+}  // namespace
+
+void TracciaStiloPolare(Corsa &c, const LineeAttese &linee) {
+    lasciaSegni(c.s.v);
+    const Variabili &v = c.v;
+    Tavolo &t = c.s.tavolo;
     const Piano &p = *c.piano;
     // No quadrant correction: the substyle is read in the right half-circle of the arc tangent.
     Reale S;
@@ -47,46 +56,50 @@ void TracciaVerticaleCentro(Corsa &c, const LineeAttese &linee) {
 }
 
 void TracciaSustilare(Corsa &c, const LineeAttese &linee) {
-    Variabili &v = c.s.v;
+    const Conteggio anno(-50, 50, 0.05);  // past the solstices, so as to reach the centre
     const Reale t = c.piano->oraSustilare();
     const SenCos angolo(t);
-    const Proiezione proietta(v);
+    const Proiezione proietta(c.v);
     const Pretendi pretendi(c.s.tavolo, Specie::OraSustilare);
     Catena catena(c.s.tavolo, linee[0].strato);
     Reale x, y;
-    // Past the solstices, so as to reach the centre.
-    for (const double d : Conteggio(-50, 50, 0.05)) {
-        v.deltaOpz = d;
+    for (const double d : anno) {
         proietta(angolo, std::tan(PI * d / 180), x, y);
         catena.punto(x, y, c.cornice.contiene(x, y), linee[0].colore);
     }
+    LasciaFine(c.s.v, anno);
 }
 
 void LineeAzimutali(const Corsa &c, LineeAttese &linee) {
     // The azimuth that the mirror of north and south makes of one.
-    const bool australe = c.s.v.segnoLat == -1;
+    const bool australe = c.v.segnoLat == -1;
     for (const double A : Conteggio(-90, 90, 15)) linee.push_back({A, !australe ? A : A < 0 ? -180 - A : 180 - A, "", OLIVA});
 }
 
-void TracciaRetteAzimutali(Corsa &c, const LineeAttese &linee) {
-    Sessione &s = c.s;
-    Variabili &v = s.v;
-    // Read again: a level plane's declination was put to 0 above.
+namespace {
+
+// The plane read again; a horizontal one is worked as the wall that it equals, and stays that wall. Whether it is.
+bool rileggiPiano(Corsa &c) {
+    Variabili &v = c.s.v;
     v.latR = PI * c.letto.lat / 180.0;
     Reale G = c.letto.dec;
     if (v.latR < 0) G = -(180 + G);
     v.decR = PI * G / 180;
     v.gn = c.letto.gn;
-    Reale limite;
-    if (v.incR == PI / 2.0) {
-        // A horizontal plane is worked as the wall that it equals.
-        limite = 10;
-        v.decR = PI;
-        v.latR = (PI / 2.0) - v.latR;
-        v.incR = 0;
-    } else {
-        limite = v.gn * tan(v.incR);  // unscaled, as meant
-    }
+    if (v.incR != PI / 2.0) return false;
+    v.decR = PI;
+    v.latR = (PI / 2.0) - v.latR;
+    v.incR = 0;
+    return true;
+}
+
+}  // namespace
+
+void TracciaRetteAzimutali(Corsa &c, const LineeAttese &linee) {
+    Sessione &s = c.s;
+    const bool orizzontale = rileggiPiano(c);
+    const Variabili &v = c.v;
+    const Reale limite = orizzontale ? Valore(10) : v.gn * tan(v.incR);  // unscaled, as meant
     const Proiezione proietta(v);
     const Valore tanLat = tan(v.latR), senLat = sin(v.latR);
     Reale t, x, y;
@@ -101,7 +114,7 @@ void TracciaRetteAzimutali(Corsa &c, const LineeAttese &linee) {
             if (y <= limite && c.cornice.contiene(x, y)) s.tavolo.TracciaPunto(x, y, l.colore);
         }
     }
-    v.deltaOpz = Anno().back().d;  // left: the end of the sweep
+    LasciaFine(s.v, Anno());
 }
 
 }  // namespace ombrelia::direct

@@ -1,36 +1,30 @@
 // The analemma of the direct engine: the figure of mean noon at the zone's meridian, through a year of tenths of days.
 #include "direct/corsa.h"
+#include "gnomonica/angoli_parete.h"
 #include "gnomonica/longitudine.h"
 
 namespace ombrelia::direct {
 
 // What both hemispheres leave behind, whoever draws: substyle angle and style height of the wall, y0 overwritten with the
 // distance from the foot to the equinoctial, and the longitude. oraFuso plays no part.
-void PreparaLemniscata(Corsa &c) {
+void LasciaLemniscata(Corsa &c) {
     Variabili &v = c.s.v;
     if (v.flagVerticale == 1 && v.flagTrasformato != 1) v.lon = v.lonEq;
-    v.segnoDec = SegnoDeclinazione(v.dec, v.decR);
-    if (v.lat == 0) {
-        v.angSustilare = (PI / 2.0) * v.segnoDec;
-        v.altStilo = StiloMuroEquatore(v.decR);
-    } else {
-        v.angSustilare = SustilareMuro(v.latR, v.decR);
-        v.altStilo = StiloMuroQuadrati(v.latR, v.decR);
-    }
+    LasciaStiloParete(v);
     v.y0 = DistanzaEquinoziale(v.gn, v.altStilo);
     LasciaDalMeridiano(v);
     v.corrLong = v.segnoLat == -1 ? -PI * v.lonPiu15 / 180 : CorrezioneLongitudine(v);
 }
 
 void LineeLemniscata(const Corsa &c, LineeAttese &linee) {
-    const Variabili &v = c.s.v;
+    const Variabili &v = c.v;
     const bool pendente = v.incR < PI / 2.0;
     if (v.segnoLat == -1) linee.push_back({0, 12, "Analemma Sud", pendente ? VERDE : VERDE_SCURO});
     else linee.push_back({0, 12, "Analemma", VERDE});
 }
 
 void TracciaLemniscata(Corsa &c, const LineeAttese &linee) {
-    const Variabili &v = c.s.v;
+    const Variabili &v = c.v;
     const bool sud = v.segnoLat == -1;
     // Not the chord test of the other lines: beyond the horizontal the frame alone decides, in the South always.
     const bool conOrizzonte = !sud && v.incR < PI / 2.0;

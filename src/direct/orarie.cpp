@@ -1,12 +1,13 @@
 // Hour lines of the direct engine and the hours counted from sunset, sunrise and by twelfths of the day: chains of
 // chords over the declinations of the year, so that a line exists only between the solstices.
 #include "direct/corsa.h"
+#include "gnomonica/longitudine.h"
 #include "gnomonica/ricordo.h"
 
 namespace ombrelia::direct {
 
 void LineeOrarie(const Corsa &c, LineeAttese &linee) {
-    const Variabili &v = c.s.v;
+    const Variabili &v = c.v;
     struct Famiglia {
         double inizio, passo;
         std::string_view strato;
@@ -31,8 +32,8 @@ void LineeOrarie(const Corsa &c, LineeAttese &linee) {
 
 void TracciaRetteOrarie(Corsa &c, const LineeAttese &linee) {
     Sessione &s = c.s;
-    Variabili &v = s.v;
-    const Reale scarto = Valore((PI * v.lonPiu15 / 180) * v.oraFuso * 1);
+    const Variabili &v = c.v;
+    const Reale scarto = CorrezioneFuso(v);
     const Sbarramento passa(c.cornice, v);
     const Proiezione proietta(v);
     Reale x, y;
@@ -45,7 +46,7 @@ void TracciaRetteOrarie(Corsa &c, const LineeAttese &linee) {
             catena.punto(x, y, passa(x, y), l.colore);
         }
     }
-    v.deltaOpz = Anno().back().d;  // left: the end of the sweep
+    LasciaFine(s.v, Anno());
 }
 
 SemiArchi::SemiArchi(Valore latitudine) {
@@ -81,7 +82,7 @@ Valore frazione(const Corsa &c) {
 template <typename Angolo, typename Dentro>
 void tracciaOre(Corsa &c, const LineeAttese &linee, Specie specie, std::string_view strato, Angolo angolo, Dentro dentro) {
     Sessione &s = c.s;
-    Variabili &v = s.v;
+    const Variabili &v = c.v;
     const Sbarramento passa(c.cornice, v);
     const Proiezione proietta(v);
     const SemiArchi &archi = c.semiArchi();
@@ -99,10 +100,10 @@ void tracciaOre(Corsa &c, const LineeAttese &linee, Specie specie, std::string_v
             proietta(seni(posto, t), Anno()[i].tanD, x, y);
             catena.punto(x, y, passa(x, y), l.colore);
         }
-        v.deltaOpz = Anno().back().d;  // left: the end of the sweep
         catena.fine();
         prima = false;
     }
+    if (!linee.empty()) LasciaFine(s.v, Anno());
 }
 
 bool diGiorno(double t, double H0) { return std::fabs(t) <= H0; }
@@ -118,19 +119,19 @@ void LineeBabiloniche(const Corsa &c, LineeAttese &linee) {
 void LineeTemporarie(const Corsa &c, LineeAttese &linee) { conta({0, 12, 1 / frazione(c)}, "Temp", ACQUA, linee); }
 
 void TracciaOreItaliche(Corsa &c, const LineeAttese &linee) {
-    const double diff = c.s.v.diffLong.numero();
+    const double diff = c.v.diffLong.numero();
     tracciaOre(
         c, linee, Specie::Italica, "Ita", [diff](double k, double H0) { return PI * k / 12 + H0 - 2 * PI + diff; }, diGiorno);
 }
 
 void TracciaOreBabiloniche(Corsa &c, const LineeAttese &linee) {
-    const double diff = c.s.v.diffLong.numero();
+    const double diff = c.v.diffLong.numero();
     tracciaOre(
         c, linee, Specie::Babilonica, "Bab", [diff](double k, double H0) { return PI * k / 12 - H0 + diff; }, diGiorno);
 }
 
 void TracciaOreTemporarie(Corsa &c, const LineeAttese &linee) {
-    const double diff = c.s.v.diffLong.numero();
+    const double diff = c.v.diffLong.numero();
     tracciaOre(
         c, linee, Specie::Temporaria, "Temp", [diff](double k, double H0) { return H0 * (k / 6 - 1) + diff; },
         [](double, double) { return true; });

@@ -5,7 +5,7 @@ namespace ombrelia::direct {
 
 void TracciaAsr(Corsa &c, const LineeAttese &linee) {
     Sessione &s = c.s;
-    Variabili &v = s.v;
+    const Variabili &v = c.v;
     const Sbarramento passa(c.cornice, v);
     const Proiezione proietta(v);
     const Valore senLat = sin(v.latR), cosLat = cos(v.latR);
@@ -23,11 +23,11 @@ void TracciaAsr(Corsa &c, const LineeAttese &linee) {
         // A horizontal plane takes every point of the frame, a second time where the horizon let it pass.
         if (c.orizzontale && c.cornice.contiene(x, y)) s.tavolo.TracciaPunto(x, y, colore);
     }
-    v.deltaOpz = Anno().back().d;  // left: the end of the sweep
+    LasciaFine(s.v, Anno());
 }
 
 Qibla CalcolaQibla(const Corsa &c) {
-    const Variabili &v = c.s.v;
+    const Variabili &v = c.v;
     const Reale F = PI * c.letto.qLat / 180;
     const Reale L = PI * (c.letto.qLon - v.lonCopia) / 180;
     const Reale T = sin(L) / (sin(v.latR) * cos(L) - cos(v.latR) * tan(F));
@@ -39,7 +39,7 @@ Qibla CalcolaQibla(const Corsa &c) {
 
 void TracciaQibla(Corsa &c, Valore B) {
     Sessione &s = c.s;
-    Variabili &v = s.v;
+    const Variabili &v = c.v;
     const Proiezione proietta(v);
     const bool piana = c.letto.inc == 90;
     const bool nord = v.latR >= 0;
@@ -48,7 +48,7 @@ void TracciaQibla(Corsa &c, Valore B) {
     const Pretendi pretendi(s.tavolo, Specie::Qibla);
     Catena catena(s.tavolo, "Quibla");
     Reale t, x, y;
-    v.deltaOpz = AnnoFitto().back().d;  // left: the end of the sweep
+    LasciaFine(s.v, AnnoFitto());
     for (const auto &[d, tanD] : AnnoFitto()) {
         const Valore r = tanD * senB / tanLat;
         if (!(Abs(r) < 1)) continue;
@@ -69,7 +69,7 @@ void TestiQibla(Corsa &c, Valore q) {
     };
     riga("latitude  = "_it, c.letto.qLat, " °");
     riga("longitude  = "_it, c.letto.qLon, " °");
-    if (s.v.latR > 0) {
+    if (c.v.latR > 0) {
         riga("Qibla from South = "_it, q, "° azimuth");
         riga("Qibla from North = "_it, q < 0 ? 180 + q : -180 + q, "° azimuth");
     } else {

@@ -4,6 +4,7 @@
 #include "core/conteggio.h"
 #include "gnomonica/declinazioni.h"
 #include "gnomonica/proiezione.h"
+#include "gnomonica/spazzate.h"
 
 namespace ombrelia {
 
@@ -12,13 +13,24 @@ void LineeAlmucantarat(const Lettura &letto, LineeAttese &linee) {
     for (const double h : Conteggio(10, hMax, 10)) linee.push_back({h, h, "", ROSSO_SCURO});
 }
 
-void TracciaAlmucantarat(Sessione &s, const Lettura &letto, const Cornice &cornice, const LineeAttese &linee) {
-    Variabili &v = s.v;
+namespace {
+
+// The plane read again, latitude with its sign, without declination where it lies level; where the sweep ends.
+void rileggiPiano(Variabili &v, const Lettura &letto, const Conteggio &anno) {
     v.latR = PI * letto.lat / 180.0;
     v.gn = letto.gn;
     v.incR = PI * letto.inc / 180;
+    if (Abs(letto.inc) == 90) v.decR = 0;
+    LasciaFine(v, anno);
+}
+
+}  // namespace
+
+void TracciaAlmucantarat(Sessione &s, const Lettura &letto, const Cornice &cornice, const LineeAttese &linee) {
+    const Conteggio declinazioni(-OBLIQUITA_2345, OBLIQUITA_2345, letto.passo * 10);
+    rileggiPiano(s.v, letto, declinazioni);
+    const Variabili &v = s.v;
     const bool orizzontale = Abs(letto.inc) == 90;
-    if (orizzontale) v.decR = 0;
     const Reale limite = v.gn * tan(v.incR);
     const bool nord = v.latR >= 0;
 
@@ -27,9 +39,8 @@ void TracciaAlmucantarat(Sessione &s, const Lettura &letto, const Cornice &corni
     };
     std::vector<Campione> anno;
     const Valore senLat = sin(v.latR), cosLat = cos(v.latR);
-    for (const double d : Conteggio(-OBLIQUITA_2345, OBLIQUITA_2345, letto.passo * 10)) {
+    for (const double d : declinazioni) {
         const double D = PI * d / 180;
-        v.deltaOpz = d;
         anno.push_back({std::tan(D), senLat.v * std::sin(D), cosLat.v * std::cos(D)});
     }
     const Proiezione proietta(v);

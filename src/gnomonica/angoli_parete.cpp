@@ -5,12 +5,12 @@
 
 namespace ombrelia {
 
-void CalcolaAngoliAnalitici(Sessione &s) {
-    Variabili &v = s.v;
-    LeggiParametri(s);
-    const Valore segno = v.decR == 0 ? Valore(1) : Sgn(v.decR);
+namespace {
+
+// What conics, hour lines and reports are worked out from.
+void lasciaAngoli(Variabili &v) {
     if (v.lat == 0) {
-        v.angSustilare = (PI / 2) * segno;
+        v.angSustilare = (PI / 2) * SegnoDeclinazione(v.decR, v.decR);
         v.altStilo = StiloMuroEquatore(v.decR);
         v.angoloOra = (PI / 2) * v.segnoDec;  // the sign that the run before left: meant
     } else {
@@ -18,6 +18,24 @@ void CalcolaAngoliAnalitici(Sessione &s) {
         v.altStilo = StiloMuro(v.latR, v.decR);
         v.angoloOra = -Atn(tan(v.angSustilare) / sin(v.altStilo));
     }
+}
+
+}  // namespace
+
+void LasciaStiloParete(Variabili &v) {
+    v.segnoDec = SegnoDeclinazione(v.dec, v.decR);
+    if (v.lat == 0) {
+        v.angSustilare = (PI / 2) * v.segnoDec;
+        v.altStilo = StiloMuroEquatore(v.decR);
+    } else {
+        v.angSustilare = SustilareMuro(v.latR, v.decR);
+        v.altStilo = StiloMuroQuadrati(v.latR, v.decR);
+    }
+}
+
+void CalcolaAngoliAnalitici(Sessione &s, const Lettura &letto) {
+    LeggiParametri(s, letto);
+    lasciaAngoli(s.v);
 }
 
 }  // namespace ombrelia

@@ -13,6 +13,9 @@ inline void LasciaDalMeridiano(Variabili &v) { v.lonPiu15 = DalMeridiano(v.lon, 
 // The same as an angle of time, radians.
 inline Valore CorrezioneLongitudine(const Variabili &v) { return PI * v.lonPiu15 / 180; }
 
+// The same with the box of the zone's time set, else 0.
+inline Valore CorrezioneFuso(const Variabili &v) { return CorrezioneLongitudine(v) * v.oraFuso; }
+
 // "Costante locale", minutes of time: from lonCopia, the longitude as typed.
 inline Valore CostanteLocale(const Variabili &v) { return 4 * (v.lonCopia - v.meridiano); }
 // Whether the zone is another than the one at start; captions then name its meridian.

@@ -44,4 +44,14 @@ struct Mezzodi {
 [[nodiscard]] const std::vector<Mezzodi> &AnnoMedioGiorni();
 [[nodiscard]] const std::vector<Mezzodi> &AnnoMedioGiorniAlterni();
 
+// The running declination, degrees, stays in deltaOpz for whoever reads it next: the reports, the Sun's point, a line of choice
+// without a value. Left by what sweeps declinations: the last of them; a sweep that takes no step leaves none.
+inline void LasciaDeclinazione(Variabili &v, Valore gradi) { v.deltaOpz = gradi; }
+inline void LasciaFine(Variabili &v, const std::vector<Declinazione> &anno) { LasciaDeclinazione(v, anno.back().d); }
+inline void LasciaFine(Variabili &v, const Conteggio &anno) {
+    Valore ultima = v.deltaOpz;
+    for (const double d : anno) ultima = d;
+    LasciaDeclinazione(v, ultima);
+}
+
 }  // namespace ombrelia

@@ -44,10 +44,11 @@ struct Piano {
     [[nodiscard]] Valore divisoreSustilare() const { return tphi * ci + cg * si; }
     // Tangent of the substyle's angle from the line of greatest slope.
     [[nodiscard]] Valore tanSustilare() const { return sg / divisoreSustilare(); }
-    // Hour angle of the substyle; 90 degrees on a wall at the equator.
-    [[nodiscard]] Valore oraSustilare() const {
-        return phi == 0 && i == 0 ? Valore(PI / 2.0) : Arco2(sg, sphi * cg + cphi * tan(i));
-    }
+    // What the tangent of the substyle's hour angle divides by, and that hour angle; 90 degrees on a wall at the equator.
+    [[nodiscard]] Valore divisoreOra() const { return sphi * cg + cphi * tan(i); }
+    [[nodiscard]] Valore oraSustilare() const { return phi == 0 && i == 0 ? Valore(PI / 2.0) : Arco2(sg, divisoreOra()); }
+    // Sine of the latitude of the equivalent wall, whose zenith lies in the plane.
+    [[nodiscard]] Valore senZenit() const { return sphi * ci + cphi * si * cg; }
     // Ordinate of the dial's centre over gn and senStilo, with the other sign.
     [[nodiscard]] Valore ordinataCentro() const {
         const Valore z = (PI / 2.0) - i;
@@ -58,16 +59,23 @@ struct Piano {
     Valore sphi, cphi, tphi, sg, cg, si, ci;
 };
 
+// An angle known but for half a turn, on that side of the meridian on which guida lies.
+inline Valore DalLatoDi(Valore guida, Valore angolo) {
+    if (Sgn(sin(angolo)) == Sgn(sin(guida))) return angolo;
+    return angolo > 0 ? angolo - PI : angolo + PI;
+}
+
 // --- walls (i = 0) --------------------------------------------------------------------------------------------------
 
 // Elevation of the style over a wall; negative over one that looks away from the equator. Faults at +-1, so on a wall
 // that looks due south at the equator.
 inline Valore StiloMuro(Valore phi, Valore g) { return ArcSin(cos(phi) * cos(g)); }
-// The same by squares of the factors: analemma of the direct engine, solstices of the analytic one.
-inline Valore StiloMuroQuadrati(Valore phi, Valore g) {
+// The same by squares of the factors: analemma of the direct engine, solstices of the analytic one, reports; and its tangent.
+inline Valore TanStiloMuro(Valore phi, Valore g) {
     const Valore cl = cos(phi), cd = cos(g);
-    return Atn(cl * cd / Sqr(1.0 - cl * cl * (cd * cd)));
+    return cl * cd / Sqr(1.0 - cl * cl * (cd * cd));
 }
+inline Valore StiloMuroQuadrati(Valore phi, Valore g) { return Atn(TanStiloMuro(phi, g)); }
 // On the equator.
 inline Valore StiloMuroEquatore(Valore g) { return PI / 2.0 - Abs(g); }
 

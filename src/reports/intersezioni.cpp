@@ -86,7 +86,7 @@ void IntersezioniAnalitiche(Sessione &s, Uscita uscita) {
     Variabili &v = s.v;
     const Valore inizio = Val(s.in.TxtInizio), fine = Val(s.in.TxtFine);
     if (TroppeRighe(s, inizio, fine, Val(s.in.TxtFraz), 4)) return;
-    CalcolaAngoliAnalitici(s);
+    CalcolaAngoliAnalitici(s, Lettura(s.in));
     Foglio f(s, "Form7", uscita);
     const Reale seno = sin(v.decR) * cos(v.incR) / cos(v.altStilo);
     v.angoloOra = ArcSin(seno) + (DalMeridiano(v.lonCopia, v.meridiano) * PI / 180) * v.oraFuso;

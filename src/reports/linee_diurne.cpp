@@ -24,7 +24,7 @@ void LineeDiurne(Sessione &s, Uscita uscita) {
     if (TroppoFitto(
             s, {{inizio ? "txtMinus" : "txtMax", inizio ? s.in.txtMinus : s.in.txtMax, ascisse, PUNTI_MASSIMI / RIGHE_MASSIME}}))
         return;
-    CalcolaAngoliAnalitici(s);
+    CalcolaAngoliAnalitici(s, Lettura(s.in));
     Foglio f(s, "Form8", uscita);
     v.unita = unita;
     v.y0 = v.gn * tan(v.altStilo);

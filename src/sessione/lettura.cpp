@@ -30,6 +30,7 @@ Lettura::Lettura(const DialInputs &in)
       fine(Val(in.TxtFine)),
       qLat(Val(in.txtQlat)),
       qLon(Val(in.txtQlon)),
+      allungo(Val(in.txtSUBSTYLE)),
       unita(in.ChCentimetro == 1 ? 0.001 : 1.0),
       fuso(in.ck_Etna == 1) {}
 

@@ -18,6 +18,7 @@ struct Lettura {
     Valore fraz, delta, passo, limMin, limMax;  // tracing
     Valore inizio, fine;                        // of Italic and Babylonian hours
     Valore qLat, qLon;                          // of the Qibla
+    Valore allungo;                             // of the style, along the substyle
     Valore unita;                               // metres in a unit of length: 1 or 0.001
     bool fuso;                                  // in the zone's time
 };

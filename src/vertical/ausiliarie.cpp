@@ -13,45 +13,48 @@ void RileggiPiano(Corsa &c) {
     v.inc = c.letto.inc;
     v.incR = PI * v.inc / 180;
     v.gn = c.letto.gn;
-    PiegaDeclinazione(v);
+    v.decGradi = PiegaDeclinazione(v.latR, v.decGradi);
 }
 
 void TracciaSustilare(Corsa &c, const LineeAttese &linee) {
-    Variabili &v = c.s.v;
+    const Variabili &v = c.v;
+    const Conteggio anno(-OBLIQUITA, OBLIQUITA, 0.999 * v.passo);
     const Reale ps = OraSustilareMuro(v.latR, v.decR);
     const Orario ora(ps);
-    Sfera sfera(v);
+    const Sfera sfera(v);
     const Pretendi pretendi(c.s.tavolo, Specie::OraSustilare);
+    Direzione sole;
     Reale x, y;
-    for (const double d : Conteggio(-OBLIQUITA, OBLIQUITA, 0.999 * v.passo)) {
-        v.deltaOpz = d;
+    for (const double d : anno) {
         const Sfera::Giorno giorno = sfera.giorno(d);
-        sfera.A = Arco2(ora.sen, sfera.denominatore(ora, giorno));
-        sfera.altezza(ora, giorno);
-        sfera.punto(x, y);
+        sole.A = Arco2(ora.sen, sfera.denominatore(ora, giorno));
+        sfera.altezza(sole, ora, giorno);
+        sfera.punto(sole, x, y);
         if (c.cornice.contiene(x, y)) c.s.tavolo.TracciaPunto(x, y, linee[0].colore);
     }
+    LasciaFine(c.s.v, anno);
 }
 
-void PreparaOrizzonte(Corsa &c) {
+// The ordinate, metres; a plane that leans away or lies level keeps that of the line before. Its field shows it.
+void LasciaOrizzonte(Corsa &c) {
     Variabili &v = c.s.v;
     if (v.iz_o < PI / 2) v.yOriz = OrdinataOrizzonte(v, Sgn(v.latR));
     c.s.Scrivi(&DialInputs::txtOriz, TestoNumero(v.yOriz.numero()));
 }
 void TracciaOrizzonte(Corsa &c, const LineeAttese &linee) {
-    const Valore y = c.s.v.yOriz;
+    const Valore y = c.v.yOriz;
     const double l = c.s.tavolo.ShiftX();
     const Pretendi pretendi(c.s.tavolo, Specie::Orizzonte);
     c.s.tavolo.TracciaLinea(-l, y, l, y, linee[0].colore);
 }
 
 void LineeAzimutali(const Corsa &c, LineeAttese &linee) {
-    const bool sud = c.s.v.latR < 0;  // whose swept half of the plane looks north
+    const bool sud = c.v.latR < 0;  // whose swept half of the plane looks north
     for (const double a : Conteggio(-90, 90, 15)) linee.push_back({a, !sud ? a : a < 0 ? a + 180 : a - 180, "", OLIVA});
 }
 void TracciaAzimutali(Corsa &c, const LineeAttese &linee) {
     Sessione &s = c.s;
-    Variabili &v = s.v;
+    const Variabili &v = c.v;
     if (v.latR == 0) return;
     const Reale limite = tan(v.incR) * v.gn;  // unscaled, as meant
     const Proiezione proietta(v);
@@ -68,15 +71,26 @@ void TracciaAzimutali(Corsa &c, const LineeAttese &linee) {
             if (!(y > limite) && c.cornice.contiene(x, y)) s.tavolo.TracciaPunto(x, y, l.colore);
         }
     }
-    v.deltaOpz = Anno().back().d;  // left: the end of the sweep
+    LasciaFine(s.v, Anno());
 }
 
-void TracciaAsr(Corsa &c, const LineeAttese &linee) {
-    Sessione &s = c.s;
-    Variabili &v = s.v;
+namespace {
+
+// What the curve is measured against and the reports after a run find: the gnomon's tip seen from above in x0 and y0, the horizon
+// of the plane as just read, both in the unit of the fields.
+void lasciaAsr(Variabili &v) {
     v.x0 = -v.gn * sin(v.decR) * cos(v.incR);
     v.y0 = -v.gn * cos(v.decR) * cos(v.incR);
     v.yOriz = v.gn * sin(v.incR) / cos(v.incR);  // unscaled, as meant
+}
+
+}  // namespace
+
+void TracciaAsr(Corsa &c, const LineeAttese &linee) {
+    Sessione &s = c.s;
+    lasciaAsr(s.v);
+    const Variabili &v = c.v;
+    const Conteggio anno(-OBLIQUITA_2345, OBLIQUITA_2345, 0.05);
     const Valore segno = SegnoLatitudine(v.latR);
     const bool nord = v.latR >= 0, orientale = Abs(v.decGradi) == 90;
     const Proiezione proietta(v);
@@ -84,8 +98,7 @@ void TracciaAsr(Corsa &c, const LineeAttese &linee) {
     const Colore colore = linee[0].colore;
     const Pretendi pretendi(s.tavolo, Specie::Asr, linee[0].valore);
     Reale hA, Hr, x, y;
-    for (const double d : Conteggio(-OBLIQUITA_2345, OBLIQUITA_2345, 0.05)) {
-        v.deltaOpz = d;
+    for (const double d : anno) {
         const double dr = PI * d / 180;
         // Altitude at which a shadow is as long as its rod and the noon shadow together.
         hA = Atn(1 / (1 + tan(segno * (v.latR - dr))));
@@ -97,13 +110,24 @@ void TracciaAsr(Corsa &c, const LineeAttese &linee) {
         // On a plane that faces East or West every point comes once more, whatever the frame.
         if (orientale) s.tavolo.TracciaPunto(x * segno, y * segno, colore);
     }
+    LasciaFine(s.v, anno);
 }
+
+namespace {
+
+// The longitude as typed, from which the bearing counts, and where the sweep ends.
+void lasciaQibla(Variabili &v, Valore lon) {
+    v.lonCopia = lon;
+    LasciaFine(v, AnnoFitto());
+}
+
+}  // namespace
 
 // The curve was once plotted in a second pass of another colour, of which nothing was to be seen; there is one pass.
 void TracciaQibla(Corsa &c, const LineeAttese &) {
     Sessione &s = c.s;
-    Variabili &v = s.v;
-    v.lonCopia = c.letto.lon;
+    lasciaQibla(s.v, c.letto.lon);
+    const Variabili &v = c.v;
     const Valore qLat = PI * c.letto.qLat / 180;
     const Valore qd = PI * (c.letto.qLon - v.lonCopia) / 180;
     const Reale tq = sin(qd) / (sin(v.latR) * cos(qd) - cos(v.latR) * tan(qLat));
@@ -114,7 +138,6 @@ void TracciaQibla(Corsa &c, const LineeAttese &) {
     const Valore senBeta = sin(beta), tanLat = tan(v.latR);
     const Pretendi pretendi(s.tavolo, Specie::Qibla);
     Reale seno, ht, Hr, x, y;
-    v.deltaOpz = AnnoFitto().back().d;  // left: the end of the sweep
     for (const auto &[d, tanD] : AnnoFitto()) {
         seno = equatore ? Valore(tanD) : tanD * senBeta / tanLat;
         // A Sun that never stands on this azimuth leaves the hour angle of the day before, and its point is plotted.

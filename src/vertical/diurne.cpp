@@ -39,32 +39,35 @@ constexpr Diurna DIURNE[] = {
 };
 constexpr Diurna OPZIONALE{0, 0, GIALLO, "Diurna opzionale", false, true, 360};
 
-// The two hour angles, degrees, between which the Sun stands before the plane on the day of declination dr (radians),
-// from the elevation of the style and the meridian on it; leaves both in altStilo and angoloOra.
+// The two hour angles, degrees, between which the Sun stands before the plane on the day of declination delta (degrees),
+// from the elevation of the style and the hour angle of the substyle.
 struct Limiti {
     Reale primo, secondo;
+    Reale altStilo, pPiede;
 };
-Limiti limitiDelGiorno(Variabili &v, Valore dr) {
-    const Reale sustilare = SustilareMuroIntera(v.latR, v.decR);
-    v.altStilo = StiloMuro(v.latR, v.decR);
-    Reale pPiede, semiArco;
-    pPiede = Atn(tan(sustilare) / sin(v.altStilo));
-    if (Sgn(sin(sustilare)) != Sgn(sin(pPiede))) pPiede = pPiede > 0 ? pPiede - PI : pPiede + PI;
-    v.angoloOra = pPiede;
-    // The program's quarter turn has a negative tangent: at the equinox the arc would be turned round and the line lost.
-    if (dr == 0) semiArco = Sgn(sin(v.altStilo)) * PI / 2;
-    else semiArco = Atn(tan(ArcCos(Abs(sin(dr) / cos(v.altStilo)))) / sin(v.altStilo));
-
+Limiti limitiDelGiorno(const Variabili &v, Valore delta) {
+    const Valore dr = PI * delta / 180;
     Limiti l;
+    const Reale sustilare = SustilareMuroIntera(v.latR, v.decR);
+    l.altStilo = v.altStilo;  // stands where the wall's own faults
+    l.altStilo = StiloMuro(v.latR, v.decR);
+    Reale semiArco;
+    Reale &pPiede = l.pPiede;
+    pPiede = Atn(tan(sustilare) / sin(l.altStilo));
+    pPiede = DalLatoDi(sustilare, pPiede);
+    // The program's quarter turn has a negative tangent: at the equinox the arc would be turned round and the line lost.
+    if (dr == 0) semiArco = Sgn(sin(l.altStilo)) * PI / 2;
+    else semiArco = Atn(tan(ArcCos(Abs(sin(dr) / cos(l.altStilo)))) / sin(l.altStilo));
+
     if (Abs(v.declinSessag) < 90) {
-        if (v.deltaOpz >= 0) {
+        if (delta >= 0) {
             l.primo = 180 * (pPiede - semiArco) / PI;
             l.secondo = 180 * (pPiede + semiArco) / PI;
         } else {
             l.primo = 180 * (semiArco + pPiede - PI) / PI;
             l.secondo = 180 * (PI + pPiede - semiArco) / PI;
         }
-    } else if (v.deltaOpz > 0) {
+    } else if (delta > 0) {
         l.primo = 180 * (pPiede - semiArco - PI) / PI;
         l.secondo = 180 * (semiArco + pPiede + PI) / PI;
     } else {
@@ -74,26 +77,37 @@ Limiti limitiDelGiorno(Variabili &v, Valore dr) {
     return l;
 }
 
+// The day, degrees; the horizon's ordinate, metres, that day lines, marks and the last horizon are held against; the style's
+// elevation, which the caption takes, and the hour angle of the substyle, radians.
+void lascia(Variabili &v, const Diurna &d, Valore delta, const Limiti &l) {
+    v.deltaOpz = delta;
+    v.yOriz = OrdinataOrizzonte(v, d.conSegno ? Sgn(v.latR) : 1);
+    v.altStilo = l.altStilo;
+    v.angoloOra = l.pPiede;
+}
+
 // Chords only between points of one side of the plumb line through the foot.
 bool stessoLato(Reale x, Reale xPrima) { return Sgn(x) == Sgn(xPrima); }
 
 void traccia(Corsa &c, const Diurna &d, const LineaAttesa &l) {
     Sessione &s = c.s;
-    Variabili &v = s.v;
-    v.yOriz = OrdinataOrizzonte(v, d.conSegno ? Sgn(v.latR) : 1);
-    v.deltaOpz = l.parametro;
-    const Limiti limiti = limitiDelGiorno(v, PI * v.deltaOpz / 180);
+    const Variabili &v = c.v;
+    Reale delta = v.deltaOpz;  // a declination of choice without a value leaves that of the line before
+    delta = l.parametro;
+    const Limiti limiti = limitiDelGiorno(v, delta);
+    lascia(s.v, d, delta, limiti);
     const double da = Int(limiti.primo).v, a = Int(limiti.secondo).v;
 
-    Sfera sfera(v);
-    const Sfera::Giorno giorno = sfera.giorno(v.deltaOpz.numero());
+    const Sfera sfera(v);
+    const Sfera::Giorno giorno = sfera.giorno(delta.numero());
     const Orizzonte orizzonte(v);
     const Pretendi pretendi(s.tavolo, Specie::Diurna, l.valore);
     Catena catena(s.tavolo, l.strato);
+    Direzione sole;
     Reale x, y;
     double H = -static_cast<double>(d.mezzo);
     for (const Orario &ora : giri().subspan(360 - d.mezzo, 2 * d.mezzo + 1)) {
-        sfera.puntoOra(ora, giorno, x, y);
+        sfera.puntoOra(sole, ora, giorno, x, y);
         const bool passa = orizzonte.passa(y, catena.yPrima()) && da < H && H < a && stessoLato(x, catena.xPrima());
         catena.punto(x, y, passa && c.cornice.contiene(x, y), l.colore);
         H += 1;
@@ -118,52 +132,58 @@ void TracciaDiurne(Corsa &c, const LineeAttese &linee) {
     }
 }
 
-void PreparaEquinoziale(Corsa &c) { c.s.v.yOriz = OrdinataOrizzonte(c.s.v, Sgn(c.s.v.latR)); }
+// The horizon's ordinate, metres, that the points of either kind are held against.
+void LasciaEquinoziale(Corsa &c) {
+    Variabili &v = c.s.v;
+    v.yOriz = OrdinataOrizzonte(v, Sgn(v.latR));
+}
 
 void TracciaEquinoziale(Corsa &c, const LineeAttese &linee) {
-    Variabili &v = c.s.v;
-    v.deltaOpz = 0;
-    Sfera sfera(v);
+    const Variabili &v = c.v;
+    LasciaDeclinazione(c.s.v, 0);
+    const Sfera sfera(v);
     const Sfera::Giorno giorno = sfera.giorno(0);
     const Orizzonte orizzonte(v);
     const Pretendi pretendi(c.s.tavolo, Specie::Equinoziale);
     Catena catena(c.s.tavolo, linee[0].strato);
+    Direzione sole;
     Reale x, y;
     for (const Orario &ora : giri()) {
-        if (sfera.denominatore(ora, giorno) == 0) sfera.A = Sfera::segno(ora.Hr) * PI / 2;
-        else sfera.azimut(ora, giorno);
-        sfera.mendaOra(ora);
+        if (sfera.denominatore(ora, giorno) == 0) sole.A = Sfera::segno(ora.Hr) * PI / 2;
+        else sfera.azimut(sole, ora, giorno);
+        sfera.mendaOra(sole, ora);
         // The nadir counts as the zenith: meant.
         const double seno = Sfera::senAltezza(ora, giorno);
-        if (std::fabs(seno) == 1) sfera.h = PI / 2;
-        else sfera.altezza(ora, giorno);
-        sfera.punto(x, y);
+        if (std::fabs(seno) == 1) sole.h = PI / 2;
+        else sfera.altezza(sole, ora, giorno);
+        sfera.punto(sole, x, y);
         const bool passa = orizzonte.passa(y, catena.yPrima()) && stessoLato(x, catena.xPrima());
         catena.punto(x, y, passa && c.cornice.contiene(x, y), linee[0].colore);
     }
 }
 
 void PuntiEquinozialeDecZero(Corsa &c, const LineeAttese &linee) {
-    const Variabili &v = c.s.v;
-    Sfera sfera(v);
+    const Variabili &v = c.v;
+    const Sfera sfera(v);
     const Sfera::Giorno giorno = sfera.giorno(0);
     const Valore cosLat = cos(v.latR);
     const bool equatore = v.latR == 0;
     const Pretendi pretendi(c.s.tavolo, Specie::Equinoziale);
+    Direzione sole;
     Reale x, y;
     for (const double a : Conteggio(-90, 90, 10 * v.passo)) {
         const Orario ora(PI * a / 180);
         if (equatore) {
-            sfera.A = PI / 2;
-            sfera.h = PI / 2 - std::fabs(ora.Hr);
+            sole.A = PI / 2;
+            sole.h = PI / 2 - std::fabs(ora.Hr);
         } else {
-            sfera.azimutMuro(ora, giorno);
-            sfera.h = ArcSin(ora.cos * cosLat);
+            sfera.azimutMuro(sole, ora, giorno);
+            sole.h = ArcSin(ora.cos * cosLat);
         }
         // The ordinate has the other sign than on every other line, so a northern wall shows no point: meant.
-        const Valore A = sfera.A - v.decR;
+        const Valore A = sole.A - v.decR;
         x = v.unita * tan(A) * v.gn;
-        y = v.unita * tan(sfera.h) * v.gn / cos(A);
+        y = v.unita * tan(sole.h) * v.gn / cos(A);
         if (y < v.yOriz && c.cornice.contiene(x, y)) c.s.tavolo.TracciaPunto(x, y, linee[0].colore);
     }
 }

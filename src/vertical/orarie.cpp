@@ -6,7 +6,8 @@
 
 namespace ombrelia::vertical {
 
-void PreparaOre(Corsa &c) {
+// Horizon's ordinate, metres; the box of the zone's time and the longitude, as typed; the side that the count of hours begins on.
+void LasciaOre(Corsa &c) {
     Variabili &v = c.s.v;
     v.yOriz = OrdinataOrizzonte(v, Sgn(v.latR));
     v.oraFuso = c.letto.fuso ? 1 : 0;
@@ -15,7 +16,7 @@ void PreparaOre(Corsa &c) {
 }
 
 void LineeOre(const Corsa &c, LineeAttese &linee) {
-    const Variabili &v = c.s.v;
+    const Variabili &v = c.v;
     const Valore verso = 15 * v.segnoDecPiana;
     struct Famiglia {
         Valore inizio, passo;
@@ -41,33 +42,36 @@ void LineeOre(const Corsa &c, LineeAttese &linee) {
 
 void TracciaOreAstro(Corsa &c, const LineeAttese &linee) {
     Sessione &s = c.s;
-    Variabili &v = s.v;
-    Sfera sfera(v);
+    const Variabili &v = c.v;
+    const Sfera sfera(v);
     // By degrees up to 23.55, which the count meets to the last bit and which becomes the solstice.
     std::vector<Sfera::Giorno> anno;
-    for (double d : Conteggio(-OBLIQUITA_2345, 23.55, 1)) {
-        if (d == 23.55) d = OBLIQUITA_2345;
-        v.deltaOpz = d;
-        anno.push_back(sfera.giorno(d));
+    double ultima = 0;
+    for (const double d : Conteggio(-OBLIQUITA_2345, 23.55, 1)) {
+        ultima = d == 23.55 ? OBLIQUITA_2345 : d;
+        anno.push_back(sfera.giorno(ultima));
     }
+    LasciaDeclinazione(s.v, ultima);
     const Orizzonte orizzonte(v);
+    Direzione sole;
     Reale x, y;
     for (const LineaAttesa &l : linee) {
         Catena catena(s.tavolo, l.strato);
         const Orario ora = OraOrologio(v, l.parametro);
         const Pretendi pretendi(s.tavolo, Specie::Ora, l.valore);
         for (const Sfera::Giorno &g : anno) {
-            sfera.puntoMuro(ora, g, x, y);
+            sfera.puntoMuro(sole, ora, g, x, y);
             catena.punto(x, y, orizzonte.passa(y, catena.yPrima()) && c.cornice.contiene(x, y), l.colore);
         }
     }
 }
 
-void PreparaNumeri(Corsa &c) {
+// The box of the zone's time, the longitude and the day of choice, as typed; the declination that the caption tells.
+void LasciaNumeri(Corsa &c) {
     Variabili &v = c.s.v;
     v.oraFuso = c.letto.fuso ? 1 : 0;
     v.decGradi = c.letto.dec;
-    PiegaDeclinazione(v);
+    v.decGradi = PiegaDeclinazione(v.latR, v.decGradi);
     v.lon = c.letto.lon;
     v.deltaOpz = c.letto.delta;
 }
@@ -78,18 +82,19 @@ void LineeNumeri(const Corsa &, LineeAttese &linee) {
 
 void PosizionaNumeriOrari(Corsa &c, const LineeAttese &linee) {
     Sessione &s = c.s;
-    const Variabili &v = s.v;
-    Sfera sfera(v);
+    const Variabili &v = c.v;
+    const Sfera sfera(v);
     const Sfera::Giorno giorno = sfera.giorno(v.deltaOpz.numero());
+    Direzione sole;
     Reale x, y;
     for (const LineaAttesa &l : linee) {
         const Orario ora = OraOrologio(v, l.parametro);
-        sfera.azimut(ora, giorno);
+        sfera.azimut(sole, ora, giorno);
         // Always plus here.
-        if (sfera.quadranteErrato(ora)) sfera.A = sfera.A + PI;
-        if (v.segnoLatPiana == -1 && ora.Hr == 0 && sfera.A == 0) sfera.A = PI;
-        sfera.altezza(ora, giorno);
-        sfera.punto(x, y);
+        if (Sfera::quadranteErrato(sole, ora)) sole.A = sole.A + PI;
+        if (v.segnoLatPiana == -1 && ora.Hr == 0 && sole.A == 0) sole.A = PI;
+        sfera.altezza(sole, ora, giorno);
+        sfera.punto(sole, x, y);
         if (!s.ombraVera(ora.Hr, PI * v.deltaOpz / 180, x, y)) continue;
         if (!c.cornice.contiene(x, y) || y > 0) continue;
         int numero = static_cast<int>(l.valore);

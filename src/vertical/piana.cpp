@@ -41,9 +41,12 @@ void didascalia(Sessione &s, Valore c2) {
     for (const auto &riga : righe) s.Dati(Frase(s.Traduci(riga.etichetta)) << riga.valore << riga.coda);
 }
 
-// The engine's own reading of the fields. letture is not raised: the original dial stays open until a common reading.
+// The engine's own reading of the fields, in place of the common one: the plane with the latitude's sign, the site, the zone, the
+// parts of the hour. letture is not raised: the original dial stays open until a common reading, and until then is this one.
 void leggiParametriPiana(Corsa &c) {
     Variabili &v = c.s.v;
+    if (v.flagVerticale == 0) v.diffLong = 0;
+    v.unita = c.letto.unita;
     const Lettura &letto = c.letto;
     v.lat = letto.lat;
     v.latR = PI * v.lat / 180;
@@ -72,12 +75,31 @@ void leggiParametriPiana(Corsa &c) {
     v.gn = letto.gn;
 }
 
-// Leaves xCentro, yCentro: metres, y upward; untouched where the plane has no centre.
-void calcolaCentroPiana(Variabili &v) {
+// The style's elevation from its sine, radians; the sheet's middle, metres, for lines that cross it.
+void lasciaStilo(Corsa &c, Valore seno) {
+    Variabili &v = c.s.v;
+    v.altStilo = Abs(seno) < 1 ? ArcSin(seno) : Valore(PI / 2);
+    v.semiL = c.s.tavolo.ShiftX();
+    v.semiH = c.s.tavolo.ShiftY();
+}
+
+struct Centro {
+    Valore x, y;
+};
+// The dial's centre, metres, y upward; no value where the plane has none.
+Centro calcolaCentroPiana(const Variabili &v) {
     const Valore c = -cos(v.latR) * cos(v.decR);
-    if (c == 0) return;
-    v.xCentro = v.unita * sin(v.decR) * cos(v.latR) * v.gn / c;
-    v.yCentro = v.unita * sin(v.latR) * -v.gn / c;
+    return {v.unita * sin(v.decR) * cos(v.latR) * v.gn / c, v.unita * sin(v.latR) * -v.gn / c};
+}
+// The same as the caption tells it, in the unit of the fields, by the elevation that the lines left.
+Centro centroDidascalia(const Variabili &v) {
+    const Reale sustilare = SustilareMuroIntera(v.latR, v.decR);
+    return {sin(sustilare) * v.gn / tan(v.altStilo), cos(sustilare) * -v.gn / tan(v.altStilo)};
+}
+// First the one, then the other; where a plane has no centre, that of the dial before stays.
+void lasciaCentro(Variabili &v, const Centro &c) {
+    v.xCentro = c.x;
+    v.yCentro = c.y;
 }
 
 // --- the table of features ------------------------------------------------------------------------------------------
@@ -88,27 +110,27 @@ using Riga = Caratteristica<Corsa>;
 bool conRomani(const Corsa &c) { return c.s.in.ckRomani == 1; }
 bool conArabi(const Corsa &c) { return c.s.in.ckArabi == 1; }
 bool senzaCifre(const Corsa &c) { return !conRomani(c) && !conArabi(c); }
-bool nonOrizzontale(const Corsa &c) { return !(c.s.v.inc_o == 90); }
+bool nonOrizzontale(const Corsa &c) { return !(c.v.inc_o == 90); }
 bool conEtichette(const Corsa &c) { return nonOrizzontale(c) && !conRomani(c); }
 bool piena(const Corsa &c) { return c.s.in.ckFunzione == 1; }
 
 constexpr Riga CARATTERISTICHE[] = {
-    {&In::chkOreAstronomiche, Specie::Ora, "true hours, halves and quarters", LineeOre, TracciaOreAstro, nullptr, PreparaOre},
+    {&In::chkOreAstronomiche, Specie::Ora, "true hours, halves and quarters", LineeOre, TracciaOreAstro, nullptr, LasciaOre},
     // The routine looks at ckRomani alone: with both boxes set the Roman numerals come twice.
-    {&In::chkOreAstronomiche, Specie::Etichetta, "Roman numerals", LineeNumeri, PosizionaNumeriOrari, conRomani, PreparaNumeri,
+    {&In::chkOreAstronomiche, Specie::Etichetta, "Roman numerals", LineeNumeri, PosizionaNumeriOrari, conRomani, LasciaNumeri,
      Specie::Ora},
-    {&In::chkOreAstronomiche, Specie::Etichetta, "Arabic numerals", LineeNumeri, PosizionaNumeriOrari, conArabi, PreparaNumeri,
+    {&In::chkOreAstronomiche, Specie::Etichetta, "Arabic numerals", LineeNumeri, PosizionaNumeriOrari, conArabi, LasciaNumeri,
      Specie::Ora},
     {&In::Ck_DayLightCurves, Specie::Diurna, "days of solstice and signs", LineeDiurne, TracciaDiurne},
     {&In::Ck_DayLightCurves, Specie::Diurna, "the day of choice", LineaOpzionale, TracciaDiurne, senzaCifre},
     {&In::ck_Italiche, Specie::Italica, "hours from sunset", LineeItaliche, TracciaItaliche, nonOrizzontale, PreparaItaliche},
-    {&In::ck_Italiche, Specie::Etichetta, "their numbers", NumeriItaliche, EtichetteItaliche, conEtichette, PreparaEtichette,
+    {&In::ck_Italiche, Specie::Etichetta, "their numbers", NumeriItaliche, EtichetteItaliche, conEtichette, LasciaEtichette,
      Specie::Italica},
     {&In::ck_babiloniche, Specie::Babilonica, "hours from sunrise", LineeBabiloniche, TracciaBabiloniche, nonOrizzontale,
-     PreparaStagionali},
+     LasciaStagionali},
     {&In::ck_babiloniche, Specie::Etichetta, "their numbers", NumeriBabiloniche, EtichetteBabiloniche, conEtichette,
-     PreparaEtichette, Specie::Babilonica},
-    {&In::ckTemp, Specie::Temporaria, "twelfths of the day", LineeTemporarie, TracciaTemporarie, nullptr, PreparaStagionali},
+     LasciaEtichette, Specie::Babilonica},
+    {&In::ckTemp, Specie::Temporaria, "twelfths of the day", LineeTemporarie, TracciaTemporarie, nullptr, LasciaStagionali},
     {&In::ckTemp, Specie::Etichetta, "their numbers", NumeriTemporarie, EtichetteTemporarie,
      [](const Corsa &c) { return c.s.in.ck_Italiche != 1 && c.s.in.ck_babiloniche != 1 && !conRomani(c); }, nullptr,
      Specie::Temporaria},
@@ -116,20 +138,20 @@ constexpr Riga CARATTERISTICHE[] = {
      [](const Corsa &, LineeAttese &l) {
          l.push_back({0, 0, "21 III or 23 IX Eq", BLU});
      },
-     TracciaEquinoziale, [](const Corsa &c) { return !(c.s.v.declinSessag == 0); }, PreparaEquinoziale},
+     TracciaEquinoziale, [](const Corsa &c) { return !(c.v.declinSessag == 0); }, LasciaEquinoziale},
     {&In::ck_Equinoziale, Specie::Equinoziale, "the equinoctial of one that does not", UnaLinea<BLU>, PuntiEquinozialeDecZero,
-     [](const Corsa &c) { return c.s.v.declinSessag == 0; }, PreparaEquinoziale},
-    {&In::ck_Orizzonte, Specie::Orizzonte, "the horizon", UnaLinea<VERDE_SCURO>, TracciaOrizzonte, nullptr, PreparaOrizzonte},
+     [](const Corsa &c) { return c.v.declinSessag == 0; }, LasciaEquinoziale},
+    {&In::ck_Orizzonte, Specie::Orizzonte, "the horizon", UnaLinea<VERDE_SCURO>, TracciaOrizzonte, nullptr, LasciaOrizzonte},
     {&In::ck_Lemniscate, Specie::Analemma, "mean noon of the zone",
      [](const Corsa &, LineeAttese &l) {
          l.push_back({0, 12, "Lemniscata", MAGENTA});
      },
-     TracciaLemniscata, nullptr, PreparaLemniscata},
+     TracciaLemniscata, nullptr, LasciaLemniscata},
     {&In::ck_Lemniscate, Specie::Tacca, "day marks across it", LineeTacche, TracciaTacche, piena},
     // ckZodiac has no step of its own: the signs come with the lemniscate.
     {&In::ck_Lemniscate, Specie::Nessuna, "signs of the zodiac", nullptr,
      [](Corsa &c, const LineeAttese &) { DisegnaZodiaco(c.s); }, [](const Corsa &c) { return piena(c) && c.s.in.ckZodiac == 1; }},
-    {&In::ck_Lemniscate, Specie::Mezzogiorno, "the noon line", UnaLinea<ROSSO>, RettaMezzogiorno, piena, PreparaMezzogiorno},
+    {&In::ck_Lemniscate, Specie::Mezzogiorno, "the noon line", UnaLinea<ROSSO>, RettaMezzogiorno, piena, LasciaMezzogiorno},
     {&In::ck_Sustilare, Specie::OraSustilare, "hour line of the substyle", UnaLinea<BLU>, TracciaSustilare},
     {&In::ck_Triangolo, Specie::Stilo, "triangle of the polar style", LineeTriangolo, TracciaTriangoloStilo},
     {&In::ck_Triangolo, Specie::Nessuna, "its measures", nullptr, TestiTriangolo},
@@ -142,7 +164,7 @@ constexpr Riga CARATTERISTICHE[] = {
 constexpr Riga ORIZZONTE_DI_NUOVO[] = {
     {&In::ck_Orizzonte, Specie::Orizzonte, "the horizon again", UnaLinea<GIALLO>,
      [](Corsa &c, const LineeAttese &linee) {
-         const Variabili &v = c.s.v;
+         const Variabili &v = c.v;
          const Pretendi pretendi(c.s.tavolo, Specie::Orizzonte);
          c.s.tavolo.TracciaLinea(-v.semiL, v.yOriz, v.semiL, v.yOriz, linee[0].colore);
      },
@@ -160,9 +182,8 @@ constexpr Riga ULTIME[] = {
 
 }  // namespace
 
-bool TroppoFitta(Sessione &s) {
+bool TroppoFitta(Sessione &s, const Lettura &letto) {
     const DialInputs &in = s.in;
-    const Lettura letto(in);
     Reale passo = s.v.passo, fraz = s.v.fraz;
     passo = letto.passo;
     fraz = letto.fraz;
@@ -183,23 +204,17 @@ bool TroppoFitta(Sessione &s) {
 }
 
 void Piana_Esegui(Sessione &s) {
-    if (TroppoFitta(s)) return;
-    Variabili &v = s.v;
-    Tavolo &t = s.tavolo;
     Corsa c(s);
+    const Variabili &v = c.v;
+    if (TroppoFitta(s, c.letto)) return;
     RinfrescaOriginale(s, c.letto);
-    if (v.flagVerticale == 0) v.diffLong = 0;
-    v.unita = c.letto.unita;
     s.utente.Puntatore(true);
     s.Messaggio("Piana _Esegui: Vertical dial by spherical trigonometry ");
     leggiParametriPiana(c);
     const Reale c2 = cos(v.decR) * cos(v.latR);
-    v.altStilo = Abs(c2) < 1 ? ArcSin(c2) : Valore(PI / 2);
-    v.semiL = t.ShiftX();
-    v.semiH = t.ShiftY();
+    lasciaStilo(c, c2);
     TracciaAssi(s);
-    v.gn = c.letto.gn;
-    calcolaCentroPiana(v);
+    lasciaCentro(s.v, calcolaCentroPiana(v));
 
     Percorri(c, Motore::Verticale, CARATTERISTICHE);
     Percorri(c, Motore::Verticale, ORIZZONTE_DI_NUOVO);
@@ -207,10 +222,7 @@ void Piana_Esegui(Sessione &s) {
     TracciaLimiti(s, c.letto, c.cornice);
     s.utente.Puntatore(false);
 
-    // The centre of the caption, without unita.
-    const Reale sustilare = SustilareMuroIntera(v.latR, v.decR);
-    v.xCentro = sin(sustilare) * v.gn / tan(v.altStilo);
-    v.yCentro = cos(sustilare) * -v.gn / tan(v.altStilo);
+    lasciaCentro(s.v, centroDidascalia(v));
     didascalia(s, c2);
     Percorri(c, Motore::Verticale, ULTIME);
 }

@@ -10,6 +10,6 @@ namespace ombrelia::vertical {
 void Piana_Esegui(Sessione &s);
 
 // Whether Piana_Esegui would refuse for loops too long; tells the user which field.
-[[nodiscard]] bool TroppoFitta(Sessione &s);
+[[nodiscard]] bool TroppoFitta(Sessione &s, const Lettura &letto);
 
 }  // namespace ombrelia::vertical

@@ -19,9 +19,17 @@ struct Orario : SenCos {
     Orario(double angolo, const SenCos &suoi) : SenCos(suoi), Hr(angolo) {}
 };
 
-// Spherical trigonometry of one wall (any textbook's astronomical triangle). Given hour angle and declination gives the
-// azimuth A from the south, the altitude h, and (x, y): metres from the foot of the ortostilo, x to the right, y upward,
-// so negative for a Sun above the horizon. A and h are running values: where their statement faults the last ones stand.
+// Where the Sun stands, radians: azimuth A from the south, altitude h. A line carries one from point to point: where a
+// statement faults, what the point before had stands.
+struct Direzione {
+    Reale A, h;
+};
+
+// What for: the Sun's place and its shadow on one wall. Given: latitude with its sign and declination of the wall, radians; hour
+// angle and declination of the Sun. Gives: azimuth and altitude, and (x, y): metres from the foot of the ortostilo, x to the
+// right, y upward, so negative for a Sun above the horizon. Source: the astronomical triangle of pole, zenith and Sun (Smart,
+// Textbook on Spherical Astronomy, ch. II). Departure: the quadrant of the azimuth is mended from its arc tangent, by the rule
+// that a line's own routine keeps. Faults: see Direzione.
 class Sfera {
 public:
     // What a declination contributes, and a sweep of hours does not change.
@@ -48,67 +56,65 @@ public:
 
     // Denominator of the azimuth's tangent.
     [[nodiscard]] double denominatore(const Orario &o, const Giorno &g) const { return senLat_ * o.cos - g.cosTan; }
-    void azimut(const Orario &o, const Giorno &g) {
+    void azimut(Direzione &s, const Orario &o, const Giorno &g) const {
         const Valore q = o.sen / denominatore(o, g);  // not finite where the denominator is 0
-        if (q.esiste()) A = std::atan(q.v);
+        if (q.esiste()) s.A = std::atan(q.v);
     }
 
     // The quadrant is wrong when A and the hour angle lie on different sides of the meridian.
-    [[nodiscard]] bool quadranteErrato(const Orario &o) const {
+    [[nodiscard]] static bool quadranteErrato(const Direzione &s, const Orario &o) {
         // The sign of the sine is that of the angle, but for a mended angle left over from the point before.
-        const double a = A.numero();
+        const double a = s.A.numero();
         return segno(o.sen) != segno(std::fabs(a) < 3 ? a : std::sin(a));
     }
     // The solution nearer the plane's normal.
-    void mendaMuro() { A = A.numero() - segno(A.numero() - decR_) * PI; }
-    void azimutMuro(const Orario &o, const Giorno &g) {
-        azimut(o, g);
-        if (quadranteErrato(o)) mendaMuro();
+    void mendaMuro(Direzione &s) const { s.A = s.A.numero() - segno(s.A.numero() - decR_) * PI; }
+    void azimutMuro(Direzione &s, const Orario &o, const Giorno &g) const {
+        azimut(s, o, g);
+        if (quadranteErrato(s, o)) mendaMuro(s);
     }
     // Half a turn towards the hour angle's side.
-    void mendaOra(const Orario &o) {
-        if (quadranteErrato(o)) A = A.numero() + segno(o.Hr) * PI;
+    static void mendaOra(Direzione &s, const Orario &o) {
+        if (quadranteErrato(s, o)) s.A = s.A.numero() + segno(o.Hr) * PI;
     }
-    void azimutOra(const Orario &o, const Giorno &g) {
-        azimut(o, g);
-        mendaOra(o);
+    void azimutOra(Direzione &s, const Orario &o, const Giorno &g) const {
+        azimut(s, o, g);
+        mendaOra(s, o);
     }
     [[nodiscard]] double declinazione() const { return decR_; }
     // Metres of abscissa a unit of the tangent.
     [[nodiscard]] double braccio() const { return unita_ * gn_; }
-    [[nodiscard]] bool davanti() const { return std::fabs(A.numero() - decR_) < PI / 2; }
+    [[nodiscard]] bool davanti(const Direzione &s) const { return std::fabs(s.A.numero() - decR_) < PI / 2; }
 
     // Sine of the altitude.
     [[nodiscard]] static double senAltezza(const Orario &o, const Giorno &g) { return g.senSen + g.cosCos * o.cos; }
-    void altezza(const Orario &o, const Giorno &g) { h = ArcSin(senAltezza(o, g)); }
+    static void altezza(Direzione &s, const Orario &o, const Giorno &g) { s.h = ArcSin(senAltezza(o, g)); }
 
     // From the tangent and the cosine of the azimuth that counts from the wall's normal, and the tangent of the altitude.
     [[nodiscard]] Valore ascissa(double tanA) const { return unita_ * tanA * gn_; }
     [[nodiscard]] Valore ordinata(double cosA, double tanH) const { return Valore(unita_ * (tanH * -gn_)) / cosA; }
-    void punto(Reale &x, Reale &y) const {
-        const double a = A.numero() - decR_;
+    void punto(const Direzione &s, Reale &x, Reale &y) const {
+        const double a = s.A.numero() - decR_;
         x = ascissa(std::tan(a));
-        y = ordinata(std::cos(a), std::tan(h.numero()));
+        y = ordinata(std::cos(a), std::tan(s.h.numero()));
     }
     // Whether a Sun of this azimuth and sine of the altitude is below the horizon of a plumb wall for sure, its point
     // above it. Says no near the wall's own plane, where the tenth digit of PI decides.
     [[nodiscard]] bool sottoTerra(double azimut, double senAltezza) const {
         return senAltezza < 0 && gn_ > 0 && std::fabs(azimut - decR_) < 1.57;
     }
-    void puntoMuro(const Orario &o, const Giorno &g, Reale &x, Reale &y) {
-        azimutMuro(o, g);
-        altezza(o, g);
-        punto(x, y);
+    void puntoMuro(Direzione &s, const Orario &o, const Giorno &g, Reale &x, Reale &y) const {
+        azimutMuro(s, o, g);
+        altezza(s, o, g);
+        punto(s, x, y);
     }
-    void puntoOra(const Orario &o, const Giorno &g, Reale &x, Reale &y) {
-        azimutOra(o, g);
-        altezza(o, g);
-        punto(x, y);
+    void puntoOra(Direzione &s, const Orario &o, const Giorno &g, Reale &x, Reale &y) const {
+        azimutOra(s, o, g);
+        altezza(s, o, g);
+        punto(s, x, y);
     }
 
     static constexpr int segno(double n) { return (n > 0) - (n < 0); }
-
-    Reale A, h;
 
 private:
     double senLat_, cosLat_, decR_, gn_, unita_;
@@ -129,11 +135,11 @@ private:
     bool sotto_;
 };
 
-// Folds decGradi as a southern latitude works the plane; a northern one keeps it.
-inline void PiegaDeclinazione(Variabili &v) {
-    if (!(v.latR < 0)) return;
-    v.decGradi = -(v.decGradi + 180);
-    if (Abs(v.decGradi) > 180) v.decGradi = v.decGradi - Sgn(v.decGradi) * 360;
+// The declination of a plane, degrees, folded as a southern latitude works it; a northern one keeps it.
+inline Valore PiegaDeclinazione(Valore latR, Valore gradi) {
+    if (!(latR < 0)) return gradi;
+    const Valore girata = -(gradi + 180);
+    return Abs(girata) > 180 ? girata - Sgn(girata) * 360 : girata;
 }
 
 // The hour angle of clock hour H, degrees: in zone time shifted by the difference of the meridians.

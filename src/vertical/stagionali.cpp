@@ -12,9 +12,10 @@ namespace {
 Valore cosenoArco(Valore latR, double tanD) { return -tan(latR) * tanD; }
 Valore semiArco(Valore c) { return PI / 2 - Atn(c / Sqr(1 - c * c)); }
 
-// The year by steps of 10 * passo degrees, as far as a line has room; leaves its last declination in deltaOpz.
+// The year by steps of 10 * passo degrees, as far as a line has room. Its last declination is left; a step that takes none
+// leaves none.
 const std::vector<Giornata> &annoDi(Corsa &c, const Sfera &sfera) {
-    Variabili &v = c.s.v;
+    const Variabili &v = c.v;
     if (c.anno.empty()) {
         for (const double d : Conteggio(-OBLIQUITA_2344, OBLIQUITA_2344, 10 * v.passo)) {
             c.ultima = d;
@@ -23,20 +24,19 @@ const std::vector<Giornata> &annoDi(Corsa &c, const Sfera &sfera) {
             const Valore cosH0 = cosenoArco(v.latR, tanD);
             if (Abs(cosH0) < 1) c.anno.push_back({sfera.giorno(tanD, std::sin(dr), std::cos(dr)), semiArco(cosH0).v});
         }
-        // A step that takes none leaves none.
         if (c.anno.empty() && c.ultima == 0) return c.anno;
     }
-    v.deltaOpz = c.ultima;
+    LasciaDeclinazione(c.s.v, c.ultima);
     return c.anno;
 }
 
 // These hours compare the angles themselves, not their sines.
-inline void mendaAzimut(Sfera &sfera, const Orario &o) {
-    if (Sfera::segno(o.Hr) != Sfera::segno(sfera.A.numero())) sfera.mendaMuro();
+inline void mendaAzimut(Direzione &sole, const Sfera &sfera, const Orario &o) {
+    if (Sfera::segno(o.Hr) != Sfera::segno(sole.A.numero())) sfera.mendaMuro(sole);
 }
-inline void azimut(Sfera &sfera, const Orario &o, const Sfera::Giorno &g) {
-    sfera.azimut(o, g);
-    mendaAzimut(sfera, o);
+inline void azimut(Direzione &sole, const Sfera &sfera, const Orario &o, const Sfera::Giorno &g) {
+    sfera.azimut(sole, o, g);
+    mendaAzimut(sole, sfera, o);
 }
 
 // What the points of one kind of hours took last time: by hour angle, by tangent of the azimuth, by sine of the altitude, by
@@ -91,7 +91,8 @@ void tracciaOre(Corsa &c, const LineeAttese &linee, Specie specie, std::string_v
     const Cornice &cornice = c.cornice;
     const IdNome id = s.tavolo.nome(strato);
     if (linee.empty()) return;
-    Sfera sfera(s.v);
+    const Sfera sfera(c.v);
+    Direzione sole;
     const std::vector<Giornata> &giorni = annoDi(c, sfera);
     std::vector<Posto> posti(giorni.size() + 1);
     double seno = 0;  // of the last altitude that did not fault
@@ -135,15 +136,15 @@ void tracciaOre(Corsa &c, const LineeAttese &linee, Specie specie, std::string_v
                     continue;
                 }
             } else if (pendente) {
-                sfera.A =
-                    azimutDa(sfera, std::atan(qPendente), giratoPendente);  // a quotient that faults leaves the last one standing
+                // A quotient that faults leaves the last one standing.
+                sole.A = azimutDa(sfera, std::atan(qPendente), giratoPendente);
             }
             pendente = false;
-            if (Valore(q).esiste()) sfera.A = ricordi.azimut(posto, q);
-            mendaAzimut(sfera, ora);
-            if (!sfera.davanti()) continue;
+            if (Valore(q).esiste()) sole.A = ricordi.azimut(posto, q);
+            mendaAzimut(sole, sfera, ora);
+            if (!sfera.davanti(sole)) continue;
             Posto &p = posti[i];
-            p.A = sfera.A.numero();
+            p.A = sole.A.numero();
             p.seno = seno;
             p.manca = Posto::Manca::Tutto;
             if (i < 2 || sfera.sottoTerra(p.A, p.seno)) continue;
@@ -160,22 +161,22 @@ void tracciaOre(Corsa &c, const LineeAttese &linee, Specie specie, std::string_v
 template <typename Angolo>
 void etichette(Corsa &c, const LineeAttese &linee, Angolo angolo) {
     Sessione &s = c.s;
-    Variabili &v = s.v;
     const Colore prima = s.tavolo.ForeColor;
     s.tavolo.ForeColor = linee[0].colore;
-    v.deltaOpz = OBLIQUITA;
-    Sfera sfera(v);
-    const Sfera::Giorno giorno = sfera.giorno(v.deltaOpz.numero());
-    const Valore cosH0 = cosenoArco(v.latR, tan(PI * v.deltaOpz / 180).v);
+    LasciaDeclinazione(s.v, OBLIQUITA);
+    const Sfera sfera(c.v);
+    const Sfera::Giorno giorno = sfera.giorno(OBLIQUITA);
+    const Valore cosH0 = cosenoArco(c.v.latR, tan(PI * Valore(OBLIQUITA) / 180).v);
     if (Abs(cosH0) < 1) {
         const Valore H0 = semiArco(cosH0);
+        Direzione sole;
         Reale x, y;
         for (const LineaAttesa &l : linee) {
             const Orario ora(angolo(l.parametro, H0));
-            azimut(sfera, ora, giorno);
-            sfera.altezza(ora, giorno);
-            if (!sfera.davanti()) continue;
-            sfera.punto(x, y);
+            azimut(sole, sfera, ora, giorno);
+            sfera.altezza(sole, ora, giorno);
+            if (!sfera.davanti(sole)) continue;
+            sfera.punto(sole, x, y);
             if (!(y > 0) && c.cornice.contiene(x, y)) s.tavolo.Scritta(l.strato, x, y);
         }
     }
@@ -204,19 +205,20 @@ constexpr Numero TEMPORARIE[] = {{"1", 1}, {"2", 2}, {"3", 3}, {"4", 4},   {"5",
 bool campanili(const Corsa &c) { return c.s.in.ckFunzione == 1; }
 
 void conta(const Corsa &c, double da, double a, std::string_view strato, Colore colore, LineeAttese &linee) {
-    for (const double n : Conteggio(da, a, 1 / c.s.v.fraz)) linee.push_back({n, n, strato, colore});
+    for (const double n : Conteggio(da, a, 1 / c.v.fraz)) linee.push_back({n, n, strato, colore});
 }
 
 }  // namespace
 
-void PreparaStagionali(Corsa &c) {
+// The fraction of the hour, as typed; none counts as whole hours, here and for the reports after the run.
+void LasciaStagionali(Corsa &c) {
     Variabili &v = c.s.v;
     v.fraz = c.letto.fraz;
     if (v.fraz == 0) v.fraz = 1;
 }
 void PreparaItaliche(Corsa &c) {
     if (campanili(c)) c.s.Messaggio(c.s.Traduci("Steeple Italic Hours"));
-    PreparaStagionali(c);
+    LasciaStagionali(c);
 }
 
 void LineeItaliche(const Corsa &c, LineeAttese &linee) {
@@ -236,7 +238,8 @@ void TracciaTemporarie(Corsa &c, const LineeAttese &linee) {
     tracciaOre(c, linee, Specie::Temporaria, "Temp", [](double n, double H0) { return (n / 6 - 1) * H0; });
 }
 
-void PreparaEtichette(Corsa &c) {
+// The horizon's ordinate, metres: no number is held against it, the last horizon is drawn at it.
+void LasciaEtichette(Corsa &c) {
     Variabili &v = c.s.v;
     v.yOriz = OrdinataOrizzonte(v, v.iz_o < PI / 2 ? 1 : -1);
 }
@@ -246,13 +249,13 @@ void NumeriBabiloniche(const Corsa &, LineeAttese &linee) { numeri(BABILONICHE, 
 void NumeriTemporarie(const Corsa &, LineeAttese &linee) { numeri(TEMPORARIE, OLIVA, linee); }
 
 void EtichetteItaliche(Corsa &c, const LineeAttese &linee) {
-    etichette(c, linee, [&v = c.s.v](double n, Valore H0) { return v.diffLong + H0 + PI * n / 12 - 2 * PI; });
+    etichette(c, linee, [&v = c.v](double n, Valore H0) { return v.diffLong + H0 + PI * n / 12 - 2 * PI; });
 }
 void EtichetteBabiloniche(Corsa &c, const LineeAttese &linee) {
-    etichette(c, linee, [&v = c.s.v](double n, Valore H0) { return v.diffLong + PI * n / 12 - H0; });
+    etichette(c, linee, [&v = c.v](double n, Valore H0) { return v.diffLong + PI * n / 12 - H0; });
 }
 void EtichetteTemporarie(Corsa &c, const LineeAttese &linee) {
-    etichette(c, linee, [&v = c.s.v](double n, Valore H0) { return v.diffLong + (Valore(n) / 6 - 1) * H0; });
+    etichette(c, linee, [&v = c.v](double n, Valore H0) { return v.diffLong + (Valore(n) / 6 - 1) * H0; });
 }
 
 }  // namespace ombrelia::vertical

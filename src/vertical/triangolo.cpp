@@ -14,25 +14,27 @@ struct Vertice {
 
 // New root of the style, foot of its false ortostilo, centre of the dial, tip of the gnomon folded into the plane.
 struct Triangolo {
-    Reale lunghezza;  // whole length on the substyle
+    Reale altStilo;    // elevation of the style, radians
+    Reale sottostilo;  // its length on the substyle before it is lengthened
+    Reale lunghezza;   // whole length on the substyle
     Reale ortoFalso;
     Vertice P, Q, F, G;
 };
 
-// Leaves the elevation of the style, negative here on a wall that looks south (the caption's centre follows it), and
-// segStiloSus.
-Triangolo calcola(Corsa &c) {
-    Variabili &v = c.s.v;
+Triangolo calcola(const Corsa &c) {
+    const Variabili &v = c.v;
     const Valore segnoDecLocale = v.decR == 0 ? Valore(1) : Sgn(v.decR);
     const Valore segnoLatLocale = SegnoLatitudine(v.latR);
-    const Reale allungo = v.unita * Val(c.s.in.txtSUBSTYLE);
+    const Reale allungo = v.unita * c.letto.allungo;
     const Reale sust = SustilareMuroIntera(v.latR, v.decR);
-    Reale &g = v.altStilo;
-    g = ArcSin(-cos(v.latR) * cos(v.decR));
-    v.segStiloSus = v.unita * Abs(v.gn / tan(g));
-
     Triangolo t;
-    t.lunghezza = allungo + v.segStiloSus;
+    t.altStilo = v.altStilo;  // what faults keeps the run's
+    t.sottostilo = v.segStiloSus;
+    const Reale &g = t.altStilo;
+    t.altStilo = ArcSin(-cos(v.latR) * cos(v.decR));
+    t.sottostilo = v.unita * Abs(v.gn / tan(g));
+
+    t.lunghezza = allungo + t.sottostilo;
     t.ortoFalso = tan(g) * t.lunghezza;
     t.P.x = sin(sust) * allungo;
     t.P.y = cos(sust) * -allungo;
@@ -44,6 +46,12 @@ Triangolo calcola(Corsa &c) {
     t.G.x = segnoLatLocale * v.unita * cos(sust) * gnVerso;
     t.G.y = segnoLatLocale * v.unita * sin(sust) * gnVerso;
     return t;
+}
+
+// The elevation of the style, negative here on a wall that looks south, which the caption's centre follows, and the sottostilo.
+void lascia(Variabili &v, const Triangolo &t) {
+    v.altStilo = t.altStilo;
+    v.segStiloSus = t.sottostilo;
 }
 
 enum { IPOTENUSA_L, FALSO, CATETO_L, IPOTENUSA, CATETO, MEZZOGIORNO, ORTOSTILO };
@@ -62,9 +70,11 @@ void LineeTriangolo(const Corsa &, LineeAttese &linee) {
 }
 
 void TracciaTriangoloStilo(Corsa &c, const LineeAttese &linee) {
-    const Variabili &v = c.s.v;
+    const Variabili &v = c.v;
     Tavolo &t = c.s.tavolo;
-    const auto [lunghezza, ortoFalso, P, Q, F, G] = calcola(c);
+    const Triangolo triangolo = calcola(c);
+    lascia(c.s.v, triangolo);
+    const Vertice &P = triangolo.P, &Q = triangolo.Q, &F = triangolo.F, &G = triangolo.G;
     const auto cerchio = [&](const Vertice &p, int divisore, Colore colore) {
         t.TracciaCerchio(p.x, p.y, v.unita * v.gn / divisore, colore);
     };
@@ -96,8 +106,9 @@ void TracciaTriangoloStilo(Corsa &c, const LineeAttese &linee) {
 void TestiTriangolo(Corsa &c, const LineeAttese &) {
     Sessione &s = c.s;
     const Triangolo t = calcola(c);
-    const Variabili &v = s.v;
-    const Valore g = v.altStilo;
+    lascia(s.v, t);
+    const Variabili &v = c.v;
+    const Valore g = t.altStilo;
     s.Dati("");
     s.Dati(s.Traduci("TRIANGOLO dello STILO LUNGO"));
     const auto riga = [&](std::string_view etichetta, Valore lunghezza, const Vertice &p) {

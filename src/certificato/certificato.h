@@ -66,7 +66,7 @@ struct LineaVicina {
 // Of a row: what it claims, or what else it tells.
 [[nodiscard]] std::string TestoRiga(const RigaCertificato &r);
 [[nodiscard]] std::string TestoRiga(const Dizionario &d, const RigaCertificato &r);
-// "vero entro 0.03 mm", "3 linee non sono vere".
+// "vero entro 0.03 mm", "3 linee non sono vere", "nessuna linea da certificare".
 [[nodiscard]] std::string Verdetto(const Dizionario &d, const Certificato &c);
 [[nodiscard]] std::string VerdettoInglese(const Certificato &c);
 // The pieces of what the hover says of a point.

@@ -2,6 +2,7 @@
 #include "cli/campi.h"
 
 #include <algorithm>
+#include <filesystem>
 #include <limits>
 
 #include "app/comandi.h"
@@ -75,6 +76,7 @@ void Campi::opzioni(Opzioni &o) {
 std::string Campi::Applica(Sessione &s) const {
     s.originaleFresco = true;
     s.tavolo.recordMassimi = RecordInMemoria();
+    if (std::error_code e; !progetto.empty() && !std::filesystem::exists(progetto, e)) return progetto + ": no such file";
     if (!progetto.empty() && !app::ApriProgetto(s, progetto)) return progetto + ": no project file, or unreadable";
     if (luogo.empty() && !paese.empty()) return "--country goes with --place";
     if (!luogo.empty()) {

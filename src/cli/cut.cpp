@@ -77,6 +77,7 @@ int Cut(int argc, char **argv) {
     come.testi = testi.value_or(officina::CiSonoTratti() ? Testi::Tratti : Testi::Testo);
     SessioneDiComando c;
     if (const std::string e = disegna(disegno, c.s); !e.empty()) return Rifiuta("cut", e);
+    if (SoloCornice(c.s.tavolo.lista())) return Rifiuta("cut", std::string(SOLO_CORNICE) + "; nothing is written");
     std::string errore;
     const officina::Disegno d = officina::Prepara(c.s.tavolo, come, errore);
     if (!errore.empty()) return Rifiuta("cut", errore + ", and nothing is written");

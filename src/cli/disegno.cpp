@@ -79,6 +79,12 @@ std::string Disegno::Applica(Sessione &s) const {
     return {};
 }
 
+bool SoloCornice(const Lista &l) {
+    constexpr std::size_t RETTE = 6;  // the limit lines and the axes
+    return l.Linee.size() <= RETTE && l.Punti.empty() &&
+           std::all_of(l.pretese.begin(), l.pretese.end(), [](const Pretesa &p) { return p.specie == Specie::Nessuna; });
+}
+
 std::string Disegno::Esegui(Sessione &s) const {
     const bool parete = Val(s.in.txtInc) == 0;
     if (motore == "vertical" && !parete) return "txtInc reads " + s.in.txtInc + ": the vertical engine draws walls only";

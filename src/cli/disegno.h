@@ -46,6 +46,10 @@ private:
     std::vector<std::string_view> date_;  // options that Prendi took
 };
 
+// A drawing without a line of the dial's own: its frame, limit lines and axes at the most.
+[[nodiscard]] bool SoloCornice(const Lista &l);
+inline constexpr char SOLO_CORNICE[] = "only the frame is drawn: choose lines, as by --check chkOreAstronomiche";
+
 // A started program without a window: what it says goes to standard error.
 struct SessioneDiComando {
     explicit SessioneDiComando(const Carta &carta = CARTA_A4);

@@ -78,6 +78,7 @@ int Draw(int argc, char **argv) {
     SessioneDiComando c(r.disegno.carta.value_or(CARTA_A4));
     if (const std::string e = r.disegno.Applica(c.s); !e.empty()) return Rifiuta("draw", e);
     if (const std::string e = r.disegno.Esegui(c.s); !e.empty()) return Rifiuta("draw", e);
+    if (SoloCornice(c.s.tavolo.lista())) std::fprintf(stderr, "warning: %s\n", SOLO_CORNICE);
     std::FILE *const voce = std::any_of(r.uscite.begin(), r.uscite.end(), suUscita) ? stderr : stdout;
     if (const auto &carta = r.disegno.carta; carta) c.s.tavolo.Pagina(*carta);
     std::fprintf(stderr, "certificate: %s\n", VerdettoInglese(Certifica(DatiDelCertificato(c.s), c.s.tavolo.lista())).c_str());

@@ -290,7 +290,9 @@ TEST(Certificato, ParoleEForme) {
     const Certificato c = Certifica(dati, b.lista());
     EXPECT_EQ(VerdettoInglese(c), "1 line is not true");
     EXPECT_EQ(Verdetto({}, c), "1 linea non è vera");
-    EXPECT_EQ(VerdettoInglese({.righe = {}, .peggiore = 0.0213}), "true within 0.03 mm");
+    EXPECT_EQ(VerdettoInglese({.righe = {RigaCertificato{}}, .peggiore = 0.0213}), "true within 0.03 mm");
+    EXPECT_EQ(VerdettoInglese({}), "no line to certify");
+    EXPECT_EQ(Verdetto({}, {}), "nessuna linea da certificare");
     const std::string json = CertificatoJson(c), html = CertificatoHtml(dati, c), testo = CertificatoTesto(dati, c);
     EXPECT_TRUE(json.starts_with("{\"worst_mm\":") &&
                 json.find("\"true\":false,\"lines\":[\n{\"layer\":\"hour\",\"claim\":\"hour ") != std::string::npos);

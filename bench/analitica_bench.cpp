@@ -5,9 +5,9 @@
 #include <cmath>
 
 #include "analytic/analitica.h"
-#include "comuni.h"
 #include "core/conteggio.h"
 #include "gnomonica/proiezione.h"
+#include "sessione/muto.h"
 
 using namespace ombrelia;
 
@@ -29,7 +29,7 @@ void prepara(Sessione &s, double lato) {
 
 // All of the dial on a sheet that keeps every point, and on one of an ordinary size that drops most.
 void analitica(benchmark::State &stato) {
-    misura::Muto utente;
+    Muto utente;
     Sessione s(utente);
     prepara(s, static_cast<double>(stato.range(0)));
     for (auto _ : stato) {
@@ -42,7 +42,7 @@ BENCHMARK(analitica)->Arg(15)->Arg(1)->Unit(benchmark::kMillisecond);
 
 // The floor draws no readable dial: the same sweeps with any constants.
 void fondo(benchmark::State &stato) {
-    misura::Muto utente;
+    Muto utente;
     Sessione s(utente);
     prepara(s, static_cast<double>(stato.range(0)));
     Tavolo &t = s.tavolo;

@@ -5,10 +5,10 @@
 #include <vector>
 
 #include "app/comandi.h"
-#include "comuni.h"
 #include "core/conteggio.h"
 #include "gnomonica/proiezione.h"
 #include "plot/dxf.h"
+#include "sessione/muto.h"
 
 namespace {
 
@@ -60,7 +60,7 @@ void Pavimento(benchmark::State &stato) {
 BENCHMARK(Pavimento)->Unit(benchmark::kMillisecond);
 
 void QuadranteIntero(benchmark::State &stato) {
-    misura::Muto utente;
+    Muto utente;
     Sessione s(utente);
     prepara(s);
     for (auto _ : stato) {
@@ -74,7 +74,7 @@ BENCHMARK(QuadranteIntero)->Unit(benchmark::kMillisecond);
 
 // As above, each time at another latitude: nothing of the run before can be used again.
 void QuadranteDiAltroLuogo(benchmark::State &stato) {
-    misura::Muto utente;
+    Muto utente;
     Sessione s(utente);
     prepara(s);
     int n = 0;

@@ -4,10 +4,10 @@
 
 #include <cmath>
 
-#include "comuni.h"
 #include "core/file.h"
 #include "core/percorsi.h"
 #include "map/mappa.h"
+#include "sessione/muto.h"
 
 using namespace ombrelia;
 
@@ -38,7 +38,7 @@ Mondo centomila() {
 }
 
 void mondo(benchmark::State &stato) {
-    misura::Muto utente;
+    Muto utente;
     Sessione s(utente);
     prepara(s);
     s.mondo = centomila();
@@ -54,14 +54,14 @@ BENCHMARK(mondo)->Unit(benchmark::kMillisecond);
 // The floor. Each point: sine, cosine and tangent of H and D, azimuth and zenith distance with theirs; each point in
 // sight: a chord kept.
 void fondo(benchmark::State &stato) {
-    misura::Muto utente;
+    Muto utente;
     Sessione s(utente);
     const Mondo m = centomila();
     const double sphi = std::sin(PI * 45 / 180), cphi = std::cos(PI * 45 / 180);
     for (auto _ : stato) {
         s.tavolo.Clear();
         double px = 0, py = 0;
-        for (const Mondo::Punto &p : m.punti) {
+        for (const Mondo::PuntoTerra &p : m.punti) {
             const double H = PI * p.X / 180, D = -PI * p.Y / 180;
             const double sh = std::sin(H), ch = std::cos(H), td = std::tan(D);
             double A = std::atan(sh / (sphi * ch - cphi * td));
@@ -85,7 +85,7 @@ BENCHMARK(fondo)->Unit(benchmark::kMillisecond);
 void carica(benchmark::State &stato) {
     const auto percorso = TrovaDato("mondo.csv");
     if (!percorso) return stato.SkipWithError("mondo.csv is not here: run in the folder data");
-    misura::Muto utente;
+    Muto utente;
     Sessione s(utente);
     for (auto _ : stato) CaricaMondo(s);
     stato.counters["punti"] = static_cast<double>(s.mondo.punti.size());

@@ -6,8 +6,8 @@
 #include <vector>
 
 #include "app/comandi.h"
-#include "comuni.h"
 #include "core/conteggio.h"
+#include "sessione/muto.h"
 #include "vertical/piana.h"
 
 namespace {
@@ -45,7 +45,7 @@ struct Conti {
 };
 
 void Pavimento(benchmark::State &stato) {
-    misura::Muto utente;
+    Muto utente;
     Sessione s(utente);
     prepara(s);
     app::cmdRun(s);
@@ -113,7 +113,7 @@ void Pavimento(benchmark::State &stato) {
 BENCHMARK(Pavimento)->Name("PareteIntera/pavimento")->Unit(benchmark::kMillisecond);
 
 void PareteIntera(benchmark::State &stato) {
-    misura::Muto utente;
+    Muto utente;
     Sessione s(utente);
     prepara(s);
     for (auto _ : stato) {

@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "certificato/posa.h"
+#include "core/testo.h"
 #include "officina/etichette.h"
 #include "officina/tratti.h"
 #include "ombra/sole.h"
@@ -17,27 +18,15 @@ constexpr int ANNO_TIPO = 2026;                                // dates of a day
 constexpr double SOLSTIZIO = 23.4;                             // degrees: from here on a day line is the solstice's
 constexpr double ALTEZZA_MINIMA = 0.5, ALTEZZA_MASSIMA = 500;  // mm
 
-std::string romano(int n) {
-    struct Cifra {
-        int valore;
-        const char *lettere;
-    };
-    constexpr Cifra CIFRE[] = {{10, "X"}, {9, "IX"}, {5, "V"}, {4, "IV"}, {1, "I"}};
-    std::string t;
-    for (const Cifra &c : CIFRE)
-        for (; n >= c.valore; n -= c.valore) t += c.lettere;
-    return t;
-}
-
 // Signs that begin when the Sun has a declination, the one it climbs into first.
 std::string segni(double delta) {
-    struct Segno {
+    struct SegnoDelCielo {
         double delta;
         const char *segni;
     };
-    constexpr Segno SEGNI[] = {{-23.44, "♑"},  {-20.15, "♒ ♐"}, {-11.47, "♓ ♏"}, {0, "♈ ♎"},
-                               {11.47, "♉ ♍"}, {20.15, "♊ ♌"},  {23.44, "♋"}};
-    for (const Segno &s : SEGNI)
+    constexpr SegnoDelCielo SEGNI[] = {{-23.44, "♑"},  {-20.15, "♒ ♐"}, {-11.47, "♓ ♏"}, {0, "♈ ♎"},
+                                       {11.47, "♉ ♍"}, {20.15, "♊ ♌"},  {23.44, "♋"}};
+    for (const SegnoDelCielo &s : SEGNI)
         if (std::fabs(delta - s.delta) < 0.5) return s.segni;
     return {};
 }
@@ -70,7 +59,7 @@ private:
         int n = static_cast<int>(std::lround(valore));
         if (std::fabs(valore - n) > 1e-6 || !illuminata(specie, valore)) return {};
         if (specie == Specie::Ora) n = (n + 11) % 12 + 1;
-        return in_.ckEtichetteRomane == 1 && n > 0 ? romano(n) : std::to_string(n);
+        return in_.ckEtichetteRomane == 1 && n > 0 ? NumeroRomano(n) : std::to_string(n);
     }
 
     // Whether the Sun ever shines on the plane at that hour.
@@ -100,13 +89,13 @@ private:
         if (std::fabs(delta) >= SOLSTIZIO) return delta > 0 ? "21 VI" : "21 XII";
         std::string t;
         for (const ombra::Data &d : ombra::dateDi(delta * ombra::RADIANTI, 0, ANNO_TIPO, posa_.longitudine, posa_.fuso()))
-            t += (t.empty() ? "" : " - ") + std::to_string(d.giorno) + " " + romano(d.mese);
+            t += (t.empty() ? "" : " - ") + std::to_string(d.giorno) + " " + NumeroRomano(d.mese);
         return t;
     }
 
     const DialInputs &in_;
     const Posa posa_;
-    const ombra::Piano piano_;
+    const ombra::PianoMontato piano_;
 };
 
 double altezza(const Sessione &s) {

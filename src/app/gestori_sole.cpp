@@ -13,10 +13,10 @@ namespace {
 constexpr std::string_view MODULO = "frmDeclin";
 
 // The boxes of one angle, by their names on the board: latitude, longitude.
-struct Angolo {
+struct CaselleAngolo {
     NomeControllo decimale, gradi, primi, secondi, segno;
 };
-constexpr std::array<Angolo, 2> ANGOLI{{
+constexpr std::array<CaselleAngolo, 2> ANGOLI{{
     {"frmDeclin.txtLAT", "frmDeclin.txtLatG", "frmDeclin.txtLatP", "frmDeclin.txtLATS", "frmDeclin.cmdSign(0)"},
     {"frmDeclin.txtLON", "frmDeclin.txtLonG", "frmDeclin.txtLonP", "frmDeclin.txtLonS", "frmDeclin.cmdSign(1)"},
 }};
@@ -25,14 +25,14 @@ Valore valore(Sessione &s, NomeControllo nome) { return Val(s.testo(nome)); }
 
 // Only one set of boxes answers; the sign buttons always do.
 void modo(Sessione &s, bool decimale) {
-    for (const Angolo &a : ANGOLI) {
+    for (const CaselleAngolo &a : ANGOLI) {
         s.stato(a.decimale).abilitato = decimale;
         for (const NomeControllo nome : {a.gradi, a.primi, a.secondi}) s.stato(nome).abilitato = !decimale;
     }
 }
 
 // Boxes are converted when they are left, not while they change. A number that overflows converts nothing.
-void inSessagesimali(Sessione &s, const Angolo &a) {
+void inSessagesimali(Sessione &s, const CaselleAngolo &a) {
     const Valore v = valore(s, a.decimale);
     if (!v.esiste()) return;
     const sun::Sessagesimale parti = sun::GradiDecToSex(v);
@@ -42,7 +42,7 @@ void inSessagesimali(Sessione &s, const Angolo &a) {
     s.stato(a.segno).caption.assign(1, v >= 0 ? '+' : '-');
 }
 
-void inDecimali(Sessione &s, const Angolo &a) {
+void inDecimali(Sessione &s, const CaselleAngolo &a) {
     const std::string decimali =
         sun::GradiSexToDec(s.stato(a.segno).caption, valore(s, a.gradi), valore(s, a.primi), valore(s, a.secondi));
     if (!decimali.empty()) s.testo(a.decimale) = decimali;
@@ -58,7 +58,7 @@ void sessagesimale_LostFocus(Sessione &s, int) {
 }
 
 void cmdSign_Click(Sessione &s, int indice) {
-    const Angolo &a = ANGOLI[static_cast<std::size_t>(indice)];
+    const CaselleAngolo &a = ANGOLI[static_cast<std::size_t>(indice)];
     std::string &segno = s.stato(a.segno).caption;
     segno.assign(1, segno == "+" ? '-' : '+');
     const Valore v = Abs(valore(s, a.decimale)) * Val(segno + "1");
@@ -72,7 +72,7 @@ void mnuAusiliaria_Click(Sessione &s, int) {
     modo(s, true);
     s.testo(ANGOLI[0].decimale) = s.in.txtLAT;
     s.testo(ANGOLI[1].decimale) = s.in.txtLonG;
-    for (const Angolo &a : ANGOLI) inSessagesimali(s, a);
+    for (const CaselleAngolo &a : ANGOLI) inSessagesimali(s, a);
     // Another zone than the start's is the board's too; at the start's the box keeps what was typed there.
     if (const Valore meridiano = Val(s.in.txtMeridiano); meridiano.esiste() && meridiano != -15)
         s.testo("frmDeclin.TxtFuso") = TestoNumero((meridiano / 15).v);

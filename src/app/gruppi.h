@@ -11,16 +11,16 @@ namespace ombrelia::app {
 struct Gruppo {
     // What stands in a row: a control, or a caption of the group's own, marked _it. "Picture2" and "Picture3" are the figures of
     // the plane, "Line1" a divider.
-    struct Cosa {
+    struct VoceDiGruppo {
         IdControllo id = NESSUN_CONTROLLO;
         std::string_view caption{};
-        consteval Cosa(const char *nome) : id(IdNoto(nome)) {}          // NOLINT
-        constexpr Cosa(std::string_view scritta) : caption(scritta) {}  // NOLINT
-        explicit constexpr Cosa(IdControllo quale) : id(quale) {}
+        consteval VoceDiGruppo(const char *nome) : id(IdNoto(nome)) {}          // NOLINT
+        constexpr VoceDiGruppo(std::string_view scritta) : caption(scritta) {}  // NOLINT
+        explicit constexpr VoceDiGruppo(IdControllo quale) : id(quale) {}
     };
-    using Riga = std::vector<Cosa>;
+    using RigaDiGruppo = std::vector<VoceDiGruppo>;
     std::string_view titolo;  // Italian, for the dictionary
-    std::vector<Riga> righe;
+    std::vector<RigaDiGruppo> righe;
     bool piegato = false;  // at the start: what only a master needs
 };
 

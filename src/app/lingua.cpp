@@ -9,10 +9,10 @@ namespace ombrelia::app {
 namespace {
 
 // Which texts of a control belong to the dictionary.
-struct Testi {
+struct TestiDelDizionario {
     bool caption, toolTip;
 };
-Testi testiDi(Classe classe) {
+TestiDelDizionario testiDi(Classe classe) {
     switch (classe) {
         case Classe::Casella:
         case Classe::Opzione:
@@ -53,7 +53,7 @@ void ApplicaDizionario(Sessione &s, std::string_view Nome, std::string_view modu
     std::string &titolo = s.titolo(modulo);
     titolo = s.Traduci(titolo);
     for (const Controllo &c : ControlliDi(modulo)) {
-        const Testi quali = testiDi(c.classe);
+        const TestiDelDizionario quali = testiDi(c.classe);
         StatoControllo &stato = s.stato(IdDi(c));
         if (quali.caption) stato.caption = s.Traduci(stato.caption);
         if (quali.toolTip) stato.toolTip = s.Traduci(stato.toolTip);
@@ -65,7 +65,7 @@ void EsportaDizionario(Sessione &s, std::string_view modulo) {
     const auto riga = [&testo](const std::string &t) { testo += SenzaBlanks(t) + "|\r\n"; };
     for (const Controllo &c : ControlliDi(modulo)) {
         if (c.nostro) continue;
-        const Testi quali = testiDi(c.classe);
+        const TestiDelDizionario quali = testiDi(c.classe);
         const StatoControllo &stato = s.stato(IdDi(c));
         if (quali.caption) riga(stato.caption);
         if (quali.toolTip && !stato.toolTip.empty()) riga(stato.toolTip);

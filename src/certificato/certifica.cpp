@@ -25,7 +25,7 @@ public:
         riga_.strato = std::move(strato);
         riga_.specie = specie;
         riga_.valore = valore;
-        if (vera_.forma() == LineaVera::Forma::Curva) coperte_.assign(vera_.campioni().size() + 1, 0), sole_ = coperte_;
+        if (vera_.forma() == LineaVera::Andamento::Curva) coperte_.assign(vera_.campioni().size() + 1, 0), sole_ = coperte_;
     }
 
     void corda(const Punto &a, const Punto &b) {
@@ -33,9 +33,9 @@ public:
         const LineaVera::Esame ea = esamina(a), eb = esamina(b);
         const Punto m{(a.x + b.x) / 2, (a.y + b.y) / 2};
         ++riga_.corde;
-        const bool stilo = vera_.forma() == LineaVera::Forma::Stilo;  // only its corners say something
-        const LineaVera::Esame em = stilo || vera_.forma() == LineaVera::Forma::Retta ? ea : esamina(m);
-        if (vera_.forma() == LineaVera::Forma::Retta) esamina(m);
+        const bool stilo = vera_.forma() == LineaVera::Andamento::Stilo;  // only its corners say something
+        const LineaVera::Esame em = stilo || vera_.forma() == LineaVera::Andamento::Retta ? ea : esamina(m);
+        if (vera_.forma() == LineaVera::Andamento::Retta) esamina(m);
         conta(a, b, l, ea, em, eb);
     }
 
@@ -48,9 +48,9 @@ public:
             const LineaVera::Esame ea = ultimo_;
             conta(*prima, p, l, ea, e, e);
         } else if (e.distanza <= tolleranza_) {
-            if (vera_.forma() == LineaVera::Forma::Retta)
+            if (vera_.forma() == LineaVera::Andamento::Retta)
                 soli_.emplace_back(e.parametro - MEZZO_PUNTO, e.parametro + MEZZO_PUNTO);
-            else if (vera_.forma() == LineaVera::Forma::Curva) copri(sole_, e.parametro, e.parametro, 1);
+            else if (vera_.forma() == LineaVera::Andamento::Curva) copri(sole_, e.parametro, e.parametro, 1);
         }
         ultimo_ = e;
     }
@@ -60,7 +60,7 @@ public:
         RigaCertificato &r = riga_;
         doppi = 0;
         opposti = opposti_;
-        if (vera_.forma() == LineaVera::Forma::Retta) {
+        if (vera_.forma() == LineaVera::Andamento::Retta) {
             const double somma = Lunghezza(tratti_) + Lunghezza(soli_);
             Unisci(tratti_);
             Unisci(soli_);
@@ -69,7 +69,7 @@ public:
             Unisci(tratti_);
             r.visibili = Lunghezza(vera_.visibili()) * MM;
             r.mancanti = r.visibili - Lunghezza(Intersezione(vera_.visibili(), tratti_)) * MM;
-        } else if (vera_.forma() == LineaVera::Forma::Curva) {
+        } else if (vera_.forma() == LineaVera::Andamento::Curva) {
             const auto &c = vera_.campioni();
             int quante = 0, sole = 0;
             for (std::size_t i = 0; i + 1 < c.size(); ++i) {
@@ -91,8 +91,8 @@ public:
                   r.specie == Specie::Temporaria || r.specie == Specie::Analemma || r.specie == Specie::Mezzogiorno ||
                   r.specie == Specie::OraSustilare;
         if (r.massimo > 1e-6) {
-            const ombra::Piano piano(dati_.posa.quadrante);
-            const ombra::Lettura l = piano.leggi(Punto{r.xPeggiore / MM, r.yPeggiore / MM});
+            const ombra::PianoMontato piano(dati_.posa.quadrante);
+            const ombra::SoleLetto l = piano.leggi(Punto{r.xPeggiore / MM, r.yPeggiore / MM});
             const ombra::Moto m = piano.moto(l.t, l.delta);
             const double perT = std::hypot(m.perT.x, m.perT.y), perDelta = std::hypot(m.perDelta.x, m.perDelta.y);
             const double radianti = r.massimo / MM / (r.tempo ? perT : perDelta);
@@ -121,8 +121,8 @@ private:
         riga_.disegnati += l * MM;
         riga_.oltre += l * MM * (fuori(a) + fuori(b)) / 2;
         const bool sta = ea.distanza <= tolleranza_ && eb.distanza <= tolleranza_ && em.distanza <= tolleranza_;
-        if (vera_.forma() == LineaVera::Forma::Retta) {
-            const Tratto t = std::minmax(ea.parametro, eb.parametro);
+        if (vera_.forma() == LineaVera::Andamento::Retta) {
+            const Intervallo t = std::minmax(ea.parametro, eb.parametro);
             riga_.superflui += std::max(0.0, t.second - t.first - Lunghezza(Intersezione({t}, vera_.lucenti()))) * MM;
             opposti_ += Lunghezza(Intersezione({t}, vera_.opposti())) * MM;
             if (!sta || t.first == t.second) return;
@@ -130,7 +130,7 @@ private:
             if (!tratti_.empty() && std::fabs(tratti_.back().second - t.first) < 1e-9) tratti_.back().second = t.second;
             else if (!tratti_.empty() && std::fabs(tratti_.back().first - t.second) < 1e-9) tratti_.back().first = t.first;
             else tratti_.emplace_back(t);
-        } else if (vera_.forma() == LineaVera::Forma::Curva) {
+        } else if (vera_.forma() == LineaVera::Andamento::Curva) {
             riga_.superflui += l * MM * (ea.buia + 2 * em.buia + eb.buia) / 4;
             if (sta) copri(coperte_, ea.parametro, eb.parametro, 0);
         }
@@ -159,7 +159,7 @@ private:
     LineaVera vera_;
     double tolleranza_;  // metres
     RigaCertificato riga_;
-    Tratti tratti_, soli_;
+    Intervalli tratti_, soli_;
     // Differences: how often the stretch behind each sample was drawn. A dot with none before it covers a little to either
     // side: not twice where a run of dots begins, but twice where such a dot lies on another.
     std::vector<int> coperte_, sole_;

@@ -27,14 +27,14 @@ double numero(const std::string &testo) {
 }
 
 // What one feature is drawn with.
-struct Disegno {
+struct Corredo {
     Sessione &s;
     const Attesa &attesa;
     Scena scena;
     bool fuso;   // hours are the zone's
     bool punti;  // the engine would draw dots
 
-    [[nodiscard]] Tratto tratto(const LineaAttesa &l) const { return {l.colore, l.strato, punti}; }
+    [[nodiscard]] Pennello tratto(const LineaAttesa &l) const { return {l.colore, l.strato, punti}; }
     void percorso(const LineaAttesa &l, Specie specie, double valore, const Percorso &p, double da, double a, int passi,
                   bool annua) const {
         const Pretendi pretendi(s.tavolo, specie, valore);
@@ -49,13 +49,13 @@ struct Disegno {
             [&angolo](double delta) -> std::optional<Vettore> {
                 const std::optional<double> t = angolo(delta);
                 if (!t) return {};
-                return ombra::Piano::sole(*t, delta);
+                return ombra::PianoMontato::sole(*t, delta);
             },
             da, a, 48, false);
     }
     // Along a vertical circle, by altitude.
     void lungoIlVerticale(const LineaAttesa &l, Specie specie, double valore, double azimut) const {
-        const ombra::Piano &piano = scena.piano();
+        const ombra::PianoMontato &piano = scena.piano();
         const Vettore verso = std::cos(azimut) * piano.sud() + std::sin(azimut) * Vettore{0, 1, 0};
         percorso(
             l, specie, valore,
@@ -66,7 +66,7 @@ struct Disegno {
 
 // --- hours -----------------------------------------------------------------------------------------------------------
 
-void ore(const Disegno &d) {
+void ore(const Corredo &d) {
     std::vector<double> fatte;
     const auto traccia = [&](const LineaAttesa &l, double valore) {
         // Quarters and halves come after the hours and run over them; so does midnight seen from its other side.
@@ -100,7 +100,7 @@ std::pair<double, double> giorniDa(double latitudine, double ore) {
     return latitudine < 0 ? std::pair(-a, -da) : std::pair(da, a);
 }
 
-void stagionale(const Disegno &d, const LineaAttesa &l, double k) {
+void stagionale(const Corredo &d, const LineaAttesa &l, double k) {
     const double lat = d.scena.latitudine();
     const Specie specie = d.attesa.specie;
     const double ore = specie == Specie::Italica ? 24 - k : specie == Specie::Babilonica ? k : 0;
@@ -122,7 +122,7 @@ void stagionale(const Disegno &d, const LineaAttesa &l, double k) {
 }
 
 // The hours that the longest day has beyond those an engine draws, unless the user chose his own first and last hour.
-std::vector<double> oreMancanti(const Disegno &d) {
+std::vector<double> oreMancanti(const Corredo &d) {
     const bool italiche = d.attesa.specie == Specie::Italica;
     const DialInputs &in = d.s.in;
     const bool scelte = d.attesa.motore == Motore::Diretta &&
@@ -140,15 +140,15 @@ std::vector<double> oreMancanti(const Disegno &d) {
     return mancanti;
 }
 
-void giorno(const Disegno &d, const LineaAttesa &l, Specie specie, double gradi) {
+void giorno(const Corredo &d, const LineaAttesa &l, Specie specie, double gradi) {
     const double delta = gradi * RAD;
     if (std::fabs(gradi) > SOLSTIZIO_GRADI + 0.005) return;  // no Sun there
     d.percorso(
-        l, specie, gradi, [delta](double t) -> std::optional<Vettore> { return ombra::Piano::sole(t, delta); }, -MEZZO_GIRO,
-        MEZZO_GIRO, 96, false);
+        l, specie, gradi, [delta](double t) -> std::optional<Vettore> { return ombra::PianoMontato::sole(t, delta); },
+        -MEZZO_GIRO, MEZZO_GIRO, 96, false);
 }
 
-void stagionali(const Disegno &d) {
+void stagionali(const Corredo &d) {
     for (const LineaAttesa &l : d.attesa.linee) stagionale(d, l, l.valore);
     if (d.attesa.specie == Specie::Temporaria || d.attesa.linee.empty()) return;
     for (const double k : oreMancanti(d)) stagionale(d, d.attesa.linee.front(), k);
@@ -157,7 +157,7 @@ void stagionali(const Disegno &d) {
 // --- days ------------------------------------------------------------------------------------------------------------
 
 // Whether the day of choice is one of those that are drawn beside it.
-bool giaDelleAltre(const Disegno &d, const LineaAttesa &l) {
+bool giaDelleAltre(const Corredo &d, const LineaAttesa &l) {
     const DialInputs &in = d.s.in;
     const bool muro = d.attesa.motore == Motore::Verticale && l.strato == "Diurna opzionale";
     const bool analitica = d.attesa.motore == Motore::Analitica && d.attesa.linee.size() == 2 && in.Ck_DayLightCurves == 1;
@@ -167,7 +167,7 @@ bool giaDelleAltre(const Disegno &d, const LineaAttesa &l) {
     return (analitica || in.ckFunzione != 1) && (std::fabs(v - 20) < 0.006 || std::fabs(v - 11.5) < 0.006);
 }
 
-void giorni(const Disegno &d) {
+void giorni(const Corredo &d) {
     std::vector<double> fatti;
     const DialInputs &in = d.s.in;
     if (d.attesa.specie == Specie::Diurna && in.ck_Equinoziale == 1) fatti.push_back(0);
@@ -185,8 +185,8 @@ void giorni(const Disegno &d) {
 
 // --- altitudes, azimuths, prayer -------------------------------------------------------------------------------------
 
-void almucantarat(const Disegno &d) {
-    const ombra::Piano &piano = d.scena.piano();
+void almucantarat(const Corredo &d) {
+    const ombra::PianoMontato &piano = d.scena.piano();
     // The ring begins and ends behind the plane, where it is not seen.
     const double dietro = d.scena.posa().quadrante.declinazione - MEZZO_GIRO;
     std::vector<double> fatte;
@@ -204,7 +204,7 @@ void almucantarat(const Disegno &d) {
     }
 }
 
-void asr(const Disegno &d, const LineaAttesa &l) {
+void asr(const Corredo &d, const LineaAttesa &l) {
     const double lat = d.scena.latitudine();
     d.lungoLAnno(l, Specie::Asr, 1, [lat](double delta) -> std::optional<double> {
         const double distanza = std::fabs(lat - delta);
@@ -216,7 +216,7 @@ void asr(const Disegno &d, const LineaAttesa &l) {
     });
 }
 
-void qibla(const Disegno &d) {
+void qibla(const Corredo &d) {
     const Posa &p = d.scena.posa();
     const double q =
         Rilevamento(p.quadrante.latitudine, p.longitudine, numero(d.s.in.txtQlat) * RAD, numero(d.s.in.txtQlon) * RAD);
@@ -227,14 +227,14 @@ void qibla(const Disegno &d) {
 
 // --- mean time -------------------------------------------------------------------------------------------------------
 
-void lemniscata(const Disegno &d) {
+void lemniscata(const Corredo &d) {
     for (const LineaAttesa &l : d.attesa.linee) {
         const TempoMedio medio(d.scena.posa(), AnnoDelSole(d.s), l.valore);
         d.percorso(
             l, Specie::Analemma, l.valore,
             [&medio](double giorno) -> std::optional<Vettore> {
                 const auto [t, delta] = medio.sole(giorno);
-                return ombra::Piano::sole(t, delta);
+                return ombra::PianoMontato::sole(t, delta);
             },
             0, GIORNI_DELL_ANNO, 122, false);
     }
@@ -243,24 +243,24 @@ void lemniscata(const Disegno &d) {
 // --- figures ---------------------------------------------------------------------------------------------------------
 
 // Hour angle of the plane's own meridian: where the style's shadow falls on the substyle.
-std::optional<double> oraSustilare(const ombra::Piano &piano) {
+std::optional<double> oraSustilare(const ombra::PianoMontato &piano) {
     const Vettore &n = piano.normale();
     if (std::hypot(n.m, n.w) < 1e-9) return {};  // the style stands square to the plane
     return std::atan2(n.w, n.m);
 }
 
-void mezzogiorno(const Disegno &d, const LineaAttesa &l) {
+void mezzogiorno(const Corredo &d, const LineaAttesa &l) {
     const bool traLeOre = d.s.in.chkOreAstronomiche == 1 && (!d.fuso || d.scena.posa().longitudine == d.scena.posa().meridiano);
     if (!traLeOre) d.lungoLAnno(l, Specie::Mezzogiorno, 0, [](double) -> std::optional<double> { return 0; });
 }
 
-void sustilare(const Disegno &d) {
+void sustilare(const Corredo &d) {
     const auto t = oraSustilare(d.scena.piano());
     if (!t) return;
     for (const LineaAttesa &l : d.attesa.linee) d.lungoLAnno(l, d.attesa.specie, 0, [&](double) { return t; });
 }
 
-void orizzonte(const Disegno &d) {
+void orizzonte(const Corredo &d) {
     const ombra::Retta r = d.scena.piano().orizzonte();
     if ((r.a == 0 && r.b == 0) || d.attesa.linee.empty()) return;
     const LineaAttesa &l = d.attesa.linee.front();
@@ -272,7 +272,7 @@ void orizzonte(const Disegno &d) {
 }
 
 // Where an angle of a label stands: on the summer solstice of the site, in front of the plane and by day.
-void etichette(const Disegno &d) {
+void etichette(const Corredo &d) {
     const double lat = d.scena.latitudine(), delta = SOLSTIZIO;
     const auto h0 = ombra::semiarco(lat, delta);
     if (!h0) return;
@@ -282,7 +282,7 @@ void etichette(const Disegno &d) {
         const double t = d.attesa.di == Specie::Italica      ? *h0 - (24 - k) * ORA
                          : d.attesa.di == Specie::Babilonica ? k * ORA - *h0
                                                              : *h0 * (k / 6 - 1);
-        const Vettore sole = ombra::Piano::sole(std::clamp(t, -*h0 + ORLO, *h0 - ORLO), delta);
+        const Vettore sole = ombra::PianoMontato::sole(std::clamp(t, -*h0 + ORLO, *h0 - ORLO), delta);
         if (std::fabs(t) > *h0 + ORLO || !d.scena.visibile(sole)) continue;
         const auto p = d.scena.punto(sole);
         if (!p) continue;
@@ -294,9 +294,9 @@ void etichette(const Disegno &d) {
 
 // The triangle of gnomon, substyle and polar style, folded into the plane about the substyle: the gnomon square to it.
 // Lines: style, gnomon, substyle where the engine has it; of the vertical engine those of its own table.
-void triangolo(const Disegno &d) {
+void triangolo(const Corredo &d) {
     constexpr double LONTANO = 100;  // metres: a centre beyond is not drawn
-    const ombra::Piano &piano = d.scena.piano();
+    const ombra::PianoMontato &piano = d.scena.piano();
     const double g = d.scena.posa().quadrante.gnomone;
     const double px = piano.destra().p, py = piano.alto().p, l = std::hypot(px, py);
     // To the right of the foot as drawn; straight to the right where the style stands square to the plane.
@@ -342,7 +342,7 @@ void triangolo(const Disegno &d) {
 }
 
 // The stretch of a day line between the two branches of the analemma.
-void tacche(const Disegno &d) {
+void tacche(const Corredo &d) {
     for (const LineaAttesa &l : d.attesa.linee) {
         if (l.valore == 0 && d.s.in.ck_Equinoziale == 1) continue;
         const double delta = l.valore * RAD;
@@ -359,7 +359,8 @@ void tacche(const Disegno &d) {
         }
         if (angoli.size() < 2) continue;
         d.percorso(
-            l, Specie::Tacca, l.valore, [delta](double t) -> std::optional<Vettore> { return ombra::Piano::sole(t, delta); },
+            l, Specie::Tacca, l.valore,
+            [delta](double t) -> std::optional<Vettore> { return ombra::PianoMontato::sole(t, delta); },
             std::min(angoli[0], angoli[1]), std::max(angoli[0], angoli[1]), 8, false);
     }
 }
@@ -392,14 +393,14 @@ bool aPunti(const Sessione &s, const Attesa &a) {
 
 std::optional<std::pair<double, double>> OmbraNellaLista(const Sessione &s, double t, double delta) {
     const Scena scena(s);
-    const Vettore sole = ombra::Piano::sole(t, delta);
+    const Vettore sole = ombra::PianoMontato::sole(t, delta);
     const auto p = scena.illuminato(sole) ? scena.punto(sole) : std::nullopt;
     if (!p) return {};
     return std::pair(p->x, p->y);
 }
 
 bool TracciaVera(Sessione &s, const Attesa &attesa) {
-    const Disegno d{s, attesa, Scena(s), s.in.ck_Etna == 1, aPunti(s, attesa)};
+    const Corredo d{s, attesa, Scena(s), s.in.ck_Etna == 1, aPunti(s, attesa)};
     if (attesa.specie == Specie::Qibla) {
         qibla(d);
         return true;

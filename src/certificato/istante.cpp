@@ -6,7 +6,7 @@
 
 namespace ombrelia {
 
-using ombra::Piano;
+using ombra::PianoMontato;
 
 Istante IstanteDi(const Posa &posa, const ombra::Data &data, double ore, double fuso) {
     Istante i;
@@ -14,8 +14,8 @@ Istante IstanteDi(const Posa &posa, const ombra::Data &data, double ore, double 
     i.jd = ombra::giornoGiuliano(data) + (ore - fuso) / 24;
     i.sole = ombra::soleDi(i.jd);
     const double t = ombra::angoloOrario(i.jd, i.sole.equazione, posa.longitudine);
-    const Piano piano(posa.quadrante);
-    const ombra::Vettore s = Piano::sole(t, i.sole.delta);
+    const PianoMontato piano(posa.quadrante);
+    const ombra::Vettore s = PianoMontato::sole(t, i.sole.delta);
     i.cielo = piano.leggi(s);
     i.ombra = piano.getta(s);
     i.cielo.luce = i.ombra.luce;
@@ -29,7 +29,7 @@ std::vector<Istante> GiornataDi(const Posa &posa, const ombra::Data &data, doubl
 }
 
 LetturaPunto LeggiPunto(const Posa &posa, const ombra::Punto &p, int anno) {
-    const Piano piano(posa.quadrante);
+    const PianoMontato piano(posa.quadrante);
     const double phi = posa.quadrante.latitudine;
     LetturaPunto l;
     l.sole = piano.leggi(p);

@@ -15,8 +15,8 @@ struct Istante {
     double ore = 0;  // civil, since 0h of the date
     double jd = 0;   // universal time
     ombra::Sole sole{};
-    ombra::Lettura cielo;  // hour angle, declination, altitude, azimuth; luce is the dial's
-    ombra::Getto ombra;    // metres as mounted
+    ombra::SoleLetto cielo;  // hour angle, declination, altitude, azimuth; luce is the dial's
+    ombra::Getto ombra;      // metres as mounted
 };
 // The moment of a civil date and time, zone in hours East of Greenwich.
 [[nodiscard]] Istante IstanteDi(const Posa &posa, const ombra::Data &data, double ore, double fuso);
@@ -25,7 +25,7 @@ struct Istante {
 
 // What a point says.
 struct LetturaPunto {
-    ombra::Lettura sole;
+    ombra::SoleLetto sole;
     double oraVera = 0;                                     // of the site
     std::optional<double> italica, babilonica, temporaria;  // hours
     std::vector<double> momenti;                            // of the year, Julian days of universal time, one a date

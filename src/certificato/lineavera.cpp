@@ -9,7 +9,7 @@
 
 namespace ombrelia {
 
-using ombra::Piano;
+using ombra::PianoMontato;
 using ombra::Punto;
 using ombra::RADIANTI;
 using ombra::Retta;
@@ -30,13 +30,13 @@ const Vettore POLO{0, 0, 1}, OVEST{0, 1, 0};
 double norma(const Vettore &v) { return std::sqrt(v * v); }
 
 // Where A s^2 + B s + C <= 0.
-Tratti sottoZero(double A, double B, double C) {
+Intervalli sottoZero(double A, double B, double C) {
     if (A == 0) {
-        if (B == 0) return C <= 0 ? Tratti{{-INFINITO, INFINITO}} : Tratti{};
-        return B > 0 ? Tratti{{-INFINITO, -C / B}} : Tratti{{-C / B, INFINITO}};
+        if (B == 0) return C <= 0 ? Intervalli{{-INFINITO, INFINITO}} : Intervalli{};
+        return B > 0 ? Intervalli{{-INFINITO, -C / B}} : Intervalli{{-C / B, INFINITO}};
     }
     const double d = B * B - 4 * A * C;
-    if (d <= 0) return A > 0 ? Tratti{} : Tratti{{-INFINITO, INFINITO}};
+    if (d <= 0) return A > 0 ? Intervalli{} : Intervalli{{-INFINITO, INFINITO}};
     const double q = -(B + std::copysign(std::sqrt(d), B)) / 2;
     double s1 = q / A, s2 = q != 0 ? C / q : 0;
     if (s1 > s2) std::swap(s1, s2);
@@ -46,13 +46,13 @@ Tratti sottoZero(double A, double B, double C) {
 
 }  // namespace
 
-double Lunghezza(const Tratti &t) {
+double Lunghezza(const Intervalli &t) {
     double l = 0;
     for (const auto &[a, b] : t) l += b - a;
     return l;
 }
 
-void Unisci(Tratti &t) {
+void Unisci(Intervalli &t) {
     if (!std::is_sorted(t.begin(), t.end())) std::sort(t.begin(), t.end());
     std::size_t k = 0;
     for (std::size_t i = 1; i < t.size(); ++i) {
@@ -62,8 +62,8 @@ void Unisci(Tratti &t) {
     if (!t.empty()) t.resize(k + 1);
 }
 
-Tratti Intersezione(const Tratti &a, const Tratti &b) {
-    Tratti r;
+Intervalli Intersezione(const Intervalli &a, const Intervalli &b) {
+    Intervalli r;
     for (std::size_t i = 0, k = 0; i < a.size() && k < b.size();) {
         const double da = std::max(a[i].first, b[k].first), fino = std::min(a[i].second, b[k].second);
         if (da < fino) r.emplace_back(da, fino);
@@ -74,7 +74,7 @@ Tratti Intersezione(const Tratti &a, const Tratti &b) {
 
 LineaVera::LineaVera(const DatiCertificato &dati, Specie specie, double valore)
     : dati_(dati), piano_(dati.posa.quadrante), valore_(valore) {
-    const ombra::Quadrante &q = dati.posa.quadrante;
+    const ombra::QuadranteMontato &q = dati.posa.quadrante;
     const double s = std::copysign(1, q.gnomone);
     base_ = std::fabs(q.gnomone) * piano_.normale();
     destra_ = s * piano_.destra();
@@ -161,7 +161,7 @@ LineaVera::LineaVera(const DatiCertificato &dati, Specie specie, double valore)
             break;
         case Specie::Stilo: {
             costruzione_ = true;
-            forma_ = Forma::Stilo;
+            forma_ = Andamento::Stilo;
             // The substyle, and the style folded into the plane about it on either side: through centre and tip, or along
             // the substyle at the gnomon's length where the style runs along the plane.
             const Vettore &n = piano_.normale();
@@ -189,7 +189,7 @@ bool LineaVera::dentro(const Punto &p) const {
 }
 
 void LineaVera::retta(const Vettore &normale, const Vettore *lato, bool soloLato) {
-    forma_ = Forma::Retta;
+    forma_ = Andamento::Retta;
     legge_ = Legge::Lineare;
     retta_ = piano_.retta(normale);
     if (lato) lato_ = *lato;
@@ -208,16 +208,16 @@ void LineaVera::retta(const Vettore &normale, const Vettore *lato, bool soloLato
     lucenti_ = Intersezione(sopra(z, grazia), anno(FINE_ANNO));
     // A line that meets the horizon at a narrow angle ends there; one that is the horizon needs the grace.
     const bool orizzontale = norma(normale - (normale * z) * z) < 1e-9;
-    Tratti vere = Intersezione(sopra(z, orizzontale ? grazia : 0), anno(SOLSTIZIO));
+    Intervalli vere = Intersezione(sopra(z, orizzontale ? grazia : 0), anno(SOLSTIZIO));
     if (lato_) {
-        const Tratti da = sopra(*lato_, 1e-12);
+        const Intervalli da = sopra(*lato_, 1e-12);
         if (soloLato) lucenti_ = Intersezione(lucenti_, da);
         else opposti_ = Intersezione(lucenti_, sopra(-1.0 * *lato_, 0));
         vere = Intersezione(vere, da);
     }
     // Inside the frame: a s and b s between its sides.
     const Punto p0 = punto(0);
-    Tratti quadro{{-INFINITO, INFINITO}};
+    Intervalli quadro{{-INFINITO, INFINITO}};
     const auto lati = [&](double p, double d, double minimo, double massimo) {
         quadro = Intersezione(quadro, sottoZero(0, d, p - massimo));
         quadro = Intersezione(quadro, sottoZero(0, -d, minimo - p));
@@ -237,20 +237,20 @@ std::optional<Vettore> LineaVera::direzione(double u) const {
     if (legge_ == Legge::Temporaria) {
         const auto h0 = ombra::semiarco(phi, u);
         if (!h0) return {};
-        return Piano::sole(*h0 * (valore_ / 6 - 1), u);
+        return PianoMontato::sole(*h0 * (valore_ / 6 - 1), u);
     }
     if (legge_ == Legge::Asr) {
         if (!(std::fabs(phi - u) < PI_ / 2)) return {};
         const double h = std::atan(1 / (valore_ + std::tan(std::fabs(phi - u))));
         const double c = (std::sin(h) - std::sin(phi) * std::sin(u)) / (std::cos(phi) * std::cos(u));
         if (!(std::fabs(c) <= 1)) return {};
-        return Piano::sole(std::acos(c), u);
+        return PianoMontato::sole(std::acos(c), u);
     }
     const double k = std::clamp(u, 0.0, CAMPIONI_ANNO - 1e-9);
     const auto i = static_cast<std::size_t>(k);
-    const Giorno &a = anno_[i], &b = anno_[i + 1];
+    const GiornoAnalemma &a = anno_[i], &b = anno_[i + 1];
     const double f = k - static_cast<double>(i);
-    return Piano::sole(a.t + f * (b.t - a.t), a.delta + f * (b.delta - a.delta));
+    return PianoMontato::sole(a.t + f * (b.t - a.t), a.delta + f * (b.delta - a.delta));
 }
 
 LineaVera::Campione LineaVera::campione(double u) const {
@@ -264,7 +264,7 @@ LineaVera::Campione LineaVera::campione(double u) const {
 }
 
 void LineaVera::campiona(double da, double a, int parti) {
-    forma_ = Forma::Curva;
+    forma_ = Andamento::Curva;
     Campione prima = campione(da);
     campioni_.push_back(prima);
     for (int i = 1; i <= parti; ++i) {
@@ -301,9 +301,9 @@ void LineaVera::preparaAnalemma() {
     anno_.reserve(CAMPIONI_ANNO + 1);
     for (int i = 0; i <= CAMPIONI_ANNO; ++i) {
         const auto [t, delta] = medio.sole(GIORNI_DELL_ANNO * i / CAMPIONI_ANNO);
-        Giorno g{t, delta, {}, 0};
+        GiornoAnalemma g{t, delta, {}, 0};
         // Behind the plane too: what is drawn there is the analemma's other side, and dark.
-        const Vettore sole = Piano::sole(g.t, g.delta);
+        const Vettore sole = PianoMontato::sole(g.t, g.delta);
         const auto p = piano_.proietta(sole);
         if (p && std::fabs(sole * piano_.normale()) > 1e-6) g.p = *p, g.lato = sole * piano_.normale() > 0 ? 1 : -1;
         anno_.push_back(g);
@@ -333,7 +333,7 @@ double LineaVera::scartoAnalemma(const Punto &p, double &u) const {
     for (const std::size_t centro : {primo, secondo}) {
         const std::size_t da = centro > SALTO ? centro - SALTO : 0, a = std::min(centro + SALTO, anno_.size() - 1);
         for (std::size_t i = da; i < a; ++i) {
-            const Giorno &g = anno_[i], &h = anno_[i + 1];
+            const GiornoAnalemma &g = anno_[i], &h = anno_[i + 1];
             if (g.lato == 0 || g.lato != h.lato) continue;
             const double dx = h.p.x - g.p.x, dy = h.p.y - g.p.y, l2 = dx * dx + dy * dy;
             const double f = l2 > 0 ? std::clamp(((p.x - g.p.x) * dx + (p.y - g.p.y) * dy) / l2, 0.0, 1.0) : 0;
@@ -345,11 +345,11 @@ double LineaVera::scartoAnalemma(const Punto &p, double &u) const {
 }
 
 LineaVera::Esame LineaVera::esamina(const Punto &p) const {
-    if (forma_ == Forma::Retta) {
+    if (forma_ == Andamento::Retta) {
         if (retta_.a == 0 && retta_.b == 0) return {INFINITO, 0, true};
         return {std::fabs(retta_.a * p.x + retta_.b * p.y - retta_.c), retta_.a * p.y - retta_.b * p.x, false};
     }
-    if (forma_ == Forma::Stilo) {
+    if (forma_ == Andamento::Stilo) {
         double d = INFINITO;
         for (const Retta &r : stilo_) d = std::min(d, std::fabs(r.a * p.x + r.b * p.y - r.c));
         return {d, 0, false};

@@ -29,21 +29,21 @@ struct DatiCertificato {
     std::string titolo, luogo, piano, data;         // for the page
 };
 
-using Tratto = std::pair<double, double>;
+using Intervallo = std::pair<double, double>;
 
 // Stretches of a line in order, none of them overlapping.
-using Tratti = std::vector<Tratto>;
-[[nodiscard]] double Lunghezza(const Tratti &t);
+using Intervalli = std::vector<Intervallo>;
+[[nodiscard]] double Lunghezza(const Intervalli &t);
 // Sorts and joins what touches.
-void Unisci(Tratti &t);
-[[nodiscard]] Tratti Intersezione(const Tratti &a, const Tratti &b);
+void Unisci(Intervalli &t);
+[[nodiscard]] Intervalli Intersezione(const Intervalli &a, const Intervalli &b);
 
 class LineaVera {
 public:
     LineaVera(const DatiCertificato &dati, Specie specie, double valore);
 
-    enum class Forma : std::uint8_t { Nessuna, Retta, Curva, Stilo };
-    [[nodiscard]] Forma forma() const { return forma_; }
+    enum class Andamento : std::uint8_t { Nessuna, Retta, Curva, Stilo };
+    [[nodiscard]] Andamento forma() const { return forma_; }
     // A line that the dial's maker draws and no shadow follows, as substyle and horizon: nothing of it can be missing or
     // lie in the dark.
     [[nodiscard]] bool costruzione() const { return costruzione_; }
@@ -59,10 +59,10 @@ public:
     [[nodiscard]] Esame esamina(const ombra::Punto &p) const;
 
     // --- straight lines: stretches in metres of the parameter ---------------------------------------------------------
-    [[nodiscard]] const Tratti &lucenti() const { return lucenti_; }    // where a shadow falls at some time of the year
-    [[nodiscard]] const Tratti &visibili() const { return visibili_; }  // the same inside the frame
+    [[nodiscard]] const Intervalli &lucenti() const { return lucenti_; }    // where a shadow falls at some time of the year
+    [[nodiscard]] const Intervalli &visibili() const { return visibili_; }  // the same inside the frame
     // Lit by the opposite Sun: twelve hours later, which bears the same numeral, or the azimuth across.
-    [[nodiscard]] const Tratti &opposti() const { return opposti_; }
+    [[nodiscard]] const Intervalli &opposti() const { return opposti_; }
     [[nodiscard]] ombra::Punto punto(double parametro) const {
         return {retta_.c * retta_.a - parametro * retta_.b, retta_.c * retta_.b + parametro * retta_.a};
     }
@@ -90,24 +90,24 @@ private:
     void preparaAnalemma();
 
     const DatiCertificato &dati_;
-    ombra::Piano piano_;
+    ombra::PianoMontato piano_;
     ombra::Vettore base_, destra_, alto_;  // of the direction to the Sun, not of unit length
     double valore_;
-    Forma forma_ = Forma::Nessuna;
+    Andamento forma_ = Andamento::Nessuna;
     Legge legge_ = Legge::Lineare;
     bool costruzione_ = false, frammento_ = false;
     ombra::Retta retta_, orizzonte_;
     std::optional<ombra::Vettore> lato_;
     ombra::Vettore asse_;
     double seno_ = 0;  // of a cone about asse_
-    Tratti lucenti_, visibili_, opposti_;
+    Intervalli lucenti_, visibili_, opposti_;
     std::vector<Campione> campioni_;
-    struct Giorno {
+    struct GiornoAnalemma {
         double t, delta;
         ombra::Punto p;
         int lato;  // 1 in front of the plane, -1 behind, 0 nowhere
     };
-    std::vector<Giorno> anno_;
+    std::vector<GiornoAnalemma> anno_;
     std::vector<ombra::Retta> stilo_;
 };
 

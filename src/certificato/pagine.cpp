@@ -94,9 +94,9 @@ std::vector<const RigaCertificato *> peggiori(const Certificato &c, std::size_t 
 
 // The page's markup. Attributes rather than styles where a simple reader of such pages, as a printer of the window's, knows
 // only these.
-class Pagina {
+class PaginaCertificato {
 public:
-    Pagina(const Dizionario *d, std::string titolo) : d_(d) {
+    PaginaCertificato(const Dizionario *d, std::string titolo) : d_(d) {
         testo_ = "<!DOCTYPE html>\n<html><head><meta charset=\"utf-8\"><title>" + html(titolo) +
                  "</title>\n<style>@page{size:A4;margin:15mm}body{font-family:sans-serif;font-size:10pt;color:#222;"
                  "max-width:190mm;margin:auto}h1{font-size:18pt;margin:0 0 2mm}h2{font-size:12pt;font-weight:normal;margin:0 0 "
@@ -140,12 +140,12 @@ std::string CertificatoTesto(const DatiCertificato &dati, const Certificato &c) 
                     cifre(dati.posa.quadrante.declinazione * ombra::GRADI, 4) + " from South, inclination " +
                     cifre(dati.posa.quadrante.inclinazione * ombra::GRADI, 4) + ", gnomon " +
                     cifre(dati.posa.quadrante.gnomone * 1000, 2) + " mm\n\n";
-    struct Colonna {
+    struct ColonnaCertificato {
         std::string_view nome;
         std::size_t larga;
         bool destra;
     };
-    constexpr Colonna COLONNE[] = {
+    constexpr ColonnaCertificato COLONNE[] = {
         {"", 2, false}, {"layer", 18, false}, {"claim", 24, false},     {"drawn mm", 10, true},    {"largest mm", 12, true},
         {"", 9, true},  {"mean mm", 9, true}, {"missing mm", 11, true}, {"superfluous", 12, true}, {"worst at mm", 20, true}};
     const auto riga = [&](std::initializer_list<std::string> celle) {
@@ -156,7 +156,7 @@ std::string CertificatoTesto(const DatiCertificato &dati, const Certificato &c) 
         t += r + '\n';
     };
     std::vector<std::string> testa;
-    for (const Colonna &k : COLONNE) testa.emplace_back(k.nome);
+    for (const ColonnaCertificato &k : COLONNE) testa.emplace_back(k.nome);
     riga({testa[0], testa[1], testa[2], testa[3], testa[4], testa[5], testa[6], testa[7], testa[8], testa[9]});
     double oltre = 0;
     for (const RigaCertificato &r : c.righe) {
@@ -189,9 +189,9 @@ std::string CertificatoJson(const Certificato &c) {
 }
 
 std::string CertificatoHtml(const DatiCertificato &dati, const Certificato &c, const Dizionario *d) {
-    Pagina p(d, dici(d, TITOLO));
+    PaginaCertificato p(d, dici(d, TITOLO));
     if (!dati.titolo.empty()) p.capo(dati.titolo);
-    const ombra::Quadrante &q = dati.posa.quadrante;
+    const ombra::QuadranteMontato &q = dati.posa.quadrante;
     const auto gradi = [](double radianti, int posti) { return cifre(radianti * ombra::GRADI, posti) + "\xC2\xB0"; };
     const auto mm = [](double metri) { return cifre(metri * 1000, 1); };
     std::size_t linee = 0, corde = 0, punti = 0;

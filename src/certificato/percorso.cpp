@@ -131,7 +131,7 @@ private:
     }
 
     const Tavolo &tavolo_;
-    ombra::Piano piano_;
+    ombra::PianoMontato piano_;
     const std::vector<Istante> &giorno_;
     std::optional<ombra::Punto> centro_;
     double k_ = 1;  // of marks and letters: legible on the whole sheet

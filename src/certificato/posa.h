@@ -7,11 +7,11 @@
 namespace ombrelia {
 
 struct Posa {
-    ombra::Quadrante quadrante;  // as mounted: a southern plane's field of declination counts from North
-    double longitudine = 0;      // radians, West positive
-    double meridiano = 0;        // of the zone, radians, West positive
-    double unita = 1;            // metres in a unit of the fields
-    bool australe = false;       // the list of its drawing is the mirror image: x is the other way round there
+    ombra::QuadranteMontato quadrante;  // as mounted: a southern plane's field of declination counts from North
+    double longitudine = 0;             // radians, West positive
+    double meridiano = 0;               // of the zone, radians, West positive
+    double unita = 1;                   // metres in a unit of the fields
+    bool australe = false;              // the list of its drawing is the mirror image: x is the other way round there
 
     // Hours of the zone's mean time East of Greenwich.
     [[nodiscard]] double fuso() const { return -meridiano * ombra::GRADI / 15; }

@@ -111,7 +111,7 @@ double confine(double a, double b, Prova prova) {
 // One visible stretch of a path, followed closely enough.
 class Passata {
 public:
-    Passata(Tavolo &t, const Scena &scena, const Percorso &percorso, const Tratto &tratto)
+    Passata(Tavolo &t, const Scena &scena, const Percorso &percorso, const Pennello &tratto)
         : t_(t), scena_(scena), percorso_(percorso), tratto_(tratto), strato_(t.nome(tratto.strato)) {}
 
     void traccia(double a, double b) {
@@ -155,7 +155,7 @@ private:
     Tavolo &t_;
     const Scena &scena_;
     const Percorso &percorso_;
-    const Tratto &tratto_;
+    const Pennello &tratto_;
     IdNome strato_;
     Punto prima_, inizio_;
 };
@@ -187,9 +187,9 @@ public:
     }
 
 private:
-    using Sole = std::optional<Vettore>;
+    using DirezioneDelSole = std::optional<Vettore>;
 
-    void passo(double u0, const Sole &s0, double u1, const Sole &s1, int livello) {
+    void passo(double u0, const DirezioneDelSole &s0, double u1, const DirezioneDelSole &s1, int livello) {
         if (!s0 && !s1) return;
         if (s0.has_value() != s1.has_value()) {
             const auto esiste = [&](double u) { return percorso_(u).has_value(); };
@@ -212,7 +212,7 @@ private:
         }
         const double m = (u0 + u1) / 2;
         if (dubbio && livello < 11 && m != u0 && m != u1) {
-            const Sole sm = percorso_(m);
+            const DirezioneDelSole sm = percorso_(m);
             passo(u0, s0, m, sm, livello + 1);
             passo(m, sm, u1, s1, livello + 1);
             return;
@@ -220,7 +220,7 @@ private:
         for (std::size_t f = 0; f < facce_; ++f) {
             if ((q0[f] >= 0) == (q1[f] >= 0)) continue;
             const auto oltre = [&](double u) {
-                const Sole s = percorso_(u);
+                const DirezioneDelSole s = percorso_(u);
                 return s && seno(scena_, f, *s) >= 0;
             };
             tagli_.push_back(q0[f] >= 0 ? confine(u0, u1, oltre) : confine(u1, u0, oltre));
@@ -236,7 +236,7 @@ private:
 
 }  // namespace
 
-void Traccia(Tavolo &t, const Scena &scena, const Percorso &percorso, double da, double a, int passi, const Tratto &tratto,
+void Traccia(Tavolo &t, const Scena &scena, const Percorso &percorso, double da, double a, int passi, const Pennello &tratto,
              bool annua) {
     const std::size_t facce = annua ? Scena::FACCE : 6;
     const std::vector<double> tagli = Confini(scena, percorso, facce).tagli(da, a, passi);
@@ -258,7 +258,7 @@ void Traccia(Tavolo &t, const Scena &scena, const Percorso &percorso, double da,
     }
 }
 
-void TracciaSegmento(Tavolo &t, const Scena &scena, Punto a, Punto b, const Tratto &tratto, bool intero) {
+void TracciaSegmento(Tavolo &t, const Scena &scena, Punto a, Punto b, const Pennello &tratto, bool intero) {
     if (!intero && !scena.ritaglia(a, b)) return;
     const double l = std::hypot(b.x - a.x, b.y - a.y);
     const IdNome strato = t.nome(tratto.strato);

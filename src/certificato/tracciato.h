@@ -25,7 +25,7 @@ public:
     explicit Scena(const Sessione &s);
 
     [[nodiscard]] const Posa &posa() const { return posa_; }
-    [[nodiscard]] const ombra::Piano &piano() const { return piano_; }
+    [[nodiscard]] const ombra::PianoMontato &piano() const { return piano_; }
     [[nodiscard]] double latitudine() const { return posa_.quadrante.latitudine; }
     // Whether there is anything to draw on: a gnomon and a frame that is not turned round.
     [[nodiscard]] bool esiste() const { return posa_.quadrante.gnomone > 0 && xMin < xMax && yMin < yMax; }
@@ -53,7 +53,7 @@ public:
 
 private:
     Posa posa_;
-    ombra::Piano piano_;
+    ombra::PianoMontato piano_;
     double verso_ = 1;
     double longitudine_ = 0;  // that the hours count from, radians
     std::array<ombra::Vettore, FACCE> facce_{};
@@ -62,7 +62,7 @@ private:
 // A path of the Sun: its direction at a value of the parameter, or none.
 using Percorso = std::function<std::optional<ombra::Vettore>(double)>;
 
-struct Tratto {
+struct Pennello {
     Colore colore;
     std::string_view strato;
     bool punti = false;  // dots, else chords
@@ -70,9 +70,9 @@ struct Tratto {
 
 // Draws what is visible of a path between two values of its parameter, looked at in that many steps to begin with.
 // annua: the Sun's declination is bounded by the year; false for a path that stays within it by itself.
-void Traccia(Tavolo &t, const Scena &scena, const Percorso &percorso, double da, double a, int passi, const Tratto &tratto,
+void Traccia(Tavolo &t, const Scena &scena, const Percorso &percorso, double da, double a, int passi, const Pennello &tratto,
              bool annua = true);
 // A straight segment of the drawing, cut to the frame unless intero.
-void TracciaSegmento(Tavolo &t, const Scena &scena, ombra::Punto a, ombra::Punto b, const Tratto &tratto, bool intero = false);
+void TracciaSegmento(Tavolo &t, const Scena &scena, ombra::Punto a, ombra::Punto b, const Pennello &tratto, bool intero = false);
 
 }  // namespace ombrelia

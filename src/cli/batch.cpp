@@ -41,11 +41,11 @@ public:
     Sessione &sessione() { return s_; }
 
 private:
-    struct Azione {
+    struct Verbo {
         std::string_view nome;
         void (Esecuzione::*esegui)(std::string_view);
     };
-    static std::span<const Azione> azioni();
+    static std::span<const Verbo> azioni();
 
     // Takes the next word off the line.
     static std::string_view parola(std::string_view &resto) {
@@ -125,7 +125,7 @@ private:
 // Besides these each form of a drawing is an action.
 std::span<const Esecuzione::Azione> Esecuzione::azioni() {
     using E = Esecuzione;
-    static constexpr Azione TUTTE[] = {
+    static constexpr Verbo TUTTE[] = {
         {"set", &E::set},     {"type", &E::type},     {"check", &E::check},   {"uncheck", &E::uncheck}, {"click", &E::click},
         {"mouse", &E::mouse}, {"answer", &E::answer}, {"sheet", &E::sheet},   {"show", &E::show},       {"value", &E::value},
         {"open", &E::open},   {"save", &E::save},     {"report", &E::report}, {"print", &E::print},
@@ -137,7 +137,7 @@ void Esecuzione::esegui(std::string_view riga) {
     if (!riga.empty() && riga.back() == '\r') riga.remove_suffix(1);
     if (riga.find_first_not_of(" \t") == std::string_view::npos || riga.front() == '#') return;
     const std::string_view nome = parola(riga);
-    for (const Azione &a : azioni())
+    for (const Verbo &a : azioni())
         if (a.nome == nome) return (this->*a.esegui)(riga);
     for (const FormatoDisegno &f : Formati())
         if (f.azione == nome) return disegno(riga, f);

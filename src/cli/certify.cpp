@@ -8,9 +8,9 @@
 namespace ombrelia::cli {
 
 int Certify(int argc, char **argv) {
-    Disegno disegno;
+    Commissione disegno;
     double tolleranza = 0.1;
-    enum class Forma { Testo, Json, Html } forma = Forma::Testo;
+    enum class FormaGiudizio { Testo, Json, Html } forma = FormaGiudizio::Testo;
     std::string uscita = "-";
     for (int i = 0; i < argc; ++i) {
         const std::string a = argv[i];
@@ -18,9 +18,9 @@ int Certify(int argc, char **argv) {
         if (disegno.Prendi(argc, argv, i, errore)) {
             if (!errore.empty()) return Rifiuta("certify", errore);
         } else if (a == "--json") {
-            forma = Forma::Json;
+            forma = FormaGiudizio::Json;
         } else if (a == "--html") {
-            forma = Forma::Html;
+            forma = FormaGiudizio::Html;
         } else if (a == "--tolerance" || a == "-o" || a == "--out") {
             if (i + 1 >= argc) return Rifiuta("certify", a + " needs an argument");
             const std::string valore = argv[++i];
@@ -41,9 +41,9 @@ int Certify(int argc, char **argv) {
     dati.titolo = progetto.substr(progetto.find_last_of("/\\") + 1);
     dati.luogo = disegno.campi.luogo;
     const Certificato c = Certifica(dati, s.tavolo.lista(), tolleranza);
-    const std::string testo = forma == Forma::Json   ? CertificatoJson(c)
-                              : forma == Forma::Html ? CertificatoHtml(dati, c)
-                                                     : CertificatoTesto(dati, c);
+    const std::string testo = forma == FormaGiudizio::Json   ? CertificatoJson(c)
+                              : forma == FormaGiudizio::Html ? CertificatoHtml(dati, c)
+                                                             : CertificatoTesto(dati, c);
     if (const std::string e = Consegna(uscita, testo); !e.empty()) return Rifiuta("certify", e);
     return c.vero() ? 0 : 1;
 }

@@ -39,7 +39,7 @@ Opzione lunghezza(std::string_view nome, std::string_view cosa, double &mm) {
     return {nome, 1, cosa, [&mm](const Valori &v) -> std::string { return LeggiNumero(v[0], MINIMO, MASSIMO, mm); }};
 }
 
-std::string disegna(const Disegno &d, Sessione &s) {
+std::string disegna(const Commissione &d, Sessione &s) {
     std::string e = d.Applica(s);
     return e.empty() ? d.Esegui(s) : e;
 }
@@ -47,10 +47,10 @@ std::string disegna(const Disegno &d, Sessione &s) {
 }  // namespace
 
 int Cut(int argc, char **argv) {
-    Disegno disegno;
-    officina::Opzioni come;
+    Commissione disegno;
+    officina::ComePreparare come;
     std::optional<officina::Testi> testi;
-    officina::Foglio foglio;
+    officina::Cartiglio foglio;
     std::vector<std::string> uscite;
     const auto uscita = [&](const std::string &p) -> std::string {
         uscite.push_back(p);
@@ -90,7 +90,7 @@ int Cut(int argc, char **argv) {
 }
 
 int Solid(int argc, char **argv) {
-    Disegno disegno;
+    Commissione disegno;
     officina::Misure m;
     std::string parte = "all", uscita;
     const auto file = [&](const std::string &p) -> std::string {
@@ -118,14 +118,14 @@ int Solid(int argc, char **argv) {
     SessioneDiComando c;
     if (const std::string e = disegna(disegno, c.s); !e.empty()) return Rifiuta("solid", e);
     std::string errore;
-    officina::Opzioni come;
+    officina::ComePreparare come;
     come.tolleranza = 0.02;
     const officina::Disegno d = officina::Prepara(c.s.tavolo, come, errore);
     if (!errore.empty()) return Rifiuta("solid", errore + ", and nothing is written");
     const Posa posa = PosaDelDisegno(c.s);
     officina::Gnomone g;
     g.altezza = 1000 * posa.quadrante.gnomone;
-    if (const auto p = ombra::Piano(posa.quadrante).centro()) g.centro = officina::P2{1000 * p->x, 1000 * p->y};
+    if (const auto p = ombra::PianoMontato(posa.quadrante).centro()) g.centro = officina::P2{1000 * p->x, 1000 * p->y};
     // A centre beyond 50 gnomons is as good as none.
     if (g.centro && officina::Lungo(*g.centro) > 50 * g.altezza)
         g.centro = (50 * g.altezza / officina::Lungo(*g.centro)) * *g.centro;

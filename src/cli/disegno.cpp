@@ -41,7 +41,7 @@ std::string LeggiCarta(std::string_view testo, Carta &carta) {
     return std::string(testo) + ": it is a4, a3, letter, or WxH in millimetres from 50 up, as in 210x297";
 }
 
-void Disegno::opzioni(Opzioni &o) {
+void Commissione::opzioni(Opzioni &o) {
     campi.opzioni(o);
     o.righe.push_back({"--engine", 1, "an engine", [this](const Valori &v) { return leggiMotore(v[0], motore); }});
     o.righe.push_back(Bandiera("--map", mappa));
@@ -53,13 +53,13 @@ void Disegno::opzioni(Opzioni &o) {
 
 SessioneDiComando::SessioneDiComando(const Carta &carta) : s(console, carta.largaTwip(), carta.altaTwip()) { app::Avvia(s); }
 
-bool Disegno::Prendi(int argc, char **argv, int &i, std::string &errore) {
+bool Commissione::Prendi(int argc, char **argv, int &i, std::string &errore) {
     Opzioni o;
     opzioni(o);
     return o.prendi(argc, argv, i, date_, errore);
 }
 
-std::string Disegno::Applica(Sessione &s) const {
+std::string Commissione::Applica(Sessione &s) const {
     s.tavolo.specchiaArchi = s.australeMontato = true;
     if (std::string e = campi.Applica(s); !e.empty()) return e;
     if (motore == "vertical") s.in.CkUNI = 1;
@@ -85,7 +85,7 @@ bool SoloCornice(const Lista &l) {
            std::all_of(l.pretese.begin(), l.pretese.end(), [](const Pretesa &p) { return p.specie == Specie::Nessuna; });
 }
 
-std::string Disegno::Esegui(Sessione &s) const {
+std::string Commissione::Esegui(Sessione &s) const {
     const bool parete = Val(s.in.txtInc) == 0;
     if (motore == "vertical" && !parete) return "txtInc reads " + s.in.txtInc + ": the vertical engine draws walls only";
     if (motore == "analytic" && !parete)

@@ -24,7 +24,7 @@ namespace ombrelia::cli {
 // "a4", "a3", "letter" in any case, or WxH in millimetres. Empty, or what is wrong.
 [[nodiscard]] std::string LeggiCarta(std::string_view testo, Carta &carta);
 
-struct Disegno {
+struct Commissione {
     Campi campi;
     std::string motore = "auto";                  // or direct, vertical, analytic
     bool mappa = false;                           // the map of the world on it

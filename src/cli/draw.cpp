@@ -16,8 +16,8 @@ namespace ombrelia::cli {
 namespace {
 
 // What the user asked for.
-struct Richiesta {
-    Disegno disegno;
+struct ArgomentiDraw {
+    Commissione disegno;
     std::vector<std::string> uscite;
     std::string formato;  // of outputs whose names tell none
 
@@ -27,7 +27,7 @@ struct Richiesta {
     }
 };
 
-std::string leggi(int argc, char **argv, Richiesta &r) {
+std::string leggi(int argc, char **argv, ArgomentiDraw &r) {
     const auto uscita = [&r](const std::string &percorso) {
         r.uscite.push_back(percorso);
         return std::string();
@@ -73,7 +73,7 @@ std::string riassunto(const Sessione &s, const FormatoDisegno &f) {
 }  // namespace
 
 int Draw(int argc, char **argv) {
-    Richiesta r;
+    ArgomentiDraw r;
     if (const std::string e = leggi(argc, argv, r); !e.empty()) return Rifiuta("draw", e);
     SessioneDiComando c(r.disegno.carta.value_or(CARTA_A4));
     if (const std::string e = r.disegno.Applica(c.s); !e.empty()) return Rifiuta("draw", e);

@@ -25,11 +25,11 @@
 
 namespace {
 
-struct Comando {
+struct Sottocomando {
     std::string_view nome;
     int (*esegui)(int argc, char **argv);
 };
-constexpr Comando COMANDI[] = {
+constexpr Sottocomando COMANDI[] = {
     {"batch", ombrelia::cli::Batch},   {"certify", ombrelia::cli::Certify}, {"cut", ombrelia::cli::Cut},
     {"draw", ombrelia::cli::Draw},     {"place", ombrelia::cli::Place},     {"read", ombrelia::cli::Read},
     {"report", ombrelia::cli::Report}, {"shadow", ombrelia::cli::Shadow},   {"solid", ombrelia::cli::Solid},
@@ -81,7 +81,7 @@ int esegui(int argc, char **argv) {
         std::fputs(ombrelia::cli::Aiuto(argc > 2 ? argv[2] : "").c_str(), stdout);
         return primo.empty() ? 2 : 0;
     }
-    for (const Comando &c : COMANDI) {
+    for (const Sottocomando &c : COMANDI) {
         if (c.nome != primo) continue;
         for (int i = 2; i < argc; ++i)
             if (std::string_view(argv[i]) == "--help" || std::string_view(argv[i]) == "-h") {

@@ -48,7 +48,7 @@ void riga(const char *nome, const std::string &valore) { std::printf("%s=%s\n", 
 
 bool perPersone() { return isatty(STDOUT_FILENO) == 1; }
 
-std::string sole(const ombra::Lettura &l) {
+std::string sole(const ombra::SoleLetto &l) {
     return "the Sun " + cifre(std::fabs(l.altezza) * GRADI, 1) + "\xC2\xB0 " + (l.altezza < 0 ? "below the horizon" : "high") +
            ", " + cifre(std::fabs(l.azimut) * GRADI, 1) + "\xC2\xB0 " + (l.azimut < 0 ? "East" : "West") + " of South";
 }
@@ -71,8 +71,8 @@ bool leggiOra(const std::string &testo, double &ore) {
     return static_cast<std::size_t>(fine) == testo.size() && h >= 0 && h < 24 && m >= 0 && m < 60 && s >= 0 && s < 60;
 }
 
-struct Richiesta {
-    Disegno disegno;
+struct ArgomentiOmbra {
+    Commissione disegno;
     std::vector<std::string> altri;  // what is no option
     std::optional<ombra::Data> data;
     std::optional<double> ora, fuso;
@@ -81,7 +81,7 @@ struct Richiesta {
 };
 
 // The options of both commands; shadow tells which of its own are taken.
-std::string leggi(int argc, char **argv, bool shadow, Richiesta &r) {
+std::string leggi(int argc, char **argv, bool shadow, ArgomentiOmbra &r) {
     bool soloAltri = false;
     for (int i = 0; i < argc; ++i) {
         const std::string a = argv[i];
@@ -127,7 +127,7 @@ std::string leggi(int argc, char **argv, bool shadow, Richiesta &r) {
 
 // Hours East of Greenwich: as asked for; else what the clock of --place shows then, with its summer time; else the zone's mean
 // time.
-double fusoDi(const Richiesta &r, const Posa &posa, const ombra::Data &data, double ore) {
+double fusoDi(const ArgomentiOmbra &r, const Posa &posa, const ombra::Data &data, double ore) {
     if (r.fuso) return *r.fuso;
     std::string errore;
     const Campi &campi = r.disegno.campi;
@@ -179,7 +179,7 @@ void stampaGiorno(const std::vector<Istante> &giorno) {
 }  // namespace
 
 int Read(int argc, char **argv) {
-    Richiesta r;
+    ArgomentiOmbra r;
     if (const std::string e = leggi(argc, argv, false, r); !e.empty()) return Rifiuta("read", e);
     double x = 0, y = 0;
     if (r.altri.size() != 2 || !Numero(r.altri[0], x) || !Numero(r.altri[1], y))
@@ -217,7 +217,7 @@ int Read(int argc, char **argv) {
 }
 
 int Shadow(int argc, char **argv) {
-    Richiesta r;
+    ArgomentiOmbra r;
     if (const std::string e = leggi(argc, argv, true, r); !e.empty()) return Rifiuta("shadow", e);
     if (!r.ora && !r.giorno) return Rifiuta("shadow", "give --time, as in --time 10:40, or --day");
     if (r.altri.size() > (r.giorno ? 1U : 0U)) return Rifiuta("shadow", "what is " + r.altri.back() + "? One .svg behind --day");

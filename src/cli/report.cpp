@@ -9,7 +9,7 @@
 #include "cli/consegna.h"
 #include "cli/disegno.h"
 #include "gnomonica/longitudine.h"
-#include "reports/foglio.h"
+#include "reports/tabulato.h"
 
 namespace ombrelia::cli {
 
@@ -17,7 +17,7 @@ namespace {
 
 using app::VoceRapporto;
 
-struct Richiesta {
+struct ArgomentiReport {
     const VoceRapporto *voce = nullptr;
     Campi campi;
     std::string uscita = "-";
@@ -25,14 +25,14 @@ struct Richiesta {
     bool stampa = false;
 };
 
-std::string scegli(const std::string &nome, Richiesta &r) {
+std::string scegli(const std::string &nome, ArgomentiReport &r) {
     if (r.voce) return "one report at a time: " + std::string(r.voce->nome) + " or " + nome;
     for (const VoceRapporto &v : app::ElencoRapporti())
         if (v.nome == nome) r.voce = &v;
     return r.voce ? std::string() : "unknown report " + nome + "; they are:\n" + NomiRapporti();
 }
 
-std::string leggi(int argc, char **argv, Richiesta &r) {
+std::string leggi(int argc, char **argv, ArgomentiReport &r) {
     Opzioni o{.comando = "report", .righe = {}, .parola = [&r](const std::string &p) { return scegli(p, r); }};
     r.campi.opzioni(o);
     for (const reports::FormaRapporto &f : reports::FormeRapporto())
@@ -80,7 +80,7 @@ std::string NomiRapporti() {
 
 int Report(int argc, char **argv) {
     const auto rifiuta = [](const std::string &motivo) { return Rifiuta("report", motivo); };
-    Richiesta r;
+    ArgomentiReport r;
     if (const std::string e = leggi(argc, argv, r); !e.empty()) return rifiuta(e);
     SessioneDiComando comando;
     Sessione &s = comando.s;

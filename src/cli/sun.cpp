@@ -21,7 +21,7 @@ constexpr std::size_t LETTURE_MASSIME = 1U << 20;  // bytes of a file of reading
 
 using sun::DatiDeclinazione;
 
-struct Richiesta {
+struct ArgomentiSun {
     DatiDeclinazione dati;
     std::string letture, luogo, paese;
     const luoghi::Luogo *posto = nullptr;  // of --place
@@ -29,12 +29,12 @@ struct Richiesta {
     [[nodiscard]] bool data(std::string_view opzione) const { return std::find(date.begin(), date.end(), opzione) != date.end(); }
 };
 
-struct Opzione {
+struct OpzioneDato {
     std::string_view nome, cosa;
     bool perLetture;  // needed by a file of readings too
     std::string (*leggi)(std::string_view testo, DatiDeclinazione &d);
 };
-constexpr std::array<Opzione, 5> NECESSARIE{{
+constexpr std::array<OpzioneDato, 5> NECESSARIE{{
     {"--date", "a date, as in 2026-06-21", false, sun::LeggiData},
     {"--time", "a time, UT, as in 9:40 or 9:40:30", false, sun::LeggiOra},
     {"--lat", "degrees, North positive, as in 45.07", true,
@@ -44,19 +44,19 @@ constexpr std::array<Opzione, 5> NECESSARIE{{
     {"--zone", "hours, West positive, as in -1 for Italy", false,
      [](std::string_view t, DatiDeclinazione &d) { return sun::LeggiNumero(t, -15, 15, d.fuso); }},
 }};
-constexpr Opzione ANGOLO{"--angle", "degrees, as in -12.5", false,
-                         [](std::string_view t, DatiDeclinazione &d) { return sun::LeggiNumero(t, -180, 180, d.angolo); }};
+constexpr OpzioneDato ANGOLO{"--angle", "degrees, as in -12.5", false,
+                             [](std::string_view t, DatiDeclinazione &d) { return sun::LeggiNumero(t, -180, 180, d.angolo); }};
 constexpr std::string_view LETTURE = "--readings", ESTATE = "--dst", LUOGO = "--place", PAESE = "--country", OROLOGIO = "--clock";
 
 // Options beside those of the tables: what their argument is, nothing for a switch.
 struct Altra {
     std::string_view nome, argomento;
-    std::string Richiesta::*dove;
+    std::string ArgomentiSun::*dove;
 };
 constexpr std::array<Altra, 5> ALTRE{{
-    {LETTURE, "a file", &Richiesta::letture},
-    {LUOGO, "a name, as in Torino", &Richiesta::luogo},
-    {PAESE, "two letters, as in IT", &Richiesta::paese},
+    {LETTURE, "a file", &ArgomentiSun::letture},
+    {LUOGO, "a name, as in Torino", &ArgomentiSun::luogo},
+    {PAESE, "two letters, as in IT", &ArgomentiSun::paese},
     {ESTATE, "", nullptr},
     {OROLOGIO, "", nullptr},
 }};
@@ -66,8 +66,8 @@ int rifiuta(const std::string &motivo) {
     return 2;
 }
 
-const Opzione *opzione(std::string_view nome) {
-    for (const Opzione &o : NECESSARIE)
+const OpzioneDato *opzione(std::string_view nome) {
+    for (const OpzioneDato &o : NECESSARIE)
         if (o.nome == nome) return &o;
     return nome == ANGOLO.nome ? &ANGOLO : nullptr;
 }
@@ -75,10 +75,10 @@ const Opzione *opzione(std::string_view nome) {
 // Whether the place says what an option would.
 bool daLuogo(std::string_view o) { return o == "--lat" || o == "--lon" || o == "--zone" || o == ESTATE; }
 
-std::string leggi(int argc, char **argv, Richiesta &r) {
+std::string leggi(int argc, char **argv, ArgomentiSun &r) {
     for (int i = 0; i < argc; ++i) {
         const std::string_view a = argv[i];
-        const Opzione *o = opzione(a);
+        const OpzioneDato *o = opzione(a);
         const auto altra = std::find_if(ALTRE.begin(), ALTRE.end(), [a](const Altra &x) { return x.nome == a; });
         if (!o && altra == ALTRE.end()) return "unknown option " + std::string(a) + "; see ombrelia sun --help";
         if (r.data(a)) return std::string(a) + " stands twice";
@@ -91,7 +91,7 @@ std::string leggi(int argc, char **argv, Richiesta &r) {
     }
     r.dati.dst = r.data(ESTATE);
     const bool molte = r.data(LETTURE), luogo = r.data(LUOGO);
-    for (const Opzione &o : NECESSARIE)
+    for (const OpzioneDato &o : NECESSARIE)
         if ((!molte || o.perLetture) && !r.data(o.nome) && !(luogo && daLuogo(o.nome)))
             return std::string(o.nome) + " is missing: " + std::string(o.cosa);
     if (molte)
@@ -136,7 +136,7 @@ luoghi::Fuso fusoDi(const luoghi::Luogo &l) {
     return f;
 }
 
-int singola(const Richiesta &r) {
+int singola(const ArgomentiSun &r) {
     DatiDeclinazione dati = r.dati;
     if (r.posto) {
         if (const std::string e = alFuso(fusoDi(*r.posto), r.data(OROLOGIO), dati); !e.empty()) return rifiuta(e);
@@ -160,7 +160,7 @@ std::string colonna(const std::string &testo, std::size_t larghezza) {
 }
 std::string gradi(double g) { return colonna(Formato(g, "0.000"), 11); }
 
-int molte(const Richiesta &r) {
+int molte(const ArgomentiSun &r) {
     std::string errore;
     auto contenuto = LeggiFile(r.letture, LETTURE_MASSIME, &errore);
     if (!contenuto) return rifiuta("--readings: " + errore);
@@ -171,14 +171,14 @@ int molte(const Richiesta &r) {
 
     if (r.data(OROLOGIO)) {
         const luoghi::Fuso fuso = fusoDi(*r.posto);
-        for (sun::Lettura &l : letture)
+        for (sun::LetturaParete &l : letture)
             if (const std::string e = alFuso(fuso, true, l.dati); !e.empty())
                 return rifiuta(r.letture + ":" + std::to_string(l.riga) + ": " + e);
     }
 
     std::vector<sun::EsitoDeclinazione> esiti;
     std::vector<double> declinazioni;
-    for (const sun::Lettura &l : letture) {
+    for (const sun::LetturaParete &l : letture) {
         esiti.push_back(sun::Declinazione(l.dati, {}));
         if (!esiti.back().errore.empty()) return rifiuta(r.letture + ":" + std::to_string(l.riga) + ": " + esiti.back().errore);
         declinazioni.push_back(sun::Girato(esiti.back().declinazione.v));
@@ -186,7 +186,7 @@ int molte(const Richiesta &r) {
     const sun::Riassunto m = sun::Riassumi(declinazioni);
 
     std::size_t larghezza = 0;
-    for (const sun::Lettura &l : letture) larghezza = std::max(larghezza, l.testo.size());
+    for (const sun::LetturaParete &l : letture) larghezza = std::max(larghezza, l.testo.size());
     std::string t = colonna("", larghezza) + "  Sun azimuth   altitude  declination  from others\n";
     for (std::size_t i = 0; i < letture.size(); ++i) {
         t += letture[i].testo + std::string(larghezza - letture[i].testo.size(), ' ');
@@ -212,7 +212,7 @@ int molte(const Richiesta &r) {
 }  // namespace
 
 int Sun(int argc, char **argv) {
-    Richiesta r;
+    ArgomentiSun r;
     if (const std::string e = leggi(argc, argv, r); !e.empty()) return rifiuta(e);
     return r.data(LETTURE) ? molte(r) : singola(r);
 }

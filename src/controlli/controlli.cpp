@@ -13,12 +13,12 @@ namespace {
 constexpr auto MODULI = [] {
     constexpr std::size_t QUANTI = [] {
         std::size_t n = 0;
-        righe::PerOgniGruppo([&](const righe::Gruppo &) { ++n; });
+        righe::PerOgniGruppo([&](const righe::RigheModulo &) { ++n; });
         return n;
     }();
     std::array<Modulo, QUANTI> tutti{};
     std::size_t i = 0;
-    righe::PerOgniGruppo([&](const righe::Gruppo &g) { tutti[i++] = g.modulo; });
+    righe::PerOgniGruppo([&](const righe::RigheModulo &g) { tutti[i++] = g.modulo; });
     return tutti;
 }();
 

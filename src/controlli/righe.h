@@ -11,7 +11,7 @@
 namespace ombrelia::righe {
 
 // A form with its rows; the assembled table writes the form's name into each of them.
-struct Gruppo {
+struct RigheModulo {
     Modulo modulo;
     std::span<const Controllo> righe;
 };

@@ -74,7 +74,7 @@ inline constexpr Controllo RIGHE_ABOUT[] = {
 
 // The sheet's form has no caption until a project is open: a caption there is a project's title. Blanks in the captions
 // are meant.
-inline constexpr Gruppo GRUPPI_MODULI[] = {
+inline constexpr RigheModulo GRUPPI_MODULI[] = {
     {{"frmTavolo", {}}, RIGHE_FOGLIO},
     {{"frmDeclin", "Utility board - Outils - Strumenti - Herramientas"}, RIGHE_STRUMENTI},
     {{"frmInfoDec", "Istruzioni"}, RIGHE_ISTRUZIONI},

@@ -178,6 +178,6 @@ inline constexpr Controllo RIGHE_PRINCIPALE[] = {
     Muto("CDialog1", Classe::Altro),
 };
 
-inline constexpr Gruppo GRUPPI_PRINCIPALE[] = {{{"MDIForm1", "Ombrelia"}, RIGHE_PRINCIPALE}};
+inline constexpr RigheModulo GRUPPI_PRINCIPALE[] = {{{"MDIForm1", "Ombrelia"}, RIGHE_PRINCIPALE}};
 
 }  // namespace ombrelia::righe

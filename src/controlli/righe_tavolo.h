@@ -52,6 +52,6 @@ inline constexpr Controllo RIGHE_TAVOLO[] = {
     Pulsante("cmdPCancel", "Hide"),
 };
 
-inline constexpr Gruppo GRUPPI_TAVOLO[] = {{{"Tavolo1", {}}, RIGHE_TAVOLO}};
+inline constexpr RigheModulo GRUPPI_TAVOLO[] = {{{"Tavolo1", {}}, RIGHE_TAVOLO}};
 
 }  // namespace ombrelia::righe

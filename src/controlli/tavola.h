@@ -11,24 +11,24 @@
 
 namespace ombrelia::righe {
 
-inline constexpr std::array<std::span<const Gruppo>, 3> FORME{GRUPPI_PRINCIPALE, GRUPPI_TAVOLO, GRUPPI_MODULI};
+inline constexpr std::array<std::span<const RigheModulo>, 3> FORME{GRUPPI_PRINCIPALE, GRUPPI_TAVOLO, GRUPPI_MODULI};
 
 template <class F>
 constexpr void PerOgniGruppo(const F &f) {
-    for (const std::span<const Gruppo> gruppi : FORME)
-        for (const Gruppo &g : gruppi) f(g);
+    for (const std::span<const RigheModulo> gruppi : FORME)
+        for (const RigheModulo &g : gruppi) f(g);
 }
 
 inline constexpr std::size_t QUANTE_RIGHE = [] {
     std::size_t n = 0;
-    PerOgniGruppo([&](const Gruppo &g) { n += g.righe.size(); });
+    PerOgniGruppo([&](const RigheModulo &g) { n += g.righe.size(); });
     return n;
 }();
 
 inline constexpr std::array<Controllo, QUANTE_RIGHE> TAVOLA = [] {
     std::array<Controllo, QUANTE_RIGHE> tutte{};
     std::size_t i = 0;
-    PerOgniGruppo([&](const Gruppo &g) {
+    PerOgniGruppo([&](const RigheModulo &g) {
         for (const Controllo &riga : g.righe) {
             tutte[i] = riga;
             tutte[i++].modulo = g.modulo.nome;

@@ -41,9 +41,9 @@ std::string TraVirgolette(std::string_view testo) {
 }
 
 std::optional<int> Intero16(std::string_view testo) {
-    using Limiti = std::numeric_limits<std::int16_t>;
+    using Interi16 = std::numeric_limits<std::int16_t>;
     const double n = std::trunc(Val(testo).v);  // NaN where there is no value
-    if (!(n >= Limiti::min() && n <= Limiti::max())) return {};
+    if (!(n >= Interi16::min() && n <= Interi16::max())) return {};
     return static_cast<int>(n);
 }
 

@@ -31,15 +31,15 @@ std::string nomeLibero() {
 #ifdef OMBRELIA_POSIX
 
 // Names of the files that live now, for a signal's handler, which may use no memory of the heap.
-struct Posto {
+struct PostoNome {
     std::atomic<bool> preso{false}, pieno{false};
     char nome[4096] = {};
 };
-std::array<Posto, 8> posti;
+std::array<PostoNome, 8> posti;
 constexpr int SEGNALI[] = {SIGINT, SIGTERM, SIGHUP, SIGQUIT};
 
 void alSegnale(int segnale) {
-    for (const Posto &p : posti)
+    for (const PostoNome &p : posti)
         if (p.pieno) ::unlink(p.nome);
     ::signal(segnale, SIG_DFL);
     ::raise(segnale);

@@ -258,6 +258,15 @@ std::string Formato(Valore numero, std::string_view maschera) {
     return t;
 }
 
+std::string NumeroRomano(int n) {
+    constexpr std::pair<int, const char *> CIFRE[] = {{10, "X"}, {9, "IX"}, {5, "V"}, {4, "IV"}, {1, "I"}};
+    std::string testo;
+    if (n > 39) return testo;
+    for (const auto &[valore, lettere] : CIFRE)
+        for (; n >= valore; n -= valore) testo += lettere;
+    return testo;
+}
+
 void AggiungiNumero17(std::string &testo, double numero) {
     std::array<char, 32> b;
     testo.append(b.data(), cifre::Diciassette(b, numero));

@@ -24,6 +24,9 @@ void AggiungiNumero(std::string &testo, double numero);
 // exactly as many behind it; a half rounds away from zero; no minus before zeros. Faults read as an empty text.
 [[nodiscard]] std::string Formato(Valore numero, std::string_view maschera);
 
+// Roman numerals up to XXXIX; nothing beyond, for 0 and below.
+[[nodiscard]] std::string NumeroRomano(int n);
+
 // 17 significant digits, as "%.17g" prints them: the form of the display list.
 void AggiungiNumero17(std::string &testo, double numero);
 

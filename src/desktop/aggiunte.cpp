@@ -33,7 +33,7 @@ std::size_t improntaDisegno(const Lista &l) {
 // How the dial is mounted, with its drawing.
 std::size_t improntaPosa(const Sessione &s, std::size_t h) {
     const Posa p = PosaDelDisegno(s);
-    const ombra::Quadrante &q = p.quadrante;
+    const ombra::QuadranteMontato &q = p.quadrante;
     for (const double x : {q.latitudine, q.declinazione, q.inclinazione, q.gnomone, p.longitudine, p.meridiano}) mescola(h, x);
     return h;
 }

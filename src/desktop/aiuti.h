@@ -10,7 +10,7 @@
 namespace ombrelia::desktop {
 
 // What a field measures, drawn.
-enum class Disegno : std::uint8_t {
+enum class Grandezza : std::uint8_t {
     Nessuno,
     Latitudine,
     Longitudine,
@@ -28,7 +28,7 @@ struct Aiuto {
     std::string_view nome;   // as the action script gives it
     std::string_view umano;  // empty: the system's caption
     std::string_view testo;
-    Disegno disegno = Disegno::Nessuno;
+    Grandezza disegno = Grandezza::Nessuno;
 };
 
 // Null when there is none.
@@ -43,6 +43,6 @@ void Spiega(Sessione &s, IdControllo id, QWidget *w);
 bool MostraSpiegazione(QWidget *w);
 
 // The small drawing, in dots of the screen times rapporto.
-[[nodiscard]] QImage DisegnoAiuto(Disegno quale, double rapporto = 1);
+[[nodiscard]] QImage DisegnoAiuto(Grandezza quale, double rapporto = 1);
 
 }  // namespace ombrelia::desktop

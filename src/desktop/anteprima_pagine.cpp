@@ -70,7 +70,7 @@ void AnteprimaPagine::disponi() {
     {
         QPainter p(&i);
         p.setRenderHint(QPainter::Antialiasing);
-        paint::Posa posa;
+        paint::PosaDipinta posa;
         posa.fattore = fattore_ * r / Tavolo::ScalaBase * tavolo_->Scala();
         posa.penna = r;
         posa.punto = 1.2 * r;

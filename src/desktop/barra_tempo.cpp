@@ -174,7 +174,7 @@ void BarraTempo::cambiato() {
     const Posa posa = PosaDelDisegno(s);
     const QTime t = ora_->time();
     istante_ = IstanteDi(posa, data(), t.hour() + t.minute() / 60.0, posa.fuso() + (legale_->isChecked() ? 1 : 0));
-    const ombra::Piano piano(posa.quadrante);
+    const ombra::PianoMontato piano(posa.quadrante);
     SopraFoglio::Ombra o;
     o.australe = posa.australe;
     const bool luce = istante_.ombra.luce == ombra::Luce::Si;

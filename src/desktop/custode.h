@@ -21,7 +21,7 @@ public:
     void chiedi(DatiCertificato dati, Lista lista);
 
 private:
-    struct Richiesta {
+    struct DaGiudicare {
         DatiCertificato dati;
         Lista lista;
     };
@@ -29,7 +29,7 @@ private:
 
     QObject *contesto_;
     std::function<void(const DatiCertificato &, const Certificato &)> pronto_;
-    Sportello<Richiesta> sportello_;
+    Sportello<DaGiudicare> sportello_;
     std::thread filo_;
 };
 

@@ -162,7 +162,7 @@ void carattere(Mano &m) {
 
 }  // namespace
 
-QImage DisegnoAiuto(Disegno quale, double rapporto) {
+QImage DisegnoAiuto(Grandezza quale, double rapporto) {
     QImage i(QSize(LARGO, ALTO) * rapporto, QImage::Format_ARGB32_Premultiplied);
     i.setDevicePixelRatio(rapporto);
     i.fill(QGuiApplication::palette().color(QPalette::ToolTipBase));
@@ -173,37 +173,37 @@ QImage DisegnoAiuto(Disegno quale, double rapporto) {
     p.setFont(f);
     Mano m(p);
     switch (quale) {
-        case Disegno::Latitudine:
+        case Grandezza::Latitudine:
             latitudine(m);
             break;
-        case Disegno::Longitudine:
+        case Grandezza::Longitudine:
             longitudine(m);
             break;
-        case Disegno::Declinazione:
+        case Grandezza::Declinazione:
             declinazione(m);
             break;
-        case Disegno::Inclinazione:
+        case Grandezza::Inclinazione:
             inclinazione(m);
             break;
-        case Disegno::Ortostilo:
+        case Grandezza::Ortostilo:
             ortostilo(m);
             break;
-        case Disegno::Stilo:
+        case Grandezza::Stilo:
             stilo(m);
             break;
-        case Disegno::Cornice:
+        case Grandezza::Cornice:
             cornice(m);
             break;
-        case Disegno::Ore:
+        case Grandezza::Ore:
             ore(m);
             break;
-        case Disegno::Giorno:
+        case Grandezza::Giorno:
             giorno(m);
             break;
-        case Disegno::Carattere:
+        case Grandezza::Carattere:
             carattere(m);
             break;
-        case Disegno::Nessuno:
+        case Grandezza::Nessuno:
             break;
     }
     return i;

@@ -16,6 +16,7 @@
 #include "core/percorsi.h"
 #include "desktop/dialoghi.h"
 #include "desktop/stile.h"
+#include "sessione/muto.h"
 
 namespace ombrelia::desktop {
 
@@ -31,16 +32,6 @@ constexpr std::pair<const char *, std::string_view> TITOLI[] = {
     {"parete_sydney", "Una parete a Sydney: ore temporarie"_it},
     {"parete_romani", "Una parete coi numeri romani"_it},
     {"parete_zodiaco", "Una parete a Bologna: numeri arabi e zodiaco"_it},
-};
-
-// Neither speaks nor asks.
-class Muto final : public Utente {
-public:
-    void Messaggio(std::string_view) override {}
-    bool Box(std::string_view, Domanda) override { return true; }
-    std::string Input(std::string_view, std::string_view, std::string_view proposta) override { return std::string(proposta); }
-    std::optional<std::string> File(const RichiestaFile &) override { return {}; }
-    void Beep() override {}
 };
 
 }  // namespace
@@ -127,7 +118,7 @@ void Esempi::metti(const QString &file, const QImage &immagine) {
 void Esempi::prossimo() {
     if (attesi_.empty()) return vivo_.reset();
     if (!vivo_)
-        vivo_ = std::make_unique<Vivo>(this, ponte_.sessione().dizionario, [this](Vivo::Esito &e) { arrivata(e.immagine); });
+        vivo_ = std::make_unique<Vivo>(this, ponte_.sessione().dizionario, [this](Vivo::ProvaViva &e) { arrivata(e.immagine); });
     Muto muto;
     Sessione s(muto);
     if (!app::ApriProgetto(s, attesi_.front().toStdString())) {

@@ -130,7 +130,7 @@ Finestra::Finestra(Dialoghi &dialoghi) : dialoghi_(dialoghi), utente_(dialoghi),
     ponte_.suVirgolette = [this] {
         messaggio(ponte_.Traduci("Le virgolette non entrano in un campo: chiuderebbero il file del progetto"));
     };
-    vivo_ = std::make_unique<Vivo>(this, s_.dizionario, [this](Vivo::Esito &e) { disegnoVivo(e); });
+    vivo_ = std::make_unique<Vivo>(this, s_.dizionario, [this](Vivo::ProvaViva &e) { disegnoVivo(e); });
 
     note_ = new NoteCampi(ponte_, this);
     new Aggiunte(*this, dialoghi_);
@@ -209,7 +209,7 @@ void Finestra::primaDiEsegui() {
 
 // What may last shows that it goes on, and can be stopped.
 void Finestra::conAttesa() {
-    attesa_ = std::make_unique<Attesa>(this, ponte_.Traduci("Disegno del quadrante..."), ponte_.Traduci("Ferma"));
+    attesa_ = std::make_unique<Clessidra>(this, ponte_.Traduci("Disegno del quadrante..."), ponte_.Traduci("Ferma"));
     s_.tavolo.dispositivo = attesa_.get();
 }
 
@@ -379,7 +379,7 @@ void Finestra::chiediVivo() {
 }
 
 // A run off the thread has come: its drawing, its variables and its sheet are the session's, its fields are not.
-void Finestra::disegnoVivo(Vivo::Esito &e) {
+void Finestra::disegnoVivo(Vivo::ProvaViva &e) {
     Tavolo &t = s_.tavolo;
     const std::vector<RecArea> pagine = t.lista().Aree;
     t.ScambiaDisegno(*e.tavolo);

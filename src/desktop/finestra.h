@@ -4,7 +4,7 @@
 #include <QMainWindow>
 #include <memory>
 
-#include "desktop/attesa.h"
+#include "desktop/clessidra.h"
 #include "desktop/dialoghi.h"
 #include "desktop/moduli.h"
 #include "desktop/pannello_strati.h"
@@ -71,7 +71,7 @@ private:
     void molo(const QString &titolo, const char *nome, QWidget *contenuto, Qt::DockWidgetArea dove);
     bool prima(IdControllo id);
     void dopo(IdControllo id, const app::Esito &esito);
-    void disegnoVivo(Vivo::Esito &e);
+    void disegnoVivo(Vivo::ProvaViva &e);
     void chiediVivo();
     [[nodiscard]] bool vivo_acceso() const;
     void primaDiEsegui();
@@ -125,7 +125,7 @@ private:
     NoteCampi *note_ = nullptr;
     std::unique_ptr<Moduli> moduli_;
     std::unique_ptr<Vivo> vivo_;
-    std::unique_ptr<Attesa> attesa_;
+    std::unique_ptr<Clessidra> attesa_;
     PannelloStrati *strati_ = nullptr;
     Ripresa ripresa_;
     Tavolo carta_;

@@ -12,12 +12,12 @@ namespace {
 
 constexpr int RIGHELLO = 18;
 
-struct Tinte {
+struct TinteSopra {
     QColor fondo, testo, bordo;
 };
-Tinte tinte(bool scuro) {
-    return scuro ? Tinte{QColor(0x1B, 0x21, 0x28, 0xE6), QColor(0xDD, 0xE3, 0xE8), QColor(0x4A, 0x54, 0x5E)}
-                 : Tinte{QColor(0xFF, 0xFF, 0xFF, 0xE6), QColor(0x2A, 0x30, 0x36), QColor(0xB8, 0xBE, 0xC5)};
+TinteSopra tinte(bool scuro) {
+    return scuro ? TinteSopra{QColor(0x1B, 0x21, 0x28, 0xE6), QColor(0xDD, 0xE3, 0xE8), QColor(0x4A, 0x54, 0x5E)}
+                 : TinteSopra{QColor(0xFF, 0xFF, 0xFF, 0xE6), QColor(0x2A, 0x30, 0x36), QColor(0xB8, 0xBE, 0xC5)};
 }
 
 // A step of 1, 2 or 5 that leaves at least so many dots between two marks.
@@ -32,7 +32,7 @@ double passo(double millimetriAlPunto, double punti) {
 
 void Foglio::sopra(QPainter &p) {
     p.setRenderHint(QPainter::Antialiasing);
-    const Tinte t = tinte(stile().scuro);
+    const TinteSopra t = tinte(stile().scuro);
     if (conLente_ && puntatore_) dipingiLente(p);
     if (segno_) {
         const QPointF c = daMondo(*segno_);
@@ -69,7 +69,7 @@ void Foglio::sopra(QPainter &p) {
 
 // Millimetres along the edges, from the dial's origin, as the read-outs count them.
 void Foglio::righelli(QPainter &p) {
-    const Tinte t = tinte(stile().scuro);
+    const TinteSopra t = tinte(stile().scuro);
     const double mm = metriAlPunto() * 1000;
     if (!(mm > 0)) return;
     const double tacca = passo(mm, 7), numero = passo(mm, 62);
@@ -118,7 +118,7 @@ void Foglio::righelli(QPainter &p) {
 }
 
 void Foglio::dipingiLegenda(QPainter &p) {
-    const Tinte t = tinte(stile().scuro);
+    const TinteSopra t = tinte(stile().scuro);
     const QFontMetrics m(font());
     int larga = 0;
     for (const auto &[nome, tinta] : legenda_) larga = std::max(larga, m.horizontalAdvance(nome));

@@ -27,12 +27,12 @@ namespace {
 
 constexpr int CAMPO = 108, CAMPO_STRETTO = 70;
 
-void mettiRiga(Ponte &ponte, const app::Gruppo::Riga &nomi, QVBoxLayout *colonna, QWidget *gruppo) {
+void mettiRiga(Ponte &ponte, const app::Gruppo::RigaDiGruppo &nomi, QVBoxLayout *colonna, QWidget *gruppo) {
     auto *fila = new QHBoxLayout;
     fila->setSpacing(6);
     QLabel *prima = nullptr;
     const bool stretta = nomi.size() > 2;
-    for (const app::Gruppo::Cosa &cosa : nomi) {
+    for (const app::Gruppo::VoceDiGruppo &cosa : nomi) {
         QWidget *w = nullptr;
         const std::string_view nome = cosa.id == NESSUN_CONTROLLO ? std::string_view() : RigaDi(cosa.id).nome;
         if (cosa.id == NESSUN_CONTROLLO) {
@@ -87,7 +87,7 @@ QScrollArea *colonna(Ponte &ponte, const std::vector<app::Gruppo> &gruppi, QWidg
         righe->setContentsMargins(10, 7, 10, 8);
         righe->setSpacing(5);
         if (g.titolo == "Luogo") righe->addWidget(CercaLuogo(ponte, piega->corpo()));
-        for (const app::Gruppo::Riga &r : g.righe) mettiRiga(ponte, r, righe, piega->corpo());
+        for (const app::Gruppo::RigaDiGruppo &r : g.righe) mettiRiga(ponte, r, righe, piega->corpo());
         giu->addWidget(piega);
     }
     giu->addStretch(1);
@@ -163,14 +163,14 @@ QWidget *ColonnaDisegno(Ponte &ponte, QWidget *genitore) {
     for (const std::vector<app::Gruppo> *tavola :
          {&app::GruppiQuadrante(), static_cast<const std::vector<app::Gruppo> *>(&gruppi)})
         for (const app::Gruppo &g : *tavola)
-            for (const app::Gruppo::Riga &r : g.righe)
-                for (const app::Gruppo::Cosa &cosa : r) nominati.insert(cosa.id);
+            for (const app::Gruppo::RigaDiGruppo &r : g.righe)
+                for (const app::Gruppo::VoceDiGruppo &cosa : r) nominati.insert(cosa.id);
     app::Gruppo altro{"Altro"_it, {}, true};
     for (const Controllo &c : ControlliDi("MDIForm1")) {
         if (!c.nostro || nominati.contains(IdDi(c))) continue;
         if (c.classe == Classe::Testo && !altro.righe.empty() && altro.righe.back().size() == 1)
-            altro.righe.back().push_back(app::Gruppo::Cosa(IdDi(c)));
-        else altro.righe.push_back({app::Gruppo::Cosa(IdDi(c))});
+            altro.righe.back().push_back(app::Gruppo::VoceDiGruppo(IdDi(c)));
+        else altro.righe.push_back({app::Gruppo::VoceDiGruppo(IdDi(c))});
     }
     if (!altro.righe.empty()) gruppi.push_back(std::move(altro));
     return colonna(ponte, gruppi, genitore);

@@ -21,9 +21,9 @@ namespace {
 constexpr double LATO = 24, PENNA = 2;  // of the set's drawings
 
 // Numbers and flags of a path's text.
-class Lettore {
+class LettoreTracciato {
 public:
-    explicit Lettore(const QString &t) : t_(t) {}
+    explicit LettoreTracciato(const QString &t) : t_(t) {}
     // The next command, or the last one again where numbers follow it; 0 at the end or at what is neither.
     char comando(char ultimo) {
         salta();
@@ -117,9 +117,9 @@ const QPainterPath &disegno(const std::string &nome) {
     return i->second;
 }
 
-class Motore final : public QIconEngine {
+class MotoreIcona final : public QIconEngine {
 public:
-    Motore(std::string nome, Fondo fondo) : nome_(std::move(nome)), fondo_(fondo) {}
+    MotoreIcona(std::string nome, Fondo fondo) : nome_(std::move(nome)), fondo_(fondo) {}
     void paint(QPainter *p, const QRect &r, QIcon::Mode modo, QIcon::State) override {
         const QPalette tinte = QGuiApplication::palette();
         const QColor c = modo == QIcon::Disabled    ? tinte.color(QPalette::Disabled, QPalette::ButtonText)
@@ -140,7 +140,7 @@ public:
         paint(&p, QRect(QPoint(0, 0), misura), modo, stato);
         return q;
     }
-    [[nodiscard]] QIconEngine *clone() const override { return new Motore(nome_, fondo_); }
+    [[nodiscard]] QIconEngine *clone() const override { return new MotoreIcona(nome_, fondo_); }
 
 private:
     std::string nome_;
@@ -151,7 +151,7 @@ private:
 
 QPainterPath PercorsoSvg(const QString &d) {
     QPainterPath p;
-    Lettore l(d);
+    LettoreTracciato l(d);
     QPointF inizio, leva;  // of the piece; the last handle of a curve
     for (char c = l.comando(0), prima = 0; c != 0; prima = c, c = l.comando(c)) {
         const QPointF qui = p.currentPosition(), o = std::islower(static_cast<unsigned char>(c)) ? qui : QPointF();
@@ -186,7 +186,7 @@ QPainterPath PercorsoSvg(const QString &d) {
 QIcon IconaDi(std::string_view nome, Fondo fondo) {
     std::string n(nome);
     if (n.empty() || disegno(n).isEmpty()) return {};
-    return QIcon(new Motore(std::move(n), fondo));
+    return QIcon(new MotoreIcona(std::move(n), fondo));
 }
 
 }  // namespace ombrelia::desktop

@@ -19,16 +19,16 @@ namespace {
 constexpr auto LINGUA = "lingua";
 
 // Which language a dictionary is, by how it says "open".
-struct Lingua {
+struct LinguaDellaFinestra {
     std::string_view apri;
     const char *codice, *aggiunta;  // of the toolkit's catalogue; the dictionary of the window's own texts
 };
-constexpr Lingua LINGUE[] = {
+constexpr LinguaDellaFinestra LINGUE[] = {
     {"Open...", "en", "DBFinestraInglese.txt"}, {"Ouvrir...", "fr", "DBFinestraFrancese.txt"}, {"", "it", ""}};
 
-const Lingua &linguaDi(const Sessione &s) {
+const LinguaDellaFinestra &linguaDi(const Sessione &s) {
     const std::string apri = s.Traduci("Apri...");
-    for (const Lingua &l : LINGUE)
+    for (const LinguaDellaFinestra &l : LINGUE)
         if (apri == l.apri) return l;
     return LINGUE[2];
 }
@@ -56,7 +56,7 @@ void LinguaRicordata(Sessione &s) {
         const std::string nome = QSettings().value(QLatin1String(LINGUA)).toString().toStdString();
         if (!nome.empty()) aggiungi(s, Dizionario::NomeFile(nome), &Dizionario::Interpreta);
     }
-    const Lingua &lingua = linguaDi(s);
+    const LinguaDellaFinestra &lingua = linguaDi(s);
     if (*lingua.aggiunta) {
         aggiungi(s, lingua.aggiunta, &Dizionario::Aggiungi);
         for (const std::string_view modulo : {"MDIForm1", "frmTavolo", "Tavolo1"}) app::CaricaForm(s, modulo);

@@ -27,7 +27,7 @@ QString voce(const luoghi::Luogo &l) {
 std::string numero(double x) { return TestoNumero(std::round(x * 1e5) / 1e5); }
 
 // With the list open and nothing chosen in it the key takes the first.
-class Casella final : public QLineEdit {
+class CampoLuogo final : public QLineEdit {
 public:
     using QLineEdit::QLineEdit;
     std::function<void()> suPrimo;
@@ -44,7 +44,7 @@ protected:
 }  // namespace
 
 QWidget *CercaLuogo(Ponte &ponte, QWidget *genitore) {
-    auto *cerca = new Casella(genitore);
+    auto *cerca = new CampoLuogo(genitore);
     cerca->setObjectName(QStringLiteral("cercaLuogo"));
     cerca->setPlaceholderText(ponte.Traduci("Cerca un luogo..."));
     cerca->setToolTip(ponte.Traduci("Scrivi il nome di una città: latitudine, longitudine e meridiano del fuso vengono da sé"));

@@ -21,13 +21,13 @@ namespace ombrelia::desktop {
 namespace {
 
 // Numbers that sort as numbers.
-class Cifra final : public QTableWidgetItem {
+class CellaNumero final : public QTableWidgetItem {
 public:
-    Cifra(double valore, int decimali) : QTableWidgetItem(QString::number(valore, 'f', decimali)), valore_(valore) {
+    CellaNumero(double valore, int decimali) : QTableWidgetItem(QString::number(valore, 'f', decimali)), valore_(valore) {
         setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
     }
     bool operator<(const QTableWidgetItem &altra) const override {
-        const auto *c = dynamic_cast<const Cifra *>(&altra);
+        const auto *c = dynamic_cast<const CellaNumero *>(&altra);
         return c ? valore_ < c->valore_ : QTableWidgetItem::operator<(altra);
     }
 
@@ -150,13 +150,13 @@ void PannelloCertificato::arrivato(const DatiCertificato &dati, const Certificat
         auto *linea = new QTableWidgetItem(Q(TestoRiga(ponte_.sessione().dizionario, r)));
         linea->setData(Qt::UserRole, i);
         tavola_->setItem(i, 0, linea);
-        tavola_->setItem(i, 1, new Cifra(r.disegnati, 1));
-        tavola_->setItem(i, 2, new Cifra(r.massimo, 3));
-        auto *naturale = new Cifra(r.naturale, 1);
+        tavola_->setItem(i, 1, new CellaNumero(r.disegnati, 1));
+        tavola_->setItem(i, 2, new CellaNumero(r.massimo, 3));
+        auto *naturale = new CellaNumero(r.naturale, 1);
         naturale->setText(naturale->text() + (r.tempo ? QStringLiteral(" s") : QStringLiteral(" ′")));
         tavola_->setItem(i, 3, naturale);
-        tavola_->setItem(i, 4, new Cifra(r.mancanti, 1));
-        tavola_->setItem(i, 5, new Cifra(r.superflui, 1));
+        tavola_->setItem(i, 4, new CellaNumero(r.mancanti, 1));
+        tavola_->setItem(i, 5, new CellaNumero(r.superflui, 1));
         auto *esito = new QTableWidgetItem(r.vera ? QStringLiteral("✓ ") + ponte_.Traduci("vera")
                                                   : QStringLiteral("✗ ") + ponte_.Traduci("non vera"));
         tavola_->setItem(i, 6, esito);

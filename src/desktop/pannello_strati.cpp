@@ -157,7 +157,7 @@ void PannelloStrati::spuntata(QTreeWidgetItem *voce) {
     applica(s);
 }
 
-StileFoglio::Tratto &PannelloStrati::corrente(StileFoglio &s) const {
+StileFoglio::AspettoLinea &PannelloStrati::corrente(StileFoglio &s) const {
     const QTreeWidgetItem *v = albero_->currentItem();
     const auto chi = chiave(v);
     if (!v->data(0, LINEA).toBool()) return s.strati[chi.first];
@@ -168,7 +168,7 @@ void PannelloStrati::colora() {
     const QTreeWidgetItem *v = albero_->currentItem();
     if (!v) return;
     StileFoglio s = foglio_.stile();
-    StileFoglio::Tratto &t = corrente(s);
+    StileFoglio::AspettoLinea &t = corrente(s);
     const QColor c = QColorDialog::getColor(TintaDi(t.colore), this, v->text(0));
     if (!c.isValid()) return;
     t.colore = static_cast<Colore>(c.red() | (c.green() << 8) | (c.blue() << 16));
@@ -209,7 +209,7 @@ void PannelloStrati::menu(const QPoint &globale) {
     voce("Mostra tutte le linee"_it, [this] {
         StileFoglio s = foglio_.stile();
         s.nascoste.clear();
-        for (StileFoglio::Tratto &t : s.strati) t.nascosto = false;
+        for (StileFoglio::AspettoLinea &t : s.strati) t.nascosto = false;
         applica(s);
         riempi();
     });

@@ -35,7 +35,7 @@ private:
     void spuntata(QTreeWidgetItem *voce);
     void colora();
     // The looks of what is current in the list, a layer or a line, for a change.
-    [[nodiscard]] StileFoglio::Tratto &corrente(StileFoglio &stile) const;
+    [[nodiscard]] StileFoglio::AspettoLinea &corrente(StileFoglio &stile) const;
     void ingrossa(int spessore);
     void applica(const StileFoglio &stile);
     void mostraLegenda();

@@ -15,9 +15,9 @@ struct Passi::Istantanea {
     PannelloTavolo pannello;
     double l = 0, h = 0, sx = 0, sy = 0, fx = 1, fy = 1;
     int scala = 1;
-    std::shared_ptr<const Tavolo::Disegno> disegno;  // none when it follows the fields
-    std::string impronta;                            // of all that a step can change but the drawing
-    double campione = 0;                             // of the drawing
+    std::shared_ptr<const Tavolo::DisegnoTenuto> disegno;  // none when it follows the fields
+    std::string impronta;                                  // of all that a step can change but the drawing
+    double campione = 0;                                   // of the drawing
 };
 
 namespace {
@@ -39,9 +39,9 @@ double campioneDi(const Lista &l) {
 
 }  // namespace
 
-class Passi::Passo final : public QUndoCommand {
+class Passi::Mossa final : public QUndoCommand {
 public:
-    Passo(Passi &passi, IdControllo id, const QString &nome, std::shared_ptr<Istantanea> prima, std::shared_ptr<Istantanea> dopo)
+    Mossa(Passi &passi, IdControllo id, const QString &nome, std::shared_ptr<Istantanea> prima, std::shared_ptr<Istantanea> dopo)
         : QUndoCommand(nome), passi_(passi), id_(id), prima_(std::move(prima)), dopo_(std::move(dopo)) {}
     void undo() override { passi_.rimetti(prima_); }
     void redo() override {
@@ -50,7 +50,7 @@ public:
     }
     [[nodiscard]] int id() const override { return id_; }
     bool mergeWith(const QUndoCommand *altro) override {
-        dopo_ = static_cast<const Passo *>(altro)->dopo_;
+        dopo_ = static_cast<const Mossa *>(altro)->dopo_;
         return true;
     }
 
@@ -104,7 +104,7 @@ std::shared_ptr<Passi::Istantanea> Passi::ritrai(bool segue) const {
         // A drawing that stays is kept once.
         i->disegno = ora_ && ora_->disegno && ora_->campione == i->campione
                          ? ora_->disegno
-                         : std::make_shared<const Tavolo::Disegno>(t.CopiaDisegno());
+                         : std::make_shared<const Tavolo::DisegnoTenuto>(t.CopiaDisegno());
     }
     return i;
 }
@@ -115,7 +115,7 @@ void Passi::annota(IdControllo id, const QString &nome, bool segue) {
     if (dopo->impronta == ora_->impronta && (segue || dopo->campione == ora_->campione)) return;
     const bool testo = id != NESSUN_CONTROLLO && RigaDi(id).classe == Classe::Testo;
     const auto prima = std::exchange(ora_, dopo);
-    push(new Passo(*this, testo ? id : -1, nome, prima, dopo));
+    push(new Mossa(*this, testo ? id : -1, nome, prima, dopo));
 }
 
 void Passi::aggiorna(bool segue) { *ora_ = *ritrai(segue); }

@@ -24,7 +24,7 @@ public:
 
 private:
     struct Istantanea;
-    class Passo;
+    class Mossa;
     [[nodiscard]] std::shared_ptr<Istantanea> ritrai(bool segue) const;
     void rimetti(const std::shared_ptr<Istantanea> &i);
 

@@ -47,13 +47,13 @@ QString lungo(double mm) {
 }  // namespace
 
 struct PerMacchina::Lavoro {
-    officina::Opzioni come;
+    officina::ComePreparare come;
     officina::Disegno disegno;
     std::string errore;
     bool memoria = true;
 };
 
-QString RaccontoMacchina(const Ponte &ponte, const officina::Disegno &d, const officina::Opzioni &o) {
+QString RaccontoMacchina(const Ponte &ponte, const officina::Disegno &d, const officina::ComePreparare &o) {
     const officina::Resoconto &r = d.resoconto;
     QStringList frasi;
     const auto n = [](std::size_t x) { return QString::number(x); };
@@ -220,8 +220,8 @@ QWidget *PerMacchina::scelte() {
     return s;
 }
 
-std::optional<officina::Opzioni> PerMacchina::leggi() {
-    officina::Opzioni o;
+std::optional<officina::ComePreparare> PerMacchina::leggi() {
+    officina::ComePreparare o;
     bool buone = true;
     const auto lunghezza = [&](QLineEdit *campo, QLabel *dubbio, double da, double &mm) {
         QString t = campo->text().trimmed();
@@ -340,7 +340,7 @@ void PerMacchina::salva() {
     // An ending that is another format's asks for that one.
     if (const auto *altro = officina::FormatoMacchinaDi(QFileInfo(*file).suffix().toStdString())) f = altro;
     const DialInputs &in = ponte_.sessione().in;
-    officina::Foglio foglio;
+    officina::Cartiglio foglio;
     foglio.unita = unita_->currentIndex() == 1 ? officina::Unita::Pollici : officina::Unita::Millimetri;
     foglio.titolo = "Ombrelia: " + in.txtLAT + "°, " + in.txtDec + "°, " + in.txtInc + "°";
     if (const auto errore = ScriviFile(file->toStdString(), f->scrivi(*pronto_, foglio)))

@@ -38,7 +38,7 @@ private:
     struct Lavoro;
     QWidget *scelte();
     // The choices as they stand; nothing, told beside its field, where one is wrong.
-    std::optional<officina::Opzioni> leggi();
+    std::optional<officina::ComePreparare> leggi();
     void chiedi();
     void avvia();
     void arrivato(const Lavoro &lavoro);
@@ -62,6 +62,6 @@ private:
 };
 
 // What was done, in the window's language.
-[[nodiscard]] QString RaccontoMacchina(const Ponte &ponte, const officina::Disegno &d, const officina::Opzioni &o);
+[[nodiscard]] QString RaccontoMacchina(const Ponte &ponte, const officina::Disegno &d, const officina::ComePreparare &o);
 
 }  // namespace ombrelia::desktop

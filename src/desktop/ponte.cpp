@@ -13,8 +13,8 @@
 
 #include "app/azioni.h"
 #include "desktop/aiuti.h"
-#include "desktop/attesa.h"
 #include "desktop/campo.h"
+#include "desktop/clessidra.h"
 #include "desktop/comandi.h"
 #include "desktop/dialoghi.h"
 

@@ -9,15 +9,15 @@
 
 namespace ombrelia::desktop {
 
-template <class Richiesta>
+template <class Cosa>
 class Sportello {
 public:
     struct Incarico {
-        Richiesta cosa;
+        Cosa cosa;
         unsigned numero;
     };
 
-    void chiedi(Richiesta r) {
+    void chiedi(Cosa r) {
         {
             const std::lock_guard chiave(mutex_);
             prossima_ = std::move(r);
@@ -55,7 +55,7 @@ public:
 private:
     std::mutex mutex_;
     std::condition_variable sveglia_;
-    std::optional<Richiesta> prossima_;
+    std::optional<Cosa> prossima_;
     std::atomic<unsigned> numero_ = 0;
     bool fine_ = false;
 };

@@ -88,11 +88,11 @@ StileFoglio StileDi(bool scuro) {
 bool Ritoccato(const StileFoglio &stile) {
     return !stile.nascoste.empty() || !stile.sue.empty() ||
            std::any_of(stile.strati.begin(), stile.strati.end(),
-                       [](const StileFoglio::Tratto &t) { return t.nascosto || t.mio || t.spessore > 0; });
+                       [](const StileFoglio::AspettoLinea &t) { return t.nascosto || t.mio || t.spessore > 0; });
 }
 
-Tavolo::Disegno Vesti(const Tavolo &t, const StileFoglio &stile, bool perCarta) {
-    Tavolo::Disegno d = t.CopiaDisegno();
+Tavolo::DisegnoTenuto Vesti(const Tavolo &t, const StileFoglio &stile, bool perCarta) {
+    Tavolo::DisegnoTenuto d = t.CopiaDisegno();
     const Lista &l = t.lista();
     d.lista.Linee.clear();
     d.lista.Punti.clear();
@@ -116,7 +116,7 @@ Tavolo::Disegno Vesti(const Tavolo &t, const StileFoglio &stile, bool perCarta) 
     };
     percorri(l, [&](char tipo, std::size_t k, const Pretesa *p) {
         const auto chi = chiave(p);
-        const StileFoglio::Tratto &tratto = stile.tratto(chi);
+        const StileFoglio::AspettoLinea &tratto = stile.tratto(chi);
         const bool via = stile.strati[chi.first].nascosto || (!stile.nascoste.empty() && stile.nascoste.contains(chi));
         const bool scelta = !perCarta && stile.scelta == chi, tinge = !perCarta || tratto.mio;
         if (tipo == 'L') {

@@ -21,22 +21,22 @@ inline constexpr std::size_t STRATI = static_cast<std::size_t>(Specie::Nessuna) 
 
 // How the sheet looks: paper-white or dark, the colour of each layer, what is hidden, what is chosen.
 struct StileFoglio {
-    struct Tratto {
+    struct AspettoLinea {
         Colore colore = 0;
         bool nascosto = false;
         int spessore = 0;  // 0: as drawn
         bool mio = false;  // the user chose the colour: paper shows it too
-        bool operator==(const Tratto &) const = default;
+        bool operator==(const AspettoLinea &) const = default;
     };
     bool scuro = false;
-    std::array<Tratto, STRATI> strati{};
-    std::set<std::pair<std::size_t, double>> nascoste;     // single lines: layer and value
-    std::map<std::pair<std::size_t, double>, Tratto> sue;  // those with looks of their own
-    std::optional<std::pair<std::size_t, double>> scelta;  // the chosen line
+    std::array<AspettoLinea, STRATI> strati{};
+    std::set<std::pair<std::size_t, double>> nascoste;           // single lines: layer and value
+    std::map<std::pair<std::size_t, double>, AspettoLinea> sue;  // those with looks of their own
+    std::optional<std::pair<std::size_t, double>> scelta;        // the chosen line
     bool operator==(const StileFoglio &) const = default;
 
     // The looks of a line, its own or its layer's.
-    [[nodiscard]] const Tratto &tratto(const std::pair<std::size_t, double> &chi) const {
+    [[nodiscard]] const AspettoLinea &tratto(const std::pair<std::size_t, double> &chi) const {
         const auto i = sue.find(chi);
         return i == sue.end() ? strati[chi.first] : i->second;
     }
@@ -47,7 +47,7 @@ struct StileFoglio {
 [[nodiscard]] QColor TintaDi(Colore colore);
 
 // The drawing as the style shows it: colours of the layers, hidden lines left out. On paper only what the user changed.
-[[nodiscard]] Tavolo::Disegno Vesti(const Tavolo &t, const StileFoglio &stile, bool perCarta);
+[[nodiscard]] Tavolo::DisegnoTenuto Vesti(const Tavolo &t, const StileFoglio &stile, bool perCarta);
 // Whether the user changed anything that paper shows.
 [[nodiscard]] bool Ritoccato(const StileFoglio &stile);
 

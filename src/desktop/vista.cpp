@@ -37,7 +37,7 @@ QImage DisegnaVista(const Tavolo &t, const Vista &v) {
     p.drawRect(foglio.adjusted(-0.5, -0.5, 0.5, 0.5));
     p.setRenderHint(QPainter::Antialiasing);
     p.setClipRect(foglio.adjusted(-1, -1, 1, 1) & QRectF(QPointF(0, 0), QSizeF(v.misura)));
-    paint::Posa posa;
+    paint::PosaDipinta posa;
     posa.fattore = v.fattore;
     posa.x0 = v.origine.x();
     posa.y0 = v.origine.y();

@@ -6,27 +6,13 @@
 #include <utility>
 
 #include "app/comandi.h"
+#include "desktop/clessidra.h"
 #include "sessione/limiti.h"
+#include "sessione/muto.h"
 
 namespace ombrelia::desktop {
 
 namespace {
-
-// Says nothing and asks nothing; keeps the first box.
-class Muto final : public Utente {
-public:
-    std::string avviso;
-    void Messaggio(std::string_view) override {}
-    bool Box(std::string_view testo, Domanda) override {
-        if (avviso.empty()) avviso = testo;
-        return true;
-    }
-    std::string Input(std::string_view, std::string_view, std::string_view proposta) override { return std::string(proposta); }
-    std::optional<std::string> File(const RichiestaFile &) override { return {}; }
-    void Beep() override {}
-};
-
-struct Fermato {};
 
 // A device that paints nothing and ends a run that nobody waits for any more.
 class Guardia final : public Dispositivo {
@@ -49,7 +35,7 @@ private:
 
 }  // namespace
 
-Vivo::Vivo(QObject *contesto, const Dizionario &dizionario, std::function<void(Esito &)> pronto)
+Vivo::Vivo(QObject *contesto, const Dizionario &dizionario, std::function<void(ProvaViva &)> pronto)
     : contesto_(contesto), dizionario_(dizionario), pronto_(std::move(pronto)), filo_([this] { lavora(); }) {}
 
 Vivo::~Vivo() {
@@ -80,7 +66,7 @@ void Vivo::lavora() {
     while (auto incarico = sportello_.attendi()) {
         Richiesta &r = incarico->cosa;
         const unsigned mio = incarico->numero;
-        utente.avviso.clear();
+        utente.avvisi.clear();
         s.in = std::move(r.in);
         s.v = r.v;
         s.stati = std::move(r.stati);
@@ -93,7 +79,7 @@ void Vivo::lavora() {
         t.ShiftX(r.shiftX);
         t.ShiftY(r.shiftY);
         t.Scala(r.scala);
-        auto esito = std::make_shared<Esito>();
+        auto esito = std::make_shared<ProvaViva>();
         try {
             Guardia guardia(sportello_.numero(), mio);
             t.dispositivo = &guardia;
@@ -121,7 +107,7 @@ void Vivo::lavora() {
         }
         esito->vista = r.vista;
         esito->v = s.v;
-        esito->avviso = utente.avviso;
+        if (!utente.avvisi.empty()) esito->avviso = utente.avvisi.front();
         esito->tavolo = std::make_unique<Tavolo>();
         Tavolo &e = *esito->tavolo;
         e.ScambiaDisegno(t);

@@ -26,7 +26,7 @@ public:
         double fattoreX = 1, fattoreY = 1;
         Vista vista;
     };
-    struct Esito {
+    struct ProvaViva {
         std::unique_ptr<Tavolo> tavolo;  // the drawing, on the sheet as the run left it
         Variabili v;
         QImage immagine;
@@ -35,7 +35,7 @@ public:
     };
 
     // pronto is called on the window's thread (that of contesto).
-    Vivo(QObject *contesto, const Dizionario &dizionario, std::function<void(Esito &)> pronto);
+    Vivo(QObject *contesto, const Dizionario &dizionario, std::function<void(ProvaViva &)> pronto);
     ~Vivo();
     Vivo(const Vivo &) = delete;
     Vivo &operator=(const Vivo &) = delete;
@@ -51,7 +51,7 @@ private:
 
     QObject *contesto_;
     Dizionario dizionario_;
-    std::function<void(Esito &)> pronto_;
+    std::function<void(ProvaViva &)> pronto_;
     Sportello<Richiesta> sportello_;
     std::atomic<int> attese_ = 0;
     std::thread filo_;

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "core/conteggio.h"
+#include "core/testo.h"
 #include "glyphs/punto_parete.h"
 #include "glyphs/tratti.h"
 #include "gnomonica/longitudine.h"
@@ -40,19 +41,6 @@ int cordeDi(const Tratto &t) {
     if (t.forma == Forma::Linea) return 1;
     const Valore passo = 2 * ArcCos(1 - FRECCIA / std::max(t.c, t.d));
     return static_cast<int>(std::ceil(std::fabs(Radianti(t.fine - t.inizio).v) / passo.v));
-}
-
-std::string inLettere(int ora) {
-    struct Voce {
-        int valore;
-        const char *lettere;
-    };
-    static constexpr Voce VOCI[] = {{10, "X"}, {9, "IX"}, {5, "V"}, {4, "IV"}, {1, "I"}};
-    std::string testo;
-    if (ora > 39) return testo;
-    for (const Voce &voce : VOCI)
-        for (; ora >= voce.valore; ora -= voce.valore) testo += voce.lettere;
-    return testo;
 }
 
 void posiziona(Sessione &s, bool romani) {
@@ -113,7 +101,7 @@ void DisegnaCifra(Sessione &s, Valore X, Valore Y, Valore Angolo, int Cifra, int
 }
 
 void DisegnaNumeroRomano(Sessione &s, Valore x, Valore y, Valore rotazione, int ora) {
-    const std::string lettere = inLettere(ora);
+    const std::string lettere = NumeroRomano(ora);
     double larghezza = 0;
     for (const char c : lettere) larghezza += LetteraRomana(c).larghezza;
 

@@ -75,13 +75,13 @@ void DisegnaZodiaco(Sessione &s) {
         m0 = Radianti(5);  // an angle among minutes of time: meant
     }
     const double sl = v.segnoLat.numero();
-    struct Posto {
+    struct PostoSegno {
         Segno segno;
         Valore scarto;  // of the hour angle, radians
         double delta;   // declination, degrees
     };
     // Capricorn and Cancer stand outside the solstices, where the day lines leave room.
-    const Posto posti[SEGNI] = {
+    const PostoSegno posti[SEGNI] = {
         {Segno::Capricorno, m0, sl == 1 ? -28.0 : 25.0},
         {Segno::Sagittario, minuti(28 * (f + 3) / 4), -20 * sl},
         {Segno::Acquario, minuti(-22 * (f + 3) / 4), -20 * sl},
@@ -97,7 +97,7 @@ void DisegnaZodiaco(Sessione &s) {
     };
     PuntoParete p;
     Reale H;
-    for (const Posto &posto : posti) {
+    for (const PostoSegno &posto : posti) {
         H = -v.corrLong + posto.scarto;
         v.deltaOpz = posto.delta;
         calcola(p, v, H);

@@ -34,10 +34,10 @@ void TracciaAlmucantarat(Sessione &s, const Lettura &letto, const Cornice &corni
     const Reale limite = v.gn * tan(v.incR);
     const bool nord = v.latR >= 0;
 
-    struct Campione {
+    struct TerminiDelGiorno {
         double tanD, senTermine, cosTermine;
     };
-    std::vector<Campione> anno;
+    std::vector<TerminiDelGiorno> anno;
     const Valore senLat = sin(v.latR), cosLat = cos(v.latR);
     for (const double d : declinazioni) {
         const double D = PI * d / 180;
@@ -49,7 +49,7 @@ void TracciaAlmucantarat(Sessione &s, const Lettura &letto, const Cornice &corni
         for (const LineaAttesa &l : linee) {
             const Pretendi pretendi(s.tavolo, Specie::Almucantarat, l.valore);
             const double senH = std::sin(PI * l.parametro / 180);
-            for (const Campione &a : anno) {
+            for (const TerminiDelGiorno &a : anno) {
                 c = (Valore(senH) - a.senTermine) / a.cosTermine;
                 if (Abs(c) > 1) continue;
                 t = mattina ? -ArcCos(c) : ArcCos(c);

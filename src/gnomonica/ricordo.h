@@ -18,7 +18,7 @@ public:
     [[nodiscard]] Esito operator()(std::size_t posto, double x) {
         if (posto >= POSTI) return Funzione{}(x);
         if (posto >= voci_.size()) voci_.resize(posto + 1);
-        Voce &v = voci_[posto];
+        PostoRicordo &v = voci_[posto];
         if (!v.piena || std::memcmp(&v.x, &x, sizeof x) != 0) v = {x, Funzione{}(x), true};
         return v.esito;
     }
@@ -26,12 +26,12 @@ public:
 private:
     // A sweep of the densest dial that is still quick to draw; what lies beyond is worked out each time.
     static constexpr std::size_t POSTI = std::size_t{1} << 18;
-    struct Voce {
+    struct PostoRicordo {
         double x;
         Esito esito;
         bool piena = false;
     };
-    std::vector<Voce> voci_;
+    std::vector<PostoRicordo> voci_;
 };
 
 struct DammiSenCos {

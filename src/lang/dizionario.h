@@ -15,7 +15,7 @@ namespace ombrelia {
 class Dizionario {
 public:
     // A source text and its translation, as they stand.
-    using Voce = std::pair<std::string, std::string>;
+    using Lemma = std::pair<std::string, std::string>;
 
     // The translation of a text, or the text itself when there is none. Sources are compared in upper case, blanks
     // included; of equal ones the first stands. Without a dictionary every text is its own.
@@ -32,14 +32,14 @@ public:
     // Name of the file last loaded.
     [[nodiscard]] const std::string &Nome() const { return nome_; }
     // Entries whose translation is not blank, in the order of the file.
-    [[nodiscard]] const std::vector<Voce> &Voci() const { return voci_; }
+    [[nodiscard]] const std::vector<Lemma> &Voci() const { return voci_; }
 
     // The file of a language.
     [[nodiscard]] static std::string NomeFile(std::string_view Nome);
 
 private:
     std::string nome_;
-    std::vector<Voce> voci_;
+    std::vector<Lemma> voci_;
     std::unordered_map<std::string, std::size_t> indice_;  // upper-cased source to its first entry
 };
 

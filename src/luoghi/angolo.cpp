@@ -34,11 +34,11 @@ constexpr Ragione RAGIONI[] = {
 
 // Signs that stand for degrees, minutes and seconds become D, M, Q; letters are small, so that the seconds' "s" and South's stay
 // apart.
-struct Segno {
+struct SegnoScritto {
     std::string_view scritto;
     char vale;
 };
-constexpr Segno SEGNI[] = {
+constexpr SegnoScritto SEGNI[] = {
     {"''", 'Q'}, {"°", 'D'}, {"º", 'D'}, {"˚", 'D'},  {"′", 'M'}, {"’", 'M'},        {"'", 'M'},
     {"´", 'M'},  {"″", 'Q'}, {"”", 'Q'}, {"\"", 'Q'}, {"“", 'Q'}, {"\xC2\xA0", ' '}, {"\xE2\x80\xAF", ' '},
     {"\t", ' '}, {"−", '-'}, {"–", '-'}, {",", '.'},
@@ -47,8 +47,8 @@ constexpr Segno SEGNI[] = {
 std::string semplice(std::string_view testo) {
     std::string t;
     while (!testo.empty()) {
-        const Segno *trovato = nullptr;
-        for (const Segno &s : SEGNI)
+        const SegnoScritto *trovato = nullptr;
+        for (const SegnoScritto &s : SEGNI)
             if (!trovato && testo.starts_with(s.scritto)) trovato = &s;
         const char c = testo.front();
         t += trovato ? trovato->vale : c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c;

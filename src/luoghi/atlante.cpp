@@ -41,7 +41,7 @@ std::vector<std::string_view> dividi(std::string_view t, char segno) {
     return parti;
 }
 
-struct Fuso {
+struct NomeFuso {
     std::string_view nome;
     int minuti = 0;
 };
@@ -70,12 +70,12 @@ double Distanza(const Luogo &a, double latitudine, double longitudine) {
 }
 
 Atlante::Atlante(std::string tabella) : tabella_(std::move(tabella)) {
-    std::vector<Fuso> fusi;
+    std::vector<NomeFuso> fusi;
     for (std::string_view riga : dividi(tabella_, '\n')) {
         if (riga.ends_with('\r')) riga.remove_suffix(1);
         const auto p = dividi(riga, ';');
         if (riga.starts_with('=')) {
-            Fuso f;
+            NomeFuso f;
             if (p.size() != 3 || !intero(p[2], f.minuti) || std::abs(f.minuti) > 24 * 60) f = {};
             else f.nome = p[1];
             fusi.push_back(f);
@@ -108,7 +108,7 @@ Atlante::Atlante(std::string tabella) : tabella_(std::move(tabella)) {
         if (!luoghi_[i].altri.empty())
             for (const std::string_view altro : dividi(luoghi_[i].altri, '|')) aggiungi(altro, i);
     }
-    std::sort(indice_.begin(), indice_.end(), [&](const Chiave &a, const Chiave &b) {
+    std::sort(indice_.begin(), indice_.end(), [&](const ChiaveNome &a, const ChiaveNome &b) {
         const int ordine = testo(a).compare(testo(b));
         return ordine < 0 || (ordine == 0 && a.luogo < b.luogo);
     });
@@ -123,8 +123,8 @@ const Atlante &Atlante::Comune() {
     return atlante;
 }
 
-Atlante::Domanda Atlante::domanda(std::string_view nome, std::string_view paese) {
-    Domanda d;
+Atlante::DomandaLuogo Atlante::domanda(std::string_view nome, std::string_view paese) {
+    DomandaLuogo d;
     d.paese = maiuscole(paese);
     const std::size_t virgola = nome.rfind(',');
     if (virgola != std::string_view::npos) {
@@ -138,30 +138,30 @@ Atlante::Domanda Atlante::domanda(std::string_view nome, std::string_view paese)
     return d;
 }
 
-bool Atlante::va(std::uint32_t luogo, const Domanda &d) const {
+bool Atlante::va(std::uint32_t luogo, const DomandaLuogo &d) const {
     const Luogo &l = luoghi_[luogo];
     return (d.paese.empty() || l.paese == d.paese) && (d.regione.empty() || l.regione == d.regione || l.paese == d.regione);
 }
 
 // Indices of places, the best known first, each once.
-std::vector<std::uint32_t> Atlante::simili(const Domanda &d, Somiglianza come) const {
+std::vector<std::uint32_t> Atlante::simili(const DomandaLuogo &d, Somiglianza come) const {
     std::vector<std::uint32_t> trovati;
     if (d.nome.empty()) return trovati;
-    const auto prendi = [&](const Chiave &c) {
+    const auto prendi = [&](const ChiaveNome &c) {
         if (va(c.luogo, d)) trovati.push_back(c.luogo);
     };
     if (come == Somiglianza::Uguale || come == Somiglianza::Inizio) {
         const auto da = std::lower_bound(indice_.begin(), indice_.end(), d.nome,
-                                         [&](const Chiave &c, const std::string &n) { return testo(c) < n; });
+                                         [&](const ChiaveNome &c, const std::string &n) { return testo(c) < n; });
         for (auto i = da; i != indice_.end() && testo(*i).starts_with(d.nome); ++i)
             if (come == Somiglianza::Inizio || i->lunga == d.nome.size()) prendi(*i);
             else break;  // the name itself sorts before what it begins
     } else if (come == Somiglianza::Parola) {
         const std::string parola = " " + d.nome;
-        for (const Chiave &c : indice_)
+        for (const ChiaveNome &c : indice_)
             if (testo(c).find(parola) != std::string_view::npos) prendi(c);
     } else if (d.nome.size() > 3) {
-        for (const Chiave &c : indice_)
+        for (const ChiaveNome &c : indice_)
             if (AUnPasso(testo(c), d.nome)) prendi(c);
     }
     std::sort(trovati.begin(), trovati.end());
@@ -176,11 +176,11 @@ std::vector<const Luogo *> Atlante::mostra(std::vector<std::uint32_t> indici, st
 }
 
 Trovati Atlante::Cerca(std::string_view nome, std::string_view paese, std::size_t quanti) const {
-    Domanda d = domanda(nome, paese);
+    DomandaLuogo d = domanda(nome, paese);
     for (const auto come : {Somiglianza::Uguale, Somiglianza::Inizio, Somiglianza::Parola, Somiglianza::Vicino}) {
         auto trovati = simili(d, come);
         if (trovati.empty() && come == Somiglianza::Uguale) {
-            Domanda tedesca = d;
+            DomandaLuogo tedesca = d;
             tedesca.nome = SenzaDieresi(d.nome);
             if (tedesca.nome != d.nome) trovati = simili(tedesca, come);
         }
@@ -190,7 +190,7 @@ Trovati Atlante::Cerca(std::string_view nome, std::string_view paese, std::size_
 }
 
 std::vector<const Luogo *> Atlante::Suggerisci(std::string_view inizio, std::size_t quanti, std::string_view paese) const {
-    const Domanda d = domanda(inizio, paese);
+    const DomandaLuogo d = domanda(inizio, paese);
     std::vector<std::uint32_t> tutti;
     for (const auto come : {Somiglianza::Uguale, Somiglianza::Inizio, Somiglianza::Parola}) {
         for (const std::uint32_t i : simili(d, come)) {

@@ -68,22 +68,22 @@ public:
     [[nodiscard]] const Luogo *Presso(double latitudine, double longitudine, double entro = 0.5) const;
 
 private:
-    struct Chiave {
+    struct ChiaveNome {
         std::uint32_t da, lunga, luogo;
     };
-    struct Domanda {
+    struct DomandaLuogo {
         std::string nome, paese, regione;
     };
-    static Domanda domanda(std::string_view nome, std::string_view paese);
-    [[nodiscard]] std::string_view testo(const Chiave &c) const { return std::string_view(chiavi_).substr(c.da, c.lunga); }
-    [[nodiscard]] bool va(std::uint32_t luogo, const Domanda &d) const;
-    [[nodiscard]] std::vector<std::uint32_t> simili(const Domanda &d, Somiglianza come) const;
+    static DomandaLuogo domanda(std::string_view nome, std::string_view paese);
+    [[nodiscard]] std::string_view testo(const ChiaveNome &c) const { return std::string_view(chiavi_).substr(c.da, c.lunga); }
+    [[nodiscard]] bool va(std::uint32_t luogo, const DomandaLuogo &d) const;
+    [[nodiscard]] std::vector<std::uint32_t> simili(const DomandaLuogo &d, Somiglianza come) const;
     [[nodiscard]] std::vector<const Luogo *> mostra(std::vector<std::uint32_t> indici, std::size_t quanti) const;
 
     std::string tabella_;
-    std::vector<Luogo> luoghi_;   // the most populous first
-    std::string chiavi_;          // flattened names, one after the other
-    std::vector<Chiave> indice_;  // in the order of the names
+    std::vector<Luogo> luoghi_;       // the most populous first
+    std::string chiavi_;              // flattened names, one after the other
+    std::vector<ChiaveNome> indice_;  // in the order of the names
 };
 
 // The place's name as it was asked for: the one of its names that the search takes for that, else the gazetteer's.

@@ -197,7 +197,7 @@ bool Fuso::leggiRegola(std::string_view t, Regola &r) {
         if (!tempo(t, s)) return false;
         r.avanti = -s;
     }
-    for (Giorno *g : {&r.inizio, &r.fine}) {
+    for (GiornoDiRegola *g : {&r.inizio, &r.fine}) {
         if (!segno(t, ',')) return false;
         if (segno(t, 'M')) {
             g->tipo = 'M';
@@ -216,7 +216,7 @@ bool Fuso::leggiRegola(std::string_view t, Regola &r) {
 }
 
 // Seconds of the local clock at which a rule's day and time come in a year.
-std::int64_t Fuso::istante(const Giorno &g, std::int64_t anno) {
+std::int64_t Fuso::istante(const GiornoDiRegola &g, std::int64_t anno) {
     std::int64_t giorno = 0;
     if (g.tipo == 'M') {
         const std::int64_t primo = giorni(anno, g.mese, 1), dopo = giorni(anno, g.mese + 1, 1);
@@ -231,7 +231,8 @@ std::int64_t Fuso::istante(const Giorno &g, std::int64_t anno) {
 }
 
 int Fuso::scarto(std::int64_t ut) const {
-    const auto dopo = std::upper_bound(passi_.begin(), passi_.end(), ut, [](std::int64_t t, const Passo &p) { return t < p.da; });
+    const auto dopo =
+        std::upper_bound(passi_.begin(), passi_.end(), ut, [](std::int64_t t, const Scatto &p) { return t < p.da; });
     if (dopo != passi_.end() || !regola_.esiste) return dopo == passi_.begin() ? prima_ : (dopo - 1)->scarto;
     if (!regola_.estate) return regola_.base;
     const std::int64_t anno = DaSecondi(ut + regola_.base).anno;

@@ -55,7 +55,7 @@ public:
 
 private:
     // A day of the year as a rule says it: M month.week.day, J 1..365 without February 29, or 0..365.
-    struct Giorno {
+    struct GiornoDiRegola {
         char tipo = 'M';
         int mese = 0, settimana = 0, giorno = 0;
         int ora = 7200;  // seconds of the local day, may be negative
@@ -63,18 +63,18 @@ private:
     struct Regola {
         bool esiste = false, estate = false;
         int base = 0, avanti = 0;  // offsets of standard and summer time
-        Giorno inizio, fine;
+        GiornoDiRegola inizio, fine;
     };
-    struct Passo {
+    struct Scatto {
         std::int64_t da = 0;
         int scarto = 0;
     };
     static bool leggiRegola(std::string_view testo, Regola &r);
-    static std::int64_t istante(const Giorno &g, std::int64_t anno);
+    static std::int64_t istante(const GiornoDiRegola &g, std::int64_t anno);
     [[nodiscard]] int scarto(std::int64_t ut) const;
 
     int prima_ = 0;  // offset before the first step
-    std::vector<Passo> passi_;
+    std::vector<Scatto> passi_;
     Regola regola_;
     bool conRegole_ = false;
 };

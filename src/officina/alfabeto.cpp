@@ -53,7 +53,7 @@ Alfabeto::Alfabeto(const char *nome) {
         const std::string_view riga = resto.substr(0, fine);
         resto.remove_prefix(std::min(fine + 1, resto.size()));
         if (riga.size() < TESTA + 2) continue;
-        Lettera &l = lettere_[c];
+        LetteraIncisa &l = lettere_[c];
         l.largo = riga[TESTA + 1] - riga[TESTA];
         bool alzata = true;
         for (std::size_t i = TESTA + 2; i + 1 < riga.size(); i += 2) {

@@ -11,7 +11,7 @@ namespace ombrelia::officina {
 using Tratti = std::vector<std::vector<P2>>;
 
 // Units of the alphabet, y upward from the base line, x from the left end of what it takes of a line.
-struct Lettera {
+struct LetteraIncisa {
     Tratti tratti;
     double largo = 0;
 };
@@ -21,10 +21,10 @@ public:
     // By its bare name ("rowmans").
     explicit Alfabeto(const char *nome);
     [[nodiscard]] bool esiste() const { return esiste_; }
-    [[nodiscard]] const Lettera &lettera(unsigned char c) const { return lettere_[c]; }
+    [[nodiscard]] const LetteraIncisa &lettera(unsigned char c) const { return lettere_[c]; }
 
 private:
-    std::array<Lettera, 256> lettere_;
+    std::array<LetteraIncisa, 256> lettere_;
     bool esiste_ = false;
 };
 

@@ -52,7 +52,7 @@ struct Cammino {
 enum class Ritaglio : std::uint8_t { Cornice, Foglio };
 enum class Testi : std::uint8_t { Tratti, Testo, Niente };
 
-struct Opzioni {
+struct ComePreparare {
     double tolleranza = 0.01;  // mm, above 0
     Ritaglio ritaglio = Ritaglio::Cornice;
     Testi testi = Testi::Niente;
@@ -83,9 +83,9 @@ struct Disegno {
 };
 
 // errore tells why there is no drawing: nothing drawn, nothing inside, strokes without their font.
-[[nodiscard]] Disegno Prepara(const Tavolo &tavolo, const Opzioni &opzioni, std::string &errore);
+[[nodiscard]] Disegno Prepara(const Tavolo &tavolo, const ComePreparare &opzioni, std::string &errore);
 
 // What was done, in sentences for people.
-[[nodiscard]] std::string Racconto(const Disegno &d, const Opzioni &opzioni);
+[[nodiscard]] std::string Racconto(const Disegno &d, const ComePreparare &opzioni);
 
 }  // namespace ombrelia::officina

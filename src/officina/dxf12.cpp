@@ -11,9 +11,10 @@ namespace {
 
 using Tipo = Cammino::Tipo;
 
-class Scrittore {
+class ScrittoreDxf12 {
 public:
-    Scrittore(const Disegno &d, const Foglio &f) : d_(d), pollici_(f.unita == Unita::Pollici), k_(pollici_ ? 1 / 25.4 : 1) {}
+    ScrittoreDxf12(const Disegno &d, const Cartiglio &f)
+        : d_(d), pollici_(f.unita == Unita::Pollici), k_(pollici_ ? 1 / 25.4 : 1) {}
 
     std::string scrivi() {
         intestazione();
@@ -212,6 +213,6 @@ private:
 
 }  // namespace
 
-std::string Dxf12(const Disegno &d, const Foglio &f) { return Scrittore(d, f).scrivi(); }
+std::string Dxf12(const Disegno &d, const Cartiglio &f) { return ScrittoreDxf12(d, f).scrivi(); }
 
 }  // namespace ombrelia::officina

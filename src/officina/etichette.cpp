@@ -37,7 +37,7 @@ bool siToccano(const Scatola &x, const Scatola &y) {
     return true;
 }
 
-struct Linea {
+struct LineaDaScrivere {
     Specie specie;
     double valore;
     std::vector<std::vector<P2>> pezzi;
@@ -61,9 +61,9 @@ std::optional<Posto> lungo(const std::vector<P2> &pezzo, bool coda, double indie
 }
 
 // The point that the lines of a family lie nearest to, as straight lines; none for parallel ones.
-std::optional<P2> fuoco(const std::vector<const Linea *> &linee) {
+std::optional<P2> fuoco(const std::vector<const LineaDaScrivere *> &linee) {
     double xx = 0, xy = 0, yy = 0, bx = 0, by = 0;
-    for (const Linea *l : linee)
+    for (const LineaDaScrivere *l : linee)
         for (const auto &p : l->pezzi) {
             const P2 v = p.back() - p.front();
             const double d = Lungo(v);
@@ -82,9 +82,9 @@ std::optional<P2> fuoco(const std::vector<const Linea *> &linee) {
 }
 
 // The sheet as it will be read: as its mirrors show it, and turned where its user will mirror it yet.
-class Lettura {
+class VersoDiLettura {
 public:
-    Lettura(const Tavolo &t, bool specchiata)
+    VersoDiLettura(const Tavolo &t, bool specchiata)
         : x_(specchiata || t.FattoreX < 0 ? -1 : 1), y_(t.FattoreY < 0 ? -1 : 1), giro_(x_ * (t.FattoreX < 0 ? -1 : 1)) {}
     // From what is seen.
     void specchia(P2 &p) const { p.x *= giro_; }
@@ -128,14 +128,14 @@ public:
     }
 
     EsitoEtichette scrivi() {
-        std::map<Specie, std::vector<const Linea *>> famiglie;
-        for (const Linea &l : linee_) famiglie[l.specie].push_back(&l);
+        std::map<Specie, std::vector<const LineaDaScrivere *>> famiglie;
+        for (const LineaDaScrivere &l : linee_) famiglie[l.specie].push_back(&l);
         EsitoEtichette esito;
         const IdNome strato = tavolo_.nome("Etichette");
         for (const auto &[specie, linee] : famiglie) {
             const bool curve = specie == Specie::Diurna || specie == Specie::Equinoziale || specie == Specie::Almucantarat;
             const std::optional<P2> centro = curve ? std::nullopt : specie == Specie::Azimut ? std::optional(P2{}) : fuoco(linee);
-            for (const Linea *l : linee) {
+            for (const LineaDaScrivere *l : linee) {
                 const std::string testo = s_.testo(l->specie, l->valore);
                 if (testo.empty()) continue;
                 if (posa(*l, testo, curve, centro, strato)) ++esito.scritte;
@@ -146,23 +146,23 @@ public:
     }
 
 private:
-    bool posa(const Linea &l, const std::string &testo, bool curva, const std::optional<P2> &centro, IdNome strato) {
+    bool posa(const LineaDaScrivere &l, const std::string &testo, bool curva, const std::optional<P2> &centro, IdNome strato) {
         const double largo = LarghezzaTratti(testo, s_.altezza);
         // Ends, the outermost first: of a curve the rightmost, of a ray the farthest from where its family meets.
-        struct Capo {
+        struct Estremo {
             double quanto;
             const std::vector<P2> *pezzo;
             bool coda;
         };
-        std::vector<Capo> capi;
+        std::vector<Estremo> capi;
         for (const auto &p : l.pezzi)
             for (const bool coda : {false, true}) {
                 const P2 e = coda ? p.back() : p.front();
                 capi.push_back({curva ? e.x : centro ? Distanza(e, *centro) : -e.y, &p, coda});
             }
-        std::sort(capi.begin(), capi.end(), [](const Capo &a, const Capo &b) { return a.quanto > b.quanto; });
+        std::sort(capi.begin(), capi.end(), [](const Estremo &a, const Estremo &b) { return a.quanto > b.quanto; });
         const double aria = ARIA * s_.altezza;
-        for (const Capo &c : capi) {
+        for (const Estremo &c : capi) {
             for (int k = -1; k < INDIETRO; ++k) {
                 const auto posto = lungo(*c.pezzo, c.coda, k < 0 ? 0 : largo / 2 + aria + 0.5 * k * s_.altezza);
                 if (!posto) break;
@@ -212,10 +212,10 @@ private:
 
     Tavolo &tavolo_;
     const StileEtichette &s_;
-    const Lettura lettura_;
+    const VersoDiLettura lettura_;
     Riquadro campo_;
     std::optional<Griglia> griglia_;
-    std::vector<Linea> linee_;
+    std::vector<LineaDaScrivere> linee_;
     std::vector<Scatola> poste_;
 };
 
@@ -229,7 +229,7 @@ void Cartiglio(Tavolo &tavolo, const std::vector<std::string> &righe, double alt
     if (righe.empty()) return;
     bool senza = false;
     Riquadro cornice = Campo(tavolo, Ritaglio::Cornice, senza), foglio = Campo(tavolo, Ritaglio::Foglio, senza);
-    const Lettura lettura(tavolo, specchiata);
+    const VersoDiLettura lettura(tavolo, specchiata);
     lettura.specchia(cornice);
     lettura.specchia(foglio);
     double largo = 0;

@@ -13,9 +13,9 @@ namespace {
 constexpr double PASSI = 40;  // a millimetre
 constexpr int PENNE = 8;
 
-class Scrittore {
+class ScrittoreHpgl {
 public:
-    explicit Scrittore(const Disegno &d) : d_(d) {
+    explicit ScrittoreHpgl(const Disegno &d) : d_(d) {
         const Riquadro p = Pagina(d);
         origine_ = {p.x0, p.y0};
     }
@@ -87,6 +87,6 @@ private:
 
 }  // namespace
 
-std::string Hpgl(const Disegno &d, const Foglio &) { return Scrittore(d).scrivi(); }
+std::string Hpgl(const Disegno &d, const Cartiglio &) { return ScrittoreHpgl(d).scrivi(); }
 
 }  // namespace ombrelia::officina

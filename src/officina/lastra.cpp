@@ -115,26 +115,26 @@ Solido Lastra(const Disegno &d, const Gnomone &g, const Misure &m, bool conFessu
     }
     const cl::Paths linee = pulite(aree(d, m), fessure);
     // Every contour with the smallest one around it; the plate's own is the first.
-    struct Voce {
+    struct ContornoAnnidato {
         Contorno c;
         enum { Bordo, Linea, Fessura } che;
         std::vector<std::size_t> figli;
         std::int64_t x0, x1, y0, y1;
     };
-    std::vector<Voce> voci;
-    const auto metti = [&](const Contorno &c, decltype(Voce::che) che) {
+    std::vector<ContornoAnnidato> voci;
+    const auto metti = [&](const Contorno &c, decltype(ContornoAnnidato::che) che) {
         const auto [xa, xb] = std::minmax_element(c.begin(), c.end(), [](Pm p, Pm q) { return p.x < q.x; });
         const auto [ya, yb] = std::minmax_element(c.begin(), c.end(), [](Pm p, Pm q) { return p.y < q.y; });
         voci.push_back({c, che, {}, xa->x, xb->x, ya->y, yb->y});
     };
-    metti(contorno(rettangolo({b.x0, b.y0}, {b.x1, b.y0}, {b.x1, b.y1}, {b.x0, b.y1})), Voce::Bordo);
-    for (const cl::Path &p : linee) metti(contorno(p), Voce::Linea);
-    for (const cl::Path &p : fessure) metti(contorno(p), Voce::Fessura);
+    metti(contorno(rettangolo({b.x0, b.y0}, {b.x1, b.y0}, {b.x1, b.y1}, {b.x0, b.y1})), ContornoAnnidato::Bordo);
+    for (const cl::Path &p : linee) metti(contorno(p), ContornoAnnidato::Linea);
+    for (const cl::Path &p : fessure) metti(contorno(p), ContornoAnnidato::Fessura);
     for (std::size_t i = 1; i < voci.size(); ++i) {
         std::size_t madre = 0;
         std::int64_t minima = std::numeric_limits<std::int64_t>::max();
         for (std::size_t k = 1; k < voci.size(); ++k) {
-            const Voce &v = voci[k];
+            const ContornoAnnidato &v = voci[k];
             const Pm p = voci[i].c[0];
             if (k == i || p.x < v.x0 || p.x > v.x1 || p.y < v.y0 || p.y > v.y1) continue;
             cl::Path q;
@@ -152,19 +152,19 @@ Solido Lastra(const Disegno &d, const Gnomone &g, const Misure &m, bool conFessu
         if ((AreaDoppia(c) > 0) != antiorario) std::reverse(c.begin(), c.end());
         return c;
     };
-    for (const Voce &v : voci) {
-        if (v.che == Voce::Fessura) continue;
+    for (const ContornoAnnidato &v : voci) {
+        if (v.che == ContornoAnnidato::Fessura) continue;
         std::vector<Contorno> fori;
         for (const std::size_t k : v.figli) fori.push_back(verso(voci[k].c, false));
         // A counter-clockwise line is its area, a clockwise one the plate that it encloses.
-        const bool area = v.che == Voce::Linea && AreaDoppia(v.c) > 0;
+        const bool area = v.che == ContornoAnnidato::Linea && AreaDoppia(v.c) > 0;
         Faccia(s, Triangola(verso(v.c, true), fori), area ? linea : su, true);
-        if (v.che == Voce::Linea) Parete(s, v.c, su, linea);
+        if (v.che == ContornoAnnidato::Linea) Parete(s, v.c, su, linea);
         else Parete(s, v.c, 0, su);
     }
     std::vector<Contorno> fori;
-    for (const Voce &v : voci)
-        if (v.che == Voce::Fessura) {
+    for (const ContornoAnnidato &v : voci)
+        if (v.che == ContornoAnnidato::Fessura) {
             fori.push_back(verso(v.c, false));
             Parete(s, fori.back(), 0, su);
         }

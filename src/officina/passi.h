@@ -13,7 +13,7 @@ struct Raccolta {
     std::vector<P2> vertici;  // every vertex inside, before any is dropped
 };
 [[nodiscard]] Riquadro Campo(const Tavolo &tavolo, Ritaglio ritaglio, bool &senzaCornice);
-[[nodiscard]] Raccolta Raccogli(const Tavolo &tavolo, const Riquadro &campo, const Opzioni &opzioni, Resoconto &r);
+[[nodiscard]] Raccolta Raccogli(const Tavolo &tavolo, const Riquadro &campo, const ComePreparare &opzioni, Resoconto &r);
 
 // A point of a line, and which of its points in the order of the list.
 struct Puntino {

@@ -100,7 +100,7 @@ void Cammino::rovescia() {
     if (tipo == Tipo::Linea) std::reverse(punti.begin(), punti.end());
 }
 
-Disegno Prepara(const Tavolo &tavolo, const Opzioni &o, std::string &errore) {
+Disegno Prepara(const Tavolo &tavolo, const ComePreparare &o, std::string &errore) {
     Disegno d;
     errore.clear();
     if (tavolo.lista().Ordine.empty()) errore = "nothing is drawn";
@@ -132,7 +132,7 @@ Disegno Prepara(const Tavolo &tavolo, const Opzioni &o, std::string &errore) {
     return d;
 }
 
-std::string Racconto(const Disegno &d, const Opzioni &o) {
+std::string Racconto(const Disegno &d, const ComePreparare &o) {
     const Resoconto &r = d.resoconto;
     std::string t = frase("%zu chords and %zu points to %zu paths of %zu vertices", r.corde, r.puntini, r.cammini, r.vertici);
     if (r.punti) t += frase(" and %zu points", r.punti);

@@ -19,7 +19,7 @@ constexpr double INTERO = 150;  // mm: a larger figure is no glyph and is clippe
 
 class Raccoglitore {
 public:
-    Raccoglitore(const Tavolo &t, const Riquadro &campo, const Opzioni &o, Resoconto &r)
+    Raccoglitore(const Tavolo &t, const Riquadro &campo, const ComePreparare &o, Resoconto &r)
         : lista(t.lista()), campo(campo), opzioni(o), r(r), F(t.FattoreX), G(t.FattoreY) {
         mezzoFoglio = MM / 2 * std::min(t.QuadranteL(), t.QuadranteH());
     }
@@ -41,12 +41,12 @@ public:
     }
 
 private:
-    struct Gruppo {
+    struct Appartenenza {
         Genere genere;
         int linea;
         Specie specie = Specie::Nessuna;
         double valore = 0;
-        bool operator<(const Gruppo &g) const { return linea != g.linea ? linea < g.linea : genere < g.genere; }
+        bool operator<(const Appartenenza &g) const { return linea != g.linea ? linea < g.linea : genere < g.genere; }
         [[nodiscard]] Cammino cammino(Cammino::Tipo tipo = Cammino::Tipo::Linea) const {
             return {.genere = genere, .tipo = tipo, .linea = linea, .specie = specie, .valore = valore};
         }
@@ -56,13 +56,13 @@ private:
         return specchia ? P2{MM * F * x, -MM * G * y} : P2{MM * x, -MM * y};
     }
 
-    using Chiave = std::variant<std::size_t, std::pair<Specie, double>, std::pair<IdNome, Colore>>;
-    static int numero(std::map<Chiave, int> &linee, const Chiave &chiave) {
+    using ChiaveLinea = std::variant<std::size_t, std::pair<Specie, double>, std::pair<IdNome, Colore>>;
+    static int numero(std::map<ChiaveLinea, int> &linee, const ChiaveLinea &chiave) {
         return linee.try_emplace(chiave, static_cast<int>(linee.size())).first->second;
     }
 
     // The group of the present record. Without a claim, records of one layer and colour belong together.
-    Gruppo gruppo(IdNome id, Colore colore, Genere senzaNome = Genere::Figure) {
+    Appartenenza gruppo(IdNome id, Colore colore, Genere senzaNome = Genere::Figure) {
         if (pretesa < lista.pretese.size() && lista.pretese[pretesa].da <= posto) {
             const Pretesa &p = lista.pretese[pretesa];
             if (p.specie == Specie::Etichetta)
@@ -74,7 +74,7 @@ private:
         return {id == 0 ? senzaNome : GenereDi(lista.nomi.testo(id)), numero(linee, std::pair{id, colore})};
     }
 
-    void chiudi(const Gruppo &g, std::vector<P2> &catena) {
+    void chiudi(const Appartenenza &g, std::vector<P2> &catena) {
         if (catena.size() < 2) return;
         if (g.genere != Genere::Figure) esito.vertici.insert(esito.vertici.end(), catena.begin(), catena.end());
         Cammino c = g.cammino();
@@ -84,7 +84,7 @@ private:
     }
 
     // Adds a chord to the chain of its group where an end of it is the chain's end.
-    void unisci(const Gruppo &g, P2 a, P2 b) {
+    void unisci(const Appartenenza &g, P2 a, P2 b) {
         auto &c = aperte[g];
         if (c.size() == 2 && (a == c[0] || b == c[0])) std::swap(c[0], c[1]);
         if (!c.empty() && c.back() == b) std::swap(a, b);
@@ -95,7 +95,7 @@ private:
         c.push_back(b);
     }
 
-    void tratto(const Gruppo &g, P2 a, P2 b) {
+    void tratto(const Appartenenza &g, P2 a, P2 b) {
         const double lunga = Distanza(a, b);
         if (lunga == 0) return;
         if (g.genere != Genere::Figure && g.genere != Genere::Cartiglio) {
@@ -133,7 +133,7 @@ private:
         suoi.push_back({q, suoi.size()});
     }
 
-    void curve(const Gruppo &g, const std::vector<Puntino> &punti) {
+    void curve(const Appartenenza &g, const std::vector<Puntino> &punti) {
         std::vector<std::vector<P2>> catene;
         std::vector<P2> soli;
         CatenePunti(punti, catene, soli);
@@ -154,7 +154,7 @@ private:
     std::size_t altra(char tipo, std::size_t i) {
         const auto &f = lista.Figure;
         if (i >= f.size()) return i;
-        const Gruppo g = gruppo(f[i].Id, f[i].colore);
+        const Appartenenza g = gruppo(f[i].Id, f[i].colore);
         if (tipo == 'B') {
             const P2 a = mm(f[i].X1, f[i].Y1), c = mm(f[i].X2, f[i].Y2), b{c.x, a.y}, d{a.x, c.y};
             ++r.corde;
@@ -177,7 +177,7 @@ private:
     }
 
     // The angles of an arc do not mirror, as on the screen.
-    void cerchio(const RecFigura &f, const Gruppo &g) {
+    void cerchio(const RecFigura &f, const Appartenenza &g) {
         ++r.cerchi;
         const P2 centro = mm(f.X1, f.Y1);
         const double raggio = MM * f.X2, inizio = std::fabs(f.A), fine = std::fabs(f.B);
@@ -209,12 +209,12 @@ private:
     // Strokes that lie together are one glyph: inside by its middle it stays whole, else it goes. What is too large for a
     // glyph is clipped.
     void figureIntere() {
-        struct Pezzo {
+        struct FiguraIntera {
             std::size_t indice;
             Riquadro box;
             std::size_t capo;
         };
-        std::vector<Pezzo> pezzi;
+        std::vector<FiguraIntera> pezzi;
         for (std::size_t i = 0; i < esito.cammini.size(); ++i) {
             const Cammino &c = esito.cammini[i];
             if (c.genere != Genere::Figure && c.tipo != Cammino::Tipo::Cerchio && c.tipo != Cammino::Tipo::Arco) continue;
@@ -224,7 +224,7 @@ private:
                 if (c.raggio == 0) b.allarga(q);
             pezzi.push_back({i, b, pezzi.size()});
         }
-        std::sort(pezzi.begin(), pezzi.end(), [](const Pezzo &a, const Pezzo &b) { return a.box.x0 < b.box.x0; });
+        std::sort(pezzi.begin(), pezzi.end(), [](const FiguraIntera &a, const FiguraIntera &b) { return a.box.x0 < b.box.x0; });
         for (std::size_t i = 0; i < pezzi.size(); ++i) pezzi[i].capo = i;
         const auto capo = [&](std::size_t i) {
             while (pezzi[i].capo != i) i = pezzi[i].capo = pezzi[pezzi[i].capo].capo;
@@ -326,14 +326,14 @@ private:
 
     const Lista &lista;
     const Riquadro campo;
-    const Opzioni &opzioni;
+    const ComePreparare &opzioni;
     Resoconto &r;
     const double F, G;
     double mezzoFoglio;
     Raccolta esito;
-    std::map<Gruppo, std::vector<P2>> aperte;
-    std::map<Gruppo, std::vector<Puntino>> puntini;
-    std::map<Chiave, int> linee;
+    std::map<Appartenenza, std::vector<P2>> aperte;
+    std::map<Appartenenza, std::vector<Puntino>> puntini;
+    std::map<ChiaveLinea, int> linee;
     std::size_t pretesa = 0, posto = 0;
 };
 
@@ -353,7 +353,7 @@ Riquadro Campo(const Tavolo &t, Ritaglio ritaglio, bool &senzaCornice) {
     return {-MM * t.ShiftX(), MM * (t.ShiftY() - t.QuadranteH()), MM * (t.QuadranteL() - t.ShiftX()), MM * t.ShiftY()};
 }
 
-Raccolta Raccogli(const Tavolo &tavolo, const Riquadro &campo, const Opzioni &opzioni, Resoconto &r) {
+Raccolta Raccogli(const Tavolo &tavolo, const Riquadro &campo, const ComePreparare &opzioni, Resoconto &r) {
     return Raccoglitore(tavolo, campo, opzioni, r).esegui();
 }
 

@@ -14,9 +14,9 @@ class Spicchio {
 public:
     Spicchio(P2 da, double tolleranza) : da_(da), t_(tolleranza) {}
 
-    enum class Esito : std::uint8_t { Si, No, Basta };
+    enum class Veduta : std::uint8_t { Si, No, Basta };
     // Whether the chord to p passes all points seen so far; p is seen afterwards. Basta: no chord farther on can.
-    Esito vede(P2 p) {
+    Veduta vede(P2 p) {
         const P2 v = p - da_;
         const double r = Lungo(v);
         // A point nearer than one before it: the line turns back, and a chord to it would leave that one behind.
@@ -28,11 +28,11 @@ public:
             passa = passa && r > 0 && d <= largo_;
         }
         lontano_ = std::max(lontano_, r);
-        if (r <= t_) return passa ? Esito::Si : Esito::No;  // near the start: every direction passes it
+        if (r <= t_) return passa ? Veduta::Si : Veduta::No;  // near the start: every direction passes it
         const double mezzo = std::asin(t_ / r);
         restringi(a - mezzo, 2 * mezzo);
-        if (vuoto_ || (indietro && lontano_ - r > t_)) return passa ? (fermo_ = true, Esito::Si) : Esito::Basta;
-        return passa ? Esito::Si : Esito::No;
+        if (vuoto_ || (indietro && lontano_ - r > t_)) return passa ? (fermo_ = true, Veduta::Si) : Veduta::Basta;
+        return passa ? Veduta::Si : Veduta::No;
     }
     [[nodiscard]] bool fermo() const { return fermo_; }
 
@@ -77,8 +77,8 @@ void Sfoltisci(std::vector<P2> &p, double tolleranza) {
         std::size_t meglio = i + 1;
         for (std::size_t j = i + 1; j < p.size(); ++j) {
             const auto e = s.vede(p[j]);
-            if (e == Spicchio::Esito::Si) meglio = j;
-            if (e != Spicchio::Esito::Si || s.fermo()) break;
+            if (e == Spicchio::Veduta::Si) meglio = j;
+            if (e != Spicchio::Veduta::Si || s.fermo()) break;
         }
         esito.push_back(p[meglio]);
         i = meglio;
@@ -97,11 +97,11 @@ void Semplifica(std::vector<P2> &p, double tolleranza) {
         for (std::size_t j = i + 1; j < n; ++j) {
             const auto e = s.vede(p[j]);
             // The next point always can be reached, even one that lies on this one.
-            if ((e == Spicchio::Esito::Si || j == i + 1) && passi[i] + 1 < passi[j]) {
+            if ((e == Spicchio::Veduta::Si || j == i + 1) && passi[i] + 1 < passi[j]) {
                 passi[j] = passi[i] + 1;
                 da[j] = static_cast<std::uint32_t>(i);
             }
-            if (e == Spicchio::Esito::Basta || s.fermo()) break;
+            if (e == Spicchio::Veduta::Basta || s.fermo()) break;
         }
     }
     std::vector<P2> esito;

@@ -36,9 +36,9 @@ std::string xml(std::string_view s) {
     return t;
 }
 
-class Scrittore {
+class ScrittoreSvgMacchina {
 public:
-    explicit Scrittore(const Disegno &d) : d_(d), pagina_(Pagina(d)) {}
+    explicit ScrittoreSvgMacchina(const Disegno &d) : d_(d), pagina_(Pagina(d)) {}
 
     std::string scrivi(const std::string &titolo) {
         t = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<svg xmlns=\"http://www.w3.org/2000/svg\" "
@@ -127,6 +127,6 @@ private:
 
 }  // namespace
 
-std::string SvgMacchina(const Disegno &d, const Foglio &f) { return Scrittore(d).scrivi(f.titolo); }
+std::string SvgMacchina(const Disegno &d, const Cartiglio &f) { return ScrittoreSvgMacchina(d).scrivi(f.titolo); }
 
 }  // namespace ombrelia::officina

@@ -91,7 +91,7 @@ Tratti dentro(Tratti tratti, const Riquadro &dove, int quarti = 0) {
 }
 
 // Accents are other characters of the alphabet laid small over or under the letter.
-void accenta(Lettera &l, Accento a, bool maiuscola) {
+void accenta(LetteraIncisa &l, Accento a, bool maiuscola) {
     const Riquadro b = contorno(l.tratti);
     const double x = (b.x0 + b.x1) / 2, y = (maiuscola ? ALTE : BASSE) + 2.5, su = 5;
     const auto metti = [&](char c, const Riquadro &dove, int quarti = 0) {
@@ -125,8 +125,8 @@ void accenta(Lettera &l, Accento a, bool maiuscola) {
 }
 
 // A sign as tall as a capital. The Libra is an arch over two lines.
-Lettera segno(std::size_t n) {
-    Lettera l;
+LetteraIncisa segno(std::size_t n) {
+    LetteraIncisa l;
     if (SEGNI[n] != 0 && astrologico().esiste()) {
         l = astrologico().lettera(SEGNI[n]);
     } else if (SEGNI[n] == 0) {
@@ -139,14 +139,14 @@ Lettera segno(std::size_t n) {
     return l;
 }
 
-Lettera cerca(char32_t u) {
+LetteraIncisa cerca(char32_t u) {
     if (u >= ARIETE && u < ARIETE + 12) return segno(u - ARIETE);
     if (u < 128) return romano().lettera(static_cast<unsigned char>(u));
     for (const Sostituto &s : SOSTITUTI)
         if (s.codice == u) return romano().lettera(s.lettera);
     for (const Accentata &a : ACCENTATE) {
         if (a.codice != u) continue;
-        Lettera l = romano().lettera(static_cast<unsigned char>(a.lettera));
+        LetteraIncisa l = romano().lettera(static_cast<unsigned char>(a.lettera));
         // The accent takes the place of the dot.
         if (a.lettera == 'i') std::erase_if(l.tratti, [](const auto &t) { return t[0].y > BASSE + 1; });
         accenta(l, a.accento, a.lettera < 'a');
@@ -165,7 +165,7 @@ Tratti TrattiDi(std::string_view testo, double altezza) {
     const double k = altezza / ALTE;
     double x = 0;
     while (!testo.empty()) {
-        Lettera l = cerca(prossimo(testo));
+        LetteraIncisa l = cerca(prossimo(testo));
         for (auto &t : l.tratti) {
             for (P2 &p : t) p = {k * (p.x + x), k * p.y};
             esito.push_back(std::move(t));

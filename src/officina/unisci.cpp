@@ -16,7 +16,7 @@ constexpr double RITORNO = 150 * std::numbers::pi / 180;  // a line that comes b
 constexpr double DRITTO = 8 * std::numbers::pi / 180;
 
 // End 2 i is the beginning of path i, end 2 i + 1 its end.
-struct Coppia {
+struct Giunzione {
     std::size_t a, b;
     double svolta;
 };
@@ -28,8 +28,8 @@ public:
             if (linea(e)) celle_[chiave(cella(capo(e).x), cella(capo(e).y))].push_back(e);
     }
 
-    std::vector<Coppia> coppie() const {
-        std::vector<Coppia> esito;
+    std::vector<Giunzione> coppie() const {
+        std::vector<Giunzione> esito;
         for (std::size_t e = 0; e < 2 * c_.size(); ++e) {
             if (!linea(e)) continue;
             std::vector<std::size_t> vicini;
@@ -49,7 +49,7 @@ public:
                 if (s < DRITTO || (una && vicini.size() == 1 && s < RITORNO)) esito.push_back({e, f, una ? s : s + 0.01});
             }
         }
-        std::sort(esito.begin(), esito.end(), [](const Coppia &x, const Coppia &y) {
+        std::sort(esito.begin(), esito.end(), [](const Giunzione &x, const Giunzione &y) {
             return x.svolta != y.svolta ? x.svolta < y.svolta : x.a != y.a ? x.a < y.a : x.b < y.b;
         });
         return esito;
@@ -81,7 +81,7 @@ private:
 void Unisci(std::vector<Cammino> &c) {
     constexpr std::size_t NESSUNO = static_cast<std::size_t>(-1);
     std::vector<std::size_t> compagno(2 * c.size(), NESSUNO);
-    for (const Coppia &k : Nodi(c).coppie()) {
+    for (const Giunzione &k : Nodi(c).coppie()) {
         if (compagno[k.a] != NESSUNO || compagno[k.b] != NESSUNO) continue;
         compagno[k.a] = k.b;
         compagno[k.b] = k.a;

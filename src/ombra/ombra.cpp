@@ -18,7 +18,7 @@ double giro(double ore) {
 
 }  // namespace
 
-Piano::Piano(const Quadrante &q) : q_(q) {
+PianoMontato::Piano(const QuadranteMontato &q) : q_(q) {
     const double sl = std::sin(q.latitudine), cl = std::cos(q.latitudine);
     const double sd = std::sin(q.declinazione), cd = std::cos(q.declinazione);
     const double si = std::sin(q.inclinazione), ci = std::cos(q.inclinazione);
@@ -30,14 +30,14 @@ Piano::Piano(const Quadrante &q) : q_(q) {
     y_ = ci * zenit_ - si * fronte;
 }
 
-std::optional<Punto> Piano::proietta(const Vettore &s) const {
+std::optional<Punto> PianoMontato::proietta(const Vettore &s) const {
     const double sn = s * n_;
     if (!(std::fabs(sn) > RADENZA)) return {};
     const double k = -q_.gnomone / sn;
     return Punto{k * (s * x_), k * (s * y_)};
 }
 
-Getto Piano::getta(const Vettore &s) const {
+Getto PianoMontato::getta(const Vettore &s) const {
     if (!(s * zenit_ > 0)) return {Luce::Notte, {}};
     const double sn = s * n_;
     if (std::fabs(sn) <= RADENZA) return {Luce::Radente, {}};
@@ -45,15 +45,15 @@ Getto Piano::getta(const Vettore &s) const {
     return {Luce::Si, *proietta(s)};
 }
 
-Vettore Piano::versoIlSole(const Punto &p) const {
+Vettore PianoMontato::versoIlSole(const Punto &p) const {
     const Vettore v = std::copysign(1, q_.gnomone) * (q_.gnomone * n_ - p.x * x_ - p.y * y_);
     const double d = std::sqrt(v * v);
     return d > 0 ? (1 / d) * v : n_;
 }
 
-Lettura Piano::leggi(const Vettore &s) const {
+SoleLetto PianoMontato::leggi(const Vettore &s) const {
     const double u = s * zenit_, sud = s * sud_;
-    Lettura l;
+    SoleLetto l;
     l.t = std::atan2(s.w, s.m);
     l.delta = std::atan2(s.p, std::hypot(s.m, s.w));
     l.altezza = std::atan2(u, std::hypot(sud, s.w));
@@ -66,7 +66,7 @@ Lettura Piano::leggi(const Vettore &s) const {
     return l;
 }
 
-Moto Piano::moto(double t, double delta) const {
+Moto PianoMontato::moto(double t, double delta) const {
     const double st = std::sin(t), ct = std::cos(t), sd = std::sin(delta), cd = std::cos(delta);
     const Vettore s = sole(t, delta);
     const double sn = s * n_, g = q_.gnomone;
@@ -78,14 +78,14 @@ Moto Piano::moto(double t, double delta) const {
     return {lungo({-cd * st, cd * ct, 0}), lungo({-sd * ct, -sd * st, cd})};
 }
 
-Retta Piano::retta(const Vettore &normale) const {
+Retta PianoMontato::retta(const Vettore &normale) const {
     // The Sun of (x, y) is along g n - x x_ - y y_.
     const double a = normale * x_, b = normale * y_, c = q_.gnomone * (normale * n_);
     const double l = std::hypot(a, b);
     return l > RADENZA ? Retta{a / l, b / l, c / l} : Retta{};
 }
 
-Retta Piano::ombraDelloStilo(double t) const { return retta({-std::sin(t), std::cos(t), 0}); }
+Retta PianoMontato::ombraDelloStilo(double t) const { return retta({-std::sin(t), std::cos(t), 0}); }
 
 std::optional<double> semiarco(double latitudine, double delta) {
     const double c = -std::tan(latitudine) * std::tan(delta);

@@ -16,7 +16,7 @@ inline constexpr double GRADI = 180 / std::numbers::pi;     // times radians
 inline constexpr double DECLINAZIONE_MASSIMA = 23.45 * RADIANTI;
 
 // A dial as it is mounted. Radians and metres.
-struct Quadrante {
+struct QuadranteMontato {
     double latitudine = 0;    // North positive
     double declinazione = 0;  // azimuth the plane looks to: from South, West positive, on both hemispheres
     double inclinazione = 0;  // 0 a wall, pi/2 a level plane that looks up
@@ -33,7 +33,7 @@ struct Punto {
 
 // The Sun of a shadow, radians: hour angle negative before noon, declination North positive, altitude, azimuth from South
 // with West positive.
-struct Lettura {
+struct SoleLetto {
     Luce luce = Luce::Mai;
     double t = 0, delta = 0, altezza = 0, azimut = 0;
 };
@@ -53,9 +53,9 @@ struct Moto {
     Punto perT, perDelta;
 };
 
-class Piano {
+class PianoMontato {
 public:
-    explicit Piano(const Quadrante &q);
+    explicit PianoMontato(const QuadranteMontato &q);
 
     // Direction of the Sun at hour angle t and declination delta.
     [[nodiscard]] static Vettore sole(double t, double delta) {
@@ -71,8 +71,8 @@ public:
     // Direction of the Sun whose shadow falls on a point; always in front of the plane.
     [[nodiscard]] Vettore versoIlSole(const Punto &p) const;
     // Back: the Sun that puts the shadow on a point. Night goes before Mai.
-    [[nodiscard]] Lettura leggi(const Punto &p) const { return leggi(versoIlSole(p)); }
-    [[nodiscard]] Lettura leggi(const Vettore &s) const;
+    [[nodiscard]] SoleLetto leggi(const Punto &p) const { return leggi(versoIlSole(p)); }
+    [[nodiscard]] SoleLetto leggi(const Vettore &s) const;
     // Derivatives of the shadow at a Sun in front of the plane.
     [[nodiscard]] Moto moto(double t, double delta) const;
 
@@ -85,7 +85,7 @@ public:
     // The points whose Sun stands square to a direction of the sky.
     [[nodiscard]] Retta retta(const Vettore &normale) const;
 
-    [[nodiscard]] const Quadrante &quadrante() const { return q_; }
+    [[nodiscard]] const QuadranteMontato &quadrante() const { return q_; }
     [[nodiscard]] const Vettore &normale() const { return n_; }
     [[nodiscard]] const Vettore &zenit() const { return zenit_; }
     [[nodiscard]] const Vettore &sud() const { return sud_; }
@@ -94,7 +94,7 @@ public:
     [[nodiscard]] const Vettore &alto() const { return y_; }
 
 private:
-    Quadrante q_;
+    QuadranteMontato q_;
     Vettore zenit_, sud_;  // of the site
     Vettore n_, x_, y_;    // of the plane: outward, right, up
 };

@@ -15,7 +15,7 @@ constexpr Colore NESSUNO = -1;
 
 }  // namespace
 
-DispositivoQt::DispositivoQt(QPainter &pittore, Supporto supporto, const Posa &posa)
+DispositivoQt::DispositivoQt(QPainter &pittore, Supporto supporto, const PosaDipinta &posa)
     : pittore_(pittore), supporto_(supporto), posa_(posa) {
     if (supporto != Supporto::Carta && !posa.vista.isEmpty())
         celle_.assign(static_cast<std::size_t>(posa.vista.width() + 1) * static_cast<std::size_t>(posa.vista.height() + 1),
@@ -45,7 +45,7 @@ void DispositivoQt::Linea(double x1, double y1, double x2, double y2, Colore col
     const QPointF a = porta(x1, y1), b = porta(x2, y2);
     if (fuori(a, b)) return;
     // Chords go on whichever way round they are drawn; the first of a line shows its way only with the second.
-    for (Catena &c : catene_) {
+    for (LineaInMano &c : catene_) {
         if (c.colore != colore || c.spessore != spessore || c.corsa.isEmpty() || c.corsa.size() >= LINEA_MASSIMA) continue;
         if (c.sola && (c.corsa[0] == a || c.corsa[0] == b)) {
             std::swap(c.corsa[0], c.fine);
@@ -56,7 +56,7 @@ void DispositivoQt::Linea(double x1, double y1, double x2, double y2, Colore col
         c.sola = false;
         return aggiungi(c, c.fine == a ? b : a);
     }
-    Catena &c = catene_[turno_];
+    LineaInMano &c = catene_[turno_];
     turno_ = (turno_ + 1) % catene_.size();
     vuotaCatena(c);
     c.colore = colore;
@@ -67,7 +67,7 @@ void DispositivoQt::Linea(double x1, double y1, double x2, double y2, Colore col
 }
 
 // A point is held back while all points since the last kept corner lie within the tolerance of one straight run.
-void DispositivoQt::aggiungi(Catena &c, const QPointF &p) const {
+void DispositivoQt::aggiungi(LineaInMano &c, const QPointF &p) const {
     const auto verso = [this, &c](const QPointF &q) {
         const QPointF da = c.corsa.constLast();
         const double dx = q.x() - da.x(), dy = q.y() - da.y(), d = std::sqrt(dx * dx + dy * dy);
@@ -95,7 +95,7 @@ void DispositivoQt::aggiungi(Catena &c, const QPointF &p) const {
     c.fine = p;
 }
 
-void DispositivoQt::vuotaCatena(Catena &c) {
+void DispositivoQt::vuotaCatena(LineaInMano &c) {
     if (c.corsa.isEmpty()) return;
     c.corsa.append(c.fine);
     c.apertura = c.lunga = 0;
@@ -109,7 +109,7 @@ void DispositivoQt::vuotaCatena(Catena &c) {
             const QPointF verso = lunga > 0 ? QPointF(linea.dx(), linea.dy()) / lunga : QPointF(1, 0);
             linea = QLineF(mezzo - verso * (posa_.penna / 2), mezzo + verso * (posa_.penna / 2));
         }
-        for (Tratti &t : tratti_)
+        for (LineeSciolte &t : tratti_)
             if (t.colore == c.colore && t.spessore == c.spessore) return t.linee.append(linea);
         tratti_.push_back({c.colore, c.spessore, {linea}});
         return;
@@ -120,7 +120,7 @@ void DispositivoQt::vuotaCatena(Catena &c) {
 }
 
 void DispositivoQt::vuotaTratti() {
-    for (Tratti &t : tratti_) {
+    for (LineeSciolte &t : tratti_) {
         if (t.linee.isEmpty()) continue;
         pittore_.setPen(matita(t.colore, posa_.penna * t.spessore));
         pittore_.drawLines(t.linee);
@@ -223,11 +223,11 @@ void DispositivoQt::Tratteggio(bool si) {
 }
 
 void Dipingi(Tavolo &t, Dispositivo &d) {
-    struct Guida {
+    struct Rimessa {
         Tavolo &t;
         Dispositivo *prima;
         std::function<void(bool)> attesa;
-        ~Guida() {
+        ~Rimessa() {
             t.dispositivo = prima;
             t.suAttesa = std::move(attesa);
         }

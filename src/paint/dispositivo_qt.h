@@ -14,7 +14,7 @@
 namespace ombrelia::paint {
 
 // How device units lie on a painter, in the painter's own units.
-struct Posa {
+struct PosaDipinta {
     double fattore = 1;       // painter units of a device unit
     double x0 = 0, y0 = 0;    // where the sheet's top left corner lies
     double penna = 1;         // stroke of width 1
@@ -27,7 +27,7 @@ struct Posa {
 class DispositivoQt final : public Dispositivo {
 public:
     // The painter is open and outlives the device; its transform is not touched.
-    DispositivoQt(QPainter &pittore, Supporto supporto, const Posa &posa);
+    DispositivoQt(QPainter &pittore, Supporto supporto, const PosaDipinta &posa);
     ~DispositivoQt() override { vuota(); }
     DispositivoQt(const DispositivoQt &) = delete;
     DispositivoQt &operator=(const DispositivoQt &) = delete;
@@ -51,7 +51,7 @@ private:
     [[nodiscard]] QPointF porta(double x, double y) const { return {x * posa_.fattore + posa_.x0, y * posa_.fattore + posa_.y0}; }
     [[nodiscard]] bool fuori(const QPointF &a, const QPointF &b) const;
     // A line in hand: kept corners, the end that was held back, and what it is drawn with.
-    struct Catena {
+    struct LineaInMano {
         QPolygonF corsa;
         QPointF fine;
         double dirX = 0, dirY = 0, apertura = 0;  // of the run since the last kept corner; 0: none begun
@@ -60,8 +60,8 @@ private:
         int spessore = 1;
         bool sola = false;  // one chord so far
     };
-    void aggiungi(Catena &c, const QPointF &p) const;
-    void vuotaCatena(Catena &c);
+    void aggiungi(LineaInMano &c, const QPointF &p) const;
+    void vuotaCatena(LineaInMano &c);
     void vuotaTratti();
     void vuotaPunti();
     // Whether a dot of the screen shows this colour's point already; it does from now on.
@@ -71,19 +71,19 @@ private:
 
     QPainter &pittore_;
     Supporto supporto_;
-    Posa posa_;
+    PosaDipinta posa_;
     bool tratteggio_ = false;
 
     // Engines trace a few curves by turns. Lines and points in hand cross only where nobody can tell which came first.
-    std::array<Catena, 6> catene_;
+    std::array<LineaInMano, 6> catene_;
     std::size_t turno_ = 0;  // the next to be put out when none is free
     // Lines that no other went on with, by pen.
-    struct Tratti {
+    struct LineeSciolte {
         Colore colore;
         int spessore;
         QVector<QLineF> linee;
     };
-    std::vector<Tratti> tratti_;
+    std::vector<LineeSciolte> tratti_;
     QPolygonF punti_;
     Colore colorePunti_ = 0;
     std::vector<Colore> celle_;  // of the screen: the point painted last in each dot

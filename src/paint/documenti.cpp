@@ -100,7 +100,7 @@ QImage Immagine(Tavolo &t, std::string &errore) {
     immagine.fill(Sfondo(Supporto::Carta));
     QPainter p(&immagine);
     p.setRenderHint(QPainter::Antialiasing);
-    Posa posa = PosaSuCarta(u, 1, 0, 0);
+    PosaDipinta posa = PosaSuCarta(u, 1, 0, 0);
     posa.vista = QRectF(immagine.rect()).adjusted(-2, -2, 2, 2);
     posa.tolleranza = 0.2;
     DispositivoQt d(p, Supporto::Carta, posa);

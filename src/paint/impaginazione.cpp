@@ -75,7 +75,8 @@ std::vector<PaginaFoglio> PagineDi(const Tavolo &t, const Impaginazione &come) {
     constexpr double MASSIME = 10000;
     const double L = t.QuadranteL(), H = t.QuadranteH();
     if (!come.buona() || !(L > 0 && H > 0)) return {};
-    const Tavolo::Griglia g{come.larga(), come.alta(), come.larga() - come.sovrapposizione, come.alta() - come.sovrapposizione};
+    const Tavolo::GrigliaPagine g{come.larga(), come.alta(), come.larga() - come.sovrapposizione,
+                                  come.alta() - come.sovrapposizione};
     if (!((L / g.passoX + 1) * (H / g.passoY + 1) <= MASSIME)) return {};
     const int colonne = quante(L, g.larga, g.passoX), righe = quante(H, g.alta, g.passoY);
     const auto piene = t.PagineConLinee(g);
@@ -106,7 +107,7 @@ bool StampaPagine(Tavolo &t, const std::vector<PaginaFoglio> &pagine, const Impa
         giunture(p, tessera, u, come.sovrapposizione);
         p.save();
         p.setClipRect(tessera);
-        Posa posa = PosaSuCarta(u, t.Scala(), tessera.left() - a.x * u, tessera.top() - a.y * u);
+        PosaDipinta posa = PosaSuCarta(u, t.Scala(), tessera.left() - a.x * u, tessera.top() - a.y * u);
         posa.vista = tessera;
         DispositivoQt d(p, Supporto::Carta, posa);
         Dipingi(t, d);

@@ -5,9 +5,9 @@
 
 namespace ombrelia::paint {
 
-Posa PosaSuCarta(double u, double scala, double x0, double y0) {
+PosaDipinta PosaSuCarta(double u, double scala, double x0, double y0) {
     constexpr double PENNA = 0.0002, PUNTO = 0.00035, CORPO = 8 * POLLICE / 72, TOLLERANZA = 0.00001;  // metres
-    Posa p;
+    PosaDipinta p;
     p.fattore = u / Tavolo::ScalaBase * scala;
     p.x0 = x0;
     p.y0 = y0;

@@ -15,7 +15,7 @@ namespace ombrelia::paint {
 inline constexpr double POLLICE = 0.0254;
 
 // On paper: u painter units a metre; what is measured on paper stands in metres.
-[[nodiscard]] Posa PosaSuCarta(double u, double scala, double x0, double y0);
+[[nodiscard]] PosaDipinta PosaSuCarta(double u, double scala, double x0, double y0);
 
 // While it lives the target is the printer.
 struct SullaCarta {

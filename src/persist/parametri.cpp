@@ -32,21 +32,21 @@ void Parametri::Interpreta(std::string contenuto) {
     }
 }
 
-Parametri::Riga *Parametri::trova(std::string_view Key) {
-    for (Riga &r : righe_)
+Parametri::CoppiaChiave *Parametri::trova(std::string_view Key) {
+    for (CoppiaChiave &r : righe_)
         if (r.first == Key) return &r;
     return nullptr;
 }
 
 std::string Parametri::Leggi(std::string_view Key) {
     carica();
-    const Riga *r = trova(Key);
+    const CoppiaChiave *r = trova(Key);
     return r ? r->second : std::string();
 }
 
 void Parametri::Poni(std::string_view Key, std::string_view Valore) {
     carica();
-    if (Riga *r = trova(Key)) r->second = Valore;
+    if (CoppiaChiave *r = trova(Key)) r->second = Valore;
     else righe_.emplace_back(Key, Valore);
 }
 

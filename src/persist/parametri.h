@@ -34,13 +34,13 @@ public:
     [[nodiscard]] std::string Testo() const;
 
 private:
-    using Riga = std::pair<std::string, std::string>;
+    using CoppiaChiave = std::pair<std::string, std::string>;
 
     void carica();
-    [[nodiscard]] Riga *trova(std::string_view Key);
+    [[nodiscard]] CoppiaChiave *trova(std::string_view Key);
 
     std::string nomeFile_{NOME_FILE};
-    std::vector<Riga> righe_;  // none means not yet loaded
+    std::vector<CoppiaChiave> righe_;  // none means not yet loaded
     std::optional<std::string> illeggibile_;
 };
 

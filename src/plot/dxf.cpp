@@ -27,9 +27,10 @@ void aggiungiStampato(std::string &t, int n) {
     t += " \r\n"sv;
 }
 
-class Scrittore {
+class ScrittoreDxf {
 public:
-    Scrittore(const Lista &l, const Specchio &s) : lista(l), specchio(s), F(s.FattoreX), G(s.FattoreY), strati(l.nomi.quanti()) {
+    ScrittoreDxf(const Lista &l, const Specchio &s)
+        : lista(l), specchio(s), F(s.FattoreX), G(s.FattoreY), strati(l.nomi.quanti()) {
         testo.reserve(512 + l.Linee.size() * 176 + l.Punti.size() * 96 + l.Figure.size() * 192);
     }
 
@@ -222,7 +223,7 @@ int DXF_QbColorConverter(Colore colore) {
 }
 
 std::string DXF_Generate(const Lista &lista, double QuadranteL, double QuadranteH, const Specchio &specchio) {
-    Scrittore s(lista, specchio);
+    ScrittoreDxf s(lista, specchio);
     s.intestazione(QuadranteL, QuadranteH);
     Percorri(lista, s);
     s.chiusura();

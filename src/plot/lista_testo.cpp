@@ -11,9 +11,9 @@ namespace ombrelia {
 
 namespace {
 
-class Scrittore {
+class ScrittoreLista {
 public:
-    explicit Scrittore(const Lista &l) : lista(l) {
+    explicit ScrittoreLista(const Lista &l) : lista(l) {
         t.reserve(l.Linee.size() * 112 + l.Punti.size() * 72 + l.Figure.size() * 128 + l.Testi.size() * 96);
     }
 
@@ -95,7 +95,7 @@ private:
 }  // namespace
 
 std::string ListaTesto(const Lista &lista) {
-    Scrittore s(lista);
+    ScrittoreLista s(lista);
     s.seguito(0);
     Percorri(lista, s);
     for (const RecTesto &r : lista.Testi) s.testo(r);

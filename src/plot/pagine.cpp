@@ -46,7 +46,7 @@ std::optional<Tavolo::Casella> casella(double posizione, double lato) {
 // Marks the tiles that what is painted on it crosses.
 class Segnatessere final : public Dispositivo {
 public:
-    Segnatessere(const Tavolo::Griglia &griglia, double L, double H) : g_(griglia), L_(L), H_(H) {}
+    Segnatessere(const Tavolo::GrigliaPagine &griglia, double L, double H) : g_(griglia), L_(L), H_(H) {}
     std::set<std::pair<int, int>> tessere;  // row, column
 
     void Cls() override {}
@@ -87,7 +87,7 @@ public:
     void Testo(double, double, std::string_view, Colore) override {}
 
 private:
-    const Tavolo::Griglia g_;
+    const Tavolo::GrigliaPagine g_;
     const double L_, H_;  // metres
 };
 
@@ -143,13 +143,13 @@ void Tavolo::LasciaPagine() {
     while (!lista_.Aree.empty()) lista_.togliArea(lista_.Aree.size() - 1);
 }
 
-std::set<std::pair<int, int>> Tavolo::PagineConLinee(const Griglia &griglia) const {
+std::set<std::pair<int, int>> Tavolo::PagineConLinee(const GrigliaPagine &griglia) const {
     const double pagine = (q_.L / griglia.passoX + 1) * (q_.H / griglia.passoY + 1);
     if (!(q_.L > 0 && q_.H > 0 && griglia.passoX > 0 && griglia.passoY > 0 && pagine <= PIASTRELLE_MASSIME)) return {};
     Segnatessere d(griglia, q_.L, q_.H);
     Pittore p = pittore(d);
     p.scala = 1;
-    struct Visita {
+    struct VisitaPagine {
         const Pittore &p;
         const Lista &l;
         [[nodiscard]] bool conta(IdNome Id) const { return p.specchia(Id) && Id != p.griglia; }
@@ -161,7 +161,7 @@ std::set<std::pair<int, int>> Tavolo::PagineConLinee(const Griglia &griglia) con
         }
         void figura(std::size_t i) const { p.figura(l, l.Figure[i]); }
     };
-    Percorri(lista_, Visita{p, lista_});
+    Percorri(lista_, VisitaPagine{p, lista_});
     return std::move(d.tessere);
 }
 

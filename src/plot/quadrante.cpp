@@ -28,12 +28,12 @@ int Quadrante::RitagliaSegmento(double &X1, double &Y1, double &X2, double &Y2) 
     // lengths underflow.
     const double lx = X2 - X1, ly = Y2 - Y1;
     const auto posto = [&](const PuntoPiano &p) { return std::fabs(lx) > std::fabs(ly) ? (p.x - X1) / lx : (p.y - Y1) / ly; };
-    struct Lato {
+    struct Bordo {
         double x1, y1, x2, y2;
     };
     std::array<PuntoPiano, 4> colpi{};
     std::size_t n = 0;
-    for (const Lato &l : {Lato{sx, su, dx, su}, Lato{dx, su, dx, giu}, Lato{sx, giu, dx, giu}, Lato{sx, su, sx, giu}}) {
+    for (const Bordo &l : {Bordo{sx, su, dx, su}, Bordo{dx, su, dx, giu}, Bordo{sx, giu, dx, giu}, Bordo{sx, su, sx, giu}}) {
         auto p = IntersezioneDueRette(X1, Y1, X2, Y2, l.x1, l.y1, l.x2, l.y2);
         if (!p) continue;
         const bool orizzontale = l.y1 == l.y2;

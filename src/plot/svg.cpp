@@ -25,34 +25,33 @@ constexpr double PUNTO_MM = 0.35;    // diameter of a point
 constexpr double CORPO_MM = 2.8222;  // 8 point, as the screen's text
 constexpr double BASE_MM = 2.6;      // from the top of a text line to its base line
 
-using Passi = std::int64_t;
-using Punto = PuntoIntero;
+using Decimillesimi = std::int64_t;
 
-void aggiungiIntero(std::string &t, Passi n) {
+void aggiungiIntero(std::string &t, Decimillesimi n) {
     char b[24];
     const auto r = std::to_chars(b, b + sizeof b, n);
     t.append(b, r.ptr);
 }
 
-void aggiungi(std::string &t, Passi passi) {
-    constexpr Passi UNO = static_cast<Passi>(PASSI_AL_MM);
+void aggiungi(std::string &t, Decimillesimi passi) {
+    constexpr Decimillesimi UNO = static_cast<Decimillesimi>(PASSI_AL_MM);
     if (passi < 0) t += '-';
-    const Passi n = passi < 0 ? -passi : passi;
+    const Decimillesimi n = passi < 0 ? -passi : passi;
     aggiungiIntero(t, n / UNO);
-    Passi resto = n % UNO;
+    Decimillesimi resto = n % UNO;
     if (resto == 0) return;
     t += '.';
-    for (Passi peso = UNO / 10; resto != 0; peso /= 10) {
+    for (Decimillesimi peso = UNO / 10; resto != 0; peso /= 10) {
         t += static_cast<char>('0' + resto / peso);
         resto %= peso;
     }
 }
 
-Passi daMm(double mm) { return std::llround(mm * PASSI_AL_MM); }
+Decimillesimi daMm(double mm) { return std::llround(mm * PASSI_AL_MM); }
 
 void aggiungiMm(std::string &t, double mm) { aggiungi(t, daMm(mm)); }
 
-void aggiungiPunto(std::string &t, const Punto &p) {
+void aggiungiPunto(std::string &t, const PuntoIntero &p) {
     aggiungi(t, p.x);
     t += ' ';
     aggiungi(t, p.y);
@@ -96,7 +95,7 @@ struct Pezzo {
 struct Puntini {
     Colore colore;
     std::string d;
-    std::vector<Punto> fila;
+    std::vector<PuntoIntero> fila;
 
     void chiudiFila(const Occhio &occhio) {
         if (fila.empty()) return;
@@ -115,7 +114,7 @@ struct Strato {
     Occhio occhio;
     std::string corpo;
     std::vector<Pezzo> pezzi;
-    std::vector<Punto> percorso;
+    std::vector<PuntoIntero> percorso;
     std::size_t turno = 0;  // of the path in hand
     Colore colore = 0;
     std::int32_t spessore = 1;
@@ -145,7 +144,7 @@ struct Strato {
     }
 
     // A chord goes on where the path in hand ends, whichever way round it was drawn.
-    void corda(const Punto &a, const Punto &b, Colore c, std::int32_t s, std::size_t adesso) {
+    void corda(const PuntoIntero &a, const PuntoIntero &b, Colore c, std::int32_t s, std::size_t adesso) {
         if (!percorso.empty() && c == colore && s == spessore) {
             if (percorso.size() == 2 && (percorso[0] == a || percorso[0] == b) && percorso[1] != a && percorso[1] != b)
                 std::swap(percorso[0], percorso[1]);
@@ -159,7 +158,7 @@ struct Strato {
         percorso = {a, b};
     }
 
-    void punto(const Punto &p, Colore c) {
+    void punto(const PuntoIntero &p, Colore c) {
         auto gruppo = std::find_if(punti.begin(), punti.end(), [c](const Puntini &g) { return g.colore == c; });
         if (gruppo == punti.end()) gruppo = punti.insert(gruppo, {c, {}, {}});
         if (!gruppo->fila.empty() && !occhio.attaccati(gruppo->fila.back(), p)) gruppo->chiudiFila(occhio);
@@ -182,9 +181,9 @@ struct Strato {
     }
 };
 
-class Scrittore {
+class ScrittoreSvg {
 public:
-    Scrittore(const Tavolo &t, double pixel)
+    ScrittoreSvg(const Tavolo &t, double pixel)
         : tavolo(t), lista(t.lista()), q(t.quadrante()), occhio{pixel * PASSI_AL_MM}, posto(lista.nomi.quanti(), SENZA) {}
 
     std::string scrivi() {
@@ -217,7 +216,7 @@ public:
     }
 
     void punto(const RecPunto &r) {
-        Punto p{};
+        PuntoIntero p{};
         const double x = r.X * tavolo.FattoreX, y = r.Y * tavolo.FattoreY;
         if (q.copre(x, y) && porta(x, y, false, p) && puntiVisti.insert(Impronta({p})).second) strato(r.Id).punto(p, r.colore);
     }
@@ -277,7 +276,7 @@ private:
     }
 
     // World metres to the sheet; false when no viewer could show it.
-    bool porta(double x, double y, bool specchiato, Punto &p) const {
+    bool porta(double x, double y, bool specchiato, PuntoIntero &p) const {
         if (specchiato) {
             x *= tavolo.FattoreX;
             y *= tavolo.FattoreY;
@@ -309,7 +308,7 @@ private:
         }
         const bool ampio = x1 != x2 || y1 != y2;
         if (q.RitagliaSegmento(x1, y1, x2, y2) == 0 || (ampio && x1 == x2 && y1 == y2)) return;
-        Punto a{}, b{};
+        PuntoIntero a{}, b{};
         if (porta(x1, y1, false, a) && porta(x2, y2, false, b)) strato(id).corda(a, b, colore, spessore, turno++);
     }
 
@@ -341,7 +340,7 @@ private:
 
         [[nodiscard]] double X(double angolo) const { return x + rx * std::cos(angolo); }
         [[nodiscard]] double Y(double angolo) const { return y - ry * std::sin(angolo); }
-        [[nodiscard]] Punto capo(double angolo) const {
+        [[nodiscard]] PuntoIntero capo(double angolo) const {
             return {daMm(x) + daMm(rx * std::cos(angolo)), daMm(y) - daMm(ry * std::sin(angolo))};
         }
     };
@@ -349,7 +348,7 @@ private:
     void cerchio(const RecFigura &r) {
         const double mm = r.X2 * MILLIMETRI, aspetto = std::fabs(r.Y2);
         const bool s = specchia(r.Id);
-        Punto c{};
+        PuntoIntero c{};
         if (!porta(r.X1, r.Y1, s, c) || !(mm > 0 && mm < LIMITE_MM) || aspetto == 0) return;
         double da = r.A, a = r.B;
         if (s) tavolo.specchio().arco(da, a);
@@ -390,7 +389,7 @@ private:
         }
     }
 
-    void tondo(Strato &st, const Ellisse &e, const Punto &c, const RecFigura &r) {
+    void tondo(Strato &st, const Ellisse &e, const PuntoIntero &c, const RecFigura &r) {
         std::string &t = st.corpo;
         st.pezzi.push_back({t.size(), Impronta({c, {daMm(e.rx), daMm(e.ry)}, {r.Riempimento, 0}}), turno++});
         t += e.rx == e.ry ? "<circle r=\""sv : "<ellipse rx=\""sv;
@@ -407,7 +406,7 @@ private:
     }
 
     void pezzo(Strato &st, const Ellisse &e, double da, double a, const RecFigura &r) {
-        const Punto primo = e.capo(da), secondo = e.capo(a), raggi{daMm(e.rx), daMm(e.ry)};
+        const PuntoIntero primo = e.capo(da), secondo = e.capo(a), raggi{daMm(e.rx), daMm(e.ry)};
         std::string &t = st.corpo;
         st.pezzi.push_back({t.size(), Impronta({primo, e.capo((da + a) / 2), secondo}), turno++});
         t += "<path d=\"M"sv;
@@ -439,7 +438,7 @@ private:
     void testi(std::string &t) const {
         bool aperto = false;
         for (const RecTesto &r : lista.Testi) {
-            Punto p{};
+            PuntoIntero p{};
             if (r.Testo.empty() || !siVede(r) || !porta(r.X, r.Y, false, p)) continue;
             if (!aperto) {
                 apriStrato(t, strati.size() + 1, "Testi"sv);
@@ -476,6 +475,6 @@ private:
 
 }  // namespace
 
-std::string SVG_Generate(const Tavolo &tavolo, double pixel) { return Scrittore(tavolo, pixel).scrivi(); }
+std::string SVG_Generate(const Tavolo &tavolo, double pixel) { return ScrittoreSvg(tavolo, pixel).scrivi(); }
 
 }  // namespace ombrelia

@@ -99,12 +99,12 @@ public:
         std::swap(currentY_, altro.currentY_);
     }
     // A drawing kept aside, and put back; nothing is painted.
-    struct Disegno {
+    struct DisegnoTenuto {
         Lista lista;
         double currentX = 0, currentY = 0;
     };
-    [[nodiscard]] Disegno CopiaDisegno() const { return {lista_, currentX_, currentY_}; }
-    void MettiDisegno(Disegno d) {
+    [[nodiscard]] DisegnoTenuto CopiaDisegno() const { return {lista_, currentX_, currentY_}; }
+    void MettiDisegno(DisegnoTenuto d) {
         lista_ = std::move(d.lista);
         currentX_ = d.currentX;
         currentY_ = d.currentY;
@@ -173,11 +173,11 @@ public:
     std::size_t ScegliPiene();
     // A grid of pages over the sheet, from its corner: their size, and from one to the next. Metres; pages that overlap
     // lie closer than their size.
-    struct Griglia {
+    struct GrigliaPagine {
         double larga, alta, passoX, passoY;
     };
     // Row and column of the pages that something of the drawing crosses, as ScegliPiene counts. None of a grid beyond 10,000.
-    [[nodiscard]] std::set<std::pair<int, int>> PagineConLinee(const Griglia &griglia) const;
+    [[nodiscard]] std::set<std::pair<int, int>> PagineConLinee(const GrigliaPagine &griglia) const;
     // Selects none any more; their outlines and numbers leave the drawing.
     void LasciaPagine();
     // The sheet as it lies, on one page, its texts listed at the page's head.

@@ -1,11 +1,11 @@
 // The notice, as the lines of its text box.
 #include "controlli/nomi.h"
-#include "reports/foglio.h"
+#include "reports/tabulato.h"
 
 namespace ombrelia::reports {
 
 void Avviso(Sessione &s, Uscita uscita) {
-    Foglio f(s, "Form5", uscita);
+    Tabulato f(s, "Form5", uscita);
     std::string_view testo = s.testo("Form5.Text1");
     while (!testo.empty()) {
         const std::size_t fine = std::min(testo.find('\n'), testo.size());

@@ -1,7 +1,7 @@
 // The data of the equivalent vertical dial, worked out again on the original one: the fields hold the equivalent by now.
 #include "gnomonica/conica.h"
 #include "gnomonica/declinazioni.h"
-#include "reports/foglio.h"
+#include "reports/tabulato.h"
 
 namespace ombrelia::reports {
 
@@ -45,7 +45,7 @@ Parete parete(Variabili &v) {
     return p;
 }
 
-void orizzontale(Variabili &v, Foglio &f) {
+void orizzontale(Variabili &v, Tabulato &f) {
     f.etichetta("QUADRANTE VERTICALE EQUIVALENTE al quadrante orizzontale"_it);
     f.riga({f.tr("latitudine f1 = "_it), gradi(PI / 2 - v.latR), "°  "});
     f.riga({f.tr("declinazione d1 = "_it), Numero(180), "°  "});
@@ -56,7 +56,7 @@ void orizzontale(Variabili &v, Foglio &f) {
     v.yOriz = 100000;
 }
 
-void inclinato(Variabili &v, Foglio &f, const Parete &p) {
+void inclinato(Variabili &v, Tabulato &f, const Parete &p) {
     f.etichetta("QUADRANTE VERTICALE EQUIVALENTE "_it);
     f.riga({f.tr("latitudine f1 = "_it), gradi(p.f1), "°  "});
     const Valore d1 = Gradi(p.d1);
@@ -92,7 +92,7 @@ void inclinato(Variabili &v, Foglio &f, const Parete &p) {
 }
 
 // Where the solstices meet the horizon and the line x = 0 on the wall.
-void solstizi(Sessione &s, Foglio &f, Parete &p) {
+void solstizi(Sessione &s, Tabulato &f, Parete &p) {
     Variabili &v = s.v;
     p.d1 = p.s * declinazione(v, p.f1);
     Reale yo, xPiu, xMeno, yPiu, yMeno;
@@ -169,7 +169,7 @@ Valore sustilareOriginale(Variabili &v) {
 void DatiEquivalente(Sessione &s, Uscita uscita) {
     Variabili &v = s.v;
     if (uscita == Uscita::Stampa && v.flagVerticale != 1) return DatiFondamentali(s, uscita);
-    Foglio f(s, "Form10", uscita);
+    Tabulato f(s, "Form10", uscita);
     v.unita = s.in.ChCentimetro == 1 ? 0.001 : 1.0;
     v.lon = Val(s.in.txtLonG);
     v.meridiano = Val(s.in.txtMeridiano);

@@ -90,7 +90,7 @@ std::vector<std::string> celle(const RigaRapporto &riga) {
         if (e.numero) {
             c.push_back(pieno(*e.numero));
             aperta = false;
-        } else if (riga.genere == Genere::Dati) {
+        } else if (riga.genere == GenereRiga::Dati) {
             c.push_back(SenzaBlanks(e.testo));
         } else if (aperta) {
             c.back() += e.testo;
@@ -190,7 +190,7 @@ std::vector<Blocco> RapportoBlocchi(const Rapporto &r) {
                 b.colonne = tabella.colonne;
             }
         }
-        if (riga.tabella < 0 || riga.genere == Genere::Dati) blocchi.back().righe.push_back(celle(riga));
+        if (riga.tabella < 0 || riga.genere == GenereRiga::Dati) blocchi.back().righe.push_back(celle(riga));
     }
     return blocchi;
 }
@@ -238,7 +238,7 @@ std::string RapportoHtml(const Rapporto &r) {
                 aperta = riga.tabella;
                 apriTabella(h, r.tabelle[static_cast<std::size_t>(aperta)], riga.colore);
             }
-            if (riga.genere != Genere::Dati) continue;
+            if (riga.genere != GenereRiga::Dati) continue;
             h += "<tr>";
             std::size_t celle = 0;
             for (const Elemento &e : riga.voci) {

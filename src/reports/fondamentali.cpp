@@ -2,7 +2,7 @@
 #include "gnomonica/conica.h"
 #include "gnomonica/declinazioni.h"
 #include "gnomonica/longitudine.h"
-#include "reports/foglio.h"
+#include "reports/tabulato.h"
 
 namespace ombrelia::reports {
 
@@ -84,7 +84,7 @@ Preparazione prepara(Sessione &s) {
     return p;
 }
 
-void primari(Sessione &s, Foglio &f, const Preparazione &p) {
+void primari(Sessione &s, Tabulato &f, const Preparazione &p) {
     const Variabili &v = s.v;
     const std::string_view misura = TestoUnita(s);
     const auto gradi = [](Valore radianti) { return Fmt(Gradi(radianti), "0.00000"); };
@@ -117,7 +117,7 @@ void primari(Sessione &s, Foglio &f, const Preparazione &p) {
     else f.rigaUnita({f.tr("Costante locale = "_it), costante, " p"});
 }
 
-void lunghezze(Sessione &s, Foglio &f, const Preparazione &p) {
+void lunghezze(Sessione &s, Tabulato &f, const Preparazione &p) {
     const Variabili &v = s.v;
     const std::string_view misura = TestoUnita(s);
     const auto cinque = [](Valore x) { return Fmt(x, "0.00000"); };
@@ -151,7 +151,7 @@ void lunghezze(Sessione &s, Foglio &f, const Preparazione &p) {
 }
 
 // Where the day lines of the solstices, then of txtDelta, meet the horizon and the line x = 0.
-void lineeDiurne(Sessione &s, Foglio &f) {
+void lineeDiurne(Sessione &s, Tabulato &f) {
     Variabili &v = s.v;
     const Reale dOpz = Val(s.in.txtDelta);
     const Reale Y = v.yOriz;
@@ -188,7 +188,7 @@ void lineeDiurne(Sessione &s, Foglio &f) {
 }
 
 // The hours along the equinoctial, from its meeting with the substyle.
-void equinoziale(Sessione &s, Foglio &f) {
+void equinoziale(Sessione &s, Tabulato &f) {
     Variabili &v = s.v;
     v.oraFuso = s.in.ck_Etna == 1 ? 1 : 0;
     v.lon = Val(s.in.txtLonG);
@@ -213,7 +213,7 @@ void equinoziale(Sessione &s, Foglio &f) {
 
 void DatiFondamentali(Sessione &s, Uscita uscita) {
     if (TroppeRighe(s, -6, 6, Val(s.in.TxtFraz), 1)) return;
-    Foglio f(s, "Form1", uscita);
+    Tabulato f(s, "Form1", uscita);
     const Preparazione p = prepara(s);
     primari(s, f, p);
     lunghezze(s, f, p);

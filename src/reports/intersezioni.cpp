@@ -4,7 +4,7 @@
 #include "gnomonica/declinazioni.h"
 #include "gnomonica/longitudine.h"
 #include "gnomonica/proiezione.h"
-#include "reports/foglio.h"
+#include "reports/tabulato.h"
 
 namespace ombrelia::reports {
 
@@ -44,7 +44,7 @@ void IntersezioniSferiche(Sessione &s, Uscita uscita) {
     if (TroppeRighe(s, inizio, fine, Val(s.in.TxtFraz), 5)) return;
     v.oraFuso = s.in.ck_Etna == 1 ? 1 : 0;
     LeggiParametri(s);
-    Foglio f(s, "Form6", uscita);
+    Tabulato f(s, "Form6", uscita);
     v.unita = s.in.ChCentimetro == 1 ? 0.001 : 1.0;
     const Valore cL = v.lonPiu15 * v.oraFuso * (v.latR == 0 ? Valore(1) : Sgn(v.latR));  // degrees
 
@@ -87,7 +87,7 @@ void IntersezioniAnalitiche(Sessione &s, Uscita uscita) {
     const Valore inizio = Val(s.in.TxtInizio), fine = Val(s.in.TxtFine);
     if (TroppeRighe(s, inizio, fine, Val(s.in.TxtFraz), 4)) return;
     CalcolaAngoliAnalitici(s, Lettura(s.in));
-    Foglio f(s, "Form7", uscita);
+    Tabulato f(s, "Form7", uscita);
     const Reale seno = sin(v.decR) * cos(v.incR) / cos(v.altStilo);
     v.angoloOra = ArcSin(seno) + (DalMeridiano(v.lonCopia, v.meridiano) * PI / 180) * v.oraFuso;
     v.y0 = v.gn * tan(v.altStilo);

@@ -1,7 +1,7 @@
 // The day lines of four declinations, ordinate by abscissa.
 #include "gnomonica/angoli_parete.h"
 #include "gnomonica/conica.h"
-#include "reports/foglio.h"
+#include "reports/tabulato.h"
 
 namespace ombrelia::reports {
 
@@ -25,7 +25,7 @@ void LineeDiurne(Sessione &s, Uscita uscita) {
             s, {{inizio ? "txtMinus" : "txtMax", inizio ? s.in.txtMinus : s.in.txtMax, ascisse, PUNTI_MASSIMI / RIGHE_MASSIME}}))
         return;
     CalcolaAngoliAnalitici(s, Lettura(s.in));
-    Foglio f(s, "Form8", uscita);
+    Tabulato f(s, "Form8", uscita);
     v.unita = unita;
     v.y0 = v.gn * tan(v.altStilo);
 

@@ -8,7 +8,7 @@ namespace ombrelia::reports {
 namespace {
 
 using ore::Calcolo;
-using ore::Specie;
+using ore::SpecieOreVere;
 
 // The hour angle of the substyle goes to the side of the declination.
 void mettiDalSuoLato(Variabili &v) {
@@ -116,42 +116,42 @@ void punti(Variabili &v, Calcolo &c) {
         v.segCentroPiede = v.segAsse / cos(v.angSustilare);
         v.segPiedeEq = -v.segCentroPiede * ts;
     }
-    if (v.decR == 0 || c.specie == Specie::LatZero) return;
+    if (v.decR == 0 || c.specie == SpecieOreVere::LatZero) return;
     v.ySusEq = (v.xEq - v.xCentro) * ts + c.yM;
     v.xSusEq = (v.yEq - c.yM) / ts + v.xCentro;
     v.xSusPiede = -v.xSus / ts;
     v.ySusPiede = -v.ySus * ts;
 }
 
-void oreVere(Sessione &s, Uscita uscita, Specie specie) {
+void oreVere(Sessione &s, Uscita uscita, SpecieOreVere specie) {
     Variabili &v = s.v;
     if (TroppeRighe(s, Val(s.in.TxtInizio), Val(s.in.TxtFine), Val(s.in.TxtFraz), 2)) return;
     LeggiParametri(s);
-    Foglio f(s, "Form2", uscita);
+    Tabulato f(s, "Form2", uscita);
     v.deltaOpz = Abs(Val(s.in.txtDelta));
     Calcolo c;
     c.specie = specie;
     switch (specie) {
-        case Specie::Inclinato:
+        case SpecieOreVere::Inclinato:
             angoliInclinato(s, f.schermo(), c);
             punti(v, c);
             v.lonPiu15 = DalMeridiano(v.lon, v.meridiano) + (v.diffLong * 180 / PI) * 0;
             v.corrLong = v.lonPiu15 * PI / 180;  // whatever the box of the zone meridian says: it is in lon by now
             break;
-        case Specie::Parete:
+        case SpecieOreVere::Parete:
             angoliParete(v, c);
             punti(v, c);
             break;
         default:
             longitudine(v);
             if (v.incR != 0) {
-                c.specie = Specie::LatZeroInclinato;
+                c.specie = SpecieOreVere::LatZeroInclinato;
             } else {
                 angoliLatZero(v, c);
                 punti(v, c);
             }
-            f.etichetta(c.specie == Specie::LatZero ? "  LATITUDINE ZERO"_it
-                                                    : "  LATITUDINE ZERO, declinazione gnomonica = 0"_it);
+            f.etichetta(c.specie == SpecieOreVere::LatZero ? "  LATITUDINE ZERO"_it
+                                                           : "  LATITUDINE ZERO, declinazione gnomonica = 0"_it);
             c.oraSus = 12 + v.angoloOra * 12 / PI;
             break;
     }
@@ -166,7 +166,7 @@ void OreVere(Sessione &s, Uscita uscita) {
     if (stampa && s.v.lat < 0) return;
     const bool equatore = (stampa ? Valore(s.v.lat) : Val(s.in.txtLAT)) == 0;
     const bool parete = (stampa ? Valore(s.v.incR) : Val(s.in.txtInc)) == 0;
-    oreVere(s, uscita, equatore ? Specie::LatZero : parete ? Specie::Parete : Specie::Inclinato);
+    oreVere(s, uscita, equatore ? SpecieOreVere::LatZero : parete ? SpecieOreVere::Parete : SpecieOreVere::Inclinato);
 }
 
 }  // namespace ombrelia::reports

@@ -3,15 +3,15 @@
 
 #include <string>
 
-#include "reports/foglio.h"
+#include "reports/tabulato.h"
 
 namespace ombrelia::reports::ore {
 
-enum class Specie : std::uint8_t { Inclinato, Parete, LatZero, LatZeroInclinato };
+enum class SpecieOreVere : std::uint8_t { Inclinato, Parete, LatZero, LatZeroInclinato };
 
 // What a report computes once, and what its rows carry from one to the next.
 struct Calcolo {
-    Specie specie = Specie::Inclinato;
+    SpecieOreVere specie = SpecieOreVere::Inclinato;
     Reale k;       // side of the plane, 1 or -1
     Reale sine;    // of a wall: the quotient whose arc tangent is the style's elevation
     Reale L;       // at latitude 0: cotangent of the declination
@@ -23,13 +23,13 @@ struct Calcolo {
 };
 
 // Heads of a table in their three lines.
-[[nodiscard]] Trilingue Intestazioni(Specie specie, bool schermo, bool primoOrdine, bool prima);
+[[nodiscard]] Trilingue Intestazioni(SpecieOreVere specie, bool schermo, bool primoOrdine, bool prima);
 // Whether the heads name the solstices in their first order.
-[[nodiscard]] bool PrimoOrdine(Specie specie, const Variabili &v);
+[[nodiscard]] bool PrimoOrdine(SpecieOreVere specie, const Variabili &v);
 
 // Both tables, against (x0, y0) and (x1, y1).
-void Tabelle(Sessione &s, Foglio &f, Calcolo &c);
+void Tabelle(Sessione &s, Tabulato &f, Calcolo &c);
 // Results for equinoctial and substyle, fundamental points, legend and closing lines.
-void Blocchi(Sessione &s, Foglio &f, Calcolo &c);
+void Blocchi(Sessione &s, Tabulato &f, Calcolo &c);
 
 }  // namespace ombrelia::reports::ore

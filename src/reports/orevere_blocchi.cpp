@@ -29,7 +29,7 @@ Piede preparaBlocchi(Variabili &v, Calcolo &c) {
     return p;
 }
 
-void coppie(Variabili &v, Foglio &f, Calcolo &c) {
+void coppie(Variabili &v, Tabulato &f, Calcolo &c) {
     const Piede P = preparaBlocchi(v, c);
     const Valore ts = tan(v.angSustilare);
     const bool declina = v.decR != 0;
@@ -56,9 +56,9 @@ void coppie(Variabili &v, Foglio &f, Calcolo &c) {
 
 }  // namespace
 
-void Blocchi(Sessione &s, Foglio &f, Calcolo &c) {
+void Blocchi(Sessione &s, Tabulato &f, Calcolo &c) {
     Variabili &v = s.v;
-    const bool equatore = c.specie == Specie::LatZero || c.specie == Specie::LatZeroInclinato;
+    const bool equatore = c.specie == SpecieOreVere::LatZero || c.specie == SpecieOreVere::LatZeroInclinato;
     s.in.optHorae = 0;
     f.colore(BLU);
     if (equatore) {

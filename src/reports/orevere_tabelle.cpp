@@ -60,19 +60,19 @@ Valore taglia(Valore x) { return Int(x * 10000) / 10000; }
 void ombre(const Variabili &v, Calcolo &c, Valore q) {
     const Valore delta = v.deltaOpz * PI / 180;
     switch (c.specie) {
-        case Specie::Inclinato:
+        case SpecieOreVere::Inclinato:
             c.w = tan(v.altStilo) / cos(q);
             break;
-        case Specie::Parete:
+        case SpecieOreVere::Parete:
             c.w = c.sine / cos(q);
             break;
         default:
             c.w = c.L / cos(q);
             break;
     }
-    c.A = c.specie == Specie::LatZero ? -Atn(c.w) : Atn(c.w);
+    c.A = c.specie == SpecieOreVere::LatZero ? -Atn(c.w) : Atn(c.w);
     if (Abs(q) > PI / 2) c.A = (PI - Abs(c.A)) * Sgn(c.A);
-    const Valore lato = c.specie == Specie::Inclinato ? Sgn(sin(v.altStilo)) : Sgn(v.gn / sin(v.altStilo));
+    const Valore lato = c.specie == SpecieOreVere::Inclinato ? Sgn(sin(v.altStilo)) : Sgn(v.gn / sin(v.altStilo));
     const Reale K = c.k * lato * v.deltaOpz * PI / 180;
     c.se = v.assostiloLen * cos(-delta) / cos(c.A + K);
     c.si = v.assostiloLen * cos(delta) / cos(c.A - K);
@@ -87,14 +87,14 @@ void intercetti(const Variabili &v, Calcolo &c, double V, Valore t, Valore xs, V
         if (const Valore tagliata = taglia(c.ordinata); tagliata.esiste()) c.testoOrdinata = TestoNumero(tagliata.v);
     };
     switch (c.specie) {
-        case Specie::LatZeroInclinato:
+        case SpecieOreVere::LatZeroInclinato:
             c.x = ys * tan(t);
             if (fuoriMeridiano) {
                 ordinata(xs / tan(t + 0.0001));  // the small angle keeps the division alive
                 return;
             }
             break;
-        case Specie::LatZero:
+        case SpecieOreVere::LatZero:
             if (Abs(v.dec) == 90) {
                 ordinata(v.gn / tan(t));  // whichever side the wall looks: meant
             } else {
@@ -111,9 +111,9 @@ void intercetti(const Variabili &v, Calcolo &c, double V, Valore t, Valore xs, V
     if (t == 0) c.testoOrdinata = INF;
 }
 
-void riga(const Variabili &v, Foglio &f, Calcolo &c, double V, Valore xs, Valore ys, bool prima) {
+void riga(const Variabili &v, Tabulato &f, Calcolo &c, double V, Valore xs, Valore ys, bool prima) {
     const Valore t = V * PI / 180 + v.corrLong;
-    if (c.specie == Specie::LatZeroInclinato) {
+    if (c.specie == SpecieOreVere::LatZeroInclinato) {
         c.se = v.gn * tan(PI / 2 - v.deltaOpz * PI / 180);
         c.si = -v.gn * tan(PI / 2 - v.deltaOpz * PI / 180);
     } else {
@@ -126,7 +126,7 @@ void riga(const Variabili &v, Foglio &f, Calcolo &c, double V, Valore xs, Valore
     const Elemento inf(INF);
     Elemento ordinata(c.testoOrdinata);
     if (c.testoOrdinata != INF && !c.testoOrdinata.empty()) ordinata.numero = c.ordinata.numero();
-    const bool senzaAscissa = c.specie == Specie::LatZero && estOvest;
+    const bool senzaAscissa = c.specie == SpecieOreVere::LatZero && estOvest;
     std::vector<Elemento> voci{Fmt(12 - Valore(V) / 15, "00.00"), Spc(2),
                                senzaAscissa ? Elemento(INF_ASCISSA) : Fmt(taglia(c.x), ".0000").vero(c.x), Spc(2), Numero(ys)};
     const auto cella = [&](Elemento e) {
@@ -135,7 +135,7 @@ void riga(const Variabili &v, Foglio &f, Calcolo &c, double V, Valore xs, Valore
     };
     cella(Numero(xs));
     cella(std::move(ordinata));
-    if (c.specie == Specie::LatZeroInclinato) {
+    if (c.specie == SpecieOreVere::LatZeroInclinato) {
         for (Elemento &e : std::array{Taglio4(c.se), Taglio4(c.si), differenza(c.se - c.si), inf, inf, inf}) cella(std::move(e));
     } else {
         cella(estOvest ? inf : Taglio4(c.se));
@@ -151,18 +151,20 @@ void riga(const Variabili &v, Foglio &f, Calcolo &c, double V, Valore xs, Valore
 
 }  // namespace
 
-bool PrimoOrdine(Specie specie, const Variabili &v) { return specie == Specie::Parete ? v.altStilo > 0 : v.altStilo < 0; }
+bool PrimoOrdine(SpecieOreVere specie, const Variabili &v) {
+    return specie == SpecieOreVere::Parete ? v.altStilo > 0 : v.altStilo < 0;
+}
 
-Trilingue Intestazioni(Specie specie, bool schermo, bool primoOrdine, bool prima) {
+Trilingue Intestazioni(SpecieOreVere specie, bool schermo, bool primoOrdine, bool prima) {
     const std::size_t carta = schermo ? 0 : 1;
-    const Ordine ordine = !primoOrdine ? Inverso : specie == Specie::LatZero ? Misto : Diretto;
+    const Ordine ordine = !primoOrdine ? Inverso : specie == SpecieOreVere::LatZero ? Misto : Diretto;
     const std::string_view ombre = OMBRE[carta][ordine];
-    const std::string_view it = specie == Specie::Parete ? PARETE_IT[carta] : PRIMA_IT[carta];
+    const std::string_view it = specie == SpecieOreVere::Parete ? PARETE_IT[carta] : PRIMA_IT[carta];
     const std::string_view fr = prima ? PRIMA_FR[carta] : SECONDA_FR[carta];
     return {std::string(it).append(ombre), std::string(fr).append(ombre), std::string(INGLESE)};
 }
 
-void Tabelle(Sessione &s, Foglio &f, Calcolo &c) {
+void Tabelle(Sessione &s, Tabulato &f, Calcolo &c) {
     const Variabili &v = s.v;
     const Valore Vi = -(15 * Val(s.in.TxtInizio) - 180), Vf = -(15 * Val(s.in.TxtFine) - 180);
     const bool primo = PrimoOrdine(c.specie, v);

@@ -2,7 +2,7 @@
 #include <functional>
 
 #include "gnomonica/proiezione.h"
-#include "reports/foglio.h"
+#include "reports/tabulato.h"
 
 namespace ombrelia::reports {
 
@@ -12,14 +12,14 @@ constexpr double OBLIQUITA = 23.445;
 
 enum class Ora : std::uint8_t { Italica, Babilonica, Temporaria };
 
-struct Testi {
+struct TestiStagionali {
     std::string_view modulo;
     // Titles and heads of the table of solstices, then of those of chosen lines; Italian, French, English.
     std::array<std::string_view, 3> titoloSolstizi, testaSolstizi, titoloRette, testaRette;
 };
 
-const Testi &testi(Ora ora) {
-    static const Testi tutti[] = {
+const TestiStagionali &testi(Ora ora) {
+    static const TestiStagionali tutti[] = {
         {"Form9",
          {"COORDINATE CARTESIANE DEGLI INTERCETTI DELLE RETTE ORARIE Italiche con le linee diurne dei SOLSTIZI.",
           "Coordonnées rectangulaires des points d'intersection des droites horaires italiques avec les lignes des solstices.",
@@ -114,8 +114,8 @@ Trilingue trilingue(const std::array<std::string_view, 3> &t) {
     return {std::string(t[0]), std::string(t[1]), std::string(t[2])};
 }
 
-void testata(Sessione &s, Foglio &f, const std::array<std::string_view, 3> &titoli, const std::array<std::string_view, 3> &teste,
-             const std::string &rette) {
+void testata(Sessione &s, Tabulato &f, const std::array<std::string_view, 3> &titoli,
+             const std::array<std::string_view, 3> &teste, const std::string &rette) {
     f.vuota();
     f.tabella(std::string(titoli[Lingua(s)]) + rette, Colonne(s, trilingue(teste)));
     f.titoli(trilingue(titoli));
@@ -124,7 +124,7 @@ void testata(Sessione &s, Foglio &f, const std::array<std::string_view, 3> &tito
 }
 
 // The tables against (x0, y0) and (x1, y1).
-void tabelleRette(Sessione &s, Foglio &f, const Testi &t, Linee &linee, const Conteggio &ore,
+void tabelleRette(Sessione &s, Tabulato &f, const TestiStagionali &t, Linee &linee, const Conteggio &ore,
                   const std::function<Speciale(double)> &speciale) {
     const Variabili &v = s.v;
     Reale ordinata, ascissa;
@@ -142,7 +142,7 @@ void tabelleRette(Sessione &s, Foglio &f, const Testi &t, Linee &linee, const Co
     }
 }
 
-void latitudini(Variabili &v, Foglio &f) {
+void latitudini(Variabili &v, Tabulato &f) {
     const auto riga = [&](std::string_view nome, Valore lat, Valore dec, Valore inc) {
         f.riga({nome, Spc(2), Numero(Round(Gradi(lat), 4)), Zona(), Numero(Round(dec, 4)), Zona(), Numero(Gradi(inc))});
     };
@@ -162,8 +162,8 @@ void italicheBabiloniche(Sessione &s, Uscita uscita, Ora ora) {
     Variabili &v = s.v;
     if (TroppeRighe(s, Val(s.in.TxtInizio), Val(s.in.TxtFine), Val(s.in.TxtFraz), 3)) return;
     LeggiParametri(s);
-    const Testi &t = testi(ora);
-    Foglio f(s, t.modulo, uscita);
+    const TestiStagionali &t = testi(ora);
+    Tabulato f(s, t.modulo, uscita);
     s.in.OptIta = 0;
     s.in.OptBab = 0;
     ripristinaOrizzontale(v);
@@ -191,7 +191,7 @@ void OreTemporarie(Sessione &s, Uscita uscita) {
     Variabili &v = s.v;
     if (TroppeRighe(s, 0, 11, Val(s.in.TxtFraz), 2)) return;
     LeggiParametri(s);
-    Foglio f(s, "Form3", uscita);
+    Tabulato f(s, "Form3", uscita);
     s.in.OptTEMP = 0;
     ripristinaOrizzontale(v);
     if (v.lat_o == 0) {

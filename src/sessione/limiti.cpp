@@ -18,8 +18,8 @@ std::size_t RecordInMemoria() {
     return static_cast<std::size_t>(std::max(liberi / AL_RECORD, MINIMO));
 }
 
-bool TroppoFitto(Sessione &s, std::initializer_list<Giro> giri) {
-    for (const Giro &g : giri) {
+bool TroppoFitto(Sessione &s, std::initializer_list<GiroDelCampo> giri) {
+    for (const GiroDelCampo &g : giri) {
         const bool lungo = g.conteggio.eccessivo() || g.conteggio.passi() * g.puntiPerPasso > PUNTI_MASSIMI;
         const bool grande = g.conteggio.passi() * g.puntiPerPasso > static_cast<double>(s.tavolo.recordMassimi);
         if (!lungo && !grande) continue;
@@ -30,8 +30,8 @@ bool TroppoFitto(Sessione &s, std::initializer_list<Giro> giri) {
     return false;
 }
 
-Giro GiroOre(const Sessione &s, Valore da, Valore a, Valore frazione, double puntiPerPasso) {
-    const Giro intere{"", s.in.TxtFraz, Conteggio(da, a, 1), puntiPerPasso};
+GiroDelCampo GiroOre(const Sessione &s, Valore da, Valore a, Valore frazione, double puntiPerPasso) {
+    const GiroDelCampo intere{"", s.in.TxtFraz, Conteggio(da, a, 1), puntiPerPasso};
     const bool lunghe = intere.conteggio.eccessivo() || intere.conteggio.passi() * puntiPerPasso > PUNTI_MASSIMI;
     const Conteggio conteggio(da, a, 1 / frazione);
     if (!lunghe) return {"TxtFraz", s.in.TxtFraz, conteggio, puntiPerPasso};

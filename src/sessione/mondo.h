@@ -9,16 +9,16 @@ namespace ombrelia {
 
 struct Mondo {
     // Degrees: X is the longitude West positive, counted from the site's; Y is minus the latitude.
-    struct Punto {
+    struct PuntoTerra {
         double X, Y;
     };
     // Consecutive points of one name, up to the next run's first; the number of its country in paesi.
-    struct Tratto {
+    struct Confine {
         std::size_t primo, paese;
     };
 
-    std::vector<Punto> punti;
-    std::vector<Tratto> tratti;
+    std::vector<PuntoTerra> punti;
+    std::vector<Confine> tratti;
     // The entries of cmbStati: the whole world, then the countries in order of appearance. Empty before the first load.
     std::vector<std::string> paesi;
 };

@@ -37,7 +37,7 @@ struct Elemento {
     }
 };
 
-enum class Genere : std::uint8_t {
+enum class GenereRiga : std::uint8_t {
     Testo,
     Titolo,        // of a table, a line a language
     Intestazione,  // the heads of its columns, a line a language
@@ -47,7 +47,7 @@ enum class Genere : std::uint8_t {
 struct RigaRapporto {
     std::vector<Elemento> voci;
     Colore colore = 0;
-    Genere genere = Genere::Testo;
+    GenereRiga genere = GenereRiga::Testo;
     int tabella = -1;  // number of its table, for all but Genere::Testo
 };
 

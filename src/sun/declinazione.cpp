@@ -47,21 +47,21 @@ Valore orarioDelSorgere(Valore x) {
 }
 
 // The report as it grows: labels through the dictionary, numbers in the form for people.
-class Rapporto {
+class Verbale {
 public:
-    explicit Rapporto(const Dizionario &d) : dizionario_(d) {}
-    Rapporto &etichetta(std::string_view t) { return testo(dizionario_.Traduci(t)); }
-    Rapporto &testo(std::string_view t) {
+    explicit Verbale(const Dizionario &d) : dizionario_(d) {}
+    Verbale &etichetta(std::string_view t) { return testo(dizionario_.Traduci(t)); }
+    Verbale &testo(std::string_view t) {
         t_ += t;
         return *this;
     }
-    Rapporto &numero(Valore v) { return testo(TestoNumero(v.v)); }
-    Rapporto &quattro(Valore v) { return testo(Formato(v, "0.0000")); }
-    Rapporto &tre(const Sessagesimale &s, std::string_view tra) {
+    Verbale &numero(Valore v) { return testo(TestoNumero(v.v)); }
+    Verbale &quattro(Valore v) { return testo(Formato(v, "0.0000")); }
+    Verbale &tre(const Sessagesimale &s, std::string_view tra) {
         return numero(s.gradi).testo(tra).numero(s.primi).testo(tra).numero(s.secondi);
     }
     // Line end; twice leaves a blank line.
-    Rapporto &aCapo(int volte = 1) {
+    Verbale &aCapo(int volte = 1) {
         for (; volte > 0; --volte) t_ += "\r\n";
         return *this;
     }
@@ -87,7 +87,7 @@ std::string componi(const DatiDeclinazione &d, const EsitoDeclinazione &e, Valor
     Sessagesimale ascensione = GradiDecToSex(e.sole.ascensione);
     ascensione.secondi = Int(ascensione.secondi);
 
-    Rapporto r(dizionario);
+    Verbale r(dizionario);
     r.etichetta("Azimut del Sole:  "_it).quattro(e.azimut).aCapo();
     r.etichetta("Declinazione del quadrante solare: "_it).quattro(e.declinazione).testo("    ");
     r.etichetta(e.declinazione < 0 ? "East"_it : "West"_it).aCapo();

@@ -29,7 +29,7 @@ struct EsitoDeclinazione {
     std::optional<std::string> txtDelta, txtAO;  // declination to three places, hour angle; degrees
     bool corrLong = false;                       // the shared corrLong becomes 1; otherwise it is left alone
 
-    Sole sole;
+    SoleDelPannello sole;
     Valore equazione = 0;            // minutes
     Valore oraAngolo = 0;            // degrees from noon
     Valore azimut = 0, altezza = 0;  // the Sun, degrees; azimuth from South, West positive

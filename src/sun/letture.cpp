@@ -127,8 +127,8 @@ std::string LeggiNumero(std::string_view testo, double da, double a, Valore &num
     return {};
 }
 
-std::vector<Lettura> LeggiLetture(std::string_view testo, const DatiDeclinazione &comune, std::string &errore) {
-    std::vector<Lettura> letture;
+std::vector<LetturaParete> LeggiLetture(std::string_view testo, const DatiDeclinazione &comune, std::string &errore) {
+    std::vector<LetturaParete> letture;
     for (std::size_t numero = 1; !testo.empty(); ++numero) {
         const std::size_t fine = std::min(testo.find('\n'), testo.size());
         std::string_view riga = testo.substr(0, std::min(fine, testo.find('#')));
@@ -136,7 +136,7 @@ std::vector<Lettura> LeggiLetture(std::string_view testo, const DatiDeclinazione
         const std::size_t ultimo = riga.find_last_not_of(" \t\r");
         if (ultimo == std::string_view::npos) continue;
         riga = riga.substr(0, ultimo + 1);
-        Lettura l{numero, SenzaBlanks(riga), comune};
+        LetturaParete l{numero, SenzaBlanks(riga), comune};
         if (const std::string e = leggiRiga(riga, l.dati); !e.empty()) {
             errore = std::to_string(numero) + ": " + e;
             return {};

@@ -20,7 +20,7 @@ namespace ombrelia::sun {
 // Degrees to -180..180, 180 included.
 [[nodiscard]] double Girato(double gradi);
 
-struct Lettura {
+struct LetturaParete {
     std::size_t riga = 0;  // in the file
     std::string testo;     // as written, without its comment
     DatiDeclinazione dati;
@@ -28,7 +28,8 @@ struct Lettura {
 
 // Lines of date, time and angle, divided by blanks, commas or semicolons; "#" begins a comment. Site and zone come from
 // comune. Stops at the first line that is wrong: errore is then "line: reason".
-[[nodiscard]] std::vector<Lettura> LeggiLetture(std::string_view testo, const DatiDeclinazione &comune, std::string &errore);
+[[nodiscard]] std::vector<LetturaParete> LeggiLetture(std::string_view testo, const DatiDeclinazione &comune,
+                                                      std::string &errore);
 
 struct Riassunto {
     double media = 0;              // degrees, -180..180

@@ -48,7 +48,7 @@ Sessagesimale OreMinutiSecondi(Valore ore) {
 }
 
 Valore EqTempo(const std::string &Anno, std::string &Mese, std::string &Giorno, Valore Ora, Valore Minuti, Valore Secondi,
-               Sole &sole) {
+               SoleDelPannello &sole) {
     // One carry of a day at most. 24 h sharp carries nothing: its fraction prints as 1.00000 behind the day's digits,
     // which makes day 15 a day 151. That is meant.
     Valore t = Ora + Minuti / 60 + Secondi / 3600;

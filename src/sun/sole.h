@@ -24,7 +24,7 @@ struct Sessagesimale {
 [[nodiscard]] Sessagesimale OreMinutiSecondi(Valore ore);
 
 // What EqTempo finds on its way. A quantity that faulted has no value, nor has any that follows from it.
-struct Sole {
+struct SoleDelPannello {
     Valore giuliano = 0;    // Julian day, taken as it is for the series' ephemeris time
     Valore secoli = 0;      // Julian centuries from 1900 January 0.5
     Valore minuti = 0;      // equation of time: whole minutes, signed
@@ -39,6 +39,6 @@ struct Sole {
 // Dates whose number is below 1582 10 15 are of the Julian calendar. No range is tested: a month 0 or 13 goes through the sums.
 // Source: Newcomb's elements with the equation of time of Smart's Spherical Astronomy. No aberration, no nutation.
 [[nodiscard]] Valore EqTempo(const std::string &Anno, std::string &Mese, std::string &Giorno, Valore Ora, Valore Minuti,
-                             Valore Secondi, Sole &sole);
+                             Valore Secondi, SoleDelPannello &sole);
 
 }  // namespace ombrelia::sun

@@ -20,7 +20,7 @@ void TracciaSustilare(Corsa &c, const LineeAttese &linee) {
     const Variabili &v = c.v;
     const Conteggio anno(-OBLIQUITA, OBLIQUITA, 0.999 * v.passo);
     const Reale ps = OraSustilareMuro(v.latR, v.decR);
-    const Orario ora(ps);
+    const AngoloOrario ora(ps);
     const Sfera sfera(v);
     const Pretendi pretendi(c.s.tavolo, Specie::OraSustilare);
     Direzione sole;

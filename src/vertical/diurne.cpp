@@ -9,9 +9,9 @@ namespace ombrelia::vertical {
 namespace {
 
 // -360 to 360 degrees. No time correction: a day line is the same in every zone.
-std::span<const Orario> giri() {
-    static const std::vector<Orario> ore = [] {
-        std::vector<Orario> t;
+std::span<const AngoloOrario> giri() {
+    static const std::vector<AngoloOrario> ore = [] {
+        std::vector<AngoloOrario> t;
         t.reserve(721);
         for (const double H : Conteggio(-360, 360, 1)) t.emplace_back(PI * H / 180);
         return t;
@@ -106,7 +106,7 @@ void traccia(Corsa &c, const Diurna &d, const LineaAttesa &l) {
     Direzione sole;
     Reale x, y;
     double H = -static_cast<double>(d.mezzo);
-    for (const Orario &ora : giri().subspan(360 - d.mezzo, 2 * d.mezzo + 1)) {
+    for (const AngoloOrario &ora : giri().subspan(360 - d.mezzo, 2 * d.mezzo + 1)) {
         sfera.puntoOra(sole, ora, giorno, x, y);
         const bool passa = orizzonte.passa(y, catena.yPrima()) && da < H && H < a && stessoLato(x, catena.xPrima());
         catena.punto(x, y, passa && c.cornice.contiene(x, y), l.colore);
@@ -148,7 +148,7 @@ void TracciaEquinoziale(Corsa &c, const LineeAttese &linee) {
     Catena catena(c.s.tavolo, linee[0].strato);
     Direzione sole;
     Reale x, y;
-    for (const Orario &ora : giri()) {
+    for (const AngoloOrario &ora : giri()) {
         if (sfera.denominatore(ora, giorno) == 0) sole.A = Sfera::segno(ora.Hr) * PI / 2;
         else sfera.azimut(sole, ora, giorno);
         sfera.mendaOra(sole, ora);
@@ -172,7 +172,7 @@ void PuntiEquinozialeDecZero(Corsa &c, const LineeAttese &linee) {
     Direzione sole;
     Reale x, y;
     for (const double a : Conteggio(-90, 90, 10 * v.passo)) {
-        const Orario ora(PI * a / 180);
+        const AngoloOrario ora(PI * a / 180);
         if (equatore) {
             sole.A = PI / 2;
             sole.h = PI / 2 - std::fabs(ora.Hr);

@@ -45,7 +45,7 @@ void TracciaLemniscata(Corsa &c, const LineeAttese &linee) {
     Direzione sole;
     const Pretendi pretendi(c.s.tavolo, Specie::Analemma, linee[0].valore);
     for (const Mezzodi &m : AnnoMedioGiorni()) {
-        const Orario ora(m.Et - v.corrLong);
+        const AngoloOrario ora(m.Et - v.corrLong);
         sole.A = Atn(Valore(segno * ora.sen) / (senLatA * ora.cos - cosLat * m.tanD));
         if (Sfera::quadranteErrato(sole, ora)) sfera.mendaMuro(sole);
         sole.h = ArcSin(cosLat * m.cosD * ora.cos + senLat * m.senD);
@@ -76,7 +76,7 @@ void TracciaTacche(Corsa &c, const LineeAttese &linee) {
         Reale Hr = HrMin, x, y, xPrima, yPrima;
         bool dentroPrima = false;
         for (int i = 0; i <= PARTI; ++i) {
-            sfera.puntoOra(sole, Orario(Hr), giorno, x, y);
+            sfera.puntoOra(sole, AngoloOrario(Hr), giorno, x, y);
             // The horizon is the one that the lemniscate left.
             const bool dentro = y < v.yOriz && c.cornice.contiene(x, y);
             if (dentro && dentroPrima) c.s.tavolo.TracciaLinea(xPrima, yPrima, x, y, linee[n].colore);
@@ -112,7 +112,7 @@ void lasciaMezzogiorno(Variabili &v, Valore x1, Valore y1) {
 
 void RettaMezzogiorno(Corsa &c, const LineeAttese &linee) {
     const Variabili &v = c.v;
-    const Orario ora(PI * (v.oraFuso * 180 * v.angOraLong / PI) / 180);
+    const AngoloOrario ora(PI * (v.oraFuso * 180 * v.angOraLong / PI) / 180);
     const Sfera sfera(v);
     Direzione sole;
     Reale x1 = v.x1, y1 = v.y1, x2, y2;  // the frame's corner stands where the summer end faults

@@ -57,7 +57,7 @@ void TracciaOreAstro(Corsa &c, const LineeAttese &linee) {
     Reale x, y;
     for (const LineaAttesa &l : linee) {
         Catena catena(s.tavolo, l.strato);
-        const Orario ora = OraOrologio(v, l.parametro);
+        const AngoloOrario ora = OraOrologio(v, l.parametro);
         const Pretendi pretendi(s.tavolo, Specie::Ora, l.valore);
         for (const Sfera::Giorno &g : anno) {
             sfera.puntoMuro(sole, ora, g, x, y);
@@ -88,7 +88,7 @@ void PosizionaNumeriOrari(Corsa &c, const LineeAttese &linee) {
     Direzione sole;
     Reale x, y;
     for (const LineaAttesa &l : linee) {
-        const Orario ora = OraOrologio(v, l.parametro);
+        const AngoloOrario ora = OraOrologio(v, l.parametro);
         sfera.azimut(sole, ora, giorno);
         // Always plus here.
         if (Sfera::quadranteErrato(sole, ora)) sole.A = sole.A + PI;

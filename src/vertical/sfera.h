@@ -13,10 +13,10 @@ namespace ombrelia::vertical {
 inline constexpr std::size_t PUNTI_LINEA = 60000;
 
 // An hour angle, radians, 0 at noon and positive in the afternoon.
-struct Orario : SenCos {
+struct AngoloOrario : SenCos {
     double Hr;
-    explicit Orario(Valore angolo) : SenCos(angolo), Hr(angolo.v) {}
-    Orario(double angolo, const SenCos &suoi) : SenCos(suoi), Hr(angolo) {}
+    explicit AngoloOrario(Valore angolo) : SenCos(angolo), Hr(angolo.v) {}
+    AngoloOrario(double angolo, const SenCos &suoi) : SenCos(suoi), Hr(angolo) {}
 };
 
 // Where the Sun stands, radians: azimuth A from the south, altitude h. A line carries one from point to point: where a
@@ -55,29 +55,29 @@ public:
     }
 
     // Denominator of the azimuth's tangent.
-    [[nodiscard]] double denominatore(const Orario &o, const Giorno &g) const { return senLat_ * o.cos - g.cosTan; }
-    void azimut(Direzione &s, const Orario &o, const Giorno &g) const {
+    [[nodiscard]] double denominatore(const AngoloOrario &o, const Giorno &g) const { return senLat_ * o.cos - g.cosTan; }
+    void azimut(Direzione &s, const AngoloOrario &o, const Giorno &g) const {
         const Valore q = o.sen / denominatore(o, g);  // not finite where the denominator is 0
         if (q.esiste()) s.A = std::atan(q.v);
     }
 
     // The quadrant is wrong when A and the hour angle lie on different sides of the meridian.
-    [[nodiscard]] static bool quadranteErrato(const Direzione &s, const Orario &o) {
+    [[nodiscard]] static bool quadranteErrato(const Direzione &s, const AngoloOrario &o) {
         // The sign of the sine is that of the angle, but for a mended angle left over from the point before.
         const double a = s.A.numero();
         return segno(o.sen) != segno(std::fabs(a) < 3 ? a : std::sin(a));
     }
     // The solution nearer the plane's normal.
     void mendaMuro(Direzione &s) const { s.A = s.A.numero() - segno(s.A.numero() - decR_) * PI; }
-    void azimutMuro(Direzione &s, const Orario &o, const Giorno &g) const {
+    void azimutMuro(Direzione &s, const AngoloOrario &o, const Giorno &g) const {
         azimut(s, o, g);
         if (quadranteErrato(s, o)) mendaMuro(s);
     }
     // Half a turn towards the hour angle's side.
-    static void mendaOra(Direzione &s, const Orario &o) {
+    static void mendaOra(Direzione &s, const AngoloOrario &o) {
         if (quadranteErrato(s, o)) s.A = s.A.numero() + segno(o.Hr) * PI;
     }
-    void azimutOra(Direzione &s, const Orario &o, const Giorno &g) const {
+    void azimutOra(Direzione &s, const AngoloOrario &o, const Giorno &g) const {
         azimut(s, o, g);
         mendaOra(s, o);
     }
@@ -87,8 +87,8 @@ public:
     [[nodiscard]] bool davanti(const Direzione &s) const { return std::fabs(s.A.numero() - decR_) < PI / 2; }
 
     // Sine of the altitude.
-    [[nodiscard]] static double senAltezza(const Orario &o, const Giorno &g) { return g.senSen + g.cosCos * o.cos; }
-    static void altezza(Direzione &s, const Orario &o, const Giorno &g) { s.h = ArcSin(senAltezza(o, g)); }
+    [[nodiscard]] static double senAltezza(const AngoloOrario &o, const Giorno &g) { return g.senSen + g.cosCos * o.cos; }
+    static void altezza(Direzione &s, const AngoloOrario &o, const Giorno &g) { s.h = ArcSin(senAltezza(o, g)); }
 
     // From the tangent and the cosine of the azimuth that counts from the wall's normal, and the tangent of the altitude.
     [[nodiscard]] Valore ascissa(double tanA) const { return unita_ * tanA * gn_; }
@@ -103,12 +103,12 @@ public:
     [[nodiscard]] bool sottoTerra(double azimut, double senAltezza) const {
         return senAltezza < 0 && gn_ > 0 && std::fabs(azimut - decR_) < 1.57;
     }
-    void puntoMuro(Direzione &s, const Orario &o, const Giorno &g, Reale &x, Reale &y) const {
+    void puntoMuro(Direzione &s, const AngoloOrario &o, const Giorno &g, Reale &x, Reale &y) const {
         azimutMuro(s, o, g);
         altezza(s, o, g);
         punto(s, x, y);
     }
-    void puntoOra(Direzione &s, const Orario &o, const Giorno &g, Reale &x, Reale &y) const {
+    void puntoOra(Direzione &s, const AngoloOrario &o, const Giorno &g, Reale &x, Reale &y) const {
         azimutOra(s, o, g);
         altezza(s, o, g);
         punto(s, x, y);
@@ -143,9 +143,9 @@ inline Valore PiegaDeclinazione(Valore latR, Valore gradi) {
 }
 
 // The hour angle of clock hour H, degrees: in zone time shifted by the difference of the meridians.
-inline Orario OraOrologio(const Variabili &v, Valore H) {
+inline AngoloOrario OraOrologio(const Variabili &v, Valore H) {
     const Valore S = 180 * v.angOraLong / PI;
-    return Orario(PI * (H - v.oraFuso * S) / 180);
+    return AngoloOrario(PI * (H - v.oraFuso * S) / 180);
 }
 
 }  // namespace ombrelia::vertical

@@ -31,10 +31,10 @@ const std::vector<Giornata> &annoDi(Corsa &c, const Sfera &sfera) {
 }
 
 // These hours compare the angles themselves, not their sines.
-inline void mendaAzimut(Direzione &sole, const Sfera &sfera, const Orario &o) {
+inline void mendaAzimut(Direzione &sole, const Sfera &sfera, const AngoloOrario &o) {
     if (Sfera::segno(o.Hr) != Sfera::segno(sole.A.numero())) sfera.mendaMuro(sole);
 }
-inline void azimut(Direzione &sole, const Sfera &sfera, const Orario &o, const Sfera::Giorno &g) {
+inline void azimut(Direzione &sole, const Sfera &sfera, const AngoloOrario &o, const Sfera::Giorno &g) {
     sfera.azimut(sole, o, g);
     mendaAzimut(sole, sfera, o);
 }
@@ -65,7 +65,7 @@ double azimutDa(const Sfera &sfera, double arco, bool girato) {
 }
 
 // A point of a line. What no test needs is worked out when a chord asks for it.
-struct Posto {
+struct PuntoTemporaria {
     enum class Manca : std::uint8_t { Niente, Tutto, Angolo };
     Reale x, y;
     double A, seno;  // azimuth and sine of the altitude
@@ -94,7 +94,7 @@ void tracciaOre(Corsa &c, const LineeAttese &linee, Specie specie, std::string_v
     const Sfera sfera(c.v);
     Direzione sole;
     const std::vector<Giornata> &giorni = annoDi(c, sfera);
-    std::vector<Posto> posti(giorni.size() + 1);
+    std::vector<PuntoTemporaria> posti(giorni.size() + 1);
     double seno = 0;  // of the last altitude that did not fault
     const double senDec = std::sin(sfera.declinazione()), cosDec = std::cos(sfera.declinazione());
     const double xMin = cornice.xMin.numero() - 1e-6, xMax = cornice.xMax.numero() + 1e-6;
@@ -110,7 +110,7 @@ void tracciaOre(Corsa &c, const LineeAttese &linee, Specie specie, std::string_v
             ++i;
             ++posto;
             const double Hr = angolo(n, g.H0);
-            const Orario ora(Hr, ricordi.ore(posto, Hr));
+            const AngoloOrario ora(Hr, ricordi.ore(posto, Hr));
             const double s0 = Sfera::senAltezza(ora, g);
             if (std::fabs(s0) < 1) seno = s0;
             // Where the tangent of the azimuth alone tells, by a wide margin, that the point lies behind the wall, under
@@ -128,7 +128,7 @@ void tracciaOre(Corsa &c, const LineeAttese &linee, Specie specie, std::string_v
                         posti[i].q = q;
                         posti[i].girato = girato;
                         posti[i].seno = seno;
-                        posti[i].manca = Posto::Manca::Angolo;
+                        posti[i].manca = PuntoTemporaria::Manca::Angolo;
                     }
                     qPendente = q;
                     giratoPendente = girato;
@@ -143,14 +143,14 @@ void tracciaOre(Corsa &c, const LineeAttese &linee, Specie specie, std::string_v
             if (Valore(q).esiste()) sole.A = ricordi.azimut(posto, q);
             mendaAzimut(sole, sfera, ora);
             if (!sfera.davanti(sole)) continue;
-            Posto &p = posti[i];
+            PuntoTemporaria &p = posti[i];
             p.A = sole.A.numero();
             p.seno = seno;
-            p.manca = Posto::Manca::Tutto;
+            p.manca = PuntoTemporaria::Manca::Tutto;
             if (i < 2 || sfera.sottoTerra(p.A, p.seno)) continue;
             p.completa(sfera, ricordi, posto);
             if (p.y > 0 || !cornice.contiene(p.x, p.y)) continue;
-            Posto &prima = posti[i - 1];
+            PuntoTemporaria &prima = posti[i - 1];
             prima.completa(sfera, ricordi, posto - 1);
             s.tavolo.TracciaLinea(p.x, p.y, prima.x, prima.y, l.colore, id);
         }
@@ -172,7 +172,7 @@ void etichette(Corsa &c, const LineeAttese &linee, Angolo angolo) {
         Direzione sole;
         Reale x, y;
         for (const LineaAttesa &l : linee) {
-            const Orario ora(angolo(l.parametro, H0));
+            const AngoloOrario ora(angolo(l.parametro, H0));
             azimut(sole, sfera, ora, giorno);
             sfera.altezza(sole, ora, giorno);
             if (!sfera.davanti(sole)) continue;

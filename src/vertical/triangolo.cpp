@@ -8,7 +8,7 @@ namespace ombrelia::vertical {
 
 namespace {
 
-struct Vertice {
+struct VerticeStilo {
     Reale x, y;  // scaled, y upward
 };
 
@@ -18,7 +18,7 @@ struct Triangolo {
     Reale sottostilo;  // its length on the substyle before it is lengthened
     Reale lunghezza;   // whole length on the substyle
     Reale ortoFalso;
-    Vertice P, Q, F, G;
+    VerticeStilo P, Q, F, G;
 };
 
 Triangolo calcola(const Corsa &c) {
@@ -74,15 +74,15 @@ void TracciaTriangoloStilo(Corsa &c, const LineeAttese &linee) {
     Tavolo &t = c.s.tavolo;
     const Triangolo triangolo = calcola(c);
     lascia(c.s.v, triangolo);
-    const Vertice &P = triangolo.P, &Q = triangolo.Q, &F = triangolo.F, &G = triangolo.G;
-    const auto cerchio = [&](const Vertice &p, int divisore, Colore colore) {
+    const VerticeStilo &P = triangolo.P, &Q = triangolo.Q, &F = triangolo.F, &G = triangolo.G;
+    const auto cerchio = [&](const VerticeStilo &p, int divisore, Colore colore) {
         t.TracciaCerchio(p.x, p.y, v.unita * v.gn / divisore, colore);
     };
-    const auto linea = [&](const Vertice &a, const Vertice &b, int n) {
+    const auto linea = [&](const VerticeStilo &a, const VerticeStilo &b, int n) {
         const LineaAttesa &l = linee[static_cast<std::size_t>(n)];
         t.TracciaLinea(a.x, a.y, b.x, b.y, l.colore, l.strato);
     };
-    const Vertice origine;
+    const VerticeStilo origine;
     std::optional<Pretendi> pretendi(std::in_place, t, Specie::Stilo);
     cerchio(P, 10, BIANCO);
     cerchio(Q, 10, ROSSO);
@@ -111,7 +111,7 @@ void TestiTriangolo(Corsa &c, const LineeAttese &) {
     const Valore g = t.altStilo;
     s.Dati("");
     s.Dati(s.Traduci("TRIANGOLO dello STILO LUNGO"));
-    const auto riga = [&](std::string_view etichetta, Valore lunghezza, const Vertice &p) {
+    const auto riga = [&](std::string_view etichetta, Valore lunghezza, const VerticeStilo &p) {
         s.Dati(Frase(s.Traduci(etichetta)) << Abs(Tronca5(lunghezza)) / v.unita << ", " << s.Traduci("coordinate x, y ")
                                            << Tronca5(p.x / v.unita) << ", " << Tronca5(p.y / v.unita));
     };

@@ -156,15 +156,15 @@ std::string Pagina::Collegamento() {
 
 void Pagina::Lingua(std::string_view codice) {
     // The program's dictionary, then those of the words that window and page have beyond it.
-    struct Lingua {
+    struct LinguaDellaPagina {
         std::string_view codice;
         std::array<const char *, 3> file;
     };
-    constexpr Lingua LINGUE[] = {{"fr", {"DBFranceseC2008.txt", "DBFinestraFrancese.txt", "DBPaginaFrancese.txt"}},
-                                 {"en", {"DBIngleseC2008.txt", "DBFinestraInglese.txt", "DBPaginaInglese.txt"}}};
+    constexpr LinguaDellaPagina LINGUE[] = {{"fr", {"DBFranceseC2008.txt", "DBFinestraFrancese.txt", "DBPaginaFrancese.txt"}},
+                                            {"en", {"DBIngleseC2008.txt", "DBFinestraInglese.txt", "DBPaginaInglese.txt"}}};
     Dizionario &d = prova_.dizionario;
     d.Interpreta({});
-    for (const Lingua &l : LINGUE)
+    for (const LinguaDellaPagina &l : LINGUE)
         if (l.codice == codice)
             for (const char *nome : l.file)
                 if (const auto file = TrovaDato(nome))

@@ -14,9 +14,9 @@ namespace {
 constexpr double MM = 1000;
 
 // The sheet's millimetres, y downward, and the plane's metres as mounted, y upward.
-struct Vista {
+struct VistaSole {
     double x0, y0, versoX, versoY;
-    explicit Vista(const Tavolo &t, const Posa &posa)
+    explicit VistaSole(const Tavolo &t, const Posa &posa)
         : x0(t.ShiftX()), y0(t.ShiftY()), versoX(t.FattoreX * (posa.australe ? -1 : 1)), versoY(-t.FattoreY) {}
     [[nodiscard]] ombra::Punto piano(double x, double y) const { return {(x / MM - x0) * versoX, (y / MM - y0) * versoY}; }
     Json &foglio(Json &j, const ombra::Punto &p) const {
@@ -54,7 +54,7 @@ std::string Pagina::Luoghi(std::string_view inizio) {
 std::string Pagina::Leggi(double x, double y, int anno, double entro) {
     const Sessione &s = disegno();
     const Posa posa = PosaDelDisegno(s);
-    const Vista vista(s.tavolo, posa);
+    const VistaSole vista(s.tavolo, posa);
     const ombra::Punto p = vista.piano(x, y);
     Json j;
     j.apri('{').nome("x").numero(p.x * MM).nome("y").numero(p.y * MM);
@@ -112,7 +112,7 @@ std::string Pagina::Certificato() {
     const ombrelia::Certificato c = Certifica(dati, lista);
     if (c.righe.empty()) return "null";
     const Dizionario &d = dizionario();
-    const Vista vista(s.tavolo, PosaDelDisegno(s));
+    const VistaSole vista(s.tavolo, PosaDelDisegno(s));
     Json j;
     j.apri('{').nome("vero").vero(c.vero()).nome("verdetto").testo(Verdetto(d, c)).nome("righe").apri('[');
     for (const RigaCertificato &r : c.righe) {
@@ -133,9 +133,9 @@ std::string Pagina::Certificato() {
 std::string Pagina::Ombra(std::string_view data, double ore) {
     const Sessione &s = disegno();
     const Posa posa = PosaDelDisegno(s);
-    const Vista vista(s.tavolo, posa);
+    const VistaSole vista(s.tavolo, posa);
     const Istante i = IstanteDi(posa, ombra::leggiData(data).value_or(ombra::Data{}), ore, posa.fuso());
-    const ombra::Piano piano(posa.quadrante);
+    const ombra::PianoMontato piano(posa.quadrante);
     Json j;
     j.apri('{').nome("luce").testo(parola(i.ombra.luce)).nome("ore").testo(Orologio(i.ore)).nome("vera");
     j.testo(Orologio(ombra::oraVera(i.cielo.t))).nome("altezza").numero(i.cielo.altezza * ombra::GRADI);
@@ -155,7 +155,7 @@ std::string Pagina::Ombra(std::string_view data, double ore) {
 std::string Pagina::Giornata(std::string_view data) {
     const Sessione &s = disegno();
     const Posa posa = PosaDelDisegno(s);
-    const Vista vista(s.tavolo, posa);
+    const VistaSole vista(s.tavolo, posa);
     constexpr double MINUTI = 6;
     Json j;
     j.apri('[');

@@ -50,9 +50,9 @@ void gruppo(Json &j, const Dizionario &d, const app::Gruppo &g) {
         .vero(!g.piegato)
         .nome("righe")
         .apri('[');
-    for (const app::Gruppo::Riga &r : g.righe) {
+    for (const app::Gruppo::RigaDiGruppo &r : g.righe) {
         j.apri('[');
-        for (const app::Gruppo::Cosa &c : r) {
+        for (const app::Gruppo::VoceDiGruppo &c : r) {
             if (c.id == NESSUN_CONTROLLO)
                 j.apri('{').nome("classe").testo("etichetta").nome("caption").testo(d.Traduci(c.caption)).chiudi('}');
             else controllo(j, d, c.id);

@@ -7,11 +7,11 @@
 namespace ombrelia {
 namespace {
 
-using prova::Quadro;
+using prova::QuadroProvato;
 
 // The same wall for both engines.
 struct Motori {
-    Quadro dir, ana;
+    QuadroProvato dir, ana;
     explicit Motori(const std::string &come) : dir(come), ana(come) {}
     void esegui() {
         dir.esegui();
@@ -105,7 +105,7 @@ TEST(Analitica, ItalicheEBabilonicheComeLaProiezione) {
 }
 
 TEST(Analitica, OrdineColoriEDiUnaCorsa) {
-    Quadro b(
+    QuadroProvato b(
         "txtLAT=42 txtDec=15 txtInc=0 txtOriz=-0.1 txtLonG=-13 ckAssi chkOreAstronomiche Ck_DayLightCurves ck_Sustilare "
         "ck_Equinoziale ck_babiloniche ck_Lemniscate");
     b.premi("cmdEqui");
@@ -133,7 +133,7 @@ TEST(Analitica, OrdineColoriEDiUnaCorsa) {
 }
 
 TEST(Analitica, PuntiFondamentali) {
-    Quadro b("txtLAT=45 txtDec=30 txtInc=0 TxtStilo=0.2");
+    QuadroProvato b("txtLAT=45 txtDec=30 txtInc=0 TxtStilo=0.2");
     b.premi("cmdEqui");
     EXPECT_NEAR(b.s.v.xCentro.numero(), -0.2 * std::tan(PI / 6), 1e-9) << "the pole as the wall sees it";
     EXPECT_NEAR(b.s.v.yCentro.numero(), 0.2 / std::cos(PI / 6), 1e-9);
@@ -153,7 +153,7 @@ TEST(Analitica, PuntiFondamentali) {
 }
 
 TEST(Analitica, MillimetriSenzaOreRestanoMillimetri) {
-    Quadro metri("txtDec=15 txtInc=0 TxtStilo=0.2 chkOreAstronomiche"),
+    QuadroProvato metri("txtDec=15 txtInc=0 TxtStilo=0.2 chkOreAstronomiche"),
         mm("txtDec=15 txtInc=0 TxtStilo=200 ChCentimetro chkOreAstronomiche");
     const auto a = metri.analitica().linee("Ore_astro"), b = mm.analitica().linee("Ore_astro");
     EXPECT_TRUE(std::ranges::equal(a, b, [](const RecLinea &l, const RecLinea &m) { return std::fabs(l.X1 - m.X1) < 1e-9; }));
@@ -166,7 +166,8 @@ TEST(Analitica, MillimetriSenzaOreRestanoMillimetri) {
 
 TEST(Analitica, CasiDelPiano) {
     for (const auto &r : prova::Tabella("analitica_casi.txt")) {
-        Quadro b("txtInc=0 TxtFraz=4 TxtStilo=0.2 chkOreAstronomiche ck_Sustilare txtLAT=" + r.at(0) + " txtDec=" + r.at(1));
+        QuadroProvato b("txtInc=0 TxtFraz=4 TxtStilo=0.2 chkOreAstronomiche ck_Sustilare txtLAT=" + r.at(0) +
+                        " txtDec=" + r.at(1));
         b.premi("cmdEqui");
         std::vector<std::string> visti{r[0], r[1]};
         for (const auto &[strato, colore] : {std::pair{"Ore_astro", 12}, {"", 4}, {"", 9}, {"", 12}})
@@ -177,7 +178,7 @@ TEST(Analitica, CasiDelPiano) {
 }
 
 TEST(Analitica, EquatoreFraISolstizi) {
-    Quadro b("txtLAT=0 txtDec=90 txtInc=0 TxtStilo=0.1 TxtFraz=1 txtX0=-1 txtX1=1 txtY1=-1 chkOreAstronomiche");
+    QuadroProvato b("txtLAT=0 txtDec=90 txtInc=0 TxtStilo=0.1 TxtFraz=1 txtX0=-1 txtX1=1 txtY1=-1 chkOreAstronomiche");
     b.premi("cmdEqui");
     auto parallele = b.linee("Ore_astro");
     std::erase_if(parallele, [](const RecLinea &l) { return l.colore != QB(14); });
@@ -196,7 +197,7 @@ TEST(Analitica, EquatoreFraISolstizi) {
 
 TEST(Analitica, CioCheRestaDiPrima) {
     // At the equator the substyle's hour angle has no side at first; then the family is the same but shifted by six hours.
-    Quadro b("txtLAT=0 txtDec=-30 txtInc=0 TxtFraz=1 chkOreAstronomiche");
+    QuadroProvato b("txtLAT=0 txtDec=-30 txtInc=0 TxtFraz=1 chkOreAstronomiche");
     const auto prima = b.analitica().linee("Ore_astro"), dopo = b.analitica().linee("Ore_astro");
     ASSERT_EQ(prima.size(), 13U);
     EXPECT_NEAR(prima[0].X1, dopo.at(6).X1, 1e-5);
@@ -210,7 +211,7 @@ TEST(Analitica, CioCheRestaDiPrima) {
 }
 
 TEST(Analitica, RifiutiEFoglio) {
-    Quadro australe("txtLAT=-45 txtInc=0 chkOreAstronomiche ckAssi");
+    QuadroProvato australe("txtLAT=-45 txtInc=0 chkOreAstronomiche ckAssi");
     EXPECT_EQ(australe.premi("cmdEqui"), app::Esito::Fatto);
     EXPECT_TRUE(australe.lista().Ordine.empty() && australe.lista().Testi.empty());
     EXPECT_EQ(australe.s.v.segnoLat, -1);
@@ -219,7 +220,7 @@ TEST(Analitica, RifiutiEFoglio) {
     EXPECT_EQ(australe.s.in.txtLAT, "-45");
     EXPECT_EQ(australe.s.v.letture, 0);
 
-    Quadro b("txtInc=5");
+    QuadroProvato b("txtInc=5");
     EXPECT_EQ(b.premi("cmdEqui"), app::Esito::Disabilitato);
     b.prepara("txtInc=0");
     b.foglio(2, 1, 0, 0);
@@ -233,8 +234,8 @@ TEST(Analitica, RifiutiEFoglio) {
 
 TEST(Analitica, CampiAssurdiSonoRifiutatiOInnocui) {
     for (const auto &r : prova::Tabella("analitica_assurdi.txt")) {
-        Quadro b("txtInc=0 chkOreAstronomiche Ck_DayLightCurves ck_Sustilare ck_Equinoziale ck_babiloniche ck_Lemniscate " +
-                 r.at(0));
+        QuadroProvato b(
+            "txtInc=0 chkOreAstronomiche Ck_DayLightCurves ck_Sustilare ck_Equinoziale ck_babiloniche ck_Lemniscate " + r.at(0));
         b.s.in.ck_Italiche = 1;
         b.premi("cmdEqui");
         EXPECT_EQ(b.utente.box.empty() ? "" : b.utente.box.front(), r.at(1)) << r[0];
@@ -242,7 +243,7 @@ TEST(Analitica, CampiAssurdiSonoRifiutatiOInnocui) {
         for (const RecLinea &l : b.lista().Linee)
             for (const double d : {l.X1, l.Y1, l.X2, l.Y2}) ASSERT_TRUE(std::isfinite(d)) << r[0];
     }
-    Quadro b("txtLAT=0 txtInc=0 txtDensity=1e-6");
+    QuadroProvato b("txtLAT=0 txtInc=0 txtDensity=1e-6");
     b.s.in.ck_Italiche = 1;
     b.premi("cmdEqui");
     EXPECT_TRUE(b.utente.box.empty()) << "at the equator no loop follows the density";

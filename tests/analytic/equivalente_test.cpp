@@ -9,15 +9,16 @@
 namespace ombrelia {
 namespace {
 
-using prova::Quadro;
+using prova::QuadroProvato;
 
 TEST(Equivalente, LeStesseRetteOrarie) {
     const auto piani = prova::Tabella("analitica_piani.txt");
     double peggiore = 0;
     int mezzogiorno = 0;
     for (const auto &r : piani) {
-        Quadro b("txtLonG=-12.5 TxtStilo=0.1 TxtFraz=1 txtX0=-0.5 txtX1=0.5 txtY0=0.5 txtY1=-0.5 chkOreAstronomiche txtLAT=" +
-                 r.at(1) + " txtDec=" + r.at(2) + " txtInc=" + r.at(3) + (r.at(4).empty() ? "" : " ") + r[4]);
+        QuadroProvato b(
+            "txtLonG=-12.5 TxtStilo=0.1 TxtFraz=1 txtX0=-0.5 txtX1=0.5 txtY0=0.5 txtY1=-0.5 chkOreAstronomiche txtLAT=" +
+            r.at(1) + " txtDec=" + r.at(2) + " txtInc=" + r.at(3) + (r.at(4).empty() ? "" : " ") + r[4]);
         b.esegui();
         const auto originale = b.linee("hour");
         ASSERT_GT(originale.size(), 200U) << r[0];
@@ -43,7 +44,7 @@ TEST(Equivalente, LeStesseRetteOrarie) {
 TEST(Equivalente, QuelCheScrive) {
     for (const auto &r : prova::Tabella("analitica_equivalenti.txt")) {
         const std::string dove = r.at(0) + " " + r.at(1) + " " + r.at(2);
-        Quadro b("txtLonG=-12.5 TxtStilo=0.2 txtOriz=7 txtLAT=" + r[0] + " txtDec=" + r[1] + " txtInc=" + r[2]);
+        QuadroProvato b("txtLonG=-12.5 TxtStilo=0.2 txtOriz=7 txtLAT=" + r[0] + " txtDec=" + r[1] + " txtInc=" + r[2]);
         if (r.at(3) == "1") b.spunta("ck_Etna");
         EXPECT_EQ(b.premi("cmdEqui"), app::Esito::Disabilitato);
         b.premi("cmdTrasforma");
@@ -66,7 +67,7 @@ TEST(Equivalente, QuelCheScrive) {
 }
 
 TEST(Equivalente, UnaPareteResta) {
-    Quadro b("txtLAT=45 txtDec=12 txtInc=0 txtLonG=-7 CkQibla ckAlt ckAsr");
+    QuadroProvato b("txtLAT=45 txtDec=12 txtInc=0 txtLonG=-7 CkQibla ckAlt ckAsr");
     b.premi("cmdTrasforma");
     EXPECT_EQ(b.s.in.txtDec + " " + b.s.in.txtLonG, "12 -7");
     EXPECT_EQ(b.s.v.lon, -7);
@@ -80,7 +81,7 @@ TEST(Equivalente, UnaPareteResta) {
 
 // After the transformation the analemma follows the equivalent longitude, and a second press does nothing more.
 TEST(Equivalente, DopoLaTrasformazione) {
-    Quadro b("txtLAT=45 txtDec=-20 txtInc=25.2 txtLonG=-12.5 txtX0=-1 txtX1=1 txtY0=1 txtY1=-1 ck_Lemniscate");
+    QuadroProvato b("txtLAT=45 txtDec=-20 txtInc=25.2 txtLonG=-12.5 txtX0=-1 txtX1=1 txtY0=1 txtY1=-1 ck_Lemniscate");
     b.esegui();
     const auto corde = b.linee("Analemma");  // the plane's own, by projection
     ASSERT_GT(corde.size(), 1000U);

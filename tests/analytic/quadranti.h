@@ -18,8 +18,8 @@ inline std::vector<RecPunto> puntiDi(const Banco &b, Colore colore) {
 }
 
 // A dial by its fields and boxes, set one after the other: "txtLAT=45 ckAssi".
-struct Quadro : Banco {
-    explicit Quadro(const std::string &come) { prepara(come); }
+struct QuadroProvato : Banco {
+    explicit QuadroProvato(const std::string &come) { prepara(come); }
     void prepara(const std::string &come) {
         for (const std::string &c : Divisi(come, ' ')) {
             const std::size_t i = c.find('=');
@@ -28,7 +28,7 @@ struct Quadro : Banco {
         }
     }
     // Drawn alone by plane geometry.
-    Quadro &analitica() {
+    QuadroProvato &analitica() {
         premi("Tavolo1.cmdPulisci");
         premi("cmdEqui");
         return *this;

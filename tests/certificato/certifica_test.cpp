@@ -92,7 +92,7 @@ struct Guasto {
     bool buio = false;  // at night and behind the plane too
 };
 double disegna(Tavolo &t, const DatiCertificato &dati, const Linea &l, const Guasto &g) {
-    const ombra::Piano piano(dati.posa.quadrante);
+    const ombra::PianoMontato piano(dati.posa.quadrante);
     const double verso = dati.posa.australe ? -1 : 1;
     double mm = 0;
     const Pretendi pretendi(t, l.specie, l.valore);
@@ -102,7 +102,7 @@ double disegna(Tavolo &t, const DatiCertificato &dati, const Linea &l, const Gua
         for (int i = 0; i <= n; ++i) {
             std::optional<ombra::Punto> p;
             if (const auto s = l.sole(static_cast<double>(i) / n)) {
-                const ombra::Vettore v = ombra::Piano::sole(s->first, s->second);
+                const ombra::Vettore v = ombra::PianoMontato::sole(s->first, s->second);
                 if (g.buio || piano.getta(v).luce == ombra::Luce::Si) p = piano.proietta(v);
             }
             if (p && !(p->x > dati.xMin && p->x < dati.xMax && p->y > dati.yMin && p->y < dati.yMax)) p.reset();
@@ -300,7 +300,7 @@ TEST(Certificato, ParoleEForme) {
     // A copy is judged as the list itself.
     EXPECT_EQ(CertificatoJson(Certifica(dati, b.lista().copia())), json);
     // Beside hour 13 of the true time: the line is found, the words name it.
-    const ombra::Piano piano(dati.posa.quadrante);
+    const ombra::PianoMontato piano(dati.posa.quadrante);
     const ombra::Punto p = piano.getta(15 * RADIANTI, 15 * RADIANTI).punto;
     const auto vicina = TrovaLinea(dati, b.lista(), {p.x + 0.0004, p.y}, 0.002);
     ASSERT_TRUE(vicina);

@@ -67,7 +67,7 @@ TEST(Istante, MuroAustraleDisegnatoESpecchiato) {
         EXPECT_TRUE(posa.australe);
         EXPECT_NEAR(posa.quadrante.latitudine * GRADI, -33.8688, 1e-9);
         EXPECT_NEAR(posa.quadrante.declinazione * GRADI, 160, 1e-9);
-        const ombra::Piano piano(posa.quadrante);
+        const ombra::PianoMontato piano(posa.quadrante);
         int corde = 0;
         for (const RecLinea &l : b.linee("hour")) {
             const double t = piano.leggi(ombra::Punto{-l.X1, -l.Y1}).t * GRADI / 15;

@@ -43,7 +43,7 @@ private:
     }
 };
 
-using Campi = std::initializer_list<std::pair<std::string_view, std::string_view>>;
+using CampiScritti = std::initializer_list<std::pair<std::string_view, std::string_view>>;
 
 // A started program driven by control names. The sheet is wide, so that points of any dial of a few metres are kept.
 class Banco {
@@ -51,7 +51,7 @@ public:
     UtenteDiProva utente;
     Sessione s{utente};
 
-    explicit Banco(Campi campi = {}, std::initializer_list<std::string_view> caselle = {}) {
+    explicit Banco(CampiScritti campi = {}, std::initializer_list<std::string_view> caselle = {}) {
         app::Avvia(s);
         foglio(14, 14, 7, 7);
         imposta(campi);
@@ -63,7 +63,7 @@ public:
         s.tavolo.ShiftX(x);
         s.tavolo.ShiftY(y);
     }
-    void imposta(Campi campi) {
+    void imposta(CampiScritti campi) {
         for (const auto &[nome, testo] : campi) app::Imposta(s, TrovaControllo(nome), std::string(testo));
     }
     app::Esito spunta(std::string_view casella, int valore = 1) { return app::Spunta(s, TrovaControllo(casella), valore); }

@@ -53,7 +53,7 @@ TEST(PerMacchina, MostraIPercorsiPrimaDiSalvarli) {
     b.apri();
     ASSERT_TRUE(b.d->disegno());
     std::string errore;
-    officina::Opzioni come;
+    officina::ComePreparare come;
     come.testi = officina::CiSonoTratti() ? officina::Testi::Tratti : officina::Testi::Testo;
     const officina::Disegno suo = officina::Prepara(b.s().tavolo, come, errore);
     EXPECT_EQ(b.d->disegno()->cammini.size(), suo.cammini.size());

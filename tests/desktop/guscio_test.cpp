@@ -170,7 +170,7 @@ TEST(Guscio, ALineHasLooksOfItsOwn) {
     desktop::Foglio &foglio = b.f.quadro().foglio();
     const std::pair chi{desktop::Strato(Specie::Ora), 10.0};
     const auto quante = [&](const desktop::StileFoglio &stile, auto quali) {
-        const Tavolo::Disegno d = desktop::Vesti(b.s().tavolo, stile, true);
+        const Tavolo::DisegnoTenuto d = desktop::Vesti(b.s().tavolo, stile, true);
         return std::count_if(d.lista.Linee.begin(), d.lista.Linee.end(), quali);
     };
     desktop::StileFoglio stile = foglio.stile();

@@ -59,8 +59,8 @@ TEST(Pubblicati, AngoliOrariOrizzontali) {
 }
 
 // The level dial's points of a colour, each as the Sun that throws the shadow there.
-std::vector<ombra::Lettura> lette(const prova::Banco &b, const ombra::Piano &piano, Colore colore) {
-    std::vector<ombra::Lettura> l;
+std::vector<ombra::SoleLetto> lette(const prova::Banco &b, const ombra::PianoMontato &piano, Colore colore) {
+    std::vector<ombra::SoleLetto> l;
     for (const RecPunto &p : b.lista().Punti)
         if (p.colore == colore) l.push_back(piano.leggi(ombra::Punto{p.X, -p.Y}));
     return l;
@@ -86,9 +86,9 @@ TEST(Pubblicati, RegolaDellAsr) {
         prova::Banco b = piano(lat, "-15", {"ckAsr"});
         b.esegui();
         const double phi = Val(lat).v * ombra::RADIANTI;
-        const auto punti = lette(b, ombra::Piano({phi, 0, std::numbers::pi / 2, 1}), QB(7));
+        const auto punti = lette(b, ombra::PianoMontato({phi, 0, std::numbers::pi / 2, 1}), QB(7));
         ASSERT_GT(punti.size(), 900U) << lat;
-        for (const ombra::Lettura &l : punti) {
+        for (const ombra::SoleLetto &l : punti) {
             if (l.delta > phi) continue;  // the noon shadow lies to the South: not the rule's case
             ASSERT_NEAR(1 / std::tan(l.altezza), 1 + std::tan(phi - l.delta), 1e-6) << lat;
             ASSERT_GT(l.t, 0) << lat;
@@ -107,8 +107,8 @@ TEST(Pubblicati, RilevamentoDellaQibla) {
         for (const RecTesto &t : b.lista().Testi)
             if (t.Testo.starts_with("Qibla from South = ")) scritta = t.Testo.substr(19);
         EXPECT_NEAR(Val(scritta).v, atteso, 0.1) << r[0];
-        for (const ombra::Lettura &l :
-             lette(b, ombra::Piano({Val(r[1]).v * ombra::RADIANTI, 0, std::numbers::pi / 2, 1}), QB(10))) {
+        for (const ombra::SoleLetto &l :
+             lette(b, ombra::PianoMontato({Val(r[1]).v * ombra::RADIANTI, 0, std::numbers::pi / 2, 1}), QB(10))) {
             // The whole straight line is drawn; the Sun of a day stands on one side of it or the other.
             ASSERT_NEAR(std::remainder(l.azimut * ombra::GRADI - atteso, 180), 0, 0.1) << r[0];
             ++curve;
@@ -121,8 +121,8 @@ TEST(Pubblicati, RilevamentoDellaQibla) {
 TEST(Pubblicati, EstremiDellAnalemma) {
     prova::Banco b = piano("45", "-15", {"ck_Lemniscate"});
     b.esegui();
-    const ombra::Piano livello({45 * ombra::RADIANTI, 0, std::numbers::pi / 2, 1});
-    std::vector<ombra::Lettura> anno;
+    const ombra::PianoMontato livello({45 * ombra::RADIANTI, 0, std::numbers::pi / 2, 1});
+    std::vector<ombra::SoleLetto> anno;
     for (const RecLinea &l : b.linee("Analemma")) anno.push_back(livello.leggi(ombra::Punto{l.X1, -l.Y1}));
     ASSERT_GT(anno.size(), 3600U);
     std::vector<std::pair<double, double>> estremi;  // minutes, declination

@@ -3,22 +3,11 @@
 
 #include "app/progetto.h"
 #include "fuzz.h"
-
-namespace {
-
-struct Muto : ombrelia::Utente {
-    void Messaggio(std::string_view) override {}
-    bool Box(std::string_view, ombrelia::Domanda) override { return true; }
-    std::string Input(std::string_view, std::string_view, std::string_view proposta) override { return std::string(proposta); }
-    std::optional<std::string> File(const ombrelia::RichiestaFile &) override { return {}; }
-    void Beep() override {}
-};
-
-}  // namespace
+#include "sessione/muto.h"
 
 int LLVMFuzzerTestOneInput(const std::uint8_t *dati, std::size_t quanti) {
     using namespace ombrelia;
-    static Muto utente;
+    Muto utente;
     auto testo = TestoDaProgetto(fuzz::Testo(dati, quanti));
     if (!testo) return 0;
     Sessione s(utente);

@@ -60,7 +60,7 @@ std::size_t Pezzi(const Linee &linee, double gioco) {
 
 // A south wall on which numerals are 150 mm high and signs 15.
 struct MuroDiCifre : Banco {
-    explicit MuroDiCifre(Campi campi = {}) : Banco({{"txtInc", "0"}, {"txtArabi", ".15"}, {"txtNumbersize", ".15"}}) {
+    explicit MuroDiCifre(CampiScritti campi = {}) : Banco({{"txtInc", "0"}, {"txtArabi", ".15"}, {"txtNumbersize", ".15"}}) {
         imposta({{"txtZodiacsize", "0.015"}, {"txtLonG", "-15"}, {"ck_Etna", "0"}});
         imposta(campi);
         LeggiParametri(s);

@@ -25,9 +25,9 @@ constexpr Motrice MOTRICI[] = {
 };
 
 // The dial as it is mounted: what a southern run draws is mirrored in x, and its plane declines from the North.
-ombra::Piano montato(const Motrice &m, double lat) {
+ombra::PianoMontato montato(const Motrice &m, double lat) {
     const double g = std::atof(m.dec);
-    return ombra::Piano(
+    return ombra::PianoMontato(
         {lat * RADIANTI, (lat < 0 ? (g < 0 ? -180 - g : 180 - g) : g) * RADIANTI, std::atof(m.inc) * RADIANTI, 0.1});
 }
 
@@ -69,7 +69,7 @@ TEST(Corsa, LineeDiOgniZonaDoveCadeLOmbra) {
                 b.spunta("ck_Etna", zona);
                 b.s.in.CkUNI = m.piana;
                 b.premi(m.bottone);
-                const ombra::Piano piano = montato(m, lat);
+                const ombra::PianoMontato piano = montato(m, lat);
                 std::set<double> ore;
                 double oraPeggiore = 0, giornoPeggiore = 0;
                 perOgniEstremo(b.lista(), australe, [&](const Pretesa &p, double x, double y) {
@@ -103,7 +103,7 @@ TEST(Corsa, AnalemmaDelMeridianoDellaZona) {
                  {"txtY1", "-4"}},
                 {"ck_Lemniscate"});
         b.premi("cmdRun");
-        const ombra::Piano piano = montato(MOTRICI[2], lat);
+        const ombra::PianoMontato piano = montato(MOTRICI[2], lat);
         double somma = 0;
         int punti = 0;
         perOgniEstremo(b.lista(), lat < 0, [&](const Pretesa &p, double x, double y) {

@@ -127,7 +127,7 @@ TEST(Dizionari, OgniTestoTradottoEOgniVoceUsata) {
             Dizionario d;
             d.Interpreta(Contenuto(nome));
             std::set<std::string> sue;
-            for (const Dizionario::Voce &v : d.Voci()) {
+            for (const Dizionario::Lemma &v : d.Voci()) {
                 EXPECT_TRUE(sue.insert(Maiuscolo(v.first)).second) << nome << " has twice: " << v.first;
                 EXPECT_TRUE(tutti.contains(Maiuscolo(v.first)) || RIMASTE.contains(v.first))
                     << nome << " has an entry that no text uses: \"" << v.first << '"';
@@ -164,7 +164,7 @@ TEST(Dizionari, FileInteriConGliSpazi) {
 TEST(Dizionari, TestiTradottiPerVariabile) {
     const auto &[testi, variabili] = DelProgramma();
     const std::set<std::string> senzaTesti{"cli/disegno.cpp",        "lang/dizionario.h",   "lang/dizionario.cpp",
-                                           "sessione/sessione.h",    "app/lingua.cpp",      "reports/foglio.h",
+                                           "sessione/sessione.h",    "app/lingua.cpp",      "reports/tabulato.h",
                                            "desktop/ponte.h",        "desktop/ponte.cpp",   "web/tavola.cpp",
                                            "desktop/note_campi.cpp", "desktop/striscia.cpp"};
     for (const std::string &file : variabili) {

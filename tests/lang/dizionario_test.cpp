@@ -17,7 +17,7 @@ Dizionario Da(const std::string &file) {
     return d;
 }
 
-using Voci = std::vector<Dizionario::Voce>;
+using Voci = std::vector<Dizionario::Lemma>;
 
 TEST(Dizionario, QuelCheUnFileTiene) {
     for (const auto &r : prova::Tabella("dizionario.txt")) {

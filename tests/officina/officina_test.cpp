@@ -26,7 +26,7 @@ struct Foglio200 : Tavolo {
     }
     void linea(P2 a, P2 b, std::string_view strato) { xLine(a.x / 1000, -a.y / 1000, b.x / 1000, -b.y / 1000, 0, strato); }
     void punto(P2 p) { xPset(p.x / 1000, -p.y / 1000, QB(5)); }
-    officina::Disegno pronto(Opzioni o = {}) {
+    officina::Disegno pronto(ComePreparare o = {}) {
         std::string errore;
         officina::Disegno d = Prepara(*this, o, errore);
         EXPECT_EQ(errore, "");
@@ -76,7 +76,7 @@ TEST(Officina, CurveConPochiPunti) {
             return P2{40 * std::cos(std::numbers::pi * i / n), 40 * std::sin(std::numbers::pi * i / n)};
         };
         for (int i = 0; i < n; ++i) f.linea(su(i), su(i + 1), "delta");
-        Opzioni o;
+        ComePreparare o;
         o.tolleranza = t;
         const officina::Disegno d = f.pronto(o);
         ASSERT_EQ(d.cammini.size(), 2U);
@@ -233,8 +233,8 @@ TEST(Officina, LeEtichetteStannoLibere) {
     };
     // A wall that looks South at 45 degrees is lit from 6 to 18.
     for (const Caso &k : {Caso{"45", "0", false, false, 11}, {"45", "0", true, false, 11}, {"-45", "20", false, true, 8}}) {
-        const prova::Campi muro{{"txtLAT", k.lat}, {"txtDec", k.dec}, {"txtInc", "0"},
-                                {"txtX0", "-.6"},  {"txtX1", ".6"},   {"txtY1", "-.8"}};
+        const prova::CampiScritti muro{{"txtLAT", k.lat}, {"txtDec", k.dec}, {"txtInc", "0"},
+                                       {"txtX0", "-.6"},  {"txtX1", ".6"},   {"txtY1", "-.8"}};
         prova::Banco senza(muro, {"chkOreAstronomiche", "Ck_DayLightCurves"});
         prova::Banco con(muro, {"chkOreAstronomiche", "Ck_DayLightCurves", "ckEtichette"});
         for (prova::Banco *b : {&senza, &con}) b->s.australeMontato = k.montato;

@@ -19,12 +19,14 @@ double n(const std::string &t) { return Val(t).v; }
 struct Caso {
     std::mt19937_64 g{20260621};
     double tra(double a, double b) { return std::uniform_real_distribution<double>(a, b)(g); }
-    Quadrante piano() { return {tra(-90, 90) * RADIANTI, tra(-180, 180) * RADIANTI, tra(-90, 90) * RADIANTI, tra(0.01, 0.5)}; }
+    QuadranteMontato piano() {
+        return {tra(-90, 90) * RADIANTI, tra(-180, 180) * RADIANTI, tra(-90, 90) * RADIANTI, tra(0.01, 0.5)};
+    }
 };
 
 TEST(Ombra, PuntiPubblicati) {
     for (const auto &r : prova::Tabella("punti_pubblicati.txt")) {
-        const Piano p({n(r[0]) * RADIANTI, n(r[1]) * RADIANTI, n(r[2]) * RADIANTI, 1});
+        const PianoMontato p({n(r[0]) * RADIANTI, n(r[1]) * RADIANTI, n(r[2]) * RADIANTI, 1});
         const Getto e = p.getta(n(r[3]) * RADIANTI, n(r[4]) * RADIANTI);
         EXPECT_TRUE(e.luce == Luce::Si) << r[8];
         EXPECT_NEAR(e.punto.x, n(r[5]), n(r[7])) << r[8];
@@ -37,15 +39,15 @@ TEST(Ombra, IlRitornoDisfaLAndata) {
     double peggiore = 0, mirato = 0, derivata = 0;
     int lette = 0, notti = 0, dietro = 0;
     while (lette < 1'000'000) {
-        const Quadrante q = c.piano();
-        const Piano p(q);
+        const QuadranteMontato q = c.piano();
+        const PianoMontato p(q);
         for (int k = 0; k < 200; ++k) {
             const double t = c.tra(-180, 180) * RADIANTI, delta = c.tra(-23.44, 23.44) * RADIANTI;
             const Getto e = p.getta(t, delta);
             notti += e.luce == Luce::Notte;
             dietro += e.luce == Luce::Dietro;
             if (e.luce != Luce::Si) continue;
-            const Lettura l = p.leggi(e.punto);
+            const SoleLetto l = p.leggi(e.punto);
             ASSERT_TRUE(l.luce == Luce::Si);
             peggiore = std::max({peggiore, std::fabs(l.t - t), std::fabs(l.delta - delta)});
             ++lette;
@@ -56,7 +58,8 @@ TEST(Ombra, IlRitornoDisfaLAndata) {
             mirato = std::max(mirato, std::hypot(x.numero() - e.punto.x, y.numero() - e.punto.y) / q.gnomone);
             const Moto m = p.moto(t, delta);
             const double h = 1e-6;
-            const Punto a = *p.proietta(Piano::sole(t + h, delta + 2 * h)), b = *p.proietta(Piano::sole(t - h, delta - 2 * h));
+            const Punto a = *p.proietta(PianoMontato::sole(t + h, delta + 2 * h)),
+                        b = *p.proietta(PianoMontato::sole(t - h, delta - 2 * h));
             const double dx = (a.x - b.x) / (2 * h), dy = (a.y - b.y) / (2 * h);
             derivata = std::max(derivata, std::hypot(m.perT.x + 2 * m.perDelta.x - dx, m.perT.y + 2 * m.perDelta.y - dy) /
                                               (q.gnomone + std::hypot(dx, dy)));
@@ -74,10 +77,10 @@ TEST(Ombra, IlRitornoDisfaLAndata) {
 TEST(Ombra, LineeDelPiano) {
     Caso c;
     for (int k = 0; k < 2000; ++k) {
-        const Quadrante q = c.piano();
-        const Piano p(q);
+        const QuadranteMontato q = c.piano();
+        const PianoMontato p(q);
         const Punto a{c.tra(-2, 2) * q.gnomone, c.tra(-2, 2) * q.gnomone};
-        const Lettura l = p.leggi(a);
+        const SoleLetto l = p.leggi(a);
         const auto scarto = [&a](const Retta &r) { return std::fabs(r.a * a.x + r.b * a.y - r.c); };
         // The style's shadow passes through the tip's shadow and through the centre.
         const Retta r = p.ombraDelloStilo(l.t);
@@ -92,13 +95,13 @@ TEST(Ombra, LineeDelPiano) {
         EXPECT_EQ(l.luce == Luce::Mai, l.altezza > 0 && std::fabs(l.delta) > 23.45 * RADIANTI);
     }
     // A wall's horizon runs through the foot; what stands above it lies in the dark.
-    const Piano muro({45 * RADIANTI, 0.3, 0, 0.1});
+    const PianoMontato muro({45 * RADIANTI, 0.3, 0, 0.1});
     EXPECT_NEAR(muro.orizzonte().c, 0, 1e-15);
     EXPECT_TRUE(muro.leggi(Punto{0.02, 0.01}).luce == Luce::Notte);
     EXPECT_TRUE(muro.getta(0, -RADIANTI).luce == Luce::Si && muro.getta(-3.1, 0).luce == Luce::Notte);
     EXPECT_TRUE(muro.getta(-1.6, 0.4).luce == Luce::Dietro);
     // South of the equator, plainly: a wall that looks North, its noon shadow below the foot, the morning's to the left.
-    const Piano sydney({-33.87 * RADIANTI, std::numbers::pi, 0, 0.1});
+    const PianoMontato sydney({-33.87 * RADIANTI, std::numbers::pi, 0, 0.1});
     const Punto mezzodi = sydney.getta(0, 0).punto, mattino = sydney.getta(-0.5, 0).punto;
     EXPECT_NEAR(mezzodi.x, 0, 1e-15);
     EXPECT_NEAR(mezzodi.y, -0.1 * std::tan((90 - 33.87) * RADIANTI), 1e-12);

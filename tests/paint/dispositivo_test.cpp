@@ -18,7 +18,7 @@ constexpr int LATO = 400;
 struct Schermo {
     QImage immagine{LATO, LATO, QImage::Format_RGB32};
     QPainter pittore;
-    paint::Posa posa;
+    paint::PosaDipinta posa;
 
     Schermo() {
         immagine.fill(paint::Sfondo(Supporto::Schermo));

@@ -10,9 +10,9 @@ namespace {
 
 using namespace prova;
 
-struct Punto {
+struct Coordinate {
     double x, y;
-    Punto(const std::string &a, const std::string &b) : x(Numero(a)), y(Numero(b)) {}
+    Coordinate(const std::string &a, const std::string &b) : x(Numero(a)), y(Numero(b)) {}
     [[nodiscard]] bool dentro() const { return std::fabs(x) < 1.99 && std::fabs(y) < 1.99; }
 };
 
@@ -50,7 +50,7 @@ struct Disegnato : BancoRapporti {
 };
 
 // From the nearest line, drawn on.
-double LontananzaRetta(const std::vector<RecLinea> &rette, const Punto &p) {
+double LontananzaRetta(const std::vector<RecLinea> &rette, const Coordinate &p) {
     double vicina = std::numeric_limits<double>::infinity();
     for (const RecLinea &r : rette) vicina = std::min(vicina, distanza(p.x, -p.y, r));
     return vicina;
@@ -66,7 +66,7 @@ TEST(Concordanza, LaSfericaSuOreEDiurne) {
         const auto corde = b.linee("hour"), rette = Rette(corde, 0.02), inverno = b.linee("delta -23.445°");
         for (const auto &riga : RigheTabella(b.apri("OptInter"), 0))
             for (const int lato : {-1, 1}) {
-                const Punto p(riga[lato < 0 ? 2 : 4], riga[lato < 0 ? 3 : 5]);
+                const Coordinate p(riga[lato < 0 ? 2 : 4], riga[lato < 0 ? 3 : 5]);
                 if (!q.illuminato(Numero(riga[1]), lato * 23.445) || !p.dentro()) continue;
                 EXPECT_LT(DaCorde(p.x, -p.y, corde), 0.01) << q.nome << " hour " << riga[0];
                 EXPECT_LT(LontananzaRetta(rette, p), QUATTRO_CIFRE) << q.nome << " hour " << riga[0];
@@ -113,7 +113,7 @@ TEST(Concordanza, LeDiurneSonoQuelleDelMotore) {
             const auto punti = puntiDi(b, QB(9));
             for (const auto &riga : RigheTabella(b.apri("Option1"), 0))
                 for (const std::size_t k : {7U, 8U}) {
-                    const Punto p(riga[0], riga[k]);
+                    const Coordinate p(riga[0], riga[k]);
                     const bool trovato = std::any_of(punti.begin(), punti.end(), [&](const RecPunto &r) {
                         return std::fabs(r.X - p.x) < 1e-9 && std::fabs(-r.Y - p.y) < 0.5001e-4;
                     });
@@ -137,7 +137,7 @@ TEST(Concordanza, LeOreVereSulleRetteScelte) {
                 for (const auto &riga : RigheTabella(r, n)) {
                     const double a = 15 * Numero(riga[0]) - 180;
                     if (!q.illuminato(a, -23.445) && !q.illuminato(a, 23.445)) continue;
-                    Punto ascissa(riga[1], riga[2]), ordinata(riga[3], riga[4]);
+                    Coordinate ascissa(riga[1], riga[2]), ordinata(riga[3], riga[4]);
                     // An east wall at the equator has the ordinates of the west one.
                     if (q.lat == 0 && q.dec == -90) ordinata.y = -ordinata.y;
                     for (const auto &[punto, testo] : {std::pair(ascissa, riga[1]), std::pair(ordinata, riga[4])}) {
@@ -166,7 +166,7 @@ TEST(Concordanza, ItalicheEBabilonicheSulleLoroLinee) {
             };
             for (const auto &riga : RigheTabella(r, 0))
                 for (const int lato : {-1, 1}) {
-                    const Punto p(riga[lato < 0 ? 1 : 3], riga[lato < 0 ? 2 : 4]);
+                    const Coordinate p(riga[lato < 0 ? 1 : 3], riga[lato < 0 ? 2 : 4]);
                     if (!acceso(riga[0], 90 + lato * salita, lato * 23.445) || !p.dentro()) continue;
                     EXPECT_LT(LontananzaRetta(rette, p), QUATTRO_CIFRE) << q.nome << " hour " << riga[0];
                     // A line's two ends are told apart by the winter line alone.
@@ -175,7 +175,7 @@ TEST(Concordanza, ItalicheEBabilonicheSulleLoroLinee) {
                     ++confrontati;
                 }
             for (const auto &riga : RigheTabella(r, 1))  // the chosen lines: on the same straight lines
-                for (const Punto &p : {Punto(riga[1], riga[2]), Punto(riga[4], riga[3])})
+                for (const Coordinate &p : {Coordinate(riga[1], riga[2]), Coordinate(riga[4], riga[3])})
                     EXPECT_TRUE(!acceso(riga[0], 90, 0) || !p.dentro() || LontananzaRetta(rette, p) < QUATTRO_CIFRE + 2e-5)
                         << q.nome << riga[0];
         }

@@ -24,7 +24,7 @@ inline std::vector<std::string> Righe(const Rapporto &r) {
 inline std::vector<std::vector<std::string>> RigheTabella(const Rapporto &r, int n) {
     std::vector<std::vector<std::string>> righe;
     for (const RigaRapporto &riga : r.righe) {
-        if (riga.tabella != n || riga.genere != Genere::Dati) continue;
+        if (riga.tabella != n || riga.genere != GenereRiga::Dati) continue;
         righe.emplace_back();
         for (const Elemento &e : riga.voci)
             if (!e.ornamento) righe.back().push_back(SenzaBlanks(e.testo));

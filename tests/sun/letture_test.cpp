@@ -18,7 +18,7 @@ namespace {
 TEST(Letture, RigheCommentiDivisoriEErrori) {
     for (const auto &r : prova::Tabella("letture.txt")) {
         std::string errore, lette;
-        for (const Lettura &l : LeggiLetture(prova::Scritto(r.at(0)), {.lat = 45}, errore)) {
+        for (const LetturaParete &l : LeggiLetture(prova::Scritto(r.at(0)), {.lat = 45}, errore)) {
             const DatiDeclinazione &d = l.dati;
             lette += std::to_string(l.riga) + ": " + l.testo + ":";
             for (const Valore v : {d.anno, d.mese, d.giorno, d.ore, d.minuti, d.secondi, d.angolo, d.lat})

@@ -17,7 +17,7 @@ namespace {
 TEST(EqTempo, DateTestiENumeri) {
     for (const auto &r : prova::Tabella("sole_date.txt")) {
         std::string mese = r.at(1), giorno = r.at(2);
-        Sole sole;
+        SoleDelPannello sole;
         const Valore v = EqTempo(r.at(0), mese, giorno, Val(r.at(3)), 0, 0, sole);
         EXPECT_EQ(mese + giorno, r.at(4) + r.at(5)) << r.at(0);
         EXPECT_NEAR(sole.giuliano.v, Val(r.at(6)).v, 1e-8) << r.at(0);

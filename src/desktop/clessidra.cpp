@@ -1,5 +1,5 @@
 // A run that lasts.
-#include "desktop/attesa.h"
+#include "desktop/clessidra.h"
 
 #include <QCoreApplication>
 #include <QProgressDialog>
@@ -7,14 +7,14 @@
 
 namespace ombrelia::desktop {
 
-Attesa::Attesa(QWidget *sopra, const QString &testo, const QString &ferma)
+Clessidra::Attesa(QWidget *sopra, const QString &testo, const QString &ferma)
     : sopra_(sopra), testo_(std::make_unique<QString>(testo)), ferma_(std::make_unique<QString>(ferma)) {
     tempo_.start();
 }
 
-Attesa::~Attesa() = default;
+Clessidra::~Clessidra() = default;
 
-void Attesa::guarda() {
+void Clessidra::guarda() {
     constexpr int PAZIENZA = 600, GIRO = 60;  // milliseconds
     if (!box_) {
         if (tempo_.elapsed() < PAZIENZA) return;

@@ -40,11 +40,11 @@ namespace ombrelia::reports {
 using Trilingue = std::array<std::string, 3>;
 
 // One opening of a report. On the screen it empties the form first; to the printer it begins a new document.
-class Foglio {
+class Tabulato {
 public:
-    Foglio(Sessione &s, std::string_view modulo, Uscita uscita);
-    Foglio(const Foglio &) = delete;
-    Foglio &operator=(const Foglio &) = delete;
+    Tabulato(Sessione &s, std::string_view modulo, Uscita uscita);
+    Tabulato(const Tabulato &) = delete;
+    Tabulato &operator=(const Tabulato &) = delete;
 
     [[nodiscard]] bool schermo() const { return uscita_ == Uscita::Schermo; }
     // Of the lines that follow.
@@ -54,7 +54,7 @@ public:
     void riga(std::initializer_list<Elemento> voci);
     // A line whose items are joined to one expression: a fault leaves it out.
     void rigaUnita(std::initializer_list<Elemento> voci);
-    void vuota() { aggiungi({}, Genere::Testo); }
+    void vuota() { aggiungi({}, GenereRiga::Testo); }
     // A label alone, through the dictionary.
     void etichetta(std::string_view testo) { riga({tr(testo)}); }
     [[nodiscard]] Elemento tr(std::string_view testo) const { return s_.Traduci(testo); }
@@ -65,7 +65,7 @@ public:
     void titoli(const Trilingue &righe);
     void intestazioni(const Trilingue &righe);
     // A row of the table begun last.
-    void dati(std::vector<Elemento> voci) { aggiungi(std::move(voci), Genere::Dati); }
+    void dati(std::vector<Elemento> voci) { aggiungi(std::move(voci), GenereRiga::Dati); }
 
     // The legend of the dial's points and of the method of the lengths of shadow, four lines.
     void legenda();
@@ -75,7 +75,7 @@ public:
     void consegna();
 
 private:
-    void aggiungi(std::vector<Elemento> voci, Genere genere);
+    void aggiungi(std::vector<Elemento> voci, GenereRiga genere);
 
     Sessione &s_;
     Uscita uscita_;

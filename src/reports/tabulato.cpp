@@ -1,5 +1,5 @@
 // Writing a report line by line.
-#include "reports/foglio.h"
+#include "reports/tabulato.h"
 
 #include <cstdio>
 
@@ -57,15 +57,15 @@ Elemento Ornamento(std::string_view testo) {
 Elemento Zona() { return separatore(Separatore::Zona, 0); }
 Elemento Spc(int n) { return separatore(Separatore::Blank, n); }
 
-Foglio::Foglio(Sessione &s, std::string_view modulo, Uscita uscita)
+Tabulato::Tabulato(Sessione &s, std::string_view modulo, Uscita uscita)
     : s_(s), uscita_(uscita), r_(uscita == Uscita::Schermo ? s.rapporti.aperto : s.rapporti.stampato) {
     r_ = {};
     r_.modulo = modulo;
     r_.caption = s.titolo(modulo);
 }
 
-void Foglio::aggiungi(std::vector<Elemento> voci, Genere genere) {
-    const int tabella = genere == Genere::Testo ? -1 : static_cast<int>(r_.tabelle.size()) - 1;
+void Tabulato::aggiungi(std::vector<Elemento> voci, GenereRiga genere) {
+    const int tabella = genere == GenereRiga::Testo ? -1 : static_cast<int>(r_.tabelle.size()) - 1;
     std::vector<Elemento> raccolte;
     raccolte.reserve(voci.size());
     for (const Elemento &v : voci) {
@@ -75,32 +75,32 @@ void Foglio::aggiungi(std::vector<Elemento> voci, Genere genere) {
     r_.righe.push_back({std::move(raccolte), colore_, genere, tabella});
 }
 
-void Foglio::riga(std::initializer_list<Elemento> voci) {
+void Tabulato::riga(std::initializer_list<Elemento> voci) {
     if (voci.size() > 0 && !voci.begin()->esiste) return;
-    aggiungi(voci, Genere::Testo);
+    aggiungi(voci, GenereRiga::Testo);
 }
 
-void Foglio::rigaUnita(std::initializer_list<Elemento> voci) {
+void Tabulato::rigaUnita(std::initializer_list<Elemento> voci) {
     for (const Elemento &v : voci)
         if (!v.esiste) return;
-    aggiungi(voci, Genere::Testo);
+    aggiungi(voci, GenereRiga::Testo);
 }
 
-void Foglio::tabella(const std::string &titolo, std::vector<std::string> colonne) {
+void Tabulato::tabella(const std::string &titolo, std::vector<std::string> colonne) {
     r_.tabelle.push_back({titolo, std::move(colonne)});
 }
 
-void Foglio::titoli(const Trilingue &righe) {
+void Tabulato::titoli(const Trilingue &righe) {
     for (const std::string &t : righe)
-        if (!t.empty()) aggiungi({t}, Genere::Titolo);
+        if (!t.empty()) aggiungi({t}, GenereRiga::Titolo);
 }
 
-void Foglio::intestazioni(const Trilingue &righe) {
+void Tabulato::intestazioni(const Trilingue &righe) {
     for (const std::string &t : righe)
-        if (!t.empty()) aggiungi({t}, Genere::Intestazione);
+        if (!t.empty()) aggiungi({t}, GenereRiga::Intestazione);
 }
 
-void Foglio::legenda() {
+void Tabulato::legenda() {
     riga({tr("Legenda : G piede e origine coordinate, "_it), tr("C centro, P incontro sustilare equinoziale, "_it)});
     riga({tr("M incontro linea meridiana equinoziale,"_it), tr("S incontro sustilare con retta orizzontale da M."_it)});
     riga({tr("Metodo delle lunghezze d'ombra :"_it), tr(" se distanza C solstizio e,"_it),
@@ -109,7 +109,7 @@ void Foglio::legenda() {
         {tr("ce distanza C equinoziale,"_it), tr(" se-ce solstizio e equinoziale,"_it), tr(" si-se solstizio i equinoziale"_it)});
 }
 
-void Foglio::chiudi(std::string_view ultima) {
+void Tabulato::chiudi(std::string_view ultima) {
     const std::tm t = s_.rapporti.orologio();
     char data[64], ora[64];
     std::snprintf(data, sizeof data, "%02d-%02d-%04d", t.tm_mon + 1, t.tm_mday, t.tm_year + 1900);
@@ -120,7 +120,7 @@ void Foglio::chiudi(std::string_view ultima) {
     consegna();
 }
 
-void Foglio::consegna() {
+void Tabulato::consegna() {
     const auto &avvisa = schermo() ? s_.rapporti.suApertura : s_.rapporti.suStampa;
     if (avvisa) avvisa(r_);
 }

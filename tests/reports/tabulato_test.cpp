@@ -1,5 +1,5 @@
 // The line model: print zones, blanks, numbers, faults, exports; how reports open, clear and print.
-#include "reports/foglio.h"
+#include "reports/tabulato.h"
 
 #include <functional>
 #include <numeric>
@@ -13,8 +13,8 @@ namespace {
 
 using namespace prova;
 using reports::Fmt;
-using reports::Foglio;
 using reports::Spc;
+using reports::Tabulato;
 using reports::Uscita;
 using reports::Zona;
 
@@ -22,13 +22,13 @@ const Valore NIENTE = Valore::nessuno();
 
 std::string Riga(std::initializer_list<Elemento> voci) {
     Banco b;
-    Foglio f(b.s, "Form1", Uscita::Schermo);
+    Tabulato f(b.s, "Form1", Uscita::Schermo);
     f.riga(voci);
     const auto righe = Righe(b.s.rapporti.aperto);
     return righe.empty() ? "(none)" : righe[0];
 }
 
-TEST(Foglio, ZoneSpaziNumeriEGuasti) {
+TEST(Tabulato, ZoneSpaziNumeriEGuasti) {
     using reports::Numero;
     EXPECT_EQ(Riga({"a", Zona(), "b"}), "a             b");
     EXPECT_EQ(Riga({"12345678901234", Zona(), "b"}), "12345678901234              b")
@@ -43,7 +43,7 @@ TEST(Foglio, ZoneSpaziNumeriEGuasti) {
     EXPECT_EQ(Riga({"a ", Numero(1), Fmt(NIENTE, "0.0"), "tail"}), "a  1 ");
     EXPECT_EQ(Riga({Fmt(NIENTE, "0.0"), "tail"}), "(none)");
     Banco b;
-    Foglio f(b.s, "Form1", Uscita::Schermo);
+    Tabulato f(b.s, "Form1", Uscita::Schermo);
     f.rigaUnita({"a ", reports::Unito(NIENTE), "tail"});
     f.rigaUnita({"b ", reports::Unito(0.015), " m"});
     EXPECT_EQ(Righe(b.s.rapporti.aperto), std::vector<std::string>{"b 0.015 m"});
@@ -53,7 +53,7 @@ TEST(Foglio, ZoneSpaziNumeriEGuasti) {
     EXPECT_EQ(Fmt(-0.12345, ".0000").testo, "-.1235");
 }
 
-TEST(Foglio, LeColonneSeguonoIlDizionario) {
+TEST(Tabulato, LeColonneSeguonoIlDizionario) {
     Banco b;
     const reports::Trilingue teste{"ora   x y   z ", " heure      abscisse", "hour "};
     using Nomi = std::vector<std::string>;
@@ -87,7 +87,7 @@ TEST(Rapporti, CsvEHtmlTengonoIlTesto) {
     EXPECT_EQ(quanti("http"), 0);
     Rapporto cattivo;
     cattivo.caption = "a,\"b\" <i>";
-    cattivo.righe.push_back({{Elemento("x & y = "), reports::Numero(0.1)}, 0, Genere::Testo, -1});
+    cattivo.righe.push_back({{Elemento("x & y = "), reports::Numero(0.1)}, 0, GenereRiga::Testo, -1});
     EXPECT_EQ(reports::RapportoCsv(cattivo), "\xEF\xBB\xBF\"a,\"\"b\"\" <i>\"\r\n\r\nx & y =,0.1\r\n");
     EXPECT_NE(reports::RapportoHtml(cattivo).find("&quot;b&quot; &lt;i&gt;</h1>"), std::string::npos);
 }

@@ -12,12 +12,12 @@ class QString;
 
 namespace ombrelia::desktop {
 
-struct Fermato {};  // thrown where the user stopped a run
+struct Fermato {};  // thrown where a run is given up
 
-class Attesa final : public Dispositivo {
+class Clessidra final : public Dispositivo {
 public:
-    Attesa(QWidget *sopra, const QString &testo, const QString &ferma);
-    ~Attesa() override;
+    Clessidra(QWidget *sopra, const QString &testo, const QString &ferma);
+    ~Clessidra() override;
     void Cls() override {}
     void Linea(double, double, double, double, Colore, int) override { conta(); }
     void Riquadro(double, double, double, double, Colore, bool) override {}

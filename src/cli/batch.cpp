@@ -123,7 +123,7 @@ private:
 };
 
 // Besides these each form of a drawing is an action.
-std::span<const Esecuzione::Azione> Esecuzione::azioni() {
+std::span<const Esecuzione::Verbo> Esecuzione::azioni() {
     using E = Esecuzione;
     static constexpr Verbo TUTTE[] = {
         {"set", &E::set},     {"type", &E::type},     {"check", &E::check},   {"uncheck", &E::uncheck}, {"click", &E::click},

@@ -1,7 +1,7 @@
 // A dial drawn as a command line asks for it: the fields, the engine, the sheet, and the run itself. draw and every other command
 // that works on a drawn dial reads its options here:
 //
-//     Disegno d;
+//     Commissione d;
 //     ... for each word: if (d.Prendi(argc, argv, i, errore)) ... else a word of its own
 //     (or d.opzioni(o) adds the rows to a command's table of options, cli/opzioni.h)
 //     SessioneDiComando c;

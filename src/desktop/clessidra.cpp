@@ -7,7 +7,7 @@
 
 namespace ombrelia::desktop {
 
-Clessidra::Attesa(QWidget *sopra, const QString &testo, const QString &ferma)
+Clessidra::Clessidra(QWidget *sopra, const QString &testo, const QString &ferma)
     : sopra_(sopra), testo_(std::make_unique<QString>(testo)), ferma_(std::make_unique<QString>(ferma)) {
     tempo_.start();
 }

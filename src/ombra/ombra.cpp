@@ -18,7 +18,7 @@ double giro(double ore) {
 
 }  // namespace
 
-PianoMontato::Piano(const QuadranteMontato &q) : q_(q) {
+PianoMontato::PianoMontato(const QuadranteMontato &q) : q_(q) {
     const double sl = std::sin(q.latitudine), cl = std::cos(q.latitudine);
     const double sd = std::sin(q.declinazione), cd = std::cos(q.declinazione);
     const double si = std::sin(q.inclinazione), ci = std::cos(q.inclinazione);

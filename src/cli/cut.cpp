@@ -50,7 +50,7 @@ int Cut(int argc, char **argv) {
     Commissione disegno;
     officina::ComePreparare come;
     std::optional<officina::Testi> testi;
-    officina::Cartiglio foglio;
+    officina::Intestazione foglio;
     std::vector<std::string> uscite;
     const auto uscita = [&](const std::string &p) -> std::string {
         uscite.push_back(p);

@@ -340,7 +340,7 @@ void PerMacchina::salva() {
     // An ending that is another format's asks for that one.
     if (const auto *altro = officina::FormatoMacchinaDi(QFileInfo(*file).suffix().toStdString())) f = altro;
     const DialInputs &in = ponte_.sessione().in;
-    officina::Cartiglio foglio;
+    officina::Intestazione foglio;
     foglio.unita = unita_->currentIndex() == 1 ? officina::Unita::Pollici : officina::Unita::Millimetri;
     foglio.titolo = "Ombrelia: " + in.txtLAT + "°, " + in.txtDec + "°, " + in.txtInc + "°";
     if (const auto errore = ScriviFile(file->toStdString(), f->scrivi(*pronto_, foglio)))

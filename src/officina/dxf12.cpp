@@ -13,7 +13,7 @@ using Tipo = Cammino::Tipo;
 
 class ScrittoreDxf12 {
 public:
-    ScrittoreDxf12(const Disegno &d, const Cartiglio &f)
+    ScrittoreDxf12(const Disegno &d, const Intestazione &f)
         : d_(d), pollici_(f.unita == Unita::Pollici), k_(pollici_ ? 1 / 25.4 : 1) {}
 
     std::string scrivi() {
@@ -213,6 +213,6 @@ private:
 
 }  // namespace
 
-std::string Dxf12(const Disegno &d, const Cartiglio &f) { return ScrittoreDxf12(d, f).scrivi(); }
+std::string Dxf12(const Disegno &d, const Intestazione &f) { return ScrittoreDxf12(d, f).scrivi(); }
 
 }  // namespace ombrelia::officina

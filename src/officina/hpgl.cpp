@@ -87,6 +87,6 @@ private:
 
 }  // namespace
 
-std::string Hpgl(const Disegno &d, const Cartiglio &) { return ScrittoreHpgl(d).scrivi(); }
+std::string Hpgl(const Disegno &d, const Intestazione &) { return ScrittoreHpgl(d).scrivi(); }
 
 }  // namespace ombrelia::officina

@@ -16,7 +16,7 @@ constexpr double CORPO = 1.4;  // font size in heights of capitals
 
 class ScrittorePdf {
 public:
-    ScrittorePdf(const Disegno &d, const Cartiglio &f) : d_(d), pagina_(Pagina(d)), titolo_(f.titolo) {
+    ScrittorePdf(const Disegno &d, const Intestazione &f) : d_(d), pagina_(Pagina(d)), titolo_(f.titolo) {
         const double lato = PUNTI * std::max(pagina_.x1 - pagina_.x0, pagina_.y1 - pagina_.y0);
         // Above the largest page the unit grows: whole, so that sizes stay round.
         unita_ = lato > LATO_MASSIMO ? std::ceil(lato / LATO_MASSIMO) : 1;
@@ -158,6 +158,6 @@ private:
 
 }  // namespace
 
-std::string PdfStrati(const Disegno &d, const Cartiglio &f) { return ScrittorePdf(d, f).scrivi(); }
+std::string PdfStrati(const Disegno &d, const Intestazione &f) { return ScrittorePdf(d, f).scrivi(); }
 
 }  // namespace ombrelia::officina

@@ -12,19 +12,19 @@ namespace ombrelia::officina {
 
 enum class Unita : std::uint8_t { Millimetri, Pollici };
 
-struct Cartiglio {
+struct Intestazione {
     Unita unita = Unita::Millimetri;  // of a DXF; the other forms have units of their own
     std::string titolo;
 };
 
-[[nodiscard]] std::string Dxf12(const Disegno &d, const Cartiglio &f);
-[[nodiscard]] std::string SvgMacchina(const Disegno &d, const Cartiglio &f);
-[[nodiscard]] std::string Hpgl(const Disegno &d, const Cartiglio &f);
-[[nodiscard]] std::string PdfStrati(const Disegno &d, const Cartiglio &f);
+[[nodiscard]] std::string Dxf12(const Disegno &d, const Intestazione &f);
+[[nodiscard]] std::string SvgMacchina(const Disegno &d, const Intestazione &f);
+[[nodiscard]] std::string Hpgl(const Disegno &d, const Intestazione &f);
+[[nodiscard]] std::string PdfStrati(const Disegno &d, const Intestazione &f);
 
 struct FormatoMacchina {
     std::string_view estensione, descrizione;
-    std::string (*scrivi)(const Disegno &, const Cartiglio &);
+    std::string (*scrivi)(const Disegno &, const Intestazione &);
 };
 [[nodiscard]] std::span<const FormatoMacchina> FormatiMacchina();
 // The form of an ending ("dxf") without regard to case, or null.

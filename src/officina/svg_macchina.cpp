@@ -127,6 +127,6 @@ private:
 
 }  // namespace
 
-std::string SvgMacchina(const Disegno &d, const Cartiglio &f) { return ScrittoreSvgMacchina(d).scrivi(f.titolo); }
+std::string SvgMacchina(const Disegno &d, const Intestazione &f) { return ScrittoreSvgMacchina(d).scrivi(f.titolo); }
 
 }  // namespace ombrelia::officina

@@ -290,9 +290,9 @@ std::string Pagina::ApriRapporto(std::string_view nome) {
     // A line: the table that it belongs to (-1 for none), whether it is a row of it, its items.
     j.chiudi(']').nome("righe").apri('[');
     for (const RigaRapporto &x : r.righe) {
-        j.apri('[').numero(x.tabella).vero(x.genere == Genere::Dati).apri('[');
+        j.apri('[').numero(x.tabella).vero(x.genere == GenereRiga::Dati).apri('[');
         for (const Elemento &e : x.voci)
-            if (!(x.genere == Genere::Dati && e.ornamento)) j.testo(SenzaBlanks(e.testo));
+            if (!(x.genere == GenereRiga::Dati && e.ornamento)) j.testo(SenzaBlanks(e.testo));
         j.chiudi(']').chiudi(']');
     }
     return std::move(j.chiudi(']').chiudi('}')).fine();

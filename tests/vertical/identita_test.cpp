@@ -11,7 +11,7 @@ constexpr double CENTESIMO = 1e-5;  // metres
 // ckFunzione: the direct engine draws the days between the solstices with it, the vertical engine without it.
 struct DoppioMuro : prova::QuadroProvato {
     DoppioMuro(const std::string &muro, bool verticale)
-        : Quadro(
+        : QuadroProvato(
               "txtInc=0 TxtStilo=.2 TxtFraz=1 txtLonG=-12 txtX0=-6 txtX1=6 txtY0=6 txtY1=-6 chkOreAstronomiche Ck_DayLightCurves "
               "ck_Equinoziale ck_Lemniscate ckTemp " +
               muro) {

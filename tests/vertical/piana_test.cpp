@@ -14,7 +14,7 @@ namespace {
 // A wall in a wide frame; boxes are set without their clicks, which would clear one another.
 struct Muro : prova::QuadroProvato {
     Muro(const std::string &campi, const std::string &caselle)
-        : Quadro("txtInc=0 txtLAT=45 TxtStilo=.2 TxtFraz=1 txtX0=-6 txtX1=6 txtY0=6 txtY1=-6 " + campi) {
+        : QuadroProvato("txtInc=0 txtLAT=45 TxtStilo=.2 TxtFraz=1 txtX0=-6 txtX1=6 txtY0=6 txtY1=-6 " + campi) {
         casella("CkUNI");
         for (const std::string &c : prova::Divisi(caselle, ' ')) casella(c);
     }

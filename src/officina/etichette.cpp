@@ -149,20 +149,20 @@ private:
     bool posa(const LineaDaScrivere &l, const std::string &testo, bool curva, const std::optional<P2> &centro, IdNome strato) {
         const double largo = LarghezzaTratti(testo, s_.altezza);
         // Ends, the outermost first: of a curve the rightmost, of a ray the farthest from where its family meets.
-        struct Estremo {
+        struct CapoLinea {
             double quanto;
             const std::vector<P2> *pezzo;
             bool coda;
         };
-        std::vector<Estremo> capi;
+        std::vector<CapoLinea> capi;
         for (const auto &p : l.pezzi)
             for (const bool coda : {false, true}) {
                 const P2 e = coda ? p.back() : p.front();
                 capi.push_back({curva ? e.x : centro ? Distanza(e, *centro) : -e.y, &p, coda});
             }
-        std::sort(capi.begin(), capi.end(), [](const Estremo &a, const Estremo &b) { return a.quanto > b.quanto; });
+        std::sort(capi.begin(), capi.end(), [](const CapoLinea &a, const CapoLinea &b) { return a.quanto > b.quanto; });
         const double aria = ARIA * s_.altezza;
-        for (const Estremo &c : capi) {
+        for (const CapoLinea &c : capi) {
             for (int k = -1; k < INDIETRO; ++k) {
                 const auto posto = lungo(*c.pezzo, c.coda, k < 0 ? 0 : largo / 2 + aria + 0.5 * k * s_.altezza);
                 if (!posto) break;

@@ -65,6 +65,15 @@ inline Valore DalLatoDi(Valore guida, Valore angolo) {
     return angolo > 0 ? angolo - PI : angolo + PI;
 }
 
+// The substyle's angle, known but for half a turn, on the side of the plane on which the centre (x, y) does not lie; within half
+// a turn, radians.
+inline Valore SustilareDalCentro(Valore sigma, Valore x, Valore y) {
+    Reale s = sigma;
+    if (x <= 0 && y < 0) s = s + PI;
+    else if (x > 0 && y < 0) s = s - PI;
+    return Abs(s) > PI ? -Abs(2 * PI - Abs(s)) * Sgn(s) : Valore(s);
+}
+
 // --- walls (i = 0) --------------------------------------------------------------------------------------------------
 
 // Elevation of the style over a wall; negative over one that looks away from the equator. Faults at +-1, so on a wall

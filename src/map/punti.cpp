@@ -30,17 +30,24 @@ void DisegnaCitta(Sessione &s) {
     }
 }
 
+namespace {
+
+// The place, as typed, of the point that was asked for last, degrees.
+void lasciaPunto(Variabili &v, const Lettura &letto) { v.deltaOpz = letto.delta; }
+
+}  // namespace
+
 void PuntoOpzionale(Sessione &s) {
     const DialInputs &in = s.in;
-    Variabili &v = s.v;
+    const Lettura letto(in);
     s.Messaggio(s.Traduci("Optional position"));
     LeggiUnita(s);
-    v.deltaOpz = Val(in.txtDelta);
+    lasciaPunto(s.v, letto);
+    const double zr = LeggiPiano(s, letto, letto.gn);
+    const Variabili &v = s.v;
     // The hour angle is the site's own already: with true lines the longitude is not taken once more.
-    const Reale H = PI * (in.ckCorretta == 1 ? Val(in.txtAO) : Val(in.txtAO) - Val(in.txtLonG)) / 180;
+    const Reale H = PI * (in.ckCorretta == 1 ? Val(in.txtAO) : Val(in.txtAO) - letto.lon) / 180;
     const Reale D = PI * v.deltaOpz / 180;
-    const double zr = LeggiPiano(s);
-    v.gn = Val(in.TxtStilo);
     s.in.punto = 0;
 
     Reale x, y;

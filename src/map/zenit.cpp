@@ -11,25 +11,24 @@ int segno(double x) { return (x > 0) - (x < 0); }
 
 bool Specchiato(const Sessione &s) { return s.in.ckCorretta == 1 && Val(s.in.txtLAT) < 0; }
 
-double LeggiPiano(Sessione &s) {
+double LeggiPiano(Sessione &s, const Lettura &letto, Valore gn) {
     Variabili &v = s.v;
-    v.latR = PI * Val(s.in.txtLAT) / 180;
+    v.latR = PI * letto.lat / 180;
     if (Specchiato(s)) v.latR = -v.latR;
-    v.dec = Val(s.in.txtDec);
+    v.dec = letto.dec;
     v.decR = PI * v.dec / 180;
-    if (Val(s.in.txtInc) == 90) v.decR = 0;
-    const Reale zr = PI * (90 - Val(s.in.txtInc)) / 180;
+    if (letto.inc == 90) v.decR = 0;
+    v.gn = gn;
+    const Reale zr = PI * (90 - letto.inc) / 180;
     return zr.numero();
 }
 
-Zenit::Zenit(Sessione &s) : Zenit(s, LeggiPiano(s), Val(s.in.TxtStilo) * s.v.unita) {}
-
-Zenit::Zenit(Sessione &s, double zr, Valore gn)
+Zenit::Zenit(const Sessione &s, const Lettura &letto, double zr)
     : senPhi_(std::sin(s.v.latR.numero())),
       cosPhi_(std::cos(s.v.latR.numero())),
-      proiezione_(s.v.latR, s.v.decR, zr, s.v.gn = gn, 1),
+      proiezione_(s.v.latR, s.v.decR, zr, s.v.gn, 1),
       fattore_((s.in.ck_inv == 1 || s.in.ckCorretta == 1) && !Specchiato(s) ? -1 : 1),
-      orizzontale_(Val(s.in.txtInc) == 90),
+      orizzontale_(letto.inc == 90),
       tanDec_(std::tan(s.v.decR.numero())),
       divisore_(std::tan(zr) * std::cos(s.v.decR.numero())),
       negativo_(Abs(s.v.dec) < 90) {}

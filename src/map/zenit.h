@@ -9,9 +9,9 @@ namespace ombrelia {
 // Whether the plane is that of a southern site as a corrected run draws it: mirrored, with the seasons exchanged.
 bool Specchiato(const Sessione &s);
 
-// Site and plane from the fields into the shared variables latR (signed, but for a mirrored one), dec and decR; gives the
-// complement of the inclination, radians. A horizontal plane has no declination.
-double LeggiPiano(Sessione &s);
+// Site, plane and gnomon from the fields into the shared variables latR (signed, but for a mirrored one), dec, decR and gn; gives
+// the complement of the inclination, radians. A horizontal plane has no declination.
+double LeggiPiano(Sessione &s, const Lettura &letto, Valore gn);
 
 // Given a place (X degrees West of the site, Y minus the latitude) gives the point of the plane that shows it, metres,
 // y upward. Azimuth, zenith distance and side of the plane keep their old values from place to place where they fault,
@@ -19,12 +19,13 @@ double LeggiPiano(Sessione &s);
 class Zenit {
 public:
     // Reads site, plane and gnomon (gn is scaled) into the shared variables; unita is read before.
-    explicit Zenit(Sessione &s);
+    explicit Zenit(Sessione &s) : Zenit(s, Lettura(s.in)) {}
     // Whether the place lies in front of the plane; only then x and y are given.
     bool operator()(Valore X, Valore Y, Reale &x, Reale &y);
 
 private:
-    Zenit(Sessione &s, double zr, Valore gn);
+    Zenit(Sessione &s, const Lettura &letto) : Zenit(s, letto, LeggiPiano(s, letto, letto.gn * s.v.unita)) {}
+    Zenit(const Sessione &s, const Lettura &letto, double zr);
 
     double senPhi_, cosPhi_;
     Proiezione proiezione_;

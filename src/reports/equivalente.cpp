@@ -1,4 +1,6 @@
 // The data of the equivalent vertical dial, worked out again on the original one: the fields hold the equivalent by now.
+#include "gnomonica/equivalente.h"
+
 #include "gnomonica/conica.h"
 #include "gnomonica/declinazioni.h"
 #include "reports/tabulato.h"
@@ -11,41 +13,25 @@ Elemento gradi(Valore radianti) { return Fmt(Gradi(radianti), "0.00000"); }
 
 // The wall: f1 and d1 in radians, E the elevation of the original's style with its sign turned. d1 has no sign yet; s is it.
 struct Parete {
-    Reale A, E, s, f1, d1;
+    Reale E, s, f1, d1;
 };
 
-// The d1 that the general case gives, without its sign.
-Valore declinazione(const Variabili &v, Valore f1) {
-    return ArcCos(((cos(v.incR) * sin(f1) - sin(v.latR)) / (sin(v.incR) * cos(f1))) * Sgn(f1));
-}
-
-Parete parete(Variabili &v) {
-    const Valore si = sin(v.incR), ci = cos(v.incR), sf = sin(v.latR), cf = cos(v.latR), sg = sin(v.decR), cg = cos(v.decR);
+Parete parete(Conto &v) {
+    const Piano piano(v);
+    const PareteEquivalente e = EquivalenteDi(piano, v.dec);
     Parete p;
-    p.A = si * sf - ci * cf * cg;
-    p.E = ArcSin(p.A);
-    p.s = Sgn(v.decR);  // 0 for a plane without declination, unlike elsewhere: meant
-    const Reale B = ci * sf + si * cf * cg;
-    if (v.dec == 0 && p.A > 0) {
-        p.f1 = ArcSin(B);
-        p.s = 1;
-        p.d1 = PI;
-        v.diffLong = PI;
-    } else if (v.inc != 90) {
-        p.f1 = ArcSin(B);
-        v.segnoTrasf = Sgn(p.f1);
-        const Reale W = si * sg / cos(p.f1);
-        if (v.dec == 0) v.diffLong = 0;
-        else if (Abs(v.dec) == 180) v.diffLong = PI;
-        else v.diffLong = ArcCos((ci - sf * sin(p.f1)) / (cf * cos(p.f1))) * Sgn(W);
-        if (v.dec == 0) p.d1 = 0;
-        else if (Abs(v.dec) == 180) p.d1 = PI;
-        else p.d1 = declinazione(v, p.f1);
-    }
+    const Reale A = piano.senStilo();
+    p.E = ArcSin(A);
+    p.s = e.girata ? Valore(1) : Sgn(v.decR);  // 0 for a plane without declination, unlike elsewhere: meant
+    if (!e.girata && v.inc == 90) return p;
+    p.f1 = e.f1;
+    p.d1 = e.d1;
+    v.diffLong = e.diffLong;
+    if (!e.girata) v.segnoTrasf = Sgn(p.f1);
     return p;
 }
 
-void orizzontale(Variabili &v, Tabulato &f) {
+void orizzontale(Conto &v, Tabulato &f) {
     f.etichetta("QUADRANTE VERTICALE EQUIVALENTE al quadrante orizzontale"_it);
     f.riga({f.tr("latitudine f1 = "_it), gradi(PI / 2 - v.latR), "°  "});
     f.riga({f.tr("declinazione d1 = "_it), Numero(180), "°  "});
@@ -56,7 +42,7 @@ void orizzontale(Variabili &v, Tabulato &f) {
     v.yOriz = 100000;
 }
 
-void inclinato(Variabili &v, Tabulato &f, const Parete &p) {
+void inclinato(const Conto &v, Tabulato &f, const Parete &p) {
     f.etichetta("QUADRANTE VERTICALE EQUIVALENTE "_it);
     f.riga({f.tr("latitudine f1 = "_it), gradi(p.f1), "°  "});
     const Valore d1 = Gradi(p.d1);
@@ -79,8 +65,7 @@ void inclinato(Variabili &v, Tabulato &f, const Parete &p) {
     Reale L, V;
     if (v.decR != 0 && v.latR != 0) L = Atn(-1 / (tan(v.decR) * sin(v.latR)));
     if (v.latR == 0) L = -PI / 2;
-    const Valore c = cos(v.incR) * sin(v.latR) + sin(v.incR) * cos(v.latR) * cos(v.decR);
-    const Reale e = PI / 2 - ArcSin(c);
+    const Reale e = PI / 2 - ArcSin(Piano(v).senZenit());
     const Reale w = sin(v.incR) * sin(v.decR) / sin(e);
     V = ArcSin(w);
     const auto tagliata = [&](std::string_view nome, Valore x, std::string_view coda) {
@@ -92,16 +77,15 @@ void inclinato(Variabili &v, Tabulato &f, const Parete &p) {
 }
 
 // Where the solstices meet the horizon and the line x = 0 on the wall.
-void solstizi(Sessione &s, Tabulato &f, Parete &p) {
-    Variabili &v = s.v;
-    p.d1 = p.s * declinazione(v, p.f1);
+void solstizi(Conto &v, Tabulato &f, Parete &p) {
+    p.d1 = p.s * DeclinazioneEquivalente(Piano(v), p.f1);
     Reale yo, xPiu, xMeno, yPiu, yMeno;
-    yo = Val(s.in.txtOriz) * 1;
-    v.segnoDec = v.dec == 0 ? Valore(1) : Sgn(v.decR);
+    yo = v.letto.oriz * 1;
+    v.segnoDec = SegnoDeclinazione(v.dec, v.decR);
     bool daConica = true;
     if (v.lat == 0) {
         v.angSustilare = (PI / 2) * v.segnoDec;
-        v.altStilo = PI / 2 - Abs(p.d1);
+        v.altStilo = StiloMuroEquatore(p.d1);
         v.angoloOra = (PI / 2) * v.segnoDec;
         if (v.dec == 0) {
             xPiu = v.gn / tan(Radianti(OBLIQUITA));
@@ -109,11 +93,10 @@ void solstizi(Sessione &s, Tabulato &f, Parete &p) {
             daConica = false;
         }
     } else {
-        const Valore cf = cos(p.f1), cd = cos(p.d1);
-        v.angSustilare = Atn(sin(p.d1) / tan(p.f1)) * v.segnoLat2;
-        v.altStilo = Atn(cf * cd / Sqr(1 - cd * cd * (cf * cf)));
+        v.angSustilare = SustilareMuro(p.f1, p.d1) * v.segnoLat2;
+        v.altStilo = StiloMuroQuadrati(p.f1, p.d1);
     }
-    v.y0 = v.gn * tan(v.altStilo);
+    v.y0 = DistanzaEquinoziale(v.gn, v.altStilo);
     Conica k;
     k.calcola(QuadratoCotangente(OBLIQUITA), v.altStilo, v.gn);
     if (Abs(v.inc_o) != 90) {
@@ -139,41 +122,48 @@ void solstizi(Sessione &s, Tabulato &f, Parete &p) {
 }
 
 // Substyle of the original plane: its hour angle goes to angoloOra, its angle is given, radians.
-Valore sustilareOriginale(Variabili &v) {
+Valore sustilareOriginale(Conto &v) {
+    const Piano piano(v);
     Reale n;
-    n = sin(v.decR) / (sin(v.latR) * cos(v.decR) + cos(v.latR) * tan(v.incR));
-    v.angoloOra = Atn(n);
-    if (Sgn(sin(v.angoloOra)) != Sgn(sin(v.decR))) v.angoloOra = v.angoloOra > 0 ? v.angoloOra - PI : v.angoloOra + PI;
+    n = piano.sg / piano.divisoreOra();
+    v.angoloOra = DalLatoDi(v.decR, Atn(n));
 
-    Reale D = sin(v.incR) * sin(v.latR) - cos(v.incR) * cos(v.latR) * cos(v.decR);
+    Reale D = piano.senStilo();
     const bool estOvest = Abs(v.declinSessag) == 90;
     if ((v.incR == 0 && (estOvest || Abs(v.dec) == 90)) || (v.latR == 0 && estOvest)) D = 0;
     Reale X, Y, u;
-    if (D != 0) {
-        X = (v.gn / D) * cos(v.latR) * sin(v.decR);
-        Y = (-v.gn / D) * (sin(v.latR) * cos(v.incR) + cos(v.latR) * sin(v.incR) * cos(v.decR));
-    }
     if (v.latR == 0 && v.incR == 0) u = (PI / 2) * Sgn(v.decR);
-    else u = Atn(sin(v.decR) / (tan(v.latR) * cos(v.incR) + cos(v.decR) * sin(v.incR)));
+    else u = Atn(piano.tanSustilare());
     if (D != 0) {
-        if (X <= 0 && Y < 0) u = u + PI;
-        else if (X > 0 && Y < 0) u = u - PI;
-        if (Abs(u) > PI) u = -Abs(2 * PI - Abs(u)) * Sgn(u);
+        X = (v.gn / D) * piano.cphi * piano.sg;
+        Y = (-v.gn / D) * piano.senZenit();
+        u = SustilareDalCentro(u, X, Y);
     }
     if (v.latR != 0 && v.segnoLat2 == -1) u = -u;
     return u;
 }
 
+void lascia(Variabili &v, const Conto &conto) {
+    using V = Variabili;
+    // The original dial in the place of the fields'; unit and zone.
+    Lascia(v, conto,
+           {&V::latR, &V::segnoLat2, &V::decR, &V::segnoDec, &V::incR, &V::lon, &V::lonCopia, &V::meridiano, &V::unita});
+    // What makes it the equivalent one; the equivalent's substyle and style, the original's hour of the substyle.
+    Lascia(v, conto, {&V::diffLong, &V::segnoTrasf, &V::angSustilare, &V::altStilo, &V::y0, &V::angoloOra, &V::yOriz});
+    // The discriminant of the solstices' ordinates, in the place of the declination of choice: meant.
+    Lascia(v, conto, {&V::deltaOpz});
+}
+
 }  // namespace
 
 void DatiEquivalente(Sessione &s, Uscita uscita) {
-    Variabili &v = s.v;
-    if (uscita == Uscita::Stampa && v.flagVerticale != 1) return DatiFondamentali(s, uscita);
+    if (uscita == Uscita::Stampa && s.v.flagVerticale != 1) return DatiFondamentali(s, uscita);
+    Conto v(s, Lettura(s.in));
     Tabulato f(s, "Form10", uscita);
-    v.unita = s.in.ChCentimetro == 1 ? 0.001 : 1.0;
-    v.lon = Val(s.in.txtLonG);
-    v.meridiano = Val(s.in.txtMeridiano);
-    v.segnoLat2 = v.latR == 0 ? Valore(1) : Sgn(v.latR);
+    v.unita = v.letto.unita;
+    v.lon = v.letto.lon;
+    v.meridiano = v.letto.meridiano;
+    v.segnoLat2 = SegnoLatitudine(v.latR);
     v.latR = v.lat_o;
     v.decR = v.dec_o;
     v.incR = v.iz_o;
@@ -186,9 +176,10 @@ void DatiEquivalente(Sessione &s, Uscita uscita) {
     if (v.inc == 90) orizzontale(v, f);
     else inclinato(v, f, p);
     f.colore(BLU);
-    if (v.incR != 0) solstizi(s, f, p);
+    if (v.incR != 0) solstizi(v, f, p);
 
     const Valore u = sustilareOriginale(v);
+    lascia(s.v, v);
     f.colore(NERO);
     f.riga({f.tr("angolo sustilare = "_it), gradi(u), "°  "});
     f.riga({f.tr("ora sustilare = "_it), Fmt(12 + v.angoloOra * 12 / PI, "0.00000")});

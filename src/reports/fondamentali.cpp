@@ -2,6 +2,7 @@
 #include "gnomonica/conica.h"
 #include "gnomonica/declinazioni.h"
 #include "gnomonica/longitudine.h"
+#include "gnomonica/stilo.h"
 #include "reports/tabulato.h"
 
 namespace ombrelia::reports {
@@ -13,63 +14,55 @@ struct Preparazione {
     Reale sigma, s0, xC, yC;
 };
 
-void leggi(Sessione &s) {
-    Variabili &v = s.v;
-    v.segnoDec = v.dec == 0 ? Valore(1) : Sgn(v.decR);
-    v.unita = s.in.ChCentimetro == 1 ? 0.001 : 1.0;
-    v.incR = Val(s.in.txtInc) * PI / 180;
-    v.latR = Val(s.in.txtLAT) * PI / 180;
+void leggi(Conto &v) {
+    const Lettura &letto = v.letto;
+    v.segnoDec = SegnoDeclinazione(v.dec, v.decR);
+    v.unita = letto.unita;
+    v.incR = letto.inc * PI / 180;
+    v.latR = letto.lat * PI / 180;
     if (v.latR == 0) v.latR = 1e-07;  // this report never divides by a latitude of 0
     v.segnoLat2 = Sgn(v.latR);
-    v.lonCopia = Val(s.in.txtLonG);
+    v.lonCopia = letto.lon;
     v.incR2 = v.incR;
-    v.gn = Val(s.in.TxtStilo);
+    v.gn = letto.gn;
     v.yOriz = v.gn * tan(v.incR2);
-    v.decGradi = Val(s.in.txtDec);
+    v.decGradi = letto.dec;
     if (Abs(v.decGradi) > 180) v.decGradi = v.decGradi - Sgn(v.decGradi) * 360;
     v.declinSessag = v.decGradi;
     v.decR = v.declinSessag * PI / 180;
-    v.deltaOpz = Val(s.in.txtDelta);
-    v.lon = Val(s.in.txtLonG);
-    v.meridiano = Val(s.in.txtMeridiano);
+    v.deltaOpz = letto.delta;
+    v.lon = letto.lon;
+    v.meridiano = letto.meridiano;
 }
 
-Valore senoStilo(const Variabili &v) { return sin(v.incR) * sin(v.latR) - cos(v.incR) * cos(v.latR) * cos(v.decR); }
-
-Preparazione prepara(Sessione &s) {
-    leggi(s);
-    Variabili &v = s.v;
+Preparazione prepara(Conto &v) {
+    leggi(v);
+    const Piano piano(v);
     Preparazione p;
-    p.s0 = senoStilo(v);
+    p.s0 = piano.senStilo();
     if (Abs(p.s0) == 1) v.altStilo = (-PI / 2) * Sgn(p.s0);
     else v.altStilo = -Atn(p.s0 / Sqr(-p.s0 * p.s0 + 1));
 
-    const Valore inc = Val(s.in.txtInc);
-    if (inc == 90) {
+    if (v.letto.inc == 90) {
         v.angoloOra = 0;
     } else {
         Reale T;
-        T = sin(v.decR) / (sin(v.latR) * cos(v.decR) + cos(v.latR) * tan(v.incR));
-        v.angoloOra = inc > 90 ? -Atn(T) : Atn(T);
-        if (Sgn(sin(v.angoloOra)) == Sgn(sin(v.decR))) v.angoloOra = Atn(T);
-        else v.angoloOra = v.angoloOra > 0 ? v.angoloOra - PI : v.angoloOra + PI;
+        T = piano.sg / piano.divisoreOra();
+        v.angoloOra = v.letto.inc > 90 ? -Atn(T) : Atn(T);
+        // On the right side already, an overhanging plane's is taken with its sign turned back: meant.
+        v.angoloOra = Sgn(sin(v.angoloOra)) == Sgn(piano.sg) ? Atn(T) : DalLatoDi(v.decR, v.angoloOra);
     }
 
-    p.s0 = senoStilo(v);
     if ((v.incR == 0 || v.latR == 0) && Abs(v.declinSessag) == 90) p.s0 = 0;
     if (p.s0 != 0) {
-        p.xC = (v.gn / p.s0) * cos(v.latR) * sin(v.decR);
-        p.yC = (-v.gn / p.s0) * (sin(v.latR) * cos(v.incR) + cos(v.latR) * sin(v.incR) * cos(v.decR));
+        p.xC = (v.gn / p.s0) * piano.cphi * piano.sg;
+        p.yC = (-v.gn / p.s0) * piano.senZenit();
     }
 
     Reale T2;
-    T2 = sin(v.decR) / (tan(v.latR) * cos(v.incR) + cos(v.decR) * sin(v.incR));
+    T2 = piano.tanSustilare();
     p.sigma = Atn(T2);
-    if (p.s0 != 0) {
-        if (p.xC <= 0 && p.yC < 0) p.sigma = p.sigma + PI;
-        else if (p.xC > 0 && p.yC < 0) p.sigma = p.sigma - PI;
-        if (Abs(p.sigma) > PI) p.sigma = -Abs(2 * PI - Abs(p.sigma)) * Sgn(p.sigma);
-    }
+    if (p.s0 != 0) p.sigma = SustilareDalCentro(p.sigma, p.xC, p.yC);
     if (v.segnoLat2 == -1) p.sigma = -p.sigma;
 
     v.assostiloLen = Abs(v.gn / sin(v.altStilo));
@@ -84,16 +77,15 @@ Preparazione prepara(Sessione &s) {
     return p;
 }
 
-void primari(Sessione &s, Tabulato &f, const Preparazione &p) {
-    const Variabili &v = s.v;
+void primari(const Sessione &s, const Conto &v, Tabulato &f, const Preparazione &p) {
     const std::string_view misura = TestoUnita(s);
     const auto gradi = [](Valore radianti) { return Fmt(Gradi(radianti), "0.00000"); };
     const auto eccentricita = [&](Valore delta) { return Fmt(Abs(cos(v.altStilo) / sin(Radianti(delta))), "0.00000"); };
     f.etichetta("PARAMETRI PRIMARI DEL QUADRANTE SOLARE ORIGINALE"_it);
-    f.riga({f.tr("Latitudine "_it), Numero(Val(s.in.txtLAT) * v.segnoLat)});
-    f.rigaUnita({f.tr("Longitudine "_it), Unito(Val(s.in.txtLonG))});
-    f.rigaUnita({f.tr("Declinazione "_it), Unito(Val(s.in.txtDec))});
-    f.rigaUnita({f.tr("Inclinazione zenitale "_it), Unito(Val(s.in.txtInc))});
+    f.riga({f.tr("Latitudine "_it), Numero(v.letto.lat * v.segnoLat)});
+    f.rigaUnita({f.tr("Longitudine "_it), Unito(v.letto.lon)});
+    f.rigaUnita({f.tr("Declinazione "_it), Unito(v.letto.dec)});
+    f.rigaUnita({f.tr("Inclinazione zenitale "_it), Unito(v.letto.inc)});
     const Valore orizzonte = v.gn * tan(v.incR2);
     f.rigaUnita({f.tr("ordinata orizzonte = "_it), Unito(Tronca5(orizzonte)).vero(orizzonte), misura});
     f.etichetta("T R I A N G O L O  dello S T I L O"_it);
@@ -108,8 +100,8 @@ void primari(Sessione &s, Tabulato &f, const Preparazione &p) {
         {f.tr("Longitudine per lemniscata sustilare "_it), Fmt(-DalMeridiano(Gradi(v.angoloOra), v.meridiano), "0.00000"), " °"});
     f.etichetta("Eccentricità linee diurne "_it);
     f.riga({f.tr("Solstizi "_it), eccentricita(OBLIQUITA)});
-    f.riga({f.tr("linee diurne 20° "_it), eccentricita(20)});
-    f.riga({f.tr("linee diurne 11.5° "_it), eccentricita(11.5)});
+    f.riga({f.tr("linee diurne 20° "_it), eccentricita(DELTA_SEGNI)});
+    f.riga({f.tr("linee diurne 11.5° "_it), eccentricita(DELTA_SEGNI_VICINI)});
     f.riga({f.tr("linee diurne "_it), Numero(v.deltaOpz), "°", eccentricita(v.deltaOpz)});
     const Elemento costante = Unito(CostanteLocale(v));
     if (AltroMeridiano(v))
@@ -117,8 +109,7 @@ void primari(Sessione &s, Tabulato &f, const Preparazione &p) {
     else f.rigaUnita({f.tr("Costante locale = "_it), costante, " p"});
 }
 
-void lunghezze(Sessione &s, Tabulato &f, const Preparazione &p) {
-    const Variabili &v = s.v;
+void lunghezze(const Sessione &s, const Conto &v, Tabulato &f, const Preparazione &p) {
     const std::string_view misura = TestoUnita(s);
     const auto cinque = [](Valore x) { return Fmt(x, "0.00000"); };
     f.colore(NERO);
@@ -151,11 +142,10 @@ void lunghezze(Sessione &s, Tabulato &f, const Preparazione &p) {
 }
 
 // Where the day lines of the solstices, then of txtDelta, meet the horizon and the line x = 0.
-void lineeDiurne(Sessione &s, Tabulato &f) {
-    Variabili &v = s.v;
-    const Reale dOpz = Val(s.in.txtDelta);
+void lineeDiurne(Conto &v, Tabulato &f) {
+    const Reale dOpz = v.letto.delta;
     const Reale Y = v.yOriz;
-    v.segnoDec = v.dec == 0 ? Valore(1) : Sgn(v.decR);
+    v.segnoDec = SegnoDeclinazione(v.dec, v.decR);
     Conica k;
     Reale m, xPiu, xMeno, yPiu, yMeno;
     const struct {
@@ -168,10 +158,9 @@ void lineeDiurne(Sessione &s, Tabulato &f) {
          "Ordinate delle intersezioni della linea diurna a scelta con la retta x = 0 "_it},
     };
     for (const auto &linea : linee) {
-        v.angSustilare = Atn(sin(v.decR) / tan(v.latR));
-        const Valore cl = cos(v.latR), cd = cos(v.decR);
-        v.altStilo = Atn(cl * cd / Sqr(1 - cd * cd * (cl * cl)));
-        v.y0 = v.gn * tan(v.altStilo);
+        v.angSustilare = SustilareMuro(v.latR, v.decR);
+        v.altStilo = StiloMuroQuadrati(v.latR, v.decR);
+        v.y0 = DistanzaEquinoziale(v.gn, v.altStilo);
         m = QuadratoCotangente(linea.delta);
         k.calcola(m, v.altStilo, v.gn);
         const Radici x = AscisseConica(k, v.angSustilare, v.y0, Y);
@@ -188,15 +177,14 @@ void lineeDiurne(Sessione &s, Tabulato &f) {
 }
 
 // The hours along the equinoctial, from its meeting with the substyle.
-void equinoziale(Sessione &s, Tabulato &f) {
-    Variabili &v = s.v;
-    v.oraFuso = s.in.ck_Etna == 1 ? 1 : 0;
-    v.lon = Val(s.in.txtLonG);
+void equinoziale(const Sessione &s, Conto &v, Tabulato &f) {
+    v.oraFuso = v.letto.fuso ? 1 : 0;
+    v.lon = v.letto.lon;
     LasciaDalMeridiano(v);
-    v.corrLong = (v.lonPiu15 * PI / 180) * v.oraFuso;
+    v.corrLong = CorrezioneFuso(v);
     Reale L, E;
-    L = v.gn / cos(ArcSin(senoStilo(v)));
-    v.fraz = Val(s.in.TxtFraz);
+    L = v.gn / cos(ArcSin(Piano(v).senStilo()));
+    v.fraz = v.letto.fraz;
     const std::string titolo = s.Traduci("Coo equinoziali delle ore. L'origine è P, incontro equinoziale-sustilare");
     const std::string teste = s.Traduci("AO                         ora                        Ascissa eq");
     f.vuota();
@@ -209,16 +197,34 @@ void equinoziale(Sessione &s, Tabulato &f) {
     }
 }
 
+void lascia(Variabili &v, const Conto &conto) {
+    using V = Variabili;
+    // Site and plane as typed, the latitude with its sign, the declination within half a turn; unit, zone, parts of the hour.
+    Lascia(v, conto,
+           {&V::latR, &V::segnoLat2, &V::decR, &V::decGradi, &V::declinSessag, &V::segnoDec, &V::incR, &V::incR2, &V::gn,
+            &V::unita, &V::lon, &V::lonCopia, &V::lonPiu15, &V::meridiano, &V::oraFuso, &V::corrLong, &V::fraz});
+    // Style and substyle; these two last are the wall's, whatever the slope.
+    Lascia(v, conto, {&V::angoloOra, &V::altStilo, &V::angSustilare, &V::y0, &V::yOriz});
+    // Centre and lengths of the style's triangle, which the analytic engine and the hours' report may take up.
+    Lascia(v, conto,
+           {&V::xCentro, &V::yCentro, &V::xCentroNeg, &V::yCentroNeg, &V::assostiloLen, &V::segStiloSus, &V::segCentroPiede,
+            &V::segAsse, &V::segPiedeEq});
+    // The discriminant of the last day line, in the place of the declination of choice: meant.
+    Lascia(v, conto, {&V::deltaOpz});
+}
+
 }  // namespace
 
 void DatiFondamentali(Sessione &s, Uscita uscita) {
-    if (TroppeRighe(s, -6, 6, Val(s.in.TxtFraz), 1)) return;
+    Conto v(s, Lettura(s.in));
+    if (TroppeRighe(s, -6, 6, v.letto.fraz, 1)) return;
     Tabulato f(s, "Form1", uscita);
-    const Preparazione p = prepara(s);
-    primari(s, f, p);
-    lunghezze(s, f, p);
-    lineeDiurne(s, f);
-    equinoziale(s, f);
+    const Preparazione p = prepara(v);
+    primari(s, v, f, p);
+    lunghezze(s, v, f, p);
+    lineeDiurne(v, f);
+    equinoziale(s, v, f);
+    lascia(s.v, v);
     f.chiudi();
 }
 

@@ -4,6 +4,7 @@
 #include "gnomonica/declinazioni.h"
 #include "gnomonica/longitudine.h"
 #include "gnomonica/proiezione.h"
+#include "gnomonica/stilo.h"
 #include "reports/tabulato.h"
 
 namespace ombrelia::reports {
@@ -39,24 +40,28 @@ Elemento quattro(Valore x) { return Fmt(x, "0.0000"); }
 }  // namespace
 
 void IntersezioniSferiche(Sessione &s, Uscita uscita) {
-    Variabili &v = s.v;
-    const Valore inizio = Val(s.in.TxtInizio), fine = Val(s.in.TxtFine);
-    if (TroppeRighe(s, inizio, fine, Val(s.in.TxtFraz), 5)) return;
-    v.oraFuso = s.in.ck_Etna == 1 ? 1 : 0;
-    LeggiParametri(s);
+    const Lettura letto(s.in);
+    const Valore inizio = letto.inizio, fine = letto.fine;
+    if (TroppeRighe(s, inizio, fine, letto.fraz, 5)) return;
+    LeggiParametri(s, letto);
+    LeggiUnita(s);
+    const Variabili &v = s.v;
     Tabulato f(s, "Form6", uscita);
-    v.unita = s.in.ChCentimetro == 1 ? 0.001 : 1.0;
-    const Valore cL = v.lonPiu15 * v.oraFuso * (v.latR == 0 ? Valore(1) : Sgn(v.latR));  // degrees
+    const Valore cL = v.lonPiu15 * v.oraFuso * SegnoLatitudine(v.latR);  // degrees
 
     f.riga({" Trigonometria sferica - Trigonometrie spherique - Spherical trigonometry"});
     f.vuota();
     const auto tabella = [&](Valore delta) { f.tabella("delta = +/- " + TestoNumero(delta.v), colonne(s)); };
     // The last one is worked for the declinations of the third and only labelled otherwise: meant.
-    const Reale scelta = Val(s.in.txtDelta);
+    const Reale scelta = letto.delta;
     const struct {
         double delta;
         Valore scritta;
-    } tabelle[] = {{OBLIQUITA, OBLIQUITA}, {20, 20}, {11.5, 11.5}, {0, 0}, {11.5, scelta}};
+    } tabelle[] = {{OBLIQUITA, OBLIQUITA},
+                   {DELTA_SEGNI, DELTA_SEGNI},
+                   {DELTA_SEGNI_VICINI, DELTA_SEGNI_VICINI},
+                   {0, 0},
+                   {DELTA_SEGNI_VICINI, scelta}};
     tabella(OBLIQUITA);
     f.titoli(LINEE);
     f.vuota();
@@ -82,19 +87,29 @@ void IntersezioniSferiche(Sessione &s, Uscita uscita) {
     f.chiudi();
 }
 
-void IntersezioniAnalitiche(Sessione &s, Uscita uscita) {
-    Variabili &v = s.v;
-    const Valore inizio = Val(s.in.TxtInizio), fine = Val(s.in.TxtFine);
-    if (TroppeRighe(s, inizio, fine, Val(s.in.TxtFraz), 4)) return;
-    CalcolaAngoliAnalitici(s, Lettura(s.in));
-    Tabulato f(s, "Form7", uscita);
+namespace {
+
+// The hour angle of the substyle with the longitude in it, and where the equinoctial lies, on which the rows rest.
+void lasciaAnalitiche(Variabili &v) {
     const Reale seno = sin(v.decR) * cos(v.incR) / cos(v.altStilo);
     v.angoloOra = ArcSin(seno) + (DalMeridiano(v.lonCopia, v.meridiano) * PI / 180) * v.oraFuso;
-    v.y0 = v.gn * tan(v.altStilo);
+    v.y0 = DistanzaEquinoziale(v.gn, v.altStilo);
+}
+
+}  // namespace
+
+void IntersezioniAnalitiche(Sessione &s, Uscita uscita) {
+    const Lettura letto(s.in);
+    const Valore inizio = letto.inizio, fine = letto.fine;
+    if (TroppeRighe(s, inizio, fine, letto.fraz, 4)) return;
+    CalcolaAngoliAnalitici(s, letto);
+    lasciaAnalitiche(s.v);
+    const Variabili &v = s.v;
+    Tabulato f(s, "Form7", uscita);
 
     f.etichetta(" Geometria Analitica "_it);
     const auto tabella = [&](Valore delta) { f.tabella("delta = +/- " + TestoNumero(delta.v), colonne(s)); };
-    const Valore tabelle[] = {v.deltaOpz, 20, 11.5, 0};
+    const Valore tabelle[] = {v.deltaOpz, DELTA_SEGNI, DELTA_SEGNI_VICINI, 0};
     const RiferimentoSustilare quadro(v.angSustilare, v.y0);
     Conica k;
     Reale m, h, q, x1, y1, x2, y2;

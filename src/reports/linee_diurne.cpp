@@ -1,6 +1,8 @@
 // The day lines of four declinations, ordinate by abscissa.
 #include "gnomonica/angoli_parete.h"
 #include "gnomonica/conica.h"
+#include "gnomonica/declinazioni.h"
+#include "gnomonica/stilo.h"
 #include "reports/tabulato.h"
 
 namespace ombrelia::reports {
@@ -14,22 +16,27 @@ constexpr std::string_view PRIME[] = {"ascissa                ordinata e      or
 constexpr std::string_view ALTRE[] = {"    ordinata e      ordinata i  ", "    ordonnée é      ordonnée h  ",
                                       "    ordinate s      ordinate w  "};
 
+// The unit, and where the equinoctial lies, which the conics' frame begins at.
+void lascia(Sessione &s) {
+    LeggiUnita(s);
+    s.v.y0 = DistanzaEquinoziale(s.v.gn, s.v.altStilo);
+}
+
 }  // namespace
 
 void LineeDiurne(Sessione &s, Uscita uscita) {
-    Variabili &v = s.v;
-    const Reale unita = s.in.ChCentimetro == 1 ? 0.001 : 1.0;
-    const Conteggio ascisse(Val(s.in.txtMinus), Val(s.in.txtMax), 0.05 / unita);
-    const bool inizio = Abs(Val(s.in.txtMinus)) > Abs(Val(s.in.txtMax));
+    const Lettura letto(s.in);
+    const Conteggio ascisse(letto.limMin, letto.limMax, 0.05 / letto.unita);
+    const bool inizio = Abs(letto.limMin) > Abs(letto.limMax);
     if (TroppoFitto(
             s, {{inizio ? "txtMinus" : "txtMax", inizio ? s.in.txtMinus : s.in.txtMax, ascisse, PUNTI_MASSIMI / RIGHE_MASSIME}}))
         return;
-    CalcolaAngoliAnalitici(s, Lettura(s.in));
+    CalcolaAngoliAnalitici(s, letto);
+    lascia(s);
+    const Variabili &v = s.v;
     Tabulato f(s, "Form8", uscita);
-    v.unita = unita;
-    v.y0 = v.gn * tan(v.altStilo);
 
-    const Valore declinazioni[] = {23.445, 20, 11.5, v.deltaOpz};
+    const Valore declinazioni[] = {OBLIQUITA, DELTA_SEGNI, DELTA_SEGNI_VICINI, v.deltaOpz};
     std::vector<OrdinateConica> linee;
     for (const Valore &d : declinazioni) {
         Conica k;
@@ -50,7 +57,7 @@ void LineeDiurne(Sessione &s, Uscita uscita) {
     f.tabella(std::string(), std::move(nomi));
     // The fourth declination, the reader's own, has no name here: meant.
     std::string delta = "         delta = +/- ";
-    delta.append(Numero(23.445).testo).append(" °");
+    delta.append(Numero(OBLIQUITA).testo).append(" °");
     delta.append(
         "                                                                  +/- 20°                                         +/- "
         "11.5°");

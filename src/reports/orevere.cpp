@@ -2,6 +2,7 @@
 #include "reports/orevere.h"
 
 #include "gnomonica/longitudine.h"
+#include "gnomonica/stilo.h"
 
 namespace ombrelia::reports {
 
@@ -10,37 +11,31 @@ namespace {
 using ore::Calcolo;
 using ore::SpecieOreVere;
 
-// The hour angle of the substyle goes to the side of the declination.
-void mettiDalSuoLato(Variabili &v) {
-    if (Sgn(sin(v.angoloOra)) != Sgn(sin(v.decR))) v.angoloOra = v.angoloOra > 0 ? v.angoloOra - PI : v.angoloOra + PI;
-}
-
 // A reclining plane, by the wall of latitude f1 and declination d1 that has its lines; latR and decR become that wall's.
-void angoliInclinato(Sessione &s, bool schermo, Calcolo &c) {
-    Variabili &v = s.v;
-    const Reale segno = v.decR == 0 ? Valore(1) : Sgn(v.decR);
+void angoliInclinato(Conto &v, bool senzaFuso, bool schermo, Calcolo &c) {
+    const Reale segno = SegnoDeclinazione(v.decR, v.decR);
     if (schermo && Abs(v.iz_o) == PI / 2) {  // on the screen alone: meant
         v.decR = 0;
         v.declinSessag = 0;
     }
-    const Valore si = sin(v.incR), ci = cos(v.incR), sf = sin(v.latR), cf = cos(v.latR), sg = sin(v.decR), cg = cos(v.decR);
-    v.altStilo = -ArcSin(si * sf - ci * cf * cg);
-    v.angSustilare = ArcSin(sg * cf / cos(v.altStilo));
+    const Piano p(v);
+    v.altStilo = -ArcSin(p.senStilo());
+    v.angSustilare = ArcSin(p.sg * p.cphi / cos(v.altStilo));
     v.assostiloLen = Abs(v.gn / sin(v.altStilo));
     c.k = -1;
     Reale f1, w, coseno, d1, u;
-    f1 = ArcSin(ci * sf + si * cf * cg);
-    w = si * sg / cos(f1);
+    f1 = ArcSin(p.senZenit());
+    w = p.si * p.sg / cos(f1);
     if (v.dec == 0) {
         v.diffLong = 0;
     } else if (Abs(v.dec) == 180) {
         v.diffLong = PI;
     } else {
-        coseno = (ci - sf * sin(f1)) / (cf * cos(f1));
+        coseno = (p.ci - p.sphi * sin(f1)) / (p.cphi * cos(f1));
         if (Abs(coseno) < 1) v.diffLong = ArcCos(coseno) * Sgn(w);
         else v.diffLong = 0;
     }
-    v.lon = (s.in.ck_Etna == 0 ? Valore(v.meridiano) : Valore(v.lonCopia)) - v.diffLong * 180 / PI;
+    v.lon = (senzaFuso ? Valore(v.meridiano) : Valore(v.lonCopia)) - v.diffLong * 180 / PI;
     if (v.dec == 0) {
         d1 = 0;
     } else if (Abs(v.dec) == 180) {
@@ -48,7 +43,7 @@ void angoliInclinato(Sessione &s, bool schermo, Calcolo &c) {
     } else if (v.incR == 0) {
         d1 = v.decR;
     } else {
-        coseno = (ci * sin(f1) - sf) / (si * cos(f1));
+        coseno = (p.ci * sin(f1) - p.sphi) / (p.si * cos(f1));
         if (Abs(coseno) < 1) d1 = ArcCos(coseno) * segno;
         else d1 = 0;
     }
@@ -56,8 +51,7 @@ void angoliInclinato(Sessione &s, bool schermo, Calcolo &c) {
         v.angoloOra = 0;
     } else {
         u = tan(d1) / sin(f1);
-        v.angoloOra = Atn(u);
-        mettiDalSuoLato(v);
+        v.angoloOra = DalLatoDi(v.decR, Atn(u));
     }
     c.oraSus = 12 + (v.angoloOra - v.diffLong) * 12 / PI;
     v.latR = f1;
@@ -65,17 +59,16 @@ void angoliInclinato(Sessione &s, bool schermo, Calcolo &c) {
 }
 
 // Longitude terms under the box of the zone meridian.
-void longitudine(Variabili &v) {
-    v.segnoDec = v.dec == 0 ? Valore(1) : Sgn(v.decR);
+void longitudine(Conto &v) {
+    v.segnoDec = SegnoDeclinazione(v.dec, v.decR);
     LasciaDalMeridiano(v);
-    v.corrLong = (v.lonPiu15 * PI / 180) * v.oraFuso;
+    v.corrLong = CorrezioneFuso(v);
 }
 
-void angoliParete(Variabili &v, Calcolo &c) {
+void angoliParete(Conto &v, Calcolo &c) {
     longitudine(v);
-    v.angSustilare = Atn(sin(v.decR) / tan(v.latR));
-    const Valore cl = cos(v.latR), cd = cos(v.decR);
-    c.sine = cl * cd / Sqr(1 - cd * cd * (cl * cl));
+    v.angSustilare = SustilareMuro(v.latR, v.decR);
+    c.sine = TanStiloMuro(v.latR, v.decR);
     v.altStilo = Atn(c.sine);
     v.assostiloLen = Abs(v.gn / sin(v.altStilo));
     c.k = 1;
@@ -83,13 +76,13 @@ void angoliParete(Variabili &v, Calcolo &c) {
         v.angoloOra = (PI / 2) * Sgn(v.decR);
     } else {
         v.angoloOra = Atn(tan(v.decR) / sin(v.latR));
-        mettiDalSuoLato(v);
+        v.angoloOra = DalLatoDi(v.decR, v.angoloOra);
     }
     c.oraSus = 12 + (v.angoloOra - v.diffLong) * 12 / PI;
 }
 
 // A wall on the equator; its style lies at the complement of the declination.
-void angoliLatZero(Variabili &v, Calcolo &c) {
+void angoliLatZero(Conto &v, Calcolo &c) {
     const Valore cd = cos(v.decR);
     if (Abs(cd) == 1) v.altStilo = (PI / 2) * Sgn(cd);
     else v.altStilo = ArcSin(cd);
@@ -100,7 +93,7 @@ void angoliLatZero(Variabili &v, Calcolo &c) {
     c.k = Abs(v.dec) == 180 ? 1 : -1;
 }
 
-void punti(Variabili &v, Calcolo &c) {
+void punti(Conto &v, Calcolo &c) {
     const Valore te = tan(v.altStilo), ss = sin(v.angSustilare), ts = tan(v.angSustilare);
     v.xCentro = -v.gn * ss / te;
     v.yCentro = v.gn * cos(v.angSustilare) / te;
@@ -123,20 +116,33 @@ void punti(Variabili &v, Calcolo &c) {
     v.ySusPiede = -v.ySus * ts;
 }
 
+void lascia(Variabili &v, const Conto &conto) {
+    using V = Variabili;
+    // The plane worked on, which for a reclining one is the equivalent wall; the longitude that has lines like it.
+    Lascia(v, conto, {&V::latR, &V::decR, &V::declinSessag, &V::segnoDec, &V::diffLong, &V::lon, &V::lonPiu15, &V::corrLong});
+    // Style and substyle, centre and lengths of the style's triangle, as the data report leaves them.
+    Lascia(v, conto,
+           {&V::angSustilare, &V::altStilo, &V::angoloOra, &V::assostiloLen, &V::xCentro, &V::yCentro, &V::xCentroNeg,
+            &V::yCentroNeg, &V::segStiloSus, &V::segCentroPiede, &V::segAsse, &V::segPiedeEq});
+    // The chosen lines against equinoctial and substyle; the declination of choice without its sign.
+    Lascia(v, conto, {&V::xSusEq, &V::ySusEq, &V::xSusPiede, &V::ySusPiede, &V::deltaOpz});
+}
+
 void oreVere(Sessione &s, Uscita uscita, SpecieOreVere specie) {
-    Variabili &v = s.v;
-    if (TroppeRighe(s, Val(s.in.TxtInizio), Val(s.in.TxtFine), Val(s.in.TxtFraz), 2)) return;
-    LeggiParametri(s);
+    const Lettura letto(s.in);
+    if (TroppeRighe(s, letto.inizio, letto.fine, letto.fraz, 2)) return;
+    LeggiParametri(s, letto);
+    Conto v(s, letto);
     Tabulato f(s, "Form2", uscita);
-    v.deltaOpz = Abs(Val(s.in.txtDelta));
+    v.deltaOpz = Abs(letto.delta);
     Calcolo c;
     c.specie = specie;
     switch (specie) {
         case SpecieOreVere::Inclinato:
-            angoliInclinato(s, f.schermo(), c);
+            angoliInclinato(v, s.in.ck_Etna == 0, f.schermo(), c);
             punti(v, c);
             v.lonPiu15 = DalMeridiano(v.lon, v.meridiano) + (v.diffLong * 180 / PI) * 0;
-            v.corrLong = v.lonPiu15 * PI / 180;  // whatever the box of the zone meridian says: it is in lon by now
+            v.corrLong = CorrezioneLongitudine(v);  // whatever the box of the zone meridian says: it is in lon by now
             break;
         case SpecieOreVere::Parete:
             angoliParete(v, c);
@@ -155,8 +161,10 @@ void oreVere(Sessione &s, Uscita uscita, SpecieOreVere specie) {
             c.oraSus = 12 + v.angoloOra * 12 / PI;
             break;
     }
-    ore::Tabelle(s, f, c);
-    ore::Blocchi(s, f, c);
+    ore::Tabelle(s, v, f, c);
+    ore::Blocchi(s, v, f, c);
+    lascia(s.v, v);
+    f.chiudi();
 }
 
 }  // namespace

@@ -28,8 +28,8 @@ struct Calcolo {
 [[nodiscard]] bool PrimoOrdine(SpecieOreVere specie, const Variabili &v);
 
 // Both tables, against (x0, y0) and (x1, y1).
-void Tabelle(Sessione &s, Tabulato &f, Calcolo &c);
-// Results for equinoctial and substyle, fundamental points, legend and closing lines.
-void Blocchi(Sessione &s, Tabulato &f, Calcolo &c);
+void Tabelle(const Sessione &s, const Conto &v, Tabulato &f, Calcolo &c);
+// Results for equinoctial and substyle, fundamental points, legend; clears the option that asked for the report.
+void Blocchi(Sessione &s, Conto &v, Tabulato &f, Calcolo &c);
 
 }  // namespace ombrelia::reports::ore

@@ -10,7 +10,7 @@ namespace {
 struct Piede {
     Reale x, y;
 };
-Piede preparaBlocchi(Variabili &v, Calcolo &c) {
+Piede preparaBlocchi(Conto &v, Calcolo &c) {
     if (Abs(v.dec) == 90) {
         v.segStiloSus = v.gn / tan(v.altStilo);
         v.xCentro = -v.segStiloSus * sin(v.angSustilare);
@@ -29,7 +29,7 @@ Piede preparaBlocchi(Variabili &v, Calcolo &c) {
     return p;
 }
 
-void coppie(Variabili &v, Tabulato &f, Calcolo &c) {
+void coppie(Conto &v, Tabulato &f, Calcolo &c) {
     const Piede P = preparaBlocchi(v, c);
     const Valore ts = tan(v.angSustilare);
     const bool declina = v.decR != 0;
@@ -56,8 +56,7 @@ void coppie(Variabili &v, Tabulato &f, Calcolo &c) {
 
 }  // namespace
 
-void Blocchi(Sessione &s, Tabulato &f, Calcolo &c) {
-    Variabili &v = s.v;
+void Blocchi(Sessione &s, Conto &v, Tabulato &f, Calcolo &c) {
     const bool equatore = c.specie == SpecieOreVere::LatZero || c.specie == SpecieOreVere::LatZeroInclinato;
     s.in.optHorae = 0;
     f.colore(BLU);
@@ -99,7 +98,6 @@ void Blocchi(Sessione &s, Tabulato &f, Calcolo &c) {
     f.riga({f.tr("longitudine "_it), Arrotonda5(v.lon), f.tr(", declinazione sole "_it), Arrotonda5(v.deltaOpz)});
     f.legenda();
     if (equatore) f.colore(MAGENTA);
-    f.chiudi();
 }
 
 }  // namespace ombrelia::reports::ore

@@ -164,9 +164,8 @@ Trilingue Intestazioni(SpecieOreVere specie, bool schermo, bool primoOrdine, boo
     return {std::string(it).append(ombre), std::string(fr).append(ombre), std::string(INGLESE)};
 }
 
-void Tabelle(Sessione &s, Tabulato &f, Calcolo &c) {
-    const Variabili &v = s.v;
-    const Valore Vi = -(15 * Val(s.in.TxtInizio) - 180), Vf = -(15 * Val(s.in.TxtFine) - 180);
+void Tabelle(const Sessione &s, const Conto &v, Tabulato &f, Calcolo &c) {
+    const Valore Vi = -(15 * v.letto.inizio - 180), Vf = -(15 * v.letto.fine - 180);
     const bool primo = PrimoOrdine(c.specie, v);
     for (const bool prima : {true, false}) {
         const Valore xs = prima ? v.x0 : v.x1, ys = prima ? v.y0 : v.y1;

@@ -1,14 +1,13 @@
 // Hours from sunset, from sunrise and twelfths of the day: an hour line is taken straight through its two solstice points.
 #include <functional>
 
+#include "gnomonica/declinazioni.h"
 #include "gnomonica/proiezione.h"
 #include "reports/tabulato.h"
 
 namespace ombrelia::reports {
 
 namespace {
-
-constexpr double OBLIQUITA = 23.445;
 
 enum class Ora : std::uint8_t { Italica, Babilonica, Temporaria };
 
@@ -68,13 +67,12 @@ struct Punti {
 // Runs through the lines of a report, what one line computes carried to the next.
 class Linee {
 public:
-    Linee(Variabili &v, Ora ora) : v_(v), ora_(ora), proietta_(Proiezione::delPiano(v.latR, v.decR, v.incR, v.gn, 1)) {}
+    Linee(const Variabili &v, Ora ora) : v_(v), ora_(ora), proietta_(Proiezione::delPiano(v.latR, v.decR, v.incR, v.gn, 1)) {}
 
     // The solstice points of the line V.
     const Punti &operator()(double V) {
         punto(V, -OBLIQUITA, p_.xa, p_.ya);
         punto(V, OBLIQUITA, p_.xb, p_.yb);
-        if (ora_ != Ora::Temporaria) v_.deltaOpz = OBLIQUITA;
         return p_;
     }
 
@@ -96,7 +94,7 @@ private:
         proietta_(Valore(a_), d, x, y);
     }
 
-    Variabili &v_;
+    const Variabili &v_;
     Ora ora_;
     Proiezione proietta_;
     Reale H_, a_;
@@ -142,7 +140,7 @@ void tabelleRette(Sessione &s, Tabulato &f, const TestiStagionali &t, Linee &lin
     }
 }
 
-void latitudini(Variabili &v, Tabulato &f) {
+void latitudini(const Variabili &v, Tabulato &f) {
     const auto riga = [&](std::string_view nome, Valore lat, Valore dec, Valore inc) {
         f.riga({nome, Spc(2), Numero(Round(Gradi(lat), 4)), Zona(), Numero(Round(dec, 4)), Zona(), Numero(Gradi(inc))});
     };
@@ -150,26 +148,32 @@ void latitudini(Variabili &v, Tabulato &f) {
     riga("lat_o", v.lat_o, Gradi(v.dec_o), v.iz_o);
 }
 
-// A horizontal plane that was transformed comes back.
-void ripristinaOrizzontale(Variabili &v) {
+// The plane as the lines take it: a horizontal one that was transformed comes back.
+void lasciaPiano(Variabili &v) {
     if (Gradi(v.iz_o) != 90 || v.incR != 0) return;
     v.latR = v.lat_o;
     v.decR = 0;
     v.incR = PI / 2;
 }
+// One that lies level has no declination.
+void lasciaOrizzontale(Variabili &v) { v.decR = 0; }
+
+// The day on which the lines end, degrees.
+void lasciaSolstizio(Variabili &v) { v.deltaOpz = OBLIQUITA; }
 
 void italicheBabiloniche(Sessione &s, Uscita uscita, Ora ora) {
-    Variabili &v = s.v;
-    if (TroppeRighe(s, Val(s.in.TxtInizio), Val(s.in.TxtFine), Val(s.in.TxtFraz), 3)) return;
-    LeggiParametri(s);
+    const Lettura letto(s.in);
+    if (TroppeRighe(s, letto.inizio, letto.fine, letto.fraz, 3)) return;
+    LeggiParametri(s, letto);
     const TestiStagionali &t = testi(ora);
     Tabulato f(s, t.modulo, uscita);
     s.in.OptIta = 0;
     s.in.OptBab = 0;
-    ripristinaOrizzontale(v);
-    Valore da = Val(s.in.TxtInizio), a = Val(s.in.TxtFine);
+    lasciaPiano(s.v);
+    const Variabili &v = s.v;
+    Valore da = letto.inizio, a = letto.fine;
     if (Gradi(v.incR) == 90) {
-        v.decR = 0;
+        lasciaOrizzontale(s.v);
         da = 12;
         a = 22;
     }
@@ -182,26 +186,33 @@ void italicheBabiloniche(Sessione &s, Uscita uscita, Ora ora) {
     }
     tabelleRette(s, f, t, linee, ore, [](double V) { return V == 24 ? Speciale{"0", "inf"} : Speciale{}; });
     latitudini(v, f);
+    if (ore.begin() != ore.end()) lasciaSolstizio(s.v);
     f.chiudi();
+}
+
+// At noon, which a level dial's substyle is, and without declination.
+void lasciaTemporarie(Variabili &v) {
+    v.angoloOra = 0;
+    v.decR = 0;
 }
 
 }  // namespace
 
 void OreTemporarie(Sessione &s, Uscita uscita) {
-    Variabili &v = s.v;
-    if (TroppeRighe(s, 0, 11, Val(s.in.TxtFraz), 2)) return;
-    LeggiParametri(s);
+    const Lettura letto(s.in);
+    if (TroppeRighe(s, 0, 11, letto.fraz, 2)) return;
+    LeggiParametri(s, letto);
     Tabulato f(s, "Form3", uscita);
     s.in.OptTEMP = 0;
-    ripristinaOrizzontale(v);
+    lasciaPiano(s.v);
+    const Variabili &v = s.v;
     if (v.lat_o == 0) {
         f.chiudi();
         return;
     }
     const bool orizzontale = Gradi(v.iz_o) == 90;
     if (orizzontale) {
-        v.angoloOra = 0;
-        v.decR = 0;
+        lasciaTemporarie(s.v);
         f.riga({f.schermo() ? "iz0 = 90" : "iz_o = 90"});
     }
     // Sunrise and sunset are the horizon, which has no abscissa at an ordinate; noon is upright and has no ordinate.

@@ -2,6 +2,7 @@
 #include "glyphs/numeri.h"
 
 #include <algorithm>
+#include <optional>
 #include <string>
 
 #include "core/conteggio.h"
@@ -20,21 +21,32 @@ constexpr int PESO_ARABI = 2;
 constexpr double FRECCIA = 0.1;
 
 // The frame of a glyph laid on the plane: units of the cell along the baseline and upward from it.
+// Where it is to be seen in a mirror, it lies the other way round about an abscissa.
 class Telaio {
 public:
-    Telaio(Tavolo &tavolo, Valore X, Valore Y, Valore angolo, Valore altezza)
-        : tavolo_(tavolo), x_(X), y_(Y), sen_(sin(angolo)), cos_(cos(angolo)), scala_(altezza / ALTEZZA_CELLA) {}
+    Telaio(Tavolo &tavolo, Valore X, Valore Y, Valore angolo, Valore altezza, std::optional<Valore> specchio)
+        : tavolo_(tavolo),
+          x_(X),
+          y_(Y),
+          sen_(sin(angolo)),
+          cos_(cos(angolo)),
+          scala_(altezza / ALTEZZA_CELLA),
+          specchio_(specchio) {}
 
     void linea(double a1, double b1, double a2, double b2, int peso) const {
         tavolo_.TracciaLinea(x(a1, b1), y(a1, b1), x(a2, b2), y(a2, b2), COLORE_NUMERI, IdNome{}, peso);
     }
 
 private:
-    [[nodiscard]] Valore x(double a, double b) const { return x_ + scala_ * (a * sen_ + b * cos_); }
+    [[nodiscard]] Valore x(double a, double b) const {
+        const Valore dritta = x_ + scala_ * (a * sen_ + b * cos_);
+        return specchio_ ? 2 * *specchio_ - dritta : dritta;
+    }
     [[nodiscard]] Valore y(double a, double b) const { return y_ + scala_ * (b * sen_ - a * cos_); }
 
     Tavolo &tavolo_;
     Valore x_, y_, sen_, cos_, scala_;
+    std::optional<Valore> specchio_;
 };
 
 int cordeDi(const Tratto &t) {
@@ -80,20 +92,22 @@ void DisegnaNumero(Sessione &s, Valore X, Valore Y, Valore Angolo, int Numero) {
     passoX = altezza * LARGHEZZA_CELLA / ALTEZZA_CELLA * sin(angolo);
     passoY = altezza * LARGHEZZA_CELLA / ALTEZZA_CELLA * cos(angolo);
     const std::string cifre = std::to_string(Numero);
+    std::optional<Valore> specchio;
+    if (s.visteAlloSpecchio()) specchio = Numero <= 9 ? X - passoX / 2 : X;  // the number's middle
 
     v.x1 = X - passoX;
     v.y1 = Y + passoY;
-    DisegnaCifra(s, v.x1, v.y1, Angolo, cifre.front() - '0', PESO_ARABI);
+    DisegnaCifra(s, v.x1, v.y1, Angolo, cifre.front() - '0', PESO_ARABI, specchio);
     if (Numero <= 9) return;
     v.x1 = v.x1 + passoX;
     v.y1 = v.y1 - passoY;
-    DisegnaCifra(s, v.x1, v.y1, Angolo, cifre.back() - '0', PESO_ARABI);
+    DisegnaCifra(s, v.x1, v.y1, Angolo, cifre.back() - '0', PESO_ARABI, specchio);
 }
 
-void DisegnaCifra(Sessione &s, Valore X, Valore Y, Valore Angolo, int Cifra, int Peso) {
+void DisegnaCifra(Sessione &s, Valore X, Valore Y, Valore Angolo, int Cifra, int Peso, std::optional<Valore> specchio) {
     Reale altezza;
     altezza = Val(s.in.txtArabi) * s.v.unita;
-    const Telaio telaio(s.tavolo, X, Y, Angolo * (PI / 180), altezza);
+    const Telaio telaio(s.tavolo, X, Y, Angolo * (PI / 180), altezza, specchio);
     constexpr double mezza = ALTEZZA_CELLA / 2;
     for (const Tratto &t : TrattiCifra(Cifra))
         t.percorri(cordeDi(t),
@@ -107,7 +121,7 @@ void DisegnaNumeroRomano(Sessione &s, Valore x, Valore y, Valore rotazione, int 
 
     Reale altezza;
     altezza = Val(s.in.txtNumbersize) * s.v.unita;
-    const Telaio telaio(s.tavolo, x, y, rotazione, altezza);
+    const Telaio telaio(s.tavolo, x, y, rotazione, altezza, s.visteAlloSpecchio() ? std::optional(x) : std::nullopt);
     double a = -larghezza / 2;
     const double b = -ALTEZZA_CELLA / 2;
     for (const char c : lettere) {

@@ -43,8 +43,10 @@ void DisegnaSegno(Sessione &s, Segno segno, Valore x0, Valore y0, Valore gradi) 
     S = Val(s.in.txtZodiacsize) * s.v.unita;
     const Valore h = S / 2, rotazione = Radianti(gradi);
     const Valore sen = sin(rotazione), co = cos(rotazione);
+    const bool specchio = s.visteAlloSpecchio();  // about its own middle
+    const double verso = specchio ? -1 : 1;
     // Both terms are added: a turn at 90 degrees alone, where X takes a and Y takes b.
-    const auto X = [&](double a, double b) { return x0 + (a / GRIGLIA) * h * sen + (b / GRIGLIA) * h * co; };
+    const auto X = [&](double a, double b) { return x0 + (a / GRIGLIA) * h * (verso * sen) + (b / GRIGLIA) * h * (verso * co); };
     const auto Y = [&](double a, double b) { return y0 + (a / GRIGLIA) * h * co + (b / GRIGLIA) * h * sen; };
     for (const Tratto &t : TrattiSegno(segno)) {
         if (t.forma != Forma::Arco) {
@@ -56,8 +58,9 @@ void DisegnaSegno(Sessione &s, Segno segno, Valore x0, Valore y0, Valore gradi) 
         const Valore raggio = (t.c / GRIGLIA) * h;
         Valore inizio = 0, fine = 0;  // an end of 0 is a whole circle
         if (t.fine - t.inizio < 360) {
-            inizio = entroUnGiro(Radianti(t.inizio + gradi - 90));
-            fine = entroUnGiro(Radianti(t.fine + gradi - 90));
+            const double da = t.inizio, a = t.fine;
+            inizio = entroUnGiro(Radianti((specchio ? 180 - a : da) + gradi - 90));
+            fine = entroUnGiro(Radianti((specchio ? 180 - da : a) + gradi - 90));
             if (fine == 0) fine = CERCHIO;
         }
         s.tavolo.TracciaCerchio(X(t.a, t.b), Y(t.a, t.b), raggio, QB(t.colore), -1, 1, inizio, fine);

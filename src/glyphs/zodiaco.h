@@ -9,7 +9,8 @@ enum class Segno { Capricorno, Sagittario, Acquario, Scorpione, Pesci, Bilancia,
 inline constexpr int SEGNI = 12;
 
 // One sign centred on (x0, y0), metres on the plane, y upward; txtZodiacsize times unita high and about as wide.
-// gradi is the direction of its upright; 90, the only value in use, sets it upright. A size of 0 draws points.
+// gradi is the direction of its upright; 90, the only value in use, sets it upright. A size of 0 draws points. What will be
+// seen in a mirror is turned about its own middle.
 void DisegnaSegno(Sessione &s, Segno segno, Valore x0, Valore y0, Valore gradi);
 
 // Reads the fields, sets the twelve signs on a vertical plane, whatever plane the caller draws, and ends with

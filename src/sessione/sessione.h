@@ -52,6 +52,8 @@ struct Sessione {
     // A southern dial, drawn as the mirror image of what is mounted, is mirrored at once: on for whoever designs, off for action
     // scripts, where the user is told to press the button.
     bool australeMontato = false;
+    // Whether what a run draws now will be seen in a mirror: figures that are read are drawn the other way round then.
+    [[nodiscard]] bool visteAlloSpecchio() const { return australeMontato && v.segnoLat == -1; }
     std::vector<StatoControllo> stati;  // one a row of the table of controls
     std::vector<std::string> titoli;    // captions of the forms, one a row of the table of forms
 

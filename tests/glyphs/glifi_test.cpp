@@ -3,11 +3,13 @@
 
 #include <algorithm>
 #include <array>
+#include <compare>
 #include <numeric>
 #include <set>
 
 #include "comuni/prova.h"
 #include "glyphs/numeri.h"
+#include "glyphs/tratti.h"
 #include "glyphs/zodiaco.h"
 #include "gnomonica/proiezione.h"
 
@@ -92,6 +94,54 @@ struct MuroDiCifre : Banco {
         return r;
     }
 };
+
+// On a southern dial that is mounted at once, what is seen in the sheet's mirror is what a northern one shows.
+TEST(Glifi, AlloSpecchioSiLeggono) {
+    MuroDiCifre banco;
+    struct Vertice2 {
+        double x, y;
+        auto operator<=>(const Vertice2 &) const = default;
+    };
+    const auto ridotto = [](double x) { return std::round(x * 1e7) / 1e7 + 0.0; };
+    // Every stroke as points in a mirror that stands at the glyph's own middle.
+    const auto punti = [&](bool specchio, double centro) {
+        std::vector<Vertice2> p;
+        const double verso = specchio ? -1 : 1;
+        const auto metti = [&](double x, double y) { p.push_back({ridotto(centro + verso * (x - centro)), ridotto(y)}); };
+        for (const RecLinea &l : banco.lista().Linee) metti(l.X1, l.Y1), metti(l.X2, l.Y2);
+        for (RecFigura f : banco.lista().Figure) {
+            if (specchio && f.B != 0) Specchio{-1, 1, true}.arco(f.A, f.B);
+            const double arco = f.B == 0 ? CERCHIO : std::fmod(f.B - f.A + CERCHIO, CERCHIO);
+            metti(f.X1, f.Y1);
+            for (int i = 0; i <= 4; ++i) {
+                const double a = f.A + arco * i / 4;
+                // The arc is the mirror's own now: its points are put on the glyph's side of it.
+                p.push_back({ridotto(centro + verso * (f.X1 - centro) + f.X2 * std::cos(a)), ridotto(f.Y1 - f.X2 * std::sin(a))});
+            }
+        }
+        std::sort(p.begin(), p.end());
+        return p;
+    };
+    const auto prova = [&](auto disegna, double centro, const std::string &chi) {
+        banco.s.australeMontato = false;
+        banco.s.tavolo.Clear(), disegna();
+        const auto dritti = punti(false, centro);
+        banco.s.australeMontato = true;
+        banco.s.v.segnoLat = -1;
+        banco.s.tavolo.Clear(), disegna();
+        EXPECT_TRUE(punti(true, centro) == dritti) << chi;
+        banco.s.v.segnoLat = 1;
+        banco.s.tavolo.Clear(), disegna();
+        EXPECT_TRUE(punti(false, centro) == dritti) << chi;
+    };
+    for (int n = 0; n < SEGNI; ++n)
+        prova([&] { DisegnaSegno(banco.s, static_cast<Segno>(n), 0.3, -0.2, 90); }, 0.3, "sign " + std::to_string(n));
+    const double mezzaCella = 0.15 * LARGHEZZA_CELLA / ALTEZZA_CELLA / 2;
+    for (const int n : {1, 6, 7, 10, 12}) {
+        prova([&] { DisegnaNumero(banco.s, 0.3, 0, 90, n); }, n <= 9 ? 0.3 - mezzaCella : 0.3, std::to_string(n));
+        prova([&] { DisegnaNumeroRomano(banco.s, 0.3, 0, PI / 2, n); }, 0.3, "Roman " + std::to_string(n));
+    }
+}
 
 TEST(Cifre, NellaCellaUniteEDiritte) {
     MuroDiCifre banco;

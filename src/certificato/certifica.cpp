@@ -217,7 +217,7 @@ DatiCertificato DatiDelCertificato(const Sessione &s) {
     return d;
 }
 
-Certificato Certifica(const DatiCertificato &dati, const Lista &lista, double tolleranza) {
+Certificato Certifica(const DatiCertificato &dati, const Lista &lista, double tolleranza, const std::function<bool()> &fermo) {
     Certificato c;
     c.tolleranza = tolleranza;
     std::vector<Giudice> giudici;
@@ -239,7 +239,9 @@ Certificato Certifica(const DatiCertificato &dati, const Lista &lista, double to
         Giudice &g = giudici[posto->second];
         Punto prima;
         bool ha = false;
+        constexpr std::size_t OGNI = 4096;
         for (std::size_t i = p.da; i < p.a; ++i) {
+            if (fermo && (i == p.da || i % OGNI == 0) && fermo()) return {};
             if (lista.Ordine[i] == 'L') {
                 const RecLinea &l = lista.Linee[linea++];
                 g.corda({verso * l.X1, -l.Y1}, {verso * l.X2, -l.Y2});
@@ -261,6 +263,7 @@ Certificato Certifica(const DatiCertificato &dati, const Lista &lista, double to
         c.righe.push_back(d);
     };
     for (Giudice &g : giudici) {
+        if (fermo && fermo()) return {};
         double doppi = 0, opposti = 0;
         RigaCertificato r = g.finisci(doppi, opposti);
         if (r.corde + r.punti == 0 && r.visibili == 0) continue;  // asked for, not to be seen and not drawn

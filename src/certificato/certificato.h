@@ -1,6 +1,8 @@
 // The certificate: what was drawn, read back and held against what it claims. Nothing here draws.
 #pragma once
 
+#include <algorithm>
+#include <functional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -42,12 +44,18 @@ struct Certificato {
     int false_ = 0;                      // lines that are not true
     std::size_t ignoti = 0;              // records without a claim that can be held against anything
     [[nodiscard]] bool vero() const { return false_ == 0; }
+    // Whether there was a line that claims something; else nothing is true and nothing false.
+    [[nodiscard]] bool esaminate() const {
+        return std::any_of(righe.begin(), righe.end(), [](const RigaCertificato &r) { return r.misurata(); });
+    }
 };
 
 // What the fields say of the dial that was drawn last. Cheap; to be called where the session lives.
 [[nodiscard]] DatiCertificato DatiDelCertificato(const Sessione &s);
-// Reads the list's claimed lines back. Touches nothing but its arguments: a copy of the list may be judged on any thread.
-[[nodiscard]] Certificato Certifica(const DatiCertificato &dati, const Lista &lista, double tolleranza = 0.1);
+// Reads the list's claimed lines back. Touches nothing but its arguments: a copy of the list may be judged on any thread. Where
+// fermo, asked now and then, says so, it ends with no row.
+[[nodiscard]] Certificato Certifica(const DatiCertificato &dati, const Lista &lista, double tolleranza = 0.1,
+                                    const std::function<bool()> &fermo = {});
 
 // The claimed line nearest to a point (metres as mounted) within a distance: its row's specie and value, its records.
 struct LineaVicina {

@@ -176,7 +176,11 @@ std::string CertificatoTesto(const DatiCertificato &dati, const Certificato &c) 
 }
 
 std::string CertificatoJson(const Certificato &c) {
-    std::string t = "{\"worst_mm\":" + json(c.peggiore) + ",\"true\":" + (c.vero() ? "true" : "false") + ",\"lines\":[";
+    std::string t = "{\"worst_mm\":" + json(c.peggiore) + ",\"true\":" +
+                    (!c.esaminate() ? "null"
+                     : c.vero()     ? "true"
+                                    : "false") +
+                    ",\"lines\":[";
     bool primo = true;
     for (const RigaCertificato &r : c.righe) {
         t += primo ? "\n" : ",\n";
@@ -224,7 +228,7 @@ std::string CertificatoHtml(const DatiCertificato &dati, const Certificato &c, c
         p.fineRiga();
     }
     p.chiudi();
-    p.riquadro(c.vero() ? "#e3f4e6" : "#fbe3e0", d ? Verdetto(*d, c) : VerdettoInglese(c));
+    p.riquadro(!c.esaminate() ? "#eeeeee" : c.vero() ? "#e3f4e6" : "#fbe3e0", d ? Verdetto(*d, c) : VerdettoInglese(c));
     for (const RigaCertificato *r : peggiori(c, 5))
         p.paragrafo("peggiore", pretesa(*r, d) + ": " + cifre(r->massimo, 3) + " mm, " + p.dici(DOVE) + ' ' + luogo(*r));
 

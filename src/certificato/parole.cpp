@@ -88,22 +88,14 @@ static std::string millimetri(double mm) {
     return n < 1000 ? TestoNumero(n) : TestoNumero(std::ceil(n));
 }
 
-namespace {
-
-bool senzaLinee(const Certificato &c) {
-    return std::none_of(c.righe.begin(), c.righe.end(), [](const RigaCertificato &r) { return r.misurata(); });
-}
-
-}  // namespace
-
 std::string VerdettoInglese(const Certificato &c) {
-    if (senzaLinee(c)) return "no line to certify";
+    if (!c.esaminate()) return "no line to certify";
     if (c.vero()) return "true within " + millimetri(c.peggiore) + " mm";
     return std::to_string(c.false_) + (c.false_ == 1 ? " line is not true" : " lines are not true");
 }
 
 std::string Verdetto(const Dizionario &d, const Certificato &c) {
-    if (senzaLinee(c)) return d.Traduci("nessuna linea da certificare");
+    if (!c.esaminate()) return d.Traduci("nessuna linea da certificare");
     if (c.vero()) return d.Traduci("vero entro ") + millimetri(c.peggiore) + " mm";
     return std::to_string(c.false_) + (c.false_ == 1 ? d.Traduci(" linea non è vera") : d.Traduci(" linee non sono vere"));
 }

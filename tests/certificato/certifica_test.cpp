@@ -293,6 +293,7 @@ TEST(Certificato, ParoleEForme) {
     EXPECT_EQ(VerdettoInglese({.righe = {RigaCertificato{}}, .peggiore = 0.0213}), "true within 0.03 mm");
     EXPECT_EQ(VerdettoInglese({}), "no line to certify");
     EXPECT_EQ(Verdetto({}, {}), "nessuna linea da certificare");
+    EXPECT_NE(CertificatoJson({}).find("\"true\":null"), std::string::npos);
     const std::string json = CertificatoJson(c), html = CertificatoHtml(dati, c), testo = CertificatoTesto(dati, c);
     EXPECT_TRUE(json.starts_with("{\"worst_mm\":") &&
                 json.find("\"true\":false,\"lines\":[\n{\"layer\":\"hour\",\"claim\":\"hour ") != std::string::npos);

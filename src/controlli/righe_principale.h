@@ -167,6 +167,8 @@ inline constexpr Controllo RIGHE_PRINCIPALE[] = {
     Nostro(Testo("txtMotto", &In::txtMotto, "")),
     Nostro(Etichetta("lblAnnoCartiglio", "Anno del cartiglio")),
     Nostro(Testo("txtAnnoCartiglio", &In::txtAnnoCartiglio, "")),
+    Nostro(Nascosto(Etichetta("lblLetture", "Letture della parete"))),
+    Nostro(Nascosto(Testo("txtLetture", &In::txtLetture, ""))),
 
     // The window's own furniture.
     Cornice("Panel3D1"),

@@ -24,6 +24,8 @@ struct DialInputs {
     std::string txtAnno;
     // Labels: height of the capitals, mm. Title block.
     std::string txtAltezzaEtichette, txtLuogo, txtMotto, txtAnnoCartiglio;
+    // The readings of the wall, as their table writes them; empty without one.
+    std::string txtLetture;
 
     int ck_Etna = 0, ChCentimetro = 0, CkUNI = 0, ckFunzione = 0;
     int chkOreAstronomiche = 0, Ck_DayLightCurves = 0, ck_Equinoziale = 0, ck_Italiche = 0, ck_babiloniche = 0, ckTemp = 0;

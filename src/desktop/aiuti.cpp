@@ -95,6 +95,7 @@ constexpr Aiuto TAVOLA[] = {
     {"txtLuogo", {}, "Il nome del luogo che il cartiglio porta"_it},
     {"txtMotto", {}, "Il motto che il cartiglio porta"_it},
     {"txtAnnoCartiglio", {}, "L'anno che il cartiglio porta"_it},
+    {"txtLetture", {}, "Le letture della parete, come la tavola degli strumenti le tiene"_it},
     {"optHorae", {}, "Tabella delle ore vere: dove passano le linee, coi loro punti"_it},
     {"OptIta", {}, "Tabella dei punti delle ore italiche"_it},
     {"OptBab", {}, "Tabella dei punti delle ore babiloniche"_it},

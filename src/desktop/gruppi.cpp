@@ -168,6 +168,10 @@ QWidget *ColonnaDisegno(Ponte &ponte, QWidget *genitore) {
     app::Gruppo altro{"Altro"_it, {}, true};
     for (const Controllo &c : ControlliDi("MDIForm1")) {
         if (!c.nostro || nominati.contains(IdDi(c))) continue;
+        if (!c.visibile) {  // its user meets it elsewhere
+            ponte.crea(c.nome, genitore);
+            continue;
+        }
         if (c.classe == Classe::Testo && !altro.righe.empty() && altro.righe.back().size() == 1)
             altro.righe.back().push_back(app::Gruppo::VoceDiGruppo(IdDi(c)));
         else altro.righe.push_back({app::Gruppo::VoceDiGruppo(IdDi(c))});

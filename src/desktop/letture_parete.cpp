@@ -23,6 +23,7 @@
 #include "core/testo.h"
 #include "desktop/dialoghi.h"
 #include "desktop/fuso_vicino.h"
+#include "desktop/icone.h"
 #include "desktop/lingua_finestra.h"
 #include "desktop/parole.h"
 
@@ -31,6 +32,9 @@ namespace ombrelia::desktop {
 namespace {
 
 const QString GIORNO = QStringLiteral("dd/MM/yyyy");
+// Of the readings as the project keeps them.
+constexpr char FRA_CELLE = '|', FRA_RIGHE = ';';
+constexpr auto DELL_OROLOGIO = "orologio", SENZA = "senza";
 
 // A day is picked in a calendar, or typed.
 class Giorni final : public QStyledItemDelegate {
@@ -126,7 +130,7 @@ LettureParete::LettureParete(Ponte &ponte, QWidget *genitore) : QWidget(genitore
     ore_->addItems({ponte_.Traduci("Le ore sono in UT"), ponte_.Traduci("Le ore sono dell'orologio")});
     ore_->setAccessibleName(ponte_.Traduci("Come sono date le ore"));
     ore_->setToolTip(ponte_.Traduci("L'orologio è quello della città vicina, con la sua ora legale del giorno"));
-    connect(ore_, &QComboBox::currentIndexChanged, this, [this] { ricalcola(); });
+    connect(ore_, &QComboBox::currentIndexChanged, this, [this] { cambiata(); });
     fila->addWidget(ore_, 1);
     auto *togli = new QPushButton(ponte_.Traduci("Togli la riga"), this);
     togli->setAutoDefault(false);
@@ -147,12 +151,12 @@ LettureParete::LettureParete(Ponte &ponte, QWidget *genitore) : QWidget(genitore
     tavola_->setMinimumHeight(150);
     giu->addWidget(tavola_, 2);
     connect(tavola_, &QTableWidget::cellChanged, this, [this] {
-        if (!riempiendo_) ricalcola();
+        if (!riempiendo_) cambiata();
     });
     connect(togli, &QPushButton::clicked, this, [this] {
         if (tavola_->currentRow() < 0) return;
         tavola_->removeRow(tavola_->currentRow());
-        ricalcola();
+        cambiata();
     });
     detto_ = new QLabel(this);
     detto_->setObjectName(QStringLiteral("detto"));
@@ -167,7 +171,7 @@ LettureParete::LettureParete(Ponte &ponte, QWidget *genitore) : QWidget(genitore
     senza_->setToolTip(ponte_.Traduci(
         "Prova di Grubbs: misure oneste di questo scarto ne avrebbero una così lontana meno di una volta su venti"));
     senza_->setEnabled(false);
-    connect(senza_, &QCheckBox::toggled, this, [this] { ricalcola(); });
+    connect(senza_, &QCheckBox::toggled, this, [this] { cambiata(); });
     giu->addWidget(senza_);
     usa_ = new QPushButton(Iniziale(ponte_.Traduci("usa come declinazione della parete")), this);
     usa_->setObjectName(QStringLiteral("usaDeclinazione"));
@@ -177,6 +181,53 @@ LettureParete::LettureParete(Ponte &ponte, QWidget *genitore) : QWidget(genitore
     giu->addWidget(usa_);
     nuovaRiga();
     ricalcola();
+}
+
+std::string LettureParete::scritte() const {
+    QStringList parti;
+    for (int r = 0; r < tavola_->rowCount(); ++r) {
+        QStringList celle;
+        for (const Colonna c : {Data, Ora, Angolo}) {
+            QString t = tavola_->item(r, c) ? tavola_->item(r, c)->text() : QString();
+            // What would end a cell, a row or the project's own tag is part of no reading.
+            t.removeIf([](QChar q) { return q < QLatin1Char(' ') || QStringLiteral("|;<>\"").contains(q); });
+            celle << t.trimmed();
+        }
+        if (!celle.at(Ora).isEmpty() || !celle.at(Angolo).isEmpty()) parti << celle.join(QLatin1Char(FRA_CELLE));
+    }
+    if (parti.isEmpty()) return {};
+    if (ore_->currentIndex() == 1) parti << QLatin1String(DELL_OROLOGIO);
+    if (senza_->isChecked()) parti << QLatin1String(SENZA);
+    return parti.join(QLatin1Char(FRA_RIGHE)).toStdString();
+}
+
+void LettureParete::rileggi() {
+    const std::string &loro = ponte_.sessione().in.txtLetture;
+    if (loro == lette_) return;
+    lette_ = loro;
+    riempiendo_ = true;
+    const QSignalBlocker zitte(ore_), zitto(senza_);
+    tavola_->setRowCount(0);
+    QStringList parti = Q(loro).split(QLatin1Char(FRA_RIGHE), Qt::SkipEmptyParts);
+    senza_->setChecked(parti.removeAll(QLatin1String(SENZA)) > 0);
+    ore_->setCurrentIndex(parti.removeAll(QLatin1String(DELL_OROLOGIO)) > 0 && fuso_ ? 1 : 0);
+    constexpr qsizetype RIGHE_MASSIME = 1000;
+    for (const QString &parte : parti.mid(0, RIGHE_MASSIME)) {
+        const QStringList celle = parte.split(QLatin1Char(FRA_CELLE));
+        nuovaRiga();
+        riempiendo_ = true;
+        for (const Colonna c : {Data, Ora, Angolo}) tavola_->item(tavola_->rowCount() - 1, c)->setText(celle.value(c));
+    }
+    riempiendo_ = false;
+}
+
+void LettureParete::cambiata() {
+    ricalcola();
+    const std::string mie = scritte();
+    if (mie == lette_) return;
+    lette_ = mie;
+    ponte_.passo = ponte_.Traduci("Letture della parete");
+    ponte_.fai(NESSUN_CONTROLLO, [&] { ponte_.sessione().in.txtLetture = mie; });
 }
 
 double LettureParete::campo(std::string_view nome) const {
@@ -360,6 +411,7 @@ void LettureParete::fusoDelLuogo() {
 void LettureParete::aggiorna() {
     if (!window()->isVisible()) return;
     fusoDelLuogo();
+    rileggi();
     ponte_.sincronizza();
     ricalcola();
 }
@@ -379,6 +431,7 @@ QWidget *LettureParete::calendario(QWidget *genitore) {
     b->setToolTip(ponte_.Traduci("Scegli il giorno nel calendario"));
     b->setAccessibleName(b->toolTip());
     b->setPopupMode(QToolButton::InstantPopup);
+    b->setIcon(IconaDi("calendar"));
     auto *menu = new QMenu(b);
     b->setMenu(menu);
     const auto scelto = [this, menu](const QDate &d) {

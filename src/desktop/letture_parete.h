@@ -52,6 +52,13 @@ private:
         int riga;
         double declinazione;
     };
+    // The table as the project keeps it: a row a reading, day, hour and angle between bars; then how the hours are given, and
+    // whether the reading that stands out is left out. Empty without a reading.
+    [[nodiscard]] std::string scritte() const;
+    // The project's readings into the table, where they are not the table's own.
+    void rileggi();
+    // What the user did with the table goes to the project, as a step that can be taken back.
+    void cambiata();
     void nuovaRiga();
     // What a row says; nothing for one that is empty or makes no sense, which is then marked.
     std::optional<double> leggi(int riga);
@@ -70,6 +77,7 @@ private:
     sun::Riassunto insieme_;
     std::size_t quante_ = 0;
     bool riempiendo_ = false;
+    std::string lette_;  // as the project and the table agreed last
 
     std::optional<luoghi::Fuso> fuso_;  // of the nearest town
     std::string luogo_, cercato_;       // its name; the site it was looked for at

@@ -158,6 +158,47 @@ TEST(LettureParete, MediaScartoELaLetturaCheStona) {
     }
 }
 
+// They are part of the dial: kept with it, found again, taken back like any other step.
+TEST(LettureParete, StannoNelProgetto) {
+    const auto righe = [](BancoParete &b) {
+        QStringList t;
+        for (int r = 0; r < b.t->rowCount(); ++r)
+            for (int c = 0; c < 3; ++c) t << b.t->item(r, c)->text();
+        return t.join(QLatin1Char(' '));
+    };
+    QString scritte;
+    {
+        BancoParete b("44.494", "-11.343", "-15");
+        const std::string vuoto = app::ScriviProgetto(b.s());
+        EXPECT_EQ(vuoto.find("etture"), std::string::npos) << "none, and the file is as ever";
+        b.scriviRiga(0, "03/05/2026", "10:00", "12.5");
+        b.scriviRiga(1, "04/05/2026", "11:30", "-3<b>\"|;");  // what can't be a reading breaks no file
+        b.f.moduli().letture().findChild<QComboBox *>(QStringLiteral("ore"))->setCurrentIndex(1);
+        EXPECT_TRUE(b.f.modificato());
+        const int passi = b.f.passi().count();
+        EXPECT_GT(passi, 3);
+        ASSERT_FALSE(app::SalvaProgetto(b.s(), "letture.omb"));
+        scritte = righe(b);
+        for (int i = 0; i < passi; ++i) b.f.passi().undo();
+        EXPECT_EQ(b.t->rowCount(), 1);
+        EXPECT_TRUE(b.t->item(0, 1)->text().isEmpty());
+        for (int i = 0; i < passi; ++i) b.f.passi().redo();
+        EXPECT_EQ(b.t->item(1, 1)->text(), QStringLiteral("11:30"));
+        b.f.nuovo();
+        EXPECT_EQ(b.t->rowCount(), 1);
+    }
+    BancoFinestra chiusa;
+    chiusa.f.apri(QStringLiteral("letture.omb"));
+    chiusa.f.ponte().premi("mnuAusiliaria");
+    auto *t = chiusa.f.moduli().letture().findChild<QTableWidget *>(QStringLiteral("letture"));
+    ASSERT_EQ(t->rowCount(), 3);
+    EXPECT_EQ(t->item(0, 2)->text(), QStringLiteral("12.5"));
+    EXPECT_EQ(t->item(1, 2)->text(), QStringLiteral("-3b"));
+    EXPECT_FALSE(t->item(0, 3)->text().isEmpty());
+    EXPECT_EQ(chiusa.f.moduli().letture().findChild<QComboBox *>(QStringLiteral("ore"))->currentIndex(), 1);
+    EXPECT_FALSE(chiusa.f.modificato());
+}
+
 // Zone and summer time of the day, by the rules of the place: known dates of its changes.
 TEST(LettureParete, IlQuadroHaLOraDelLuogo) {
     struct Caso {

@@ -54,6 +54,8 @@ BarraTempo::BarraTempo(Ponte &ponte, SopraFoglio &sopra, QWidget *genitore) : QW
     const auto cursore = [&](int massimo, int passo, const QString &testo) {
         auto *c = new QSlider(Qt::Horizontal, this);
         c->setRange(0, massimo);
+        constexpr int CORTO = 70;
+        c->setMinimumWidth(CORTO);
         c->setSingleStep(1);
         c->setPageStep(passo);
         aiuto(c, testo);

@@ -124,8 +124,15 @@ void CampoTesto::wheelEvent(QWheelEvent *e) {
     e->accept();
 }
 
+std::string CampoTesto::valore() const {
+    std::string testo = text().toStdString();
+    if (!angolo_) return testo;
+    luoghi::AngoloLetto letto = luoghi::LeggiAngolo(testo, *luoghi::TrovaCampoAngolo(RigaDi(id_).nome));
+    return letto.testo.empty() ? testo : std::move(letto.testo);
+}
+
 void CampoTesto::cambia() {
-    ponte_.fai(id_, [this] { app::Cambia(ponte_.sessione(), id_, text().toStdString()); });
+    ponte_.fai(id_, [this] { app::Cambia(ponte_.sessione(), id_, valore()); });
 }
 
 void CampoTesto::concludi() {
@@ -249,8 +256,8 @@ void CampoTesto::focusOutEvent(QFocusEvent *e) {
     QLineEdit::focusOutEvent(e);
     entrato_ = false;
     if (e->reason() == Qt::PopupFocusReason || e->reason() == Qt::ActiveWindowFocusReason) return;
-    ponte_.fai(id_, [this] { app::Lascia(ponte_.sessione(), id_); });
     concludi();
+    ponte_.fai(id_, [this] { app::Lascia(ponte_.sessione(), id_); });
 }
 
 }  // namespace ombrelia::desktop

@@ -22,6 +22,8 @@ class CampoTesto final : public QLineEdit {
 public:
     CampoTesto(Ponte &ponte, IdControllo id, QWidget *genitore);
     [[nodiscard]] QString unita() const;
+    // What the session is to hold of what stands in the box: of an angle that makes sense its decimal number, else the text.
+    [[nodiscard]] std::string valore() const;
 
 protected:
     bool event(QEvent *e) override;

@@ -7,17 +7,17 @@
 
 namespace ombrelia::desktop {
 
-Clessidra::Clessidra(QWidget *sopra, const QString &testo, const QString &ferma)
-    : sopra_(sopra), testo_(std::make_unique<QString>(testo)), ferma_(std::make_unique<QString>(ferma)) {
+Clessidra::Clessidra(QWidget *sopra, const QString &testo, const QString &ferma, int pazienza)
+    : pazienza_(pazienza), sopra_(sopra), testo_(std::make_unique<QString>(testo)), ferma_(std::make_unique<QString>(ferma)) {
     tempo_.start();
 }
 
 Clessidra::~Clessidra() = default;
 
 void Clessidra::guarda() {
-    constexpr int PAZIENZA = 600, GIRO = 60;  // milliseconds
+    constexpr int GIRO = 60;  // milliseconds
     if (!box_) {
-        if (tempo_.elapsed() < PAZIENZA) return;
+        if (tempo_.elapsed() < pazienza_) return;
         box_ = std::make_unique<QProgressDialog>(*testo_, *ferma_, 0, 0, sopra_);
         box_->setWindowModality(Qt::ApplicationModal);
         box_->setMinimumDuration(0);

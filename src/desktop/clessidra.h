@@ -16,7 +16,8 @@ struct Fermato {};  // thrown where a run is given up
 
 class Clessidra final : public Dispositivo {
 public:
-    Clessidra(QWidget *sopra, const QString &testo, const QString &ferma);
+    // pazienza: milliseconds until the box comes.
+    Clessidra(QWidget *sopra, const QString &testo, const QString &ferma, int pazienza);
     ~Clessidra() override;
     void Cls() override {}
     void Linea(double, double, double, double, Colore, int) override { conta(); }
@@ -32,6 +33,7 @@ private:
     void guarda();
 
     QElapsedTimer tempo_;
+    int pazienza_;
     unsigned tratti_ = 0;
     QWidget *sopra_;
     std::unique_ptr<QProgressDialog> box_;

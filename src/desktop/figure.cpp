@@ -160,9 +160,10 @@ void misura(QPainter &p, const Sessione &s, const QColor &testo) {
     p.setPen(penna(QColor(0xB0, 0x30, 0x20), 1.4));
     p.drawArc(QRectF(filo.x() - 46, filo.y() - 46, 92, 92), static_cast<int>(16 * (90 - 34)), 16 * 34);
     scritta(p, filo + QPointF(17, -54), QStringLiteral("az"), QColor(0xB0, 0x30, 0x20));
-    scritta(p, {118, -30}, t("ombra del filo"_it), OMBRA);
+    const QString ombra = t("ombra del filo"_it);
+    scritta(p, {118, -30}, ombra, OMBRA);
     p.setPen(penna(OMBRA, 0.8));
-    p.drawLine(QPointF(84, -34), QPointF(46, -50));
+    p.drawLine(QPointF(115 - p.fontMetrics().horizontalAdvance(ombra) / 2.0, -34), QPointF(46, -50));
     scritta(p, {60, 34}, t("filo a piombo"_it), QColor(0xB0, 0x30, 0x20));
     p.setPen(penna(QColor(0xB0, 0x30, 0x20), 0.8));
     p.drawLine(QPointF(30, 30), QPointF(4, 9));

@@ -147,6 +147,9 @@ Finestra::Finestra(Dialoghi &dialoghi) : dialoghi_(dialoghi), utente_(dialoghi),
     quadro_->aggiorna();
     passi_->aggiorna(false);
     titolo();
+    pazienza_ = new QTimer(this);
+    pazienza_->setSingleShot(true);
+    connect(pazienza_, &QTimer::timeout, this, [this] { lungoVivo(true); });
     auto *minuto = new QTimer(this);
     constexpr int OGNI = 60000;
     connect(minuto, &QTimer::timeout, this, [this] { tieniRipresa(); });
@@ -175,7 +178,7 @@ void Finestra::molo(const QString &titolo, const char *nome, QWidget *contenuto,
 // Before an action: what runs off the thread is given up, unsaved work is asked about, and what the window does in its own
 // way is done here.
 bool Finestra::prima(IdControllo id) {
-    if (!campo(id)) vivo_->ferma();
+    if (!campo(id)) vivo_->ferma(), lungoVivo(false);
     if (id == NESSUN_CONTROLLO) return true;
     const std::string_view nome = RigaDi(id).nome, modulo = RigaDi(id).modulo;
     if (nome == "mnuApri") return lasciaAndare();
@@ -186,7 +189,7 @@ bool Finestra::prima(IdControllo id) {
         return impagina(), false;
     if ((nome == "cmdRun" || nome == "cmdEqui") && !note_->leggiAngoli()) return false;
     if (nome == "cmdRun") primaDiEsegui();
-    if (nome == "cmdEqui") conAttesa();
+    if (nome == "cmdEqui" || nome == "cmdPlot") conAttesa();
     if (nome == "cmdCalcola" && modulo == "frmDeclin") {
         deltaPrima_ = s_.in.txtDelta;
         aoPrima_ = s_.in.txtAO;
@@ -209,7 +212,7 @@ void Finestra::primaDiEsegui() {
 
 // What may last shows that it goes on, and can be stopped.
 void Finestra::conAttesa() {
-    attesa_ = std::make_unique<Clessidra>(this, ponte_.Traduci("Disegno del quadrante..."), ponte_.Traduci("Ferma"));
+    attesa_ = std::make_unique<Clessidra>(this, ponte_.Traduci("Disegno del quadrante..."), ponte_.Traduci("Ferma"), pazienza);
     s_.tavolo.dispositivo = attesa_.get();
 }
 
@@ -235,6 +238,10 @@ void Finestra::dopoEsegui() {
 void Finestra::dopo(IdControllo id, const app::Esito &esito) {
     const std::string_view nome = id == NESSUN_CONTROLLO ? std::string_view() : RigaDi(id).nome;
     if (nome == "cmdRun" || nome == "cmdEqui") dopoEsegui();
+    if (nome == "cmdPlot") {
+        s_.tavolo.dispositivo = nullptr;
+        attesa_.reset();
+    }
     if (esito == app::Esito::Fallito && !esito.detto && !esito.motivo.empty()) dialoghi_.avviso(this, Q(esito.motivo));
     if (nome == "mnuApri" && esito) progettoNuovo(Q(esito.file));
     if (nome == "mnuSalva" && esito) {
@@ -340,6 +347,8 @@ void Finestra::rimesso(bool rifai) {
     titolo();
     for (const char *figura : {"Picture2", "Picture3"}) ponte_.widget(figura)->update();
     improntaCampi_ = impronta(s_);
+    moduli_->aggiorna(false);
+    note_->aggiorna();
     if (rifai || vivo_acceso()) chiediVivo();
 }
 
@@ -375,11 +384,32 @@ void Finestra::titolo() {
 
 void Finestra::chiediVivo() {
     improntaCampi_ = impronta(s_);
+    if (!note_->angoliInteri()) {  // the dial waits for the rest of what is typed
+        vivo_->ferma();
+        return lungoVivo(false);
+    }
     vivo_->chiedi(s_, quadro_->foglio().vista(), australe() != montato_);
+    if (pazienza_ && !lungo_) pazienza_->start(pazienza);
+}
+
+// A dial that takes its time beside the window says so, and can be given up; the one on the sheet stays.
+void Finestra::lungoVivo(bool dura) {
+    if (dura && !vivo_->attivo()) return;
+    if (!dura && !std::exchange(lungo_, false)) return;
+    lungo_ = dura;
+    if (!dura) return quadro_->offri({}, {});
+    quadro_->offri(ponte_.Traduci("Disegno del quadrante..."),
+                   {{ponte_.Traduci("Ferma"), [this] {
+                         vivo_->ferma();
+                         lungo_ = false;
+                         messaggio(ponte_.Traduci("Fermato: il quadrante resta com'era"));
+                     }}});
 }
 
 // A run off the thread has come: its drawing, its variables and its sheet are the session's, its fields are not.
 void Finestra::disegnoVivo(Vivo::ProvaViva &e) {
+    pazienza_->stop();
+    lungoVivo(false);
     Tavolo &t = s_.tavolo;
     const std::vector<RecArea> pagine = t.lista().Aree;
     t.ScambiaDisegno(*e.tavolo);

@@ -16,6 +16,7 @@
 #include "paint/documenti.h"
 
 class QCheckBox;
+class QTimer;
 class QToolBar;
 
 namespace ombrelia::desktop {
@@ -38,6 +39,9 @@ public:
 
     [[nodiscard]] Passi &passi() { return *passi_; }
     [[nodiscard]] NoteCampi &note() { return *note_; }
+
+    // Milliseconds until what goes on says so and lets itself be stopped.
+    int pazienza = 600;
 
     // Opens a project; the user is told when it can't be.
     void apri(const QString &percorso);
@@ -73,6 +77,7 @@ private:
     void dopo(IdControllo id, const app::Esito &esito);
     void disegnoVivo(Vivo::ProvaViva &e);
     void chiediVivo();
+    void lungoVivo(bool dura);
     [[nodiscard]] bool vivo_acceso() const;
     void primaDiEsegui();
     void conAttesa();
@@ -139,6 +144,8 @@ private:
     QString percorso_;
     std::unique_ptr<Passi> passi_;
     Tavolo scorta_;                                              // the drawing that a run replaces, until the run has drawn
+    QTimer *pazienza_ = nullptr;                                 // until a live run counts as long
+    bool lungo_ = false;                                         // one is told as such
     bool inScorta_ = false, montato_ = false;                    // montato_: the sheet's mirror is a southern dial's
     double specchioPrima_ = 1;                                   // before a run
     std::vector<std::pair<int DialInputs::*, int>> mascherate_;  // boxes that don't answer, set aside while a run lasts

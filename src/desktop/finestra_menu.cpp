@@ -21,6 +21,7 @@
 #include "desktop/finestra.h"
 #include "desktop/gruppi.h"
 #include "desktop/icone.h"
+#include "desktop/lingua_finestra.h"
 #include "desktop/parole.h"
 #include "desktop/stile.h"
 #include "desktop/striscia.h"
@@ -86,6 +87,7 @@ void Finestra::costruisciMenu() {
     VestiVoce(annulla, "annulla");
     VestiVoce(rifai, "ripeti");
     modifica->addActions({annulla, rifai});
+    moduli_->modulo("frmDeclin")->addActions({annulla, rifai});
     modifica->addSeparator();
     nostro(modifica, "copiaImmagine", [this] { copia(false); });
     nostro(modifica, "copiaSvg", [this] { copia(true); });
@@ -123,7 +125,13 @@ void Finestra::costruisciMenu() {
     QMenu *strumenti = menuBar()->addMenu(ponte_.Traduci("&Strumenti"));
     voce(strumenti, "mnuAusiliaria");
     QMenu *lingua = menuBar()->addMenu(ponte_.Traduci("&Lingua"));
-    for (const std::string_view nome : {"mnuItalian", "mnuFrancais", "mnuInglese"}) voce(lingua, nome);
+    auto *lingue = new QActionGroup(this);
+    const QString parlata = CodiceLingua(s_);
+    for (const auto &[nome, codice] : {std::pair{"mnuItalian", "it"}, {"mnuFrancais", "fr"}, {"mnuInglese", "en"}}) {
+        QAction *a = lingue->addAction(voce(lingua, nome));
+        a->setCheckable(true);
+        a->setChecked(parlata == QLatin1String(codice));
+    }
     QMenu *aiuto = menuBar()->addMenu(QStringLiteral("&?"));
     // By its keys it speaks of the field that has them, by the menu of what is pressed next.
     nostro(aiuto, "cheCosa", [this] {
@@ -299,6 +307,7 @@ void Finestra::vesti(int tema) {
     QSettings().setValue(QLatin1String(TEMA), tema);
     VestiApplicazione(*qApp, static_cast<Tema>(tema));
     strati_->vesti(TemaScuro());
+    moduli_->vesti();
 }
 
 // What the list of layers shows goes along.

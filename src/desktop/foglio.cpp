@@ -56,11 +56,13 @@ void Foglio::stile(const StileFoglio &nuovo) {
 
 void Foglio::legenda(std::vector<std::pair<QString, QColor>> voci) {
     legenda_ = std::move(voci);
+    disponi();
     viewport()->update();
 }
 
 void Foglio::mostraLegenda(bool si) {
     conLegenda_ = si;
+    disponi();
     viewport()->update();
 }
 
@@ -146,12 +148,48 @@ void Foglio::zoom(double volte, const QPointF &fermo) {
     viewport()->update();
 }
 
+// The legend's place. A sheet that is shown whole leaves it room, beside or below, whichever makes the sheet larger; over one
+// that is looked at closely it lies in the corner. Gives the part of the window that is the sheet's.
+QSizeF Foglio::disponiLegenda(double l, double h) {
+    const QSize finestra = viewport()->size();
+    legendaQui_ = {};
+    if (!conLegenda_ || legenda_.empty()) return finestra;
+    constexpr int ARIA = 12;
+    const QFontMetrics m(font());
+    int cella = 0;
+    for (const auto &[nome, tinta] : legenda_) cella = std::max(cella, m.horizontalAdvance(nome) + 46);
+    const int voci = static_cast<int>(legenda_.size());
+    const auto alta = [&](int colonne) { return (voci + colonne - 1) / colonne * (m.height() + 2) + 10; };
+    const QRect angolo(finestra.width() - cella - ARIA, RIGHELLO + 10, cella, alta(1));
+    const bool accanto = angolo.height() <= finestra.height() - 60 && cella <= finestra.width() / 2;
+    colonneLegenda_ = 1;
+    if (!intero_) {
+        if (accanto) legendaQui_ = angolo;
+        return finestra;
+    }
+    const auto entra = [&](const QSizeF &s) { return std::min((s.width() - 2 * MARGINE) / l, (s.height() - 2 * MARGINE) / h); };
+    const QSizeF resto(finestra.width() - cella - ARIA, finestra.height());
+    const int colonne = std::clamp((finestra.width() - RIGHELLO - 2 * ARIA) / cella, 1, voci);
+    const QSizeF sopra(finestra.width(), finestra.height() - alta(colonne) - ARIA / 2);
+    const bool sotto = alta(colonne) <= finestra.height() / 3;
+    if (accanto && (!sotto || entra(resto) >= entra(sopra))) {
+        legendaQui_ = angolo;
+        const bool libera = (finestra.width() + l * entra(finestra)) / 2 < angolo.left();
+        return libera ? QSizeF(finestra) : resto;
+    }
+    if (!sotto) return finestra;
+    colonneLegenda_ = colonne;
+    legendaQui_ = QRect(RIGHELLO + (finestra.width() - RIGHELLO - colonne * cella) / 2,
+                        finestra.height() - alta(colonne) - ARIA / 2, colonne * cella, alta(colonne));
+    return sopra;
+}
+
 // Bars and origin for the present window, sheet and zoom.
 void Foglio::disponi() {
     if (disponendo_) return;
     disponendo_ = true;
-    const QSizeF finestra = viewport()->size();
     const double l = std::max(tavolo_.LarghezzaImmagine(), 1.0), h = std::max(tavolo_.AltezzaImmagine(), 1.0);
+    const QSizeF finestra = disponiLegenda(l, h);
     if (intero_) {
         const double entra = std::min((finestra.width() - 2 * MARGINE) / l, (finestra.height() - 2 * MARGINE) / h);
         vista_.fattore = std::max(entra, fattoreVero() * ZOOM_MINIMO);

@@ -39,6 +39,7 @@ public:
     // What is laid over the picture: colours with their names, a line of text at the foot, a mark at a point.
     void legenda(std::vector<std::pair<QString, QColor>> voci);
     void mostraLegenda(bool si);
+    [[nodiscard]] const QRect &postoLegenda() const { return legendaQui_; }
     void mostraRighelli(bool si);
     void fumetto(const QString &testo);
     void segna(std::optional<QPointF> mondo);
@@ -64,7 +65,9 @@ protected:
     bool viewportEvent(QEvent *e) override;
 
 private:
+    static constexpr int RIGHELLO = 18;  // dots
     void disponi();
+    QSizeF disponiLegenda(double l, double h);
     void zoom(double volte, const QPointF &fermo);
     void sopra(QPainter &p);
     void righelli(QPainter &p);
@@ -81,6 +84,8 @@ private:
     bool trascina_ = false;
 
     std::vector<std::pair<QString, QColor>> legenda_;
+    QRect legendaQui_;  // empty: nowhere
+    int colonneLegenda_ = 1;
     bool conLegenda_ = true, conRighelli_ = true, conMisura_ = false, conLente_ = false;
     QString fumetto_;
     std::optional<QPointF> segno_, puntatore_;             // world metres; a point of the picture

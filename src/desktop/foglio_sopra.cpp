@@ -10,8 +10,6 @@ namespace ombrelia::desktop {
 
 namespace {
 
-constexpr int RIGHELLO = 18;
-
 struct TinteSopra {
     QColor fondo, testo, bordo;
 };
@@ -54,7 +52,7 @@ void Foglio::sopra(QPainter &p) {
         p.drawText(r, testo);
     }
     if (conRighelli_) righelli(p);
-    if (conLegenda_ && !legenda_.empty()) dipingiLegenda(p);
+    if (!legendaQui_.isEmpty()) dipingiLegenda(p);
     if (!fumetto_.isEmpty()) {
         QRectF r =
             p.boundingRect(QRectF(0, 0, viewport()->width() - RIGHELLO - 24, 200), Qt::AlignLeft | Qt::TextWordWrap, fumetto_);
@@ -120,22 +118,20 @@ void Foglio::righelli(QPainter &p) {
 void Foglio::dipingiLegenda(QPainter &p) {
     const TinteSopra t = tinte(stile().scuro);
     const QFontMetrics m(font());
-    int larga = 0;
-    for (const auto &[nome, tinta] : legenda_) larga = std::max(larga, m.horizontalAdvance(nome));
-    const int riga = m.height() + 2, n = static_cast<int>(legenda_.size());
-    const QRect r(viewport()->width() - larga - 58, RIGHELLO + 10, larga + 46, n * riga + 10);
-    if (r.height() > viewport()->height() - 60 || r.width() > viewport()->width() / 2) return;
+    const int riga = m.height() + 2, cella = legendaQui_.width() / colonneLegenda_,
+              righe = (static_cast<int>(legenda_.size()) + colonneLegenda_ - 1) / colonneLegenda_;
     p.setPen(t.bordo);
     p.setBrush(t.fondo);
-    p.drawRoundedRect(r, 5, 5);
+    p.drawRoundedRect(legendaQui_, 5, 5);
     p.setBrush(Qt::NoBrush);
-    int y = r.top() + 5;
+    int n = 0;
     for (const auto &[nome, tinta] : legenda_) {
+        const int x = legendaQui_.left() + n / righe * cella, y = legendaQui_.top() + 5 + n % righe * riga;
         p.setPen(QPen(tinta, 2.4));
-        p.drawLine(r.left() + 9, y + riga / 2, r.left() + 29, y + riga / 2);
+        p.drawLine(x + 9, y + riga / 2, x + 29, y + riga / 2);
         p.setPen(t.testo);
-        p.drawText(r.left() + 37, y + m.ascent() + 1, nome);
-        y += riga;
+        p.drawText(x + 37, y + m.ascent() + 1, nome);
+        ++n;
     }
 }
 

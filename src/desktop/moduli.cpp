@@ -41,6 +41,24 @@ QPlainTextEdit *lettura(QWidget *genitore) {
     return t;
 }
 
+// A row's colour so that it can be read on the ground of the text, light or dark.
+QColor inchiostro(Colore colore, const QColor &fondo) {
+    const auto luce = [](const QColor &c) {
+        const auto l = [](double x) { return x <= 0.03928 ? x / 12.92 : std::pow((x + 0.055) / 1.055, 2.4); };
+        return 0.05 + 0.2126 * l(c.redF()) + 0.7152 * l(c.greenF()) + 0.0722 * l(c.blueF());
+    };
+    const bool scuro = fondo.lightness() < 128;
+    QColor c = paint::Inchiostro(colore, scuro ? paint::Supporto::Schermo : paint::Supporto::Carta);
+    constexpr double LEGGIBILE = 4.5, PASSO = 0.08;
+    for (double via = 1; via > 0; via -= PASSO) {
+        const double a = luce(c), b = luce(fondo);
+        if (std::max(a, b) / std::min(a, b) >= LEGGIBILE) break;
+        const auto verso = [&](double x) { return static_cast<float>(scuro ? x + (1 - x) * PASSO * 2 : x * (1 - PASSO * 2)); };
+        c = QColor::fromRgbF(verso(c.redF()), verso(c.greenF()), verso(c.blueF()));
+    }
+    return c;
+}
+
 // The lines in their colours. A report's text has a line for each of its rows.
 void riempi(QPlainTextEdit *t, const Rapporto &r) {
     const QStringList righe = Q(reports::RapportoTesto(r)).split(QLatin1Char('\n'));
@@ -50,7 +68,7 @@ void riempi(QPlainTextEdit *t, const Rapporto &r) {
         QTextCharFormat f;
         const auto n = static_cast<std::size_t>(i);
         const Colore colore = n < r.righe.size() ? r.righe[n].colore : 0;
-        f.setForeground(paint::Inchiostro(colore, paint::Supporto::Carta));
+        f.setForeground(inchiostro(colore, t->palette().color(QPalette::Base)));
         if (i > 0) c.insertBlock();
         c.insertText(righe.at(i), f);
     }
@@ -132,6 +150,11 @@ void Moduli::mostra(const Rapporto &r) {
     if (auto *testo = w->findChild<QPlainTextEdit *>(QStringLiteral("testo"))) riempi(testo, r);
     if (TavoleRapporto *t = tavole(r.modulo)) t->mostra(r);
     apri(r.modulo, true);
+}
+
+void Moduli::vesti() {
+    for (const auto &[nome, r] : contenuti_)
+        if (auto *testo = finestre_[nome]->findChild<QPlainTextEdit *>(QStringLiteral("testo"))) riempi(testo, r);
 }
 
 void Moduli::aggiorna(bool calcolato) {

@@ -30,6 +30,8 @@ public:
     void stampa(const Rapporto &r);
     // A form's window; null when there is none.
     [[nodiscard]] QWidget *modulo(std::string_view nome) const;
+    // The looks of the window are others.
+    void vesti();
     // What the utility board shows beside its boxes follows them; with its sum done, the result comes forward.
     void aggiorna(bool calcolato);
     [[nodiscard]] LettureParete &letture() const { return *letture_; }

@@ -5,6 +5,7 @@
 #include <QBoxLayout>
 #include <QLabel>
 #include <QStyle>
+#include <algorithm>
 #include <set>
 
 #include "app/plausibile.h"
@@ -99,14 +100,23 @@ QString NoteCampi::nota(std::string_view campo) const {
     return l == etichette_.end() || !l->second || l->second->isHidden() ? QString() : l->second->text();
 }
 
+bool NoteCampi::angoliInteri() const {
+    Sessione &s = ponte_.sessione();
+    return std::ranges::all_of(campiAngolo(), [&](std::string_view campo) {
+        const std::string &testo = s.testo(TrovaControllo(campo));
+        const luoghi::AngoloLetto letto = luoghi::LeggiAngolo(testo, *luoghi::TrovaCampoAngolo(campo));
+        return letto.intoppo == luoghi::Intoppo::Vuoto || !letto.testo.empty();
+    });
+}
+
 bool NoteCampi::leggiAngoli() {
     Sessione &s = ponte_.sessione();
     for (const std::string_view campo : campiAngolo()) {
         const IdControllo id = TrovaControllo(campo);
         const luoghi::AngoloLetto letto = luoghi::LeggiAngolo(s.testo(id), *luoghi::TrovaCampoAngolo(campo));
         // A plain number out of its range is told and drawn all the same.
-        if (letto.buono() && letto.testo != s.testo(id)) app::Cambia(s, id, letto.testo);
-        if (letto.buono() || letto.intoppo == luoghi::Intoppo::Vuoto || letto.intoppo == luoghi::Intoppo::FuoriCampo) continue;
+        if (!letto.testo.empty() && letto.testo != s.testo(id)) app::Cambia(s, id, letto.testo);
+        if (!letto.testo.empty() || letto.intoppo == luoghi::Intoppo::Vuoto) continue;
         if (QWidget *w = ponte_.widget(campo)) w->setFocus(Qt::OtherFocusReason);
         aggiorna();
         return false;

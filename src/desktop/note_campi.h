@@ -19,6 +19,8 @@ public:
     // Before a run: angles written in degrees and minutes become the numbers they stand for. False when one makes no sense: its
     // line tells why, and it has the keys.
     [[nodiscard]] bool leggiAngoli();
+    // Whether each angle makes sense as it stands now: one that is being typed may not do so yet.
+    [[nodiscard]] bool angoliInteri() const;
     // Under a field; empty when there is nothing to say.
     [[nodiscard]] QString nota(std::string_view campo) const;
 

@@ -59,11 +59,15 @@ PannelloCertificato::PannelloCertificato(Ponte &ponte, Dialoghi &dialoghi, Sopra
 
     auto *giu = new QVBoxLayout(this);
     giu->setContentsMargins(10, 6, 10, 8);
-    auto *fila = new QHBoxLayout;
-    giu->addLayout(fila);
+    testa_ = new QBoxLayout(QBoxLayout::LeftToRight);
+    giu->addLayout(testa_);
     verdetto_ = new QLabel(ponte_.Traduci("Nessun disegno da certificare"), this);
     verdetto_->setTextFormat(Qt::PlainText);
-    fila->addWidget(verdetto_, 1);
+    verdetto_->setWordWrap(true);
+    verdetto_->setMinimumWidth(1);
+    testa_->addWidget(verdetto_, 1);
+    auto *fila = new QHBoxLayout;
+    testa_->addLayout(fila);
     const auto bottone = [&](const QString &testo, const QString &aiuto, auto azione) {
         auto *b = new QPushButton(testo, this);
         b->setToolTip(aiuto);
@@ -114,27 +118,37 @@ PannelloCertificato::PannelloCertificato(Ponte &ponte, Dialoghi &dialoghi, Sopra
     });
 }
 
+// Where the panel is narrow its buttons have a row of their own.
+void PannelloCertificato::resizeEvent(QResizeEvent *e) {
+    constexpr int STRETTO = 640;
+    testa_->setDirection(width() < STRETTO ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+    QWidget::resizeEvent(e);
+}
+
 void PannelloCertificato::giudica() {
     const Sessione &s = ponte_.sessione();
     DatiCertificato dati = DatiDelCertificato(s);
     if (const QString titolo = window()->windowTitle(); !titolo.isEmpty())
         dati.titolo = titolo.section(QStringLiteral(" - "), 0, 0).remove(QStringLiteral("[*]")).trimmed().toStdString();
     distintivo_->setEnabled(false);
+    verdetto_->setText(ponte_.Traduci("Rileggo le linee..."));
     custode_.chiedi(std::move(dati), s.tavolo.lista());
 }
 
 void PannelloCertificato::arrivato(const DatiCertificato &dati, const Certificato &c) {
     dati_ = dati;
     certificato_ = c;
-    const bool qualcosa = !c.righe.empty();
+    const bool qualcosa = !c.righe.empty(), esaminate = c.esaminate();
     const QString detto = Q(Verdetto(ponte_.sessione().dizionario, c));
     distintivo_->setVisible(qualcosa);
     distintivo_->setEnabled(true);
-    distintivo_->setText((c.vero() ? QStringLiteral("✓ ") : QStringLiteral("✗ ")) + detto);
+    distintivo_->setText((!esaminate ? QString() : c.vero() ? QStringLiteral("✓ ") : QStringLiteral("✗ ")) + detto);
     // Both hold 4.5 to 1 on the panel, light or dark.
     const bool scuro = palette().color(QPalette::Window).lightness() < 128;
     distintivo_->setStyleSheet(QStringLiteral("QToolButton { font-weight: 600; color: %1; }")
-                                   .arg(c.vero() ? (scuro ? "#7fd49a" : "#17663a") : (scuro ? "#ff9a7a" : "#9a3b12")));
+                                   .arg(!esaminate ? (scuro ? "#c8d0d8" : "#46525e")
+                                        : c.vero() ? (scuro ? "#7fd49a" : "#17663a")
+                                                   : (scuro ? "#ff9a7a" : "#9a3b12")));
     verdetto_->setText(qualcosa ? detto + (c.ignoti > 0
                                                ? QStringLiteral("  ·  ") + ponte_.Traduci("%1 tratti senza pretesa").arg(c.ignoti)
                                                : QString())

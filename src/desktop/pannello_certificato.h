@@ -9,6 +9,7 @@
 #include "desktop/ponte.h"
 #include "desktop/sopra_foglio.h"
 
+class QBoxLayout;
 class QLabel;
 class QPushButton;
 class QTableWidget;
@@ -27,6 +28,9 @@ public:
     // Draws again with true lines.
     std::function<void()> suCorreggi;
 
+protected:
+    void resizeEvent(QResizeEvent *e) override;
+
 private:
     void arrivato(const DatiCertificato &dati, const Certificato &c);
     void mostraRiga(int riga);
@@ -36,6 +40,7 @@ private:
     Dialoghi &dialoghi_;
     SopraFoglio &sopra_;
     QToolButton *distintivo_;
+    QBoxLayout *testa_;
     QLabel *verdetto_;
     QTableWidget *tavola_;
     QPushButton *stampa_, *salva_, *correggi_;

@@ -179,8 +179,10 @@ void Ponte::collega(IdControllo id, QWidget *w) {
         QObject::connect(c, &QComboBox::textActivated, c,
                          [this, id](const QString &v) { fai(id, [&] { app::Imposta(s_, id, v.toStdString()); }); });
     } else if (auto *e = qobject_cast<QLineEdit *>(w)) {
-        QObject::connect(e, &QLineEdit::textEdited, e,
-                         [this, id](const QString &v) { fai(id, [&] { app::Cambia(s_, id, v.toStdString()); }); });
+        QObject::connect(e, &QLineEdit::textEdited, e, [this, id, e](const QString &v) {
+            const auto *campo = dynamic_cast<const CampoTesto *>(e);
+            fai(id, [&] { app::Cambia(s_, id, campo ? campo->valore() : v.toStdString()); });
+        });
     }
 }
 
@@ -200,7 +202,10 @@ void Ponte::mostra(Legame &l) {
     const QSignalBlocker zitto(w);
     if (auto *e = qobject_cast<QLineEdit *>(w)) {
         const QString testo = Q(s_.testo(l.id));
-        if (e->text() != testo) {
+        // An angle in hand stands as its user writes it.
+        const auto *campo = dynamic_cast<const CampoTesto *>(e);
+        const bool inMano = campo && e->hasFocus() && Q(campo->valore()) == testo;
+        if (e->text() != testo && !inMano) {
             const int cursore = e->cursorPosition();
             e->setText(testo);
             e->setCursorPosition(e->hasFocus() ? std::min(cursore, static_cast<int>(testo.size())) : 0);

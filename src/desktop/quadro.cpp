@@ -131,15 +131,15 @@ QWidget *Quadro::piede() {
     piede_ = new QBoxLayout(QBoxLayout::LeftToRight, p);
     piede_->setContentsMargins(8, 3, 8, 3);
     piede_->setSpacing(4);
-    auto *detti = new QHBoxLayout;
-    detti->setObjectName(QStringLiteral("detti"));
-    detti->setSpacing(14);
-    piede_->addLayout(detti, 1);
+    detti_ = new QBoxLayout(QBoxLayout::LeftToRight);
+    detti_->setObjectName(QStringLiteral("detti"));
+    detti_->setSpacing(14);
+    piede_->addLayout(detti_, 1);
     auto *messaggio = qobject_cast<QLabel *>(ponte_.crea("Tavolo1.p_mess", p));
     messaggio->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     messaggio->setMinimumWidth(60);
     messaggio->setWordWrap(true);
-    detti->addWidget(messaggio, 1);
+    detti_->addWidget(messaggio, 1);
     auto *fila = new QHBoxLayout;
     fila->setSpacing(10);
     piede_->addLayout(fila);
@@ -249,6 +249,8 @@ void Quadro::piega() {
     SoloIcona(bottoni_, width() < larga_);
     file_->setDirection(width() < FILA ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
     piede_->setDirection(width() < PIEDE ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+    detti_->setDirection(width() < FILA ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+    detti_->setSpacing(width() < FILA ? 2 : 14);
 }
 
 void Quadro::resizeEvent(QResizeEvent *e) {

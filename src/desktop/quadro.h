@@ -50,9 +50,9 @@ private:
     QLabel *posizione_ = nullptr, *avviso_ = nullptr;
     QString detto_;
     std::vector<Offerta> offerte_;
-    QBoxLayout *file_ = nullptr, *piede_ = nullptr;  // of the head, of the foot
-    QList<QWidget *> bottoni_;                       // of the head
-    int larga_ = 0;                                  // the head with its texts
+    QBoxLayout *file_ = nullptr, *piede_ = nullptr, *detti_ = nullptr;  // of the head, of the foot
+    QList<QWidget *> bottoni_;                                          // of the head
+    int larga_ = 0;                                                     // the head with its texts
     QWidget *invX_ = nullptr, *invY_ = nullptr;
     std::vector<std::pair<QWidget *, QWidget *>> pannelli_;  // and the button below which each opens
 };

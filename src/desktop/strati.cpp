@@ -145,6 +145,9 @@ Tavolo::DisegnoTenuto Vesti(const Tavolo &t, const StileFoglio &stile, bool perC
 std::vector<Linea> LineeDi(const Tavolo &t) {
     const Lista &l = t.lista();
     std::map<std::pair<std::size_t, double>, Linea> trovate;
+    // Dots so close to the one before are a line to the eye; metres.
+    constexpr double UNITI = 0.002;
+    std::map<std::pair<std::size_t, double>, QPointF> ultimi;
     percorri(l, [&](char tipo, std::size_t k, const Pretesa *p) {
         const auto chi = chiave(p);
         Linea &linea = trovate.try_emplace(chi, Linea{chi.first, chi.second, 0, {}}).first->second;
@@ -157,6 +160,9 @@ std::vector<Linea> LineeDi(const Tavolo &t) {
         } else if (tipo == 'P') {
             const RecPunto &r = l.Punti[k];
             const QRectF qui(r.X * t.FattoreX, r.Y * t.FattoreY, 1e-9, 1e-9);
+            const auto [prima, primo] = ultimi.try_emplace(chi, qui.topLeft());
+            const QPointF passo = qui.topLeft() - std::exchange(prima->second, qui.topLeft());
+            if (const double lungo = std::hypot(passo.x(), passo.y()); !primo && lungo <= UNITI) linea.metri += lungo;
             linea.dove = linea.dove.isNull() ? qui : linea.dove.united(qui);
         }
     });

@@ -87,8 +87,8 @@ bool numeroNudo(std::string_view t, double &n) {
 AngoloLetto intoppo(Intoppo i) { return {i, 0, {}}; }
 
 AngoloLetto finito(double gradi, std::string testo, const CampoAngolo &campo) {
-    if (!(gradi >= campo.da && gradi <= campo.a)) return intoppo(Intoppo::FuoriCampo);
-    return {Intoppo::Nessuno, gradi, std::move(testo)};
+    const bool dentro = gradi >= campo.da && gradi <= campo.a;
+    return {dentro ? Intoppo::Nessuno : Intoppo::FuoriCampo, gradi, std::move(testo)};
 }
 
 // What no letter gives.

@@ -29,7 +29,8 @@ enum class Intoppo { Nessuno, Vuoto, NonSiLegge, Sessanta, Decimali, SegnoELette
 struct AngoloLetto {
     Intoppo intoppo = Intoppo::Vuoto;
     double gradi = 0;   // in the field's sign
-    std::string testo;  // what the field is to hold: a plain decimal number; a plain number stays as it was typed
+    std::string testo;  // what the field is to hold: a plain decimal number; a plain number stays as it was typed. Empty where
+                        // the text is no angle at all; one out of the range is one
     [[nodiscard]] bool buono() const { return intoppo == Intoppo::Nessuno; }
 };
 

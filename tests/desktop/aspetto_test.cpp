@@ -21,6 +21,7 @@
 #include <QTreeWidget>
 #include <QWheelEvent>
 #include <cmath>
+#include <numbers>
 #include <set>
 
 #include "app/lingua.h"
@@ -82,6 +83,25 @@ TEST(Aspetto, NullaEsceDaUnaFinestraPiccola) {
         }
         EXPECT_GE(b.f.quadro().foglio().viewport()->width(), 240);
     }
+}
+
+TEST(Aspetto, LaLegendaLasciaLiberoIlFoglio) {
+    for (const QSize misura : {QSize(900, 700), QSize(1024, 700), QSize(1360, 900)})
+        for (const char *alta : {"-.8", "-.2", "-2.6"}) {
+            BancoFinestra b;
+            b.f.resize(misura);
+            b.scrivi("txtY1", alta);
+            b.f.primoQuadrante();
+            b.aspettaVivo();
+            QTest::qWait(20);
+            const desktop::Foglio &foglio = b.f.quadro().foglio();
+            ASSERT_FALSE(foglio.postoLegenda().isEmpty()) << misura.width() << alta;
+            const QRectF sheet = foglio.vista().foglio(b.s().tavolo);
+            EXPECT_FALSE(sheet.intersects(foglio.postoLegenda())) << misura.width() << alta;
+            EXPECT_TRUE(QRectF(foglio.viewport()->rect()).contains(sheet)) << misura.width() << alta;
+            EXPECT_TRUE(foglio.viewport()->rect().contains(foglio.postoLegenda())) << misura.width() << alta;
+            b.vivo()->setChecked(false);
+        }
 }
 
 TEST(Aspetto, TestiELineeRisaltano) {
@@ -169,6 +189,39 @@ TEST(Aspetto, IlFoglioDiceLeSueLinee) {
     EXPECT_FALSE(carta.lista().Linee.empty());
 }
 
+// With each key the live dial is the one of the angle as it stands, or the one before while it makes no sense yet.
+TEST(Aspetto, UnAngoloCheSiScriveNonFaUnAltroQuadrante) {
+    BancoFinestra b;
+    b.spunta("chkOreAstronomiche");
+    b.vivo()->setChecked(true);
+    auto *lat = b.w<QLineEdit>("txtLAT");
+    lat->setFocus();
+    lat->selectAll();
+    struct Passo {
+        const char *tasti;
+        double gradi;  // 0: as before
+    };
+    const Passo passi[] = {{"33", 33},           {" ", 33}, {"5", 33 + 5 / 60.0}, {"2", 33 + 52 / 60.0},
+                           {" 7", 33.868611111}, {"1", 0},  {"\b", 33.868611111}, {" S", -33.868611111}};
+    std::string prima;
+    for (const Passo &p : passi) {
+        for (const char *t = p.tasti; *t; ++t) {
+            if (*t == '\b') QTest::keyClick(lat, Qt::Key_Backspace);
+            else QTest::keyClick(lat, *t);
+        }
+        b.aspettaVivo();
+        if (p.gradi == 0) EXPECT_TRUE(b.lista() == prima) << lat->text().toStdString();
+        else EXPECT_NEAR(std::fabs(b.s().v.latR.numero()) * 180 / std::numbers::pi, std::fabs(p.gradi), 1e-8) << p.tasti;
+        EXPECT_EQ(b.s().tavolo.FattoreX, p.gradi < 0 ? -1 : 1) << p.tasti;
+        prima = b.lista();
+    }
+    EXPECT_EQ(lat->text(), QStringLiteral("33 52 7 S")) << "stands as it was typed";
+    b.w("txtDec")->setFocus();
+    EXPECT_EQ(lat->text().toStdString(), b.campo("txtLAT"));
+    EXPECT_NEAR(std::stod(b.campo("txtLAT")), -33.868611111, 1e-8);
+    b.vivo()->setChecked(false);
+}
+
 TEST(Aspetto, ICampiLeggonoAngoliEDiconoIlCampo) {
     BancoFinestra b;
     auto *lat = b.w<QLineEdit>("txtLAT");
@@ -226,25 +279,64 @@ TEST(Aspetto, IlLavoroDiUnaFinestraMortaSiOffre) {
     EXPECT_FALSE(QFile::exists(QStringLiteral("ripreso.omb.ripresa-999999999")));
 }
 
+// Presses the stop of whatever says that it goes on; tells whether anything did.
+struct Impaziente {
+    QTimer tempo;
+    bool visto = false;
+    Impaziente() {
+        QObject::connect(&tempo, &QTimer::timeout, [this] {
+            for (QWidget *w : QApplication::topLevelWidgets())
+                if (auto *p = qobject_cast<QProgressDialog *>(w); p && p->isVisible()) {
+                    visto = true;
+                    p->cancel();
+                }
+        });
+        tempo.start(1);
+    }
+};
+
 TEST(Aspetto, UnaCorsaLungaSiFerma) {
+    struct Caso {
+        const char *bottone, *densita;
+        std::vector<std::string_view> caselle;
+    };
+    for (const Caso &c : {Caso{"cmdRun", ".000002", {"chkOreAstronomiche", "Ck_DayLightCurves", "ckAlt"}},
+                          Caso{"cmdEqui", ".00001", {"chkOreAstronomiche", "Ck_DayLightCurves"}}}) {
+        BancoFinestra b;
+        b.f.pazienza = 0;
+        b.scrivi("txtInc", "0");
+        for (const std::string_view nome : c.caselle) b.spunta(nome);
+        b.f.findChild<QAbstractButton *>(QStringLiteral("Adatta"))->click();
+        b.scrivi("txtDensity", c.densita);
+        b.scrivi("TxtFraz", "4");
+        Impaziente i;
+        b.premi(c.bottone);
+        EXPECT_TRUE(i.visto) << c.bottone << ": too quick to need stopping";
+        EXPECT_TRUE(b.s().tavolo.lista().Ordine.empty()) << c.bottone;
+        EXPECT_NE(b.campo("Tavolo1.p_mess").find("Fermato"), std::string::npos) << c.bottone;
+        // The next one is as ever.
+        i.tempo.stop();
+        b.scrivi("txtDensity", ".01");
+        b.premi(c.bottone);
+        EXPECT_FALSE(b.s().tavolo.lista().Ordine.empty()) << c.bottone;
+    }
+}
+
+// A dial that takes its time beside the window: the window answers, says so, and gives it up when told.
+TEST(Aspetto, UnQuadranteVivoLungoSiDiceESiFerma) {
     BancoFinestra b;
     for (const std::string_view nome : {"chkOreAstronomiche", "Ck_DayLightCurves", "ckAlt"}) b.spunta(nome);
-    b.f.findChild<QAbstractButton *>(QStringLiteral("Adatta"))->click();
-    b.scrivi("txtDensity", ".00001");
-    QTimer ferma;
-    bool visto = false;
-    QObject::connect(&ferma, &QTimer::timeout, [&] {
-        for (QWidget *w : QApplication::topLevelWidgets())
-            if (auto *p = qobject_cast<QProgressDialog *>(w); p && p->isVisible()) {
-                visto = true;
-                p->cancel();
-            }
-    });
-    ferma.start(50);
-    b.premi("cmdRun");
-    if (!visto) GTEST_SKIP() << "too quick here to need stopping";
-    EXPECT_TRUE(b.s().tavolo.lista().Ordine.empty());
-    EXPECT_NE(b.campo("Tavolo1.p_mess").find("Fermato"), std::string::npos);
+    b.vivo()->setChecked(true);
+    b.aspettaVivo();
+    const std::string prima = b.lista();
+    b.scrivi("txtDensity", ".000002");
+    auto *avviso = b.f.findChild<QLabel *>(QStringLiteral("avvisoCornice"));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return avviso->text().contains(QStringLiteral("Ferma")); }, 5000));
+    emit avviso->linkActivated(QStringLiteral("0"));
+    EXPECT_FALSE(b.f.vivo().attivo());
+    EXPECT_FALSE(avviso->text().contains(QStringLiteral("Ferma")));
+    EXPECT_TRUE(b.lista() == prima);
+    b.vivo()->setChecked(false);
 }
 
 // --- languages ------------------------------------------------------------------------------------------------------------

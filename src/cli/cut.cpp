@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "certificato/certificato.h"
 #include "certificato/posa.h"
 #include "cli/consegna.h"
 #include "cli/disegno.h"
@@ -86,6 +87,9 @@ int Cut(int argc, char **argv) {
         if (const std::string e = Consegna(p, officina::FormatoMacchinaDi(Estensione(p))->scrivi(d, foglio)); !e.empty())
             return Rifiuta("cut", e);
     std::fputs(officina::Racconto(d, come).c_str(), stdout);
+    for (const officina::Coincidenza &k : d.resoconto.coincidono)
+        std::printf("%s and %s coincide for %.0f mm: cut once\n", TestoPretesa(k.specie, k.valore).c_str(),
+                    TestoPretesa(k.con, k.valoreCon).c_str(), k.lunga);
     return 0;
 }
 

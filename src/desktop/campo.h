@@ -5,6 +5,7 @@
 #include <QLineEdit>
 
 #include "desktop/ponte.h"
+#include "luoghi/angolo.h"
 
 namespace ombrelia::desktop {
 
@@ -16,6 +17,9 @@ struct MisuraCampo {
     double da = 0, a = 0;  // range, when da < a
 };
 [[nodiscard]] const MisuraCampo *TrovaMisura(std::string_view nome);
+
+// An angle in both forms, its wind as the language calls it.
+[[nodiscard]] QString DueFormeDette(const Ponte &ponte, double gradi, luoghi::Verso verso);
 
 // Entered by mouse or key, its whole text is selected.
 class CampoTesto final : public QLineEdit {

@@ -6,6 +6,7 @@
 #include <QDockWidget>
 #include <QFileInfo>
 #include <QRegularExpression>
+#include <QScreen>
 #include <QSettings>
 #include <QTabBar>
 #include <QTimer>
@@ -135,7 +136,9 @@ Finestra::Finestra(Dialoghi &dialoghi) : dialoghi_(dialoghi), utente_(dialoghi),
     note_ = new NoteCampi(ponte_, this);
     new Aggiunte(*this, dialoghi_);
     nomina();
-    resize(1360, 860);
+    const QSize posto = screen()->availableSize() - QSize(16, 40);  // room for the desktop's own frame
+    constexpr QSize PRIMA(1360, 860);
+    resize(posto.width() < minimumWidth() ? PRIMA : PRIMA.boundedTo(posto));
     const QSettings ricordi;
     restoreGeometry(ricordi.value(QLatin1String(GEOMETRIA)).toByteArray());
     restoreState(ricordi.value(QLatin1String(STATO)).toByteArray());
@@ -157,7 +160,10 @@ Finestra::Finestra(Dialoghi &dialoghi) : dialoghi_(dialoghi), utente_(dialoghi),
     ponte_.widget("txtLAT")->setFocus(Qt::OtherFocusReason);
 }
 
-Finestra::~Finestra() { vivo_.reset(); }
+Finestra::~Finestra() {
+    vivo_.reset();
+    if (aParte_.joinable()) aParte_.join();
+}
 
 // What has no name yet for those who hear the window.
 void Finestra::nomina() {
@@ -262,14 +268,17 @@ void Finestra::dopo(IdControllo id, const app::Esito &esito) {
         strati_->aggiorna();
     }
     quadro_->aggiorna();
-    passi_->annota(id, id == NESSUN_CONTROLLO ? std::exchange(ponte_.passo, {}) : ponte_.nome(id),
-                   segue && (campo(id) || nome == "cmdRun"));
-    titolo();
     for (const char *figura : {"Picture2", "Picture3"}) ponte_.widget(figura)->update();
     const bool calcolato = nome == "cmdCalcola" && RigaDi(id).modulo == "frmDeclin";
     if (calcolato) soleDelGiorno();
     moduli_->aggiorna(calcolato);
     note_->aggiorna();
+    // The board as it opens is nobody's step.
+    if (nome == "mnuAusiliaria") passi_->aggiorna(segue);
+    else
+        passi_->annota(id, id == NESSUN_CONTROLLO ? std::exchange(ponte_.passo, {}) : ponte_.nome(id),
+                       segue && (campo(id) || nome == "cmdRun"));
+    titolo();
     if (nome == "ChCentimetro") altraUnita();
     if (nome == "M_about") moduli_->apri("frmAbout", true);
     if (nome == "mnuEsci")
@@ -467,12 +476,6 @@ void Finestra::primoQuadrante() {
 
 // A new dial says what its lines are, where there are letters to say it with.
 void Finestra::etichetteAccese() { s_.in.ckEtichette = officina::CiSonoTratti() ? 1 : 0; }
-
-Tavolo &Finestra::perCarta() {
-    if (!Ritoccato(quadro_->foglio().stile())) return s_.tavolo;
-    VestiFoglio(s_.tavolo, quadro_->foglio().stile(), true, carta_);
-    return carta_;
-}
 
 void Finestra::messaggio(const QString &testo) {
     s_.Messaggio(testo.toStdString());

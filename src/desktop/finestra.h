@@ -3,6 +3,8 @@
 
 #include <QMainWindow>
 #include <memory>
+#include <optional>
+#include <thread>
 
 #include "desktop/clessidra.h"
 #include "desktop/dialoghi.h"
@@ -120,9 +122,16 @@ private:
     void ricorda(const QString &percorso);
     void riempiRecenti();
     void messaggio(const QString &testo);
+    // A file's content, or why there is none. What may last is made beside the window from a copy of the sheet; nothing when its
+    // user gave it up, or memory did.
+    struct Prodotto {
+        std::string contenuto, errore;
+    };
+    std::optional<Prodotto> aParte(const std::function<Prodotto(Tavolo &)> &lavoro);
     bool piastrelle(const std::function<bool(const paint::Avanzamento &)> &lavoro);
 
     Dialoghi &dialoghi_;
+    std::thread aParte_;  // of aParte, perhaps given up
     UtenteFinestra utente_;
     Sessione s_;
     Ponte ponte_;

@@ -1,10 +1,14 @@
 // The main window's files and pages: projects, recent ones, exports, printing.
+#include <QCoreApplication>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
 #include <QMenu>
 #include <QPrinter>
 #include <QProgressDialog>
 #include <QSettings>
+#include <chrono>
+#include <future>
 
 #include "app/progetto.h"
 #include "core/file.h"
@@ -168,6 +172,43 @@ bool Finestra::piastrelle(const std::function<bool(const paint::Avanzamento &)> 
     });
 }
 
+std::optional<Finestra::Prodotto> Finestra::aParte(const std::function<Prodotto(Tavolo &)> &lavoro) {
+    if (aParte_.joinable()) aParte_.join();
+    auto foglio = std::make_shared<Tavolo>(perCarta());
+    foglio->dispositivo = nullptr;
+    foglio->suMessaggio = nullptr;
+    foglio->suAttesa = nullptr;
+    auto promessa = std::make_shared<std::promise<Prodotto>>();
+    std::future<Prodotto> futuro = promessa->get_future();
+    aParte_ = std::thread([foglio, promessa, lavoro] {
+        try {
+            promessa->set_value(lavoro(*foglio));
+        } catch (...) {
+            promessa->set_exception(std::current_exception());
+        }
+    });
+    QElapsedTimer tempo;
+    tempo.start();
+    std::unique_ptr<QProgressDialog> box;
+    constexpr std::chrono::milliseconds GIRO(15);
+    while (futuro.wait_for(GIRO) != std::future_status::ready) {
+        if (!box && tempo.elapsed() >= pazienza) {
+            box = std::make_unique<QProgressDialog>(ponte_.Traduci("Scrivo il file..."), ponte_.Traduci("Ferma"), 0, 0, this);
+            box->setWindowModality(Qt::WindowModal);
+            box->setMinimumDuration(0);
+            box->show();
+        }
+        QCoreApplication::processEvents(box ? QEventLoop::AllEvents : QEventLoop::ExcludeUserInputEvents);
+        if (box && box->wasCanceled()) return messaggio(ponte_.Traduci("Nessun file scritto")), std::nullopt;
+    }
+    try {
+        return futuro.get();
+    } catch (const std::bad_alloc &) {
+        dialoghi_.avviso(this, ponte_.Traduci("La memoria non basta"));
+        return {};
+    }
+}
+
 void Finestra::stampa(bool aree) {
     dialoghi_.stampa(this, ponte_.Traduci("Stampa del quadrante"), [this, aree](QPrinter &stampante) {
         // Tiles are those of the printer's paper; those chosen for another are chosen anew.
@@ -189,17 +230,22 @@ void Finestra::esportaPdf() {
     const auto f = dialoghi_.file(this, true, QStringLiteral("pdf"), QStringLiteral("*.pdf"),
                                   Q(app::CartellaDisegni()) + QStringLiteral("/quadrante.pdf"));
     if (!f || f->isEmpty()) return;
-    std::string errore;
-    QByteArray pdf;
-    if (aree)
+    Prodotto pdf;
+    if (aree) {
         piastrelle([&](const paint::Avanzamento &avanza) {
-            pdf = paint::PdfPiastrelle(perCarta(), avanza);
+            pdf.contenuto = paint::PdfPiastrelle(perCarta(), avanza).toStdString();
             return true;
         });
-    else pdf = paint::PdfFoglio(perCarta(), errore);
-    if (!errore.empty()) return dialoghi_.avviso(this, Motivo(ponte_, errore));
-    if (pdf.isEmpty()) return messaggio(ponte_.Traduci("Nessun file scritto"));
-    scrivi(*f, pdf.toStdString());
+    } else if (auto fatto = aParte([](Tavolo &t) {
+                   Prodotto p;
+                   p.contenuto = paint::PdfFoglio(t, p.errore).toStdString();
+                   return p;
+               })) {
+        pdf = std::move(*fatto);
+    }
+    if (!pdf.errore.empty()) return dialoghi_.avviso(this, Motivo(ponte_, pdf.errore));
+    if (pdf.contenuto.empty()) return messaggio(ponte_.Traduci("Nessun file scritto"));
+    scrivi(*f, pdf.contenuto);
 }
 
 void Finestra::esporta() {
@@ -211,11 +257,22 @@ void Finestra::esporta() {
                                   Q(app::CartellaDisegni()) + QStringLiteral("/quadrante.svg"));
     if (!f || f->isEmpty()) return;
     const FormatoDisegno *forma = FormatoDi(QFileInfo(*f).suffix().toStdString());
-    std::string errore, contenuto;
-    if (forma && forma->disegno) contenuto = forma->scrivi(perCarta(), errore);
-    else errore = f->toStdString() + ": " + fini.join(QStringLiteral(", ")).toStdString();
-    if (!errore.empty()) return dialoghi_.avviso(this, Motivo(ponte_, errore));
-    scrivi(*f, contenuto);
+    if (!forma || !forma->disegno)
+        return dialoghi_.avviso(this, Motivo(ponte_, f->toStdString() + ": " + fini.join(QStringLiteral(", ")).toStdString()));
+    const auto fatto = aParte([forma](Tavolo &t) {
+        Prodotto p;
+        p.contenuto = forma->scrivi(t, p.errore);
+        return p;
+    });
+    if (!fatto) return;
+    if (!fatto->errore.empty()) return dialoghi_.avviso(this, Motivo(ponte_, fatto->errore));
+    scrivi(*f, fatto->contenuto);
+}
+
+Tavolo &Finestra::perCarta() {
+    if (!Ritoccato(quadro_->foglio().stile())) return s_.tavolo;
+    VestiFoglio(s_.tavolo, quadro_->foglio().stile(), true, carta_);
+    return carta_;
 }
 
 QString Finestra::nomeProposto() const {

@@ -10,6 +10,7 @@
 
 #include "app/plausibile.h"
 #include "core/testo.h"
+#include "desktop/campo.h"
 #include "desktop/dialoghi.h"
 #include "luoghi/angolo.h"
 
@@ -39,7 +40,7 @@ NoteCampi::Nota NoteCampi::diAngolo(std::string_view campo) const {
     const luoghi::AngoloLetto letto = luoghi::LeggiAngolo(testo, c);
     const QWidget *w = ponte_.widget(campo);
     if (letto.buono())
-        return {letto.testo != testo || (w && w->hasFocus()) ? QStringLiteral("= ") + Q(luoghi::DueForme(letto.gradi, c.verso))
+        return {letto.testo != testo || (w && w->hasFocus()) ? QStringLiteral("= ") + DueFormeDette(ponte_, letto.gradi, c.verso)
                                                              : QString()};
     if (letto.intoppo == luoghi::Intoppo::Vuoto) return {};
     return {ponte_.Traduci(luoghi::Motivo(letto.intoppo)), true};

@@ -90,7 +90,7 @@ std::shared_ptr<Passi::Istantanea> Passi::ritrai(bool segue) const {
     for (std::size_t k = 0; k < tavola.size(); ++k) {
         const Controllo &c = tavola[k];
         const auto id = static_cast<IdControllo>(k);
-        if (c.modulo != "MDIForm1") continue;
+        if (c.modulo != "MDIForm1" && c.modulo != "frmDeclin") continue;
         if (c.classe == Classe::Testo || c.classe == Classe::Elenco) f += s_.testo(id);
         else if (c.classe == Classe::Casella || c.classe == Classe::Opzione) f += std::to_string(s_.valore(id));
         f += '\n';

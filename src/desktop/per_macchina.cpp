@@ -17,6 +17,7 @@
 #include <QThread>
 #include <cmath>
 
+#include "certificato/certificato.h"
 #include "core/file.h"
 #include "core/testo.h"
 #include "desktop/parole.h"
@@ -62,6 +63,14 @@ QString RaccontoMacchina(const Ponte &ponte, const officina::Disegno &d, const o
     if (r.curve) frasi << ponte.Traduci("%1 punti uniti in %2 curve.").arg(n(r.puntiUniti), n(r.curve));
     if (r.punti) frasi << ponte.Traduci("%1 punti restano soli.").arg(n(r.punti));
     frasi << ponte.Traduci("%1 disegnati due volte, lasciati fuori.").arg(lungo(r.doppia));
+    constexpr std::size_t DETTE = 8;
+    for (std::size_t i = 0; i < std::min(r.coincidono.size(), DETTE); ++i) {
+        const officina::Coincidenza &k = r.coincidono[i];
+        const Dizionario &diz = ponte.sessione().dizionario;
+        frasi << ponte.Traduci("«%1» sta su «%2» per %3: tagliata una volta.")
+                     .arg(Q(TestoPretesa(diz, k.specie, k.valore)), Q(TestoPretesa(diz, k.con, k.valoreCon)), lungo(k.lunga));
+    }
+    if (r.coincidono.size() > DETTE) frasi << QStringLiteral("…");
     frasi << (o.ritaglio == officina::Ritaglio::Foglio || d.senzaCornice ? ponte.Traduci("%1 fuori del foglio, tagliati via.")
                                                                          : ponte.Traduci("%1 fuori della cornice, tagliati via."))
                  .arg(lungo(r.fuori));

@@ -55,6 +55,7 @@ public:
     std::function<void()> suVirgolette;              // a double quote was typed: it would end the project's text
 
     [[nodiscard]] Sessione &sessione() { return s_; }
+    [[nodiscard]] const Sessione &sessione() const { return s_; }
     // What the window calls a control: its maker's word for it, or its caption.
     [[nodiscard]] QString didascalia(IdControllo id) const;
     // A control's name as its user reads it: that, or that of the label before it.

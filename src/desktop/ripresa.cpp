@@ -18,7 +18,14 @@ QDir cartella() { return QDir(QStandardPaths::writableLocation(QStandardPaths::A
 
 bool vive(qint64 pid) {
 #ifdef __linux__
-    return QFileInfo::exists(QStringLiteral("/proc/%1").arg(pid));
+    // One that ended and was not fetched yet is no more, and a number may be another program's by now.
+    const QString casa = QStringLiteral("/proc/%1/").arg(pid);
+    QFile stato(casa + QStringLiteral("stat"));
+    if (!stato.open(QIODevice::ReadOnly)) return false;
+    const QByteArray testo = stato.readAll();
+    const char fase = testo.mid(testo.lastIndexOf(')') + 1).trimmed().left(1).toStdString().c_str()[0];
+    return fase != 'Z' && fase != 'X' &&
+           QFileInfo(casa + QStringLiteral("exe")).symLinkTarget() == QFileInfo(QStringLiteral("/proc/self/exe")).symLinkTarget();
 #else
     (void)pid;
     return false;

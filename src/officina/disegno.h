@@ -59,6 +59,15 @@ struct ComePreparare {
     double raggioPunti = 0;  // mm: single points become circles; 0 leaves them points
 };
 
+// A line that lies on another of a different name, which is cut for both; how much of it, mm, to the sixtieth of its length.
+struct Coincidenza {
+    Specie specie;
+    double valore;
+    Specie con;
+    double valoreCon;
+    double lunga;
+};
+
 // What was done. Lengths in mm.
 struct Resoconto {
     std::size_t corde = 0, puntini = 0, cerchi = 0, scritte = 0;  // of the list
@@ -69,6 +78,7 @@ struct Resoconto {
     std::size_t puntiFuori = 0, figureFuori = 0, scritteFuori = 0;
     double doppia = 0;  // drawn on something already there, left out
     std::size_t puntiDoppi = 0;
+    std::vector<Coincidenza> coincidono{};
     double scarto = 0;                     // largest departure of a vertex of the list from the paths
     double persa = 0;                      // inside, but farther from every path than can be: 0 unless this room is at fault
     double viaggio = 0, viaggioPrima = 0;  // of the head between cuts, in the order here and in the list's

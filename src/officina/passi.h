@@ -26,6 +26,8 @@ void CatenePunti(const std::vector<Puntino> &puntini, std::vector<std::vector<P2
 // From chains to paths, kind by kind in their order: ends that meet are joined, stretches within a hundredth of a
 // millimetre (or the tolerance, where it is larger) of a path that is kept are left out, the rest keeps few points.
 void Riduci(std::vector<Cammino> &cammini, const Riquadro &campo, double tolleranza, Resoconto &r);
+// Which lines are gone since they lie on lines of another name.
+[[nodiscard]] std::vector<Coincidenza> Coincidenti(const std::vector<Cammino> &prima, const std::vector<Cammino> &dopo);
 // Joins ends that meet: paths of one line, and paths of one kind that go straight on.
 void Unisci(std::vector<Cammino> &cammini);
 // The order of cutting: what lies inside before the frame, the nearest end next.

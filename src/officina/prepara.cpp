@@ -113,7 +113,9 @@ Disegno Prepara(const Tavolo &tavolo, const ComePreparare &o, std::string &error
     Raccolta tutto = Raccogli(tavolo, d.campo, o, r);
     std::vector<Cammino> &c = d.cammini;
     c = std::move(tutto.cammini);
+    const std::vector<Cammino> prima = c;
     Riduci(c, d.campo, o.tolleranza, r);
+    r.coincidono = Coincidenti(prima, c);
     misura(tutto.vertici, c, d.campo, o.tolleranza, r);
     for (Cammino &k : c)
         if (k.tipo == Cammino::Tipo::Punto && o.raggioPunti > 0) {

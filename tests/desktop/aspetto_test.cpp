@@ -1,5 +1,7 @@
 // The window as its maker sees it: a dial at once, nothing cut, readable in both themes, in three languages; the sheet tells its
 // lines; fields help; nothing hangs.
+#include <unistd.h>
+
 #include <QAbstractButton>
 #include <QAbstractItemModel>
 #include <QAbstractItemView>
@@ -269,14 +271,38 @@ TEST(Aspetto, IlLavoroDiUnaFinestraMortaSiOffre) {
         // As a window of a process that is no more would have left it.
         ASSERT_FALSE(ScriviFile("ripreso.omb.ripresa-999999999", app::ScriviProgetto(b.s())));
     }
-    BancoFinestra b;
-    b.f.apri(QStringLiteral("ripreso.omb"));
-    EXPECT_EQ(b.campo("txtDec"), "6.5");
-    b.f.offriRipresa(b.f.percorso());
-    EXPECT_EQ(b.campo("txtDec"), "-12.25");
-    EXPECT_TRUE(b.f.modificato());
-    EXPECT_TRUE(b.f.windowTitle().startsWith(QStringLiteral("ripreso.omb[*]")));
-    EXPECT_FALSE(QFile::exists(QStringLiteral("ripreso.omb.ripresa-999999999")));
+    // A number that no process has, one that ended a moment ago, one of another program.
+    const QString suo = QStringLiteral("ripreso.omb.ripresa-");
+    const int figlio = fork();
+    if (figlio == 0) _exit(0);
+    for (const QString &pid : {QStringLiteral("999999999"), QString::number(figlio), QStringLiteral("1")}) {
+        QFile::rename(suo + QStringLiteral("999999999"), suo + pid);
+        QFile::copy(suo + pid, QStringLiteral("ripresa.tenuta"));
+        QTest::qWait(20);
+        BancoFinestra b;
+        b.f.apri(QStringLiteral("ripreso.omb"));
+        EXPECT_EQ(b.campo("txtDec"), "6.5");
+        b.f.offriRipresa(b.f.percorso());
+        EXPECT_EQ(b.campo("txtDec"), "-12.25") << pid.toStdString();
+        EXPECT_TRUE(b.f.modificato());
+        EXPECT_TRUE(b.f.windowTitle().startsWith(QStringLiteral("ripreso.omb[*]")));
+        EXPECT_FALSE(QFile::exists(suo + pid));
+        QFile::remove(suo + QString::number(QCoreApplication::applicationPid()));
+        QFile::rename(QStringLiteral("ripresa.tenuta"), suo + QStringLiteral("999999999"));
+    }
+    QFile::remove(suo + QStringLiteral("999999999"));
+    // A window that is still there keeps its own.
+    {
+        BancoFinestra viva;
+        ASSERT_FALSE(
+            ScriviFile((suo + QString::number(QCoreApplication::applicationPid())).toStdString(), app::ScriviProgetto(viva.s())));
+        BancoFinestra b;
+        b.f.apri(QStringLiteral("ripreso.omb"));
+        b.dialoghi.domande.clear();
+        b.f.offriRipresa(b.f.percorso());
+        EXPECT_TRUE(b.dialoghi.domande.empty());
+    }
+    QFile::remove(suo + QString::number(QCoreApplication::applicationPid()));
 }
 
 // Presses the stop of whatever says that it goes on; tells whether anything did.
@@ -319,6 +345,34 @@ TEST(Aspetto, UnaCorsaLungaSiFerma) {
         b.scrivi("txtDensity", ".01");
         b.premi(c.bottone);
         EXPECT_FALSE(b.s().tavolo.lista().Ordine.empty()) << c.bottone;
+    }
+}
+
+// So do files: nothing is written then, and the window can be closed meanwhile.
+TEST(Aspetto, UnFileLungoSiFerma) {
+    BancoFinestra b;
+    for (const std::string_view nome : {"chkOreAstronomiche", "ckAlt"}) b.spunta(nome);
+    b.f.findChild<QAbstractButton *>(QStringLiteral("Adatta"))->click();
+    b.scrivi("txtDensity", ".00005");
+    b.premi("cmdRun");
+    ASSERT_GT(b.s().tavolo.lista().Punti.size(), 100000U);
+    for (const char *file : {"fermo.pdf", "fermo.svg", "fermo.png"}) {
+        auto *azione = b.f.findChild<QAction *>(std::string_view(file) == "fermo.pdf" ? QStringLiteral("comando.esportaPdf")
+                                                                                      : QStringLiteral("comando.esporta"));
+        {
+            b.f.pazienza = 0;
+            Impaziente i;
+            b.dialoghi.risposte = {file};
+            azione->trigger();
+            EXPECT_TRUE(i.visto) << file;
+            EXPECT_FALSE(QFile::exists(QString::fromLatin1(file))) << file;
+        }
+        b.f.pazienza = 600000;
+        b.dialoghi.risposte = {file};
+        azione->trigger();
+        EXPECT_TRUE(QFile::exists(QString::fromLatin1(file))) << file;
+        EXPECT_TRUE(b.dialoghi.avvisi.empty()) << file;
+        QFile::remove(QString::fromLatin1(file));
     }
 }
 

@@ -158,6 +158,23 @@ TEST(LettureParete, MediaScartoELaLetturaCheStona) {
     }
 }
 
+TEST(LettureParete, LaTavolaSiAnnulla) {
+    BancoParete b("44.494", "-11.343", "-15");
+    const int aperta = b.f.passi().count();
+    const std::string prima = b.campo("frmDeclin.txtLAT");
+    b.scrivi("frmDeclin.txtLAT", "52.5");
+    b.scrivi("frmDeclin.txtAngle", "12");
+    b.premi("frmDeclin.cmdCalcola");
+    EXPECT_FALSE(b.campo("frmDeclin.txtResult").empty());
+    EXPECT_EQ(b.f.passi().count(), aperta + 3) << "each field one step, and the run";
+    for (int i = 0; i < 3; ++i) b.f.passi().undo();
+    EXPECT_EQ(b.campo("frmDeclin.txtLAT"), prima);
+    EXPECT_EQ(b.w<QLineEdit>("frmDeclin.txtLAT")->text().toStdString(), prima);
+    EXPECT_EQ(b.campo("frmDeclin.txtAngle"), "0");
+    b.f.passi().redo();
+    EXPECT_EQ(b.campo("frmDeclin.txtLAT"), "52.5");
+}
+
 // They are part of the dial: kept with it, found again, taken back like any other step.
 TEST(LettureParete, StannoNelProgetto) {
     const auto righe = [](BancoParete &b) {

@@ -68,6 +68,28 @@ TEST(Officina, DaCordeAPercorsi) {
 }
 
 // An arc of radius R within a tolerance t takes chords of 2 acos(1 - t/R) at the most; the fewest points are near that.
+// Of lines that coincide one is cut, and which they are is told; lines that cross, or are drawn twice, are none.
+TEST(Officina, LineeDiNomiDiversiCheCoincidonoSonoDette) {
+    Foglio200 f;
+    const auto linea = [&](P2 a, P2 b, Specie specie, double valore) {
+        const Lista &l = f.lista();
+        const std::size_t da = l.Ordine.size(), linee = l.Linee.size();
+        f.linea(a, b, "x");
+        f.pretendi({specie, valore, da, da, linee, l.Punti.size(), l.Figure.size()});
+    };
+    linea({0, -40}, {0, 40}, Specie::Ora, 12);
+    linea({0, -40}, {0, 40}, Specie::Ora, 12);
+    linea({0, -30}, {0, 10}, Specie::Mezzogiorno, 0);
+    linea({-50, 0}, {50, 0.5}, Specie::Diurna, 0);
+    linea({-50, 0.005}, {0, 0.255}, Specie::Temporaria, 6);
+    const std::vector<Coincidenza> trovate = f.pronto().resoconto.coincidono;
+    std::map<std::pair<Specie, Specie>, double> lunghe;
+    for (const Coincidenza &k : trovate) lunghe[std::minmax(k.specie, k.con)] = k.lunga;
+    ASSERT_EQ(lunghe.size(), 2U);
+    EXPECT_NEAR((lunghe[std::minmax(Specie::Ora, Specie::Mezzogiorno)]), 40, 1);
+    EXPECT_NEAR((lunghe[std::minmax(Specie::Diurna, Specie::Temporaria)]), 50, 1);
+}
+
 TEST(Officina, CurveConPochiPunti) {
     for (const double t : {0.1, 0.01, 0.002}) {
         Foglio200 f;

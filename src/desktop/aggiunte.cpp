@@ -1,6 +1,7 @@
 // Docks and boxes round the window.
 #include "desktop/aggiunte.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QDockWidget>
 #include <QLayout>
@@ -62,12 +63,12 @@ Aggiunte::Aggiunte(Finestra &finestra, Dialoghi &dialoghi) : QObject(&finestra),
                 for (ombra::Punto &p : punti) p.x *= mm, p.y *= mm;
                 sopra_->accendi({}, std::move(punti), false);
             };
-    // The manual at the field that has the keys, where the manual names it.
+    // The manual at what has the keys, in the window or in one of its forms.
     QAction *manuale = CreaComando(ponte, "manuale", this, [this] {
-        const QWidget *qui = f_.focusWidget();
-        if (!ApriManuale(f_.ponte(), &f_, qui ? qui->objectName() : QString()))
+        if (!ApriManuale(f_.ponte(), &f_, AncoraDi(QApplication::focusWidget())))
             dialoghi_.avviso(&f_, f_.ponte().Traduci("Il manuale non è installato"));
     });
+    manuale->setShortcutContext(Qt::ApplicationShortcut);
     QMenu *aiuto = menu(QStringLiteral("&?"));
     aiuto->insertAction(aiuto->actions().value(0), manuale);
     constexpr int CALMA = 150;

@@ -101,6 +101,7 @@ QScrollArea *colonna(Ponte &ponte, const std::vector<app::Gruppo> &gruppi, QWidg
 Piega::Piega(const QString &titolo, const QString &chiave, bool piegato, QWidget *genitore)
     : QWidget(genitore), chiave_(QStringLiteral("pieghe/") + chiave) {
     setObjectName(QStringLiteral("piega"));
+    setProperty("gruppo", chiave);
     auto *giu = new QVBoxLayout(this);
     giu->setContentsMargins(0, 0, 0, 0);
     giu->setSpacing(2);

@@ -1,10 +1,17 @@
-// The manual.
+// The manual. Anchors are lines <a id="..."></a> before a heading, as web pages show them; the toolkit's browser goes by the
+// headings.
 #include "desktop/manuale.h"
 
+#include <QAbstractTextDocumentLayout>
+#include <QDesktopServices>
 #include <QFile>
 #include <QLineEdit>
+#include <QRegularExpression>
+#include <QScrollBar>
+#include <QTextBlock>
 #include <QTextBrowser>
 #include <QVBoxLayout>
+#include <filesystem>
 
 #include "core/percorsi.h"
 #include "desktop/dialoghi.h"
@@ -12,26 +19,94 @@
 
 namespace ombrelia::desktop {
 
-QString ManualeDi(const QString &manuale, const QString &lingua) {
-    const QString titolo = lingua == QLatin1String("fr")   ? QStringLiteral("\n## Français\n")
-                           : lingua == QLatin1String("en") ? QStringLiteral("\n## English\n")
-                                                           : QStringLiteral("\n## Italiano\n");
-    const qsizetype da = manuale.indexOf(titolo);
-    if (da < 0) return manuale;
-    const qsizetype a = manuale.indexOf(QLatin1String("\n## "), da + titolo.size());
-    return manuale.mid(da + 1, a < 0 ? -1 : a - da);
+namespace {
+
+constexpr ParteManuale PARTI[] = {
+    {"Luogo", "luogo"},
+    {"Parete", "luogo"},
+    {"Gnomone", "luogo"},
+    {"Cornice", "luogo"},
+    {"Etichette", "etichette"},
+    {"Preghiera", "linee"},
+    {"Tabelle", "tabelle"},
+    {"ckCorretta", "corretta"},
+    {"disegno", "linee"},
+    {"quadrante", "luogo"},
+    {"strati", "strati"},
+    {"storia", "passi"},
+    {"tempo", "tempo"},
+    {"certificato", "certificato"},
+    {"distintivo", "certificato"},
+    {"frmTavolo", "foglio"},
+    {"barra", "linee"},
+    {"frmDeclin", "declinazione"},
+    {"lettureParete", "letture"},
+    {"Form1", "tabelle"},
+    {"Form2", "tabelle"},
+    {"Form3", "tabelle"},
+    {"Form4", "tabelle"},
+    {"Form6", "tabelle"},
+    {"Form7", "tabelle"},
+    {"Form8", "tabelle"},
+    {"Form9", "tabelle"},
+    {"Form10", "tabelle"},
+};
+
+// Beside the sources' data, and where it is installed.
+constexpr const char *DOVE[] = {"/../docs", "/../doc/ombrelia"};
+
+void vai(QTextBrowser &testo, const QString &titolo) {
+    if (titolo.isEmpty()) return testo.verticalScrollBar()->setValue(0);
+    for (QTextBlock b = testo.document()->begin(); b.isValid(); b = b.next()) {
+        if (b.blockFormat().headingLevel() == 0 || b.text() != titolo) continue;
+        testo.setTextCursor(QTextCursor(b));
+        const QRectF r = testo.document()->documentLayout()->blockBoundingRect(b);
+        return testo.verticalScrollBar()->setValue(static_cast<int>(r.top()));
+    }
 }
 
-bool ApriManuale(Ponte &ponte, QWidget *sopra, const QString &parola) {
+}  // namespace
+
+std::span<const ParteManuale> PartiManuale() { return PARTI; }
+
+QString AncoraDi(const QWidget *w) {
+    for (; w; w = w->parentWidget())
+        for (const ParteManuale &p : PARTI)
+            if (const QString chi = Q(p.chi); w->objectName() == chi || w->property("gruppo").toString() == chi)
+                return Q(p.ancora);
+    return QStringLiteral("finestra");
+}
+
+ManualeLetto LeggiManuale(const QString &markdown) {
+    static const QRegularExpression ancora(QStringLiteral("(?m)^<a id=\"(\\w+)\"></a>\\n\\n(#+ (.*)\\n)?"));
+    ManualeLetto m;
+    qsizetype fino = 0;
+    for (auto i = ancora.globalMatch(markdown); i.hasNext();) {
+        const QRegularExpressionMatch trovata = i.next();
+        m.titoli.insert(trovata.captured(1), trovata.captured(3));
+        m.testo += markdown.mid(fino, trovata.capturedStart() - fino) + trovata.captured(2);
+        fino = trovata.capturedEnd();
+    }
+    m.testo += markdown.mid(fino);
+    return m;
+}
+
+bool ApriManuale(Ponte &ponte, QWidget *sopra, const QString &ancora) {
     const auto dato = TrovaDato("luoghi.csv");
     if (!dato) return false;
-    // Beside the sources' data, and where it is installed.
+    const QString nome = QStringLiteral("/manual-%1.md").arg(CodiceLingua(ponte.sessione()));
+    QStringList cartelle;
     QFile file;
-    for (const char *dove : {"../docs/manual.md", "../doc/ombrelia/manual.md"}) {
-        file.setFileName(Q((dato->parent_path() / dove).string()));
-        if (file.open(QIODevice::ReadOnly)) break;
+    std::error_code errore;
+    const std::filesystem::path vero = std::filesystem::canonical(*dato, errore);
+    for (const char *dove : DOVE) {
+        cartelle << Q(vero.parent_path().string()) + QLatin1String(dove);
+        if (file.isOpen()) continue;
+        file.setFileName(cartelle.last() + nome);
+        (void)file.open(QIODevice::ReadOnly);
     }
     if (!file.isOpen()) return false;
+    const ManualeLetto m = LeggiManuale(QString::fromUtf8(file.readAll()));
     auto *w = new QWidget(sopra, Qt::Window);
     w->setAttribute(Qt::WA_DeleteOnClose);
     w->setWindowTitle(ponte.Traduci("Manuale"));
@@ -42,18 +117,23 @@ bool ApriManuale(Ponte &ponte, QWidget *sopra, const QString &parola) {
     cerca->setAccessibleName(cerca->placeholderText());
     giu->addWidget(cerca);
     auto *testo = new QTextBrowser(w);
-    testo->setOpenExternalLinks(true);
-    testo->setSearchPaths({Q(dato->parent_path().string()) + QStringLiteral("/../docs"),
-                           Q(dato->parent_path().string()) + QStringLiteral("/../doc/ombrelia")});
-    testo->setMarkdown(ManualeDi(QString::fromUtf8(file.readAll()), CodiceLingua(ponte.sessione())));
+    testo->setObjectName(QStringLiteral("manuale"));
+    testo->setOpenLinks(false);
+    testo->setSearchPaths(cartelle);
+    testo->setMarkdown(m.testo);
     giu->addWidget(testo, 1);
+    QObject::connect(testo, &QTextBrowser::anchorClicked, testo, [testo, titoli = m.titoli](const QUrl &dove) {
+        if (dove.isRelative() && dove.path().isEmpty()) vai(*testo, titoli.value(dove.fragment()));
+        else if (dove.isRelative()) testo->setSource(dove);
+        else QDesktopServices::openUrl(dove);
+    });
     QObject::connect(cerca, &QLineEdit::returnPressed, testo, [cerca, testo] {
         if (testo->find(cerca->text())) return;
         testo->moveCursor(QTextCursor::Start);
         testo->find(cerca->text());
     });
     w->show();
-    if (!parola.isEmpty()) testo->find(parola);
+    vai(*testo, m.titoli.value(ancora));
     return true;
 }
 

@@ -1,15 +1,30 @@
 // The manual in a window of its own.
 #pragma once
 
+#include <QHash>
+#include <span>
+#include <string_view>
+
 #include "desktop/ponte.h"
 
 namespace ombrelia::desktop {
 
-// The part of the manual in a language ("it", "fr", "en"): its chapter alone, all of it where that is not there.
-[[nodiscard]] QString ManualeDi(const QString &manuale, const QString &lingua);
+// What of the window the manual speaks of where: the name of a widget, or the Italian title of a group, and an anchor.
+struct ParteManuale {
+    std::string_view chi, ancora;
+};
+[[nodiscard]] std::span<const ParteManuale> PartiManuale();
+// Of a widget, or of the nearest around it that has a part; the manual's beginning for others.
+[[nodiscard]] QString AncoraDi(const QWidget *w);
 
-// Opens the manual over a window, in its language, at the part whose text holds a word first (empty: at its beginning). False
-// when the manual is not installed.
-bool ApriManuale(Ponte &ponte, QWidget *sopra, const QString &parola);
+// A manual without its anchors, and the heading that stands behind each (empty: its beginning).
+struct ManualeLetto {
+    QString testo;
+    QHash<QString, QString> titoli;
+};
+[[nodiscard]] ManualeLetto LeggiManuale(const QString &markdown);
+
+// Opens the manual over a window, in the window's language, at an anchor. False when it is not installed.
+bool ApriManuale(Ponte &ponte, QWidget *sopra, const QString &ancora);
 
 }  // namespace ombrelia::desktop

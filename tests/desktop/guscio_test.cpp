@@ -8,8 +8,11 @@
 #include <QFile>
 #include <QListWidget>
 #include <QMenu>
+#include <QRegularExpression>
 #include <QScrollArea>
 #include <QStandardPaths>
+#include <QTextBlock>
+#include <QTextBrowser>
 #include <QToolBar>
 #include <QUndoView>
 #include <map>
@@ -257,17 +260,61 @@ TEST(Guscio, ExamplesHavePicturesAndOpenDrawn) {
     b.vivo()->setChecked(false);
 }
 
-TEST(Guscio, TheManualOpensInTheWindowsLanguage) {
-    QFile file(QStringLiteral(OMBRELIA_RADICE "/docs/manual.md"));
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    const QString tutto = QString::fromUtf8(file.readAll());
-    const std::pair<const char *, const char *> parti[] = {{"it", "## Italiano"}, {"en", "## English"}, {"fr", "## Français"}};
-    for (const auto &[lingua, titolo] : parti) {
-        const QString parte = desktop::ManualeDi(tutto, QString::fromUtf8(lingua));
-        EXPECT_TRUE(parte.startsWith(QString::fromUtf8(titolo))) << lingua;
-        EXPECT_TRUE(parte.contains(QStringLiteral("txtLAT"))) << lingua;
-        EXPECT_FALSE(parte.contains(QStringLiteral("\n## "))) << lingua << ": another chapter follows";
+// Of each language: its pictures and anchors are there, F1 finds what it looks for, every key of the window is told.
+TEST(Guscio, TheManualSpeaksOfTheWindow) {
+    BancoFinestra b;
+    const QDir docs(QStringLiteral(OMBRELIA_RADICE "/docs"));
+    const auto trova = [](const QString &testo, const char *cosa) {
+        QStringList tutti;
+        for (auto i = QRegularExpression(QString::fromUtf8(cosa)).globalMatch(testo); i.hasNext();) tutti << i.next().captured(1);
+        return tutti;
+    };
+    for (const auto &[lingua, maiuscole] : {std::pair{"it", "Maiusc"}, {"en", "Shift"}, {"fr", "Maj"}}) {
+        SCOPED_TRACE(lingua);
+        QFile file(docs.filePath(QStringLiteral("manual-%1.md").arg(QLatin1String(lingua))));
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+        const QString testo = QString::fromUtf8(file.readAll());
+        const desktop::ManualeLetto m = desktop::LeggiManuale(testo);
+        EXPECT_EQ(m.titoli.size(), testo.count(QStringLiteral("<a id=")));
+        EXPECT_FALSE(m.testo.contains(QStringLiteral("<a id=")));
+        for (const desktop::ParteManuale &p : desktop::PartiManuale())
+            EXPECT_FALSE(m.titoli.value(desktop::Q(p.ancora)).isEmpty()) << p.ancora;
+        const QStringList dentro = trova(testo, "\\]\\(#(\\w+)\\)"), fuori = trova(testo, "\\]\\(([^#)]+)\\)");
+        EXPECT_EQ(dentro.size(), m.titoli.size() - 1) << "the contents name every part";
+        for (const QString &a : dentro) EXPECT_TRUE(m.titoli.contains(a)) << a.toStdString();
+        for (const QString &f : fuori) EXPECT_TRUE(f.startsWith(QStringLiteral("http")) || docs.exists(f)) << f.toStdString();
+        const QString tasti = testo.mid(testo.indexOf(QStringLiteral("<a id=\"tasti\">")))
+                                  .replace(QLatin1String(maiuscole), QStringLiteral("Shift"));
+        for (const QAction *a : b.f.findChildren<QAction *>()) {
+            const auto *dove = qobject_cast<QWidget *>(a->parent());
+            if (dove && dove->window() != &b.f) continue;  // a form's own
+            for (const QKeySequence &k : a->shortcuts())
+                EXPECT_TRUE(tasti.contains(QRegularExpression(
+                    QStringLiteral("[ ]%1[ ,]").arg(QRegularExpression::escape(k.toString(QKeySequence::PortableText))))))
+                    << a->objectName().toStdString() << ' ' << k.toString().toStdString();
+        }
     }
+}
+
+TEST(Guscio, TheManualOpensWhereTheKeysAre) {
+    BancoFinestra b;
+    // The manual lies beside the data.
+    const QString casa = QDir::currentPath();
+    ASSERT_TRUE(QDir::setCurrent(QStringLiteral(OMBRELIA_RADICE "/data")));
+    const auto qui = [&](QWidget *chi) {
+        desktop::ApriManuale(b.f.ponte(), &b.f, desktop::AncoraDi(chi));
+        auto *t = b.f.findChild<QTextBrowser *>(QStringLiteral("manuale"));
+        EXPECT_TRUE(t && t->toPlainText().size() > 10000);
+        const QString titolo = t && t->textCursor().position() > 0 ? t->textCursor().block().text() : QString();
+        if (t) delete t->window();
+        return titolo.toStdString();
+    };
+    EXPECT_EQ(qui(b.w("txtLAT")), "Luogo, piano, gnomone");
+    EXPECT_EQ(qui(b.w("ck_Italiche")), "Scegliere le linee e disegnare");
+    EXPECT_EQ(qui(b.f.findChild<QWidget *>(QStringLiteral("tavolaCertificato"))), "Il certificato");
+    EXPECT_EQ(qui(b.f.findChild<QWidget *>(QStringLiteral("elencoPassi"))), "Annullare: i passi fatti");
+    EXPECT_EQ(qui(nullptr), "");  // its beginning
+    QDir::setCurrent(casa);
 }
 
 }  // namespace

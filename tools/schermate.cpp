@@ -48,7 +48,7 @@ void quadrante(desktop::Finestra &f, const QString &file) {
     {
         QPainter p(&i);
         p.setRenderHint(QPainter::Antialiasing);
-        paint::Posa posa;
+        paint::PosaDipinta posa;
         posa.fattore = u / Tavolo::ScalaBase * t.Scala();
         posa.penna = 2;
         posa.punto = 2;

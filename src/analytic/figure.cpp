@@ -1,6 +1,7 @@
 // Straight figures of the analytic engine: hour lines, substyle, equinoctial and the style triangle laid flat.
 #include "analytic/corsa.h"
 #include "core/conteggio.h"
+#include "gnomonica/catena.h"
 #include "gnomonica/declinazioni.h"
 
 namespace ombrelia::analytic {
@@ -91,7 +92,9 @@ void TracciaSustilareAnalitica(Corsa &c, const LineeAttese &linee) {
     if (v.angSustilare == 0) return;
     const Valore t = tan(v.angSustilare);
     const Pretendi pretendi(c.s.tavolo, Specie::Sustilare);
-    for (const double i : Conteggio(-1, 1, 0.002)) c.s.tavolo.TracciaPunto(i, -i / t, linee[0].colore, SENZA_STRATO);
+    FilaDiPunti fila(c.s.tavolo, SENZA_STRATO);
+    for (const double i : Conteggio(-1, 1, 0.002)) fila.punto(i, (-i / t).v, linee[0].colore);
+    fila.fine();
 }
 
 void TracciaEquinozialeAnalitica(Corsa &c, const LineeAttese &linee) {
@@ -99,11 +102,13 @@ void TracciaEquinozialeAnalitica(Corsa &c, const LineeAttese &linee) {
     const Pretendi pretendi(c.s.tavolo, Specie::Equinoziale);
     if (v.lat > 0) {
         const Valore t = tan(v.angSustilare), q = v.y0 / cos(v.angSustilare);
+        FilaDiPunti fila(c.s.tavolo, SENZA_STRATO);
         Reale y;
         for (const double x : Conteggio(-3, 3, 0.001)) {
             y = x * t - q;
-            c.s.tavolo.TracciaPunto(x, y, linee[0].colore, SENZA_STRATO);
+            fila.punto(x, y.numero(), linee[0].colore);
         }
+        fila.fine();
     }
     if (v.lat == 0 && sin(v.angSustilare) != 0) {
         const Valore x = v.y0 / sin(v.angSustilare);

@@ -2,6 +2,7 @@
 // that conic.
 #include "analytic/corsa.h"
 #include "core/conteggio.h"
+#include "gnomonica/catena.h"
 #include "gnomonica/conica.h"
 
 namespace ombrelia::analytic {
@@ -27,9 +28,8 @@ void traccia(Corsa &c, const LineeAttese &linee, Specie specie, double verso) {
     k.calcola(T * T, v.altStilo, v.gn);
     const Valore R = k.R, Q = k.Q, P = k.P;
     const RiferimentoSustilare dial(v.angSustilare, v.y0);
-    const auto punto = [&](Valore u, Valore w, Colore colore) {
-        tavolo.TracciaPunto(dial.x(u, w), dial.y(u, w), colore, SENZA_STRATO);
-    };
+    FilaDiPunti fila(tavolo, SENZA_STRATO);
+    const auto punto = [&](Valore u, Valore w, Colore colore) { fila.punto(dial.x(u, w).v, dial.y(u, w).v, colore); };
 
     const Valore q4 = Q * Q / 4 - P, mezzo = -Q / 2;
     for (const double u : Conteggio(-0.5, 0.5, v.passo / 100)) {
@@ -40,8 +40,11 @@ void traccia(Corsa &c, const LineeAttese &linee, Specie specie, double verso) {
         punto(u, mezzo + radice, VIOLA);
         punto(u, mezzo - radice, VERDE);
     }
+    fila.fine();
 
     const Valore obliqua = v.gn / cos(v.altStilo), t0 = v.angoloOra + v.diffLong;
+    std::vector<double> ascisse;  // abscissas, which all lines are swept by
+    for (const double u : Conteggio(-1, 1, v.passo / 10)) ascisse.push_back(u);
     Reale h, g;
     for (const LineaAttesa &l : linee) {
         h = obliqua * tan(t0 + l.parametro * PI / 180);
@@ -50,7 +53,8 @@ void traccia(Corsa &c, const LineeAttese &linee, Specie specie, double verso) {
             (QQ - 4 * P - 4 * R * hh);
         const Valore pendenza = g, piede = h;
         const Pretendi pretendi(tavolo, specie, l.valore);
-        for (const double u : Conteggio(-1, 1, v.passo / 10)) punto(u, pendenza * (u - piede), l.colore);
+        for (const double u : ascisse) punto(u, pendenza * (u - piede), l.colore);
+        fila.fine();
     }
 }
 

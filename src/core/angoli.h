@@ -10,18 +10,20 @@ namespace ombrelia {
 inline constexpr double PI = 3.141592654;
 inline constexpr double CERCHIO = 6.283185308;
 
-// Degrees to radians in the program's own order of operations.
+// Degrees to radians. Given: degrees, any sign. Gives: radians. Source: elementary geometry; departure: the ten digits of PI, and
+// this order of operations. Faults: none but overflow.
 constexpr Valore Radianti(Valore gradi) { return PI * gradi / 180; }
-// Radians to degrees, likewise.
+// Radians to degrees. Given: radians. Gives: degrees. Source and departure: as above. Faults: none but overflow.
 constexpr Valore Gradi(Valore radianti) { return radianti * 180 / PI; }
 
-// Arc sine, -PI/2..PI/2. Faults at |x| >= 1, where the quotient divides by zero or the root is of a negative.
+// Arc sine by the arc tangent. Given: x. Gives: radians, -PI/2..PI/2. Source: elementary geometry. Faults: no value at |x| >= 1,
+// where the quotient divides by zero or the root is of a negative; so none for 1 itself: meant.
 inline Valore ArcSin(Valore x) { return Atn(x / Sqr(-x * x + 1)); }
-// Arc cosine, 0..PI, as the complement of ArcSin; faults where that does.
+// Arc cosine. Given: x. Gives: radians, 0..PI. Source: elementary geometry, the complement of ArcSin. Faults: where that does.
 inline Valore ArcCos(Valore x) { return (PI / 2.0) - ArcSin(x); }
 
-// Angle of the point (x, y), ordinate first, in 0..CERCHIO. Faults at x = 0: there is no branch for a vertical
-// direction, callers that can meet one test first.
+// Direction of a point. Given: ordinate, abscissa. Gives: radians from the abscissas, 0..CERCHIO. Source: elementary geometry.
+// Faults: no value at x = 0; there is no branch for a vertical direction, callers that can meet one test first.
 inline Valore Arco2(Valore y, Valore x) {
     const Valore q = y / x;
     if (!q.esiste()) return q;

@@ -8,11 +8,11 @@ namespace ombrelia {
 // The altitudes: 10 degrees up to the highest Sun of the latitude as typed.
 void LineeAlmucantarat(const Lettura &letto, LineeAttese &linee);
 
-// What for: dots of the curves on which the Sun stands at whole tens of degrees, morning and afternoon, over a year swept
-// by ten times txtDensity. Given the fields and the declination of the plane in decR. Gives points of the frame "this side
-// of the horizon", y downward. Leaves latR signed, gn, incR, decR 0 on a level plane, and the last declination in
-// deltaOpz. Source: sin h = sin phi sin d + cos phi cos d cos t. Departure: the horizon's bound is not scaled to metres.
-// Where the arc cosine faults the last hour angle stands.
+// Dots of the curves on which the Sun stands at whole tens of degrees, morning and afternoon, over a year swept by ten times
+// txtDensity. Given: the fields, and the plane's declination in decR. Gives: points of the frame this side of the horizon, y
+// downward; leaves latR signed, gn, incR, decR 0 on a level plane, and the last declination in deltaOpz. Source: sin h = sin phi
+// sin d + cos phi cos d cos t (Smart, ch. II); departure: the horizon's bound is not scaled to metres. Faults: where the arc
+// cosine has no value the last hour angle stands.
 void TracciaAlmucantarat(Sessione &s, const Lettura &letto, const Cornice &cornice, const LineeAttese &linee);
 
 }  // namespace ombrelia

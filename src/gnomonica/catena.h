@@ -1,6 +1,8 @@
 // A line as chords: the test that lets one pass and the chain that joins them.
 #pragma once
 
+#include <array>
+
 #include "plot/tavolo.h"
 #include "sessione/sessione.h"
 
@@ -50,6 +52,34 @@ private:
     IdNome strato_;
     Reale x_, y_;
     bool iniziata_ = false;
+};
+
+// A line as points, handed to the list a batch at a time: those that TracciaPunto would record one by one, in their order. What
+// is in hand is recorded by fine(), before the claim that holds it ends.
+class FilaDiPunti {
+public:
+    FilaDiPunti(Tavolo &tavolo, IdNome strato) : tavolo_(tavolo), strato_(strato) {
+        const Quadrante &q = tavolo.quadrante();
+        sinistra_ = -q.x, destra_ = q.L - q.x, alto_ = -q.y, basso_ = q.H - q.y;
+    }
+    // Metres, y upward. One without a value lies nowhere.
+    void punto(double x, double y, Colore colore) {
+        const double Y = -y;
+        if (!(x >= sinistra_ && x < destra_ && Y >= alto_ && Y < basso_)) return;
+        punti_[quanti_++] = {x, Y, colore, strato_};
+        if (quanti_ == punti_.size()) fine();
+    }
+    void fine() {
+        tavolo_.xPsets({punti_.data(), quanti_});
+        quanti_ = 0;
+    }
+
+private:
+    Tavolo &tavolo_;
+    IdNome strato_;
+    double sinistra_, destra_, alto_, basso_;  // of the sheet, which the high edges don't belong to
+    std::size_t quanti_ = 0;
+    std::array<RecPunto, 256> punti_;
 };
 
 }  // namespace ombrelia

@@ -6,14 +6,14 @@
 
 namespace ombrelia {
 
-// 1 / tan² of a declination in degrees. Faults at 0.
+// 1 / tan² of a declination. Given: degrees. Gives: a number. Source: elementary geometry. Faults: no value at 0.
 inline Valore QuadratoCotangente(Valore gradi) {
     const Valore t = tan(Radianti(gradi));
     return 1 / (t * t);
 }
 
-// The two roots of a z² + b z + c = 0, by the sign of the square root. reali is false, and the roots are nothing, when
-// the discriminant is negative; at a = 0 the roots have no value.
+// The two roots of a z² + b z + c = 0. Given: a, b, c. Gives: the roots by the sign of the square root. Source: elementary
+// algebra. Faults: reali is false, and the roots are nothing, when the discriminant is negative; at a = 0 they have no value.
 struct Radici {
     bool reali;
     Valore meno, piu;
@@ -38,8 +38,9 @@ private:
     Valore cs_, ss_, y0_;
 };
 
-// v² + Q v + R u² + P = 0 in the frame (u, v). A negative is a hyperbola, positive an ellipse. Both the declination and
-// its opposite satisfy it. A constant that faults keeps its value, 0 at birth.
+// A day line: v² + Q v + R u² + P = 0 in the frame (u, v); A negative is a hyperbola, positive an ellipse. Given, gives: see
+// calcola. Source: analytic geometry of the cone of the Sun's rays cut by the plane (Savoie, La gnomonique, day lines);
+// departure: both the declination and its opposite satisfy it. Faults: a constant that faults keeps its value, 0 at birth.
 struct Conica {
     Reale A, R, Q, P;
 
@@ -53,7 +54,8 @@ struct Conica {
     }
 };
 
-// Ordinates of a conic at an abscissa, in the dial's frame. Made once a sweep.
+// Ordinates of a conic at an abscissa, in the dial's frame; made once a sweep. Given: x in the unit of y0. Gives: both ordinates,
+// y upward. Source: Conica turned by sigma. Faults: as RisolviQuadratica.
 class OrdinateConica {
 public:
     OrdinateConica(const Conica &k, Valore sigma, Valore y0) : R_(k.R), Q_(k.Q), P_(k.P), cr_(cos(-sigma)), sr_(sin(-sigma)) {
@@ -78,7 +80,8 @@ private:
     Valore a_ = 0, b0_ = 0, b2_ = 0, b3_ = 0, c0_ = 0, c1_ = 0, c2_ = 0, c3_ = 0;
 };
 
-// Abscissas of a conic at the ordinate L, in the dial's frame.
+// Abscissas of a conic at the ordinate L, in the dial's frame. Given: L in the unit of y0, y upward. Gives: both abscissas.
+// Source and faults: as above.
 inline Radici AscisseConica(const Conica &k, Valore sigma, Valore y0, Valore L) {
     const Valore ss = sin(sigma), cs = cos(sigma), R = k.R, Q = k.Q, P = k.P;
     const Valore a = ss * ss + R * (cs * cs);

@@ -11,8 +11,9 @@ inline constexpr double DELTA_SEGNI = 20, DELTA_SEGNI_VICINI = 11.5;
 // Some sweeps and lines were written with other ends: what was ever drawn ends there, so each keeps its own.
 inline constexpr double OBLIQUITA_2345 = 23.45, OBLIQUITA_2344 = 23.44;
 
-// Noon altitude at the solstice of summer (verso 1) or winter (-1) of a northern latitude latR (radians), degrees, as
-// captions give it. The two near-equal declinations in one formula are meant. Faults when the Sun stands overhead.
+// Noon altitude of a solstice, as captions give it. Given: northern latitude, radians; summer 1 or winter -1. Gives: degrees.
+// Source: sine formula of the altitude (Smart, Textbook on Spherical Astronomy, ch. II) at hour angle 0; departure: two
+// near-equal declinations in one formula, meant. Faults: no value when the Sun stands overhead.
 inline Valore AltezzaSolstizio(Valore latR, int verso) {
     const double primo = verso * OBLIQUITA, secondo = verso * OBLIQUITA_2345;
     return ArcSin(sin(latR) * sin(PI * primo / 180.0) + cos(latR) * cos(PI * secondo / 180.0)) * 180 / PI;

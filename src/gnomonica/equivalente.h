@@ -13,14 +13,15 @@ struct PareteEquivalente {
     bool girata = false;                  // a plane that looks due south and leans beyond the pole: the wall looks due north
 };
 
-// The declination that the general case gives a wall of latitude f1, without its sign, radians.
+// The declination that the general case gives a wall of latitude f1. Given: the plane, f1 in radians. Gives: radians, without its
+// sign. Source: as EquivalenteDi. Faults: no value where the cosine reaches 1.
 inline Valore DeclinazioneEquivalente(const Piano &p, Valore f1) {
     return ArcCos(((p.ci * sin(f1) - p.sphi) / (p.si * cos(f1))) * Sgn(f1));
 }
 
-// What for: the wall parallel to a plane, at another place. Given: the plane, and its declination in degrees as typed, which
-// tells the cases of due south and north. Gives: see above. Source: the triangle of the pole, the zenith and the wall's own
-// zenith (Rohr, Sundials, reclining dials as vertical dials of another place). Faults: as said.
+// The wall parallel to a plane, at another place. Given: the plane, and its declination in degrees as typed, which tells the
+// cases of due south and north. Gives: see PareteEquivalente. Source: the triangle of the pole, the zenith and the wall's own
+// zenith (Rohr, Sundials, a plane as the vertical dial of another place). Faults: as said there.
 inline PareteEquivalente EquivalenteDi(const Piano &p, Valore dec) {
     PareteEquivalente e;
     const Reale A = p.senStilo(), B = p.senZenit();

@@ -6,17 +6,19 @@
 
 namespace ombrelia {
 
-// From the zone's meridian to the site: at 0 clock noon, less the equation of time, is the site's noon.
+// From the zone's meridian to the site: at 0 clock noon, less the equation of time, is the site's noon. Given: degrees, West
+// positive. Gives: degrees. Source: elementary (an hour is 15 degrees). Faults: none.
 inline Valore DalMeridiano(Valore lon, Valore meridiano) { return lon - meridiano; }
 // Leaves it for the longitude that the shared variables hold.
 inline void LasciaDalMeridiano(Variabili &v) { v.lonPiu15 = DalMeridiano(v.lon, v.meridiano); }
-// The same as an angle of time, radians.
+// The same as an angle of time. Given: lonPiu15, degrees. Gives: radians. Source: elementary. Faults: none.
 inline Valore CorrezioneLongitudine(const Variabili &v) { return PI * v.lonPiu15 / 180; }
 
 // The same with the box of the zone's time set, else 0.
 inline Valore CorrezioneFuso(const Variabili &v) { return CorrezioneLongitudine(v) * v.oraFuso; }
 
-// "Costante locale", minutes of time: from lonCopia, the longitude as typed.
+// "Costante locale". Given: lonCopia, the longitude as typed, and the zone's meridian, degrees. Gives: minutes of time, West
+// positive. Source: elementary (a degree is 4 minutes). Faults: none.
 inline Valore CostanteLocale(const Variabili &v) { return 4 * (v.lonCopia - v.meridiano); }
 // Whether the zone is another than the one at start; captions then name its meridian.
 inline bool AltroMeridiano(const Variabili &v) { return v.meridiano != -15; }

@@ -14,11 +14,11 @@ struct SenCos {
     explicit SenCos(Valore t) : sen(std::sin(t.v)), cos(std::cos(t.v)) {}
 };
 
-// Central projection of the Sun's direction through the tip of the ortostilo onto the plane (Rohr, Sundials).
-// Given hour angle t (radians, negative before noon) and the tangent of the declination D, gives (x, y): metres from
-// the foot of the ortostilo, x to the right, y upward, scaled by unita. West declination of the plane is positive.
-// The denominator's sign, the side of the plane, is not tested. Where it is 0 or the result overflows, x and y keep
-// their old values.
+// Central projection of the Sun's direction through the tip of the ortostilo onto the plane. Given: hour angle t, radians,
+// negative before noon, and the tangent of the declination D; the plane's declination West positive. Gives: (x, y), metres from
+// the foot of the ortostilo, x to the right, y upward, scaled by unita. Source: Rohr, Sundials; the gnomonic projection (Snyder,
+// Map Projections: A Working Manual, ch. 22) turned onto the plane; departure: the denominator's sign, the side of the plane, is
+// not tested. Faults: where the denominator is 0 or the result overflows, x and y keep their old values.
 class Proiezione {
 public:
     // The plane: latitude phi and declination g, inclination i from the vertical, radians; lengths as typed and their unit.
@@ -79,8 +79,9 @@ struct SoleMedio {
     double Et;  // equation of time, radians of hour angle: reduction to the equator less equation of the centre
 };
 
-// A short trigonometric series in the Sun's mean longitude M (radians from the spring equinox): equation of the centre
-// and reduction to the equator, after the series of the nautical almanacs; good to a few seconds of time.
+// The Sun by a short series: equation of the centre and reduction to the equator. Given: mean longitude M, radians from the
+// spring equinox. Gives: see SoleMedio. Source: the expansions of Smart, Textbook on Spherical Astronomy (the equation of time),
+// with an almanac's coefficients; departure: cut short, good to a few seconds of time, no year of its own. Faults: none.
 SoleMedio SoleAllaLongitudine(double M);
 
 }  // namespace ombrelia

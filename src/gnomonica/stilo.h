@@ -11,7 +11,8 @@
 
 namespace ombrelia {
 
-// 1 for a plane that declines to the West or not at all, else -1; decGradi is the declination as typed, degrees.
+// 1 for a plane that declines to the West or not at all, else -1. Given: dec as typed, which is tested against 0; decR, whose
+// sign is taken.
 inline Valore SegnoDeclinazione(Valore dec, Valore decR) { return dec == 0 ? Valore(1) : Sgn(decR); }
 // Sign of a latitude, 1 on the equator.
 inline Valore SegnoLatitudine(Valore lat) { return lat == 0 ? Valore(1) : Sgn(lat); }
@@ -38,6 +39,7 @@ struct Piano {
     // The plane of the shared variables, as they stand.
     explicit Piano(const Variabili &v) : Piano(v.latR, v.decR, v.incR, v.gn, v.unita) {}
 
+    // All: given the plane; gives sines, tangents, radians; source and departure as above; faults: a quotient by 0 has no value.
     // Sine of the style's elevation over the plane, positive where the upper end of the polar axis is behind it.
     [[nodiscard]] Valore senStilo() const { return sphi * si - cphi * ci * cg; }
     // What the tangent of the substyle's angle divides by; its sign tells the half of the plane.
@@ -59,14 +61,16 @@ struct Piano {
     Valore sphi, cphi, tphi, sg, cg, si, ci;
 };
 
-// An angle known but for half a turn, on that side of the meridian on which guida lies.
+// An angle known but for half a turn, on that side of the meridian on which guida lies. Given, gives: radians. Source: elementary
+// geometry. Faults: none.
 inline Valore DalLatoDi(Valore guida, Valore angolo) {
     if (Sgn(sin(angolo)) == Sgn(sin(guida))) return angolo;
     return angolo > 0 ? angolo - PI : angolo + PI;
 }
 
-// The substyle's angle, known but for half a turn, on the side of the plane on which the centre (x, y) does not lie; within half
-// a turn, radians.
+// The substyle's angle, known but for half a turn, on the side of the plane on which the centre (x, y) does not lie. Given,
+// gives: radians, within half a turn. Source: elementary geometry; departure: a centre above the foot is left alone. Faults:
+// none.
 inline Valore SustilareDalCentro(Valore sigma, Valore x, Valore y) {
     Reale s = sigma;
     if (x <= 0 && y < 0) s = s + PI;
@@ -76,26 +80,31 @@ inline Valore SustilareDalCentro(Valore sigma, Valore x, Valore y) {
 
 // --- walls (i = 0) --------------------------------------------------------------------------------------------------
 
-// Elevation of the style over a wall; negative over one that looks away from the equator. Faults at +-1, so on a wall
-// that looks due south at the equator.
+// Elevation of the style over a wall. Given: latitude, declination, radians. Gives: radians, negative over a wall that looks away
+// from the equator. Source: sin e = cos phi cos g (Rohr, Sundials; Waugh, Sundials, declining dials). Faults: no value at +-1, so
+// on a wall that looks due south at the equator.
 inline Valore StiloMuro(Valore phi, Valore g) { return ArcSin(cos(phi) * cos(g)); }
 // The same by squares of the factors: analemma of the direct engine, solstices of the analytic one, reports; and its tangent.
+// Given, gives, source: as above. Faults: no value where the sine is 1.
 inline Valore TanStiloMuro(Valore phi, Valore g) {
     const Valore cl = cos(phi), cd = cos(g);
     return cl * cd / Sqr(1.0 - cl * cl * (cd * cd));
 }
 inline Valore StiloMuroQuadrati(Valore phi, Valore g) { return Atn(TanStiloMuro(phi, g)); }
-// On the equator.
+// On the equator. Given: declination, radians. Gives: radians. Source: as above, phi = 0. Faults: none.
 inline Valore StiloMuroEquatore(Valore g) { return PI / 2.0 - Abs(g); }
 
-// Angle of the substyle from the vertical in the right half circle of the arc tangent; faults at phi = 0.
+// Angle of a wall's substyle. Given: latitude, declination, radians. Gives: radians from the vertical, in the right half circle
+// of the arc tangent, with the sign of g / phi. Source: tan s = sin g / tan phi (Rohr; Waugh). Faults: no value at phi = 0.
 inline Valore SustilareMuro(Valore phi, Valore g) { return Atn(sin(g) / tan(phi)); }
-// The same in 0..CERCHIO, as the vertical engine counts it.
+// The same, as the vertical engine counts it. Gives: 0..CERCHIO, a quarter on the equator. Source: as above. Faults: none else.
 inline Valore SustilareMuroIntera(Valore phi, Valore g) { return phi == 0 ? Valore(PI / 2) : Arco2(sin(g), tan(phi)); }
-// Hour angle of a wall's substyle, 0..CERCHIO.
+// Hour angle of a wall's substyle. Given: as above. Gives: radians, 0..CERCHIO, a quarter on the equator. Source: tan t = tan g /
+// sin phi (Rohr; Waugh, "difference of longitude"). Faults: none else.
 inline Valore OraSustilareMuro(Valore phi, Valore g) { return phi == 0 ? Valore(PI / 2) : Arco2(tan(g), sin(phi)); }
 
-// Distance from the foot of the ortostilo to the equinoctial along the substyle, in the unit of gn.
+// Distance from the foot of the ortostilo to the equinoctial along the substyle. Given: ortostilo, style's elevation in radians.
+// Gives: the unit of gn. Source: elementary geometry of the style's triangle. Faults: no value for an endless one.
 inline Valore DistanzaEquinoziale(Valore gn, Valore altStilo) { return gn * tan(altStilo); }
 
 }  // namespace ombrelia

@@ -13,9 +13,11 @@ bool Specchiato(const Sessione &s);
 // the complement of the inclination, radians. A horizontal plane has no declination.
 double LeggiPiano(Sessione &s, const Lettura &letto, Valore gn);
 
-// Given a place (X degrees West of the site, Y minus the latitude) gives the point of the plane that shows it, metres,
-// y upward. Azimuth, zenith distance and side of the plane keep their old values from place to place where they fault,
-// as do x and y.
+// A place as the Sun that stands in its zenith. Given: X degrees West of the site, Y minus the latitude. Gives: the point of the
+// plane that shows it, metres from the foot, x to the right, y upward. Source: the gnomonic projection of the sphere (Snyder, Map
+// Projections: A Working Manual, ch. 22) by Proiezione, its hour angle X and its declination -Y; the side of the plane by the
+// spherical triangle of pole, zenith and place. Faults: azimuth, zenith distance and side keep their old values from place to
+// place, as do x and y.
 class Zenit {
 public:
     // Reads site, plane and gnomon (gn is scaled) into the shared variables; unita is read before.

@@ -53,6 +53,9 @@ struct Moto {
     Punto perT, perDelta;
 };
 
+// A dial and its shadows. Given: radians, metres. Gives: see the structs; frame of Punto on the plane, of Vettore as vettore.h
+// has it. Source: elementary vector geometry, a central projection through the tip; no formula of a dial. Faults: what does not
+// exist is part of the value.
 class PianoMontato {
 public:
     explicit PianoMontato(const QuadranteMontato &q);
@@ -100,7 +103,9 @@ private:
 };
 
 // --- hours, from the Sun's hour angle and declination, radians -------------------------------------------------------
-// Half of the day's arc, 0 to pi; none where the Sun neither rises nor sets. The Sun's centre, no refraction.
+// Given: latitude North positive, hour angle t (afternoon positive), declination. Source: cos H = -tan phi tan delta (Smart,
+// Textbook on Spherical Astronomy, ch. II); the kinds of hours as Rohr, Sundials, tells them. Faults: none where there is no such
+// hour. Half of the day's arc, 0 to pi; none where the Sun neither rises nor sets. The Sun's centre, no refraction.
 [[nodiscard]] std::optional<double> semiarco(double latitudine, double delta);
 // True hour, 0 to 24, noon at 12.
 [[nodiscard]] double oraVera(double t);

@@ -16,7 +16,8 @@ struct Data {
     friend bool operator==(const Data &, const Data &) = default;
 };
 
-// Julian day at 0h of a date, and the date that holds a Julian day.
+// Julian day at 0h of a date, and the date that holds a Julian day. Source: Meeus, Astronomical Algorithms, ch. 7; departure: the
+// Gregorian calendar for all years. Faults: none.
 [[nodiscard]] double giornoGiuliano(const Data &d);
 [[nodiscard]] Data dataDi(double jd);
 // "2026-06-21" both ways; none when it is no date of the years 1 to 9999.
@@ -28,7 +29,8 @@ struct Sole {
     double equazione;    // equation of time, minutes: apparent less mean time
     double longitudine;  // apparent, radians, 0 to 2 pi
 };
-// The Sun's centre at a moment, a Julian day of universal time.
+// The Sun's centre. Given: a Julian day of universal time. Gives: see Sole. Source: as above; departure: dynamical time by a
+// table of the year. Faults: none.
 [[nodiscard]] Sole soleDi(double jd);
 
 // Hour angle of the Sun, radians, -pi to pi, at a moment and a longitude (radians, West positive).

@@ -83,6 +83,14 @@ void Tavolo::pieno() { throw std::bad_alloc(); }
 
 // --- drawing ---------------------------------------------------------------------------------------------------------
 
+void Tavolo::xPsets(std::span<const RecPunto> punti) {
+    if (recordMassimi < punti.size() || lista_.Ordine.size() > recordMassimi - punti.size()) pieno();
+    lista_.Punti.insert(lista_.Punti.end(), punti.begin(), punti.end());
+    lista_.Ordine.append(punti.size(), 'P');
+    if (!dispositivo) return;
+    for (const RecPunto &p : punti) pittore().punto(p.X, p.Y, p.colore);
+}
+
 void Tavolo::figura(const RecFigura &r, char ordine) {
     lista_.Figure.push_back(r);
     if (ordine != 0) lista_.Ordine.push_back(ordine);

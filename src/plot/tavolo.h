@@ -6,6 +6,7 @@
 #include <functional>
 #include <optional>
 #include <set>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -78,6 +79,8 @@ public:
         lista_.Ordine.push_back('P');
         if (dispositivo) pittore().punto(X.v, Y.v, colore);
     }
+    // Many points of the sheet, as xPset records them one by one; the list's room is taken once.
+    void xPsets(std::span<const RecPunto> punti);
     void xBox(Valore X1, Valore Y1, Valore X2, Valore Y2, Colore colore, bool Filled, std::string_view Id = {});
     void xCircle(Valore X, Valore Y, Valore Raggio, Colore colore, Colore FillColor = -1, Valore Aspect = 1, Valore Start = 0,
                  Valore End = 0, std::string_view Id = {});

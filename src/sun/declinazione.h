@@ -37,6 +37,9 @@ struct EsitoDeclinazione {
     Valore mezzodi = 0, arco = 0;    // noon on the clock without dst, not reduced; day arc; hours
 };
 
+// The Sun over a site, and a wall's declination. Given, gives: see the structs. Source: EqTempo; azimuth and altitude by the
+// astronomical triangle (Smart, ch. II); sunrise with the Sun's limb and refraction, 50' below (Meeus, Astronomical Algorithms,
+// ch. 15); departure: azimuth's branch South of the equator turned its own way. Faults: the first ends it, see EsitoDeclinazione.
 // The labels of the report go through the dictionary.
 [[nodiscard]] EsitoDeclinazione Declinazione(const DatiDeclinazione &dati, const Dizionario &dizionario);
 

@@ -39,8 +39,10 @@ struct Riassunto {
     bool stona = false;            // it lies farther out than chance explains
 };
 
-// Angles are taken on the circle, about the first one. A reading stands out when honest readings of this spread would
-// have one so far out less than once in twenty (Grubbs' test); that takes three readings at least.
+// What readings say together. Given: degrees. Gives: see Riassunto. Source: Grubbs' test on the extreme of a normal sample,
+// Student's distribution by Abramowitz and Stegun, 26.7.3; departure: a bound by the number of readings (Bonferroni). Faults:
+// none. Angles are taken on the circle, about the first one. A reading stands out when honest readings of this spread would have
+// one so far out less than once in twenty (Grubbs' test); that takes three readings at least.
 [[nodiscard]] Riassunto Riassumi(const std::vector<double> &gradi);
 
 }  // namespace ombrelia::sun

@@ -14,7 +14,8 @@ struct Sessagesimale {
     Valore gradi = 0, primi = 0, secondi = 0;
 };
 
-// Degrees and minutes whole, seconds as they come; a negative value makes all three negative.
+// Given: decimal degrees or hours. Gives: whole ones, whole minutes, seconds as they come; a negative value makes all three
+// negative. Source: elementary. Faults: no value.
 [[nodiscard]] Sessagesimale GradiDecToSex(Valore valore);
 
 // Decimal degrees with five places; Segno is put in front, but for "+". Empty when the value does not exist.
@@ -37,7 +38,8 @@ struct SoleDelPannello {
 // Anno is joined to the date as text, so a two-digit year is one of the first century. Mese comes back as its last two
 // characters behind "00", Giorno likewise after the carry of the hours.
 // Dates whose number is below 1582 10 15 are of the Julian calendar. No range is tested: a month 0 or 13 goes through the sums.
-// Source: Newcomb's elements with the equation of time of Smart's Spherical Astronomy. No aberration, no nutation.
+// Source: Newcomb's elements of the Sun (as in Meeus, Astronomical Formulae for Calculators, ch. 18) with the equation of time of
+// Smart, Textbook on Spherical Astronomy; departure: no aberration, no nutation, universal for ephemeris time. Faults: no value.
 [[nodiscard]] Valore EqTempo(const std::string &Anno, std::string &Mese, std::string &Giorno, Valore Ora, Valore Minuti,
                              Valore Secondi, SoleDelPannello &sole);
 

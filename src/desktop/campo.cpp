@@ -67,7 +67,7 @@ const MisuraCampo *TrovaMisura(std::string_view nome) {
     return i == std::end(MISURE) ? nullptr : i;
 }
 
-QString DueFormeDette(const Ponte &ponte, double gradi, luoghi::Verso verso) {
+QString DueFormeTradotte(const Ponte &ponte, double gradi, luoghi::Verso verso) {
     QString t = Q(luoghi::DueForme(gradi, verso));
     if (t.endsWith(QStringLiteral(" W"))) t = t.chopped(1) + ponte.Traduci("O (ovest)").left(1);
     return t;
@@ -149,7 +149,7 @@ void CampoTesto::concludi() {
         const std::string prima = text().toStdString();
         const luoghi::AngoloLetto letto = luoghi::LeggiAngolo(prima, campo);
         if (letto.buono() && letto.testo != prima) {
-            detto = Q(prima) + QStringLiteral(" = ") + DueFormeDette(ponte_, letto.gradi, campo.verso);
+            detto = Q(prima) + QStringLiteral(" = ") + DueFormeTradotte(ponte_, letto.gradi, campo.verso);
             setText(Q(letto.testo));
             cambia();
         } else if (!letto.buono() && letto.intoppo != luoghi::Intoppo::Vuoto && letto.intoppo != luoghi::Intoppo::FuoriCampo) {

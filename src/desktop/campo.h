@@ -19,7 +19,7 @@ struct MisuraCampo {
 [[nodiscard]] const MisuraCampo *TrovaMisura(std::string_view nome);
 
 // An angle in both forms, its wind as the language calls it.
-[[nodiscard]] QString DueFormeDette(const Ponte &ponte, double gradi, luoghi::Verso verso);
+[[nodiscard]] QString DueFormeTradotte(const Ponte &ponte, double gradi, luoghi::Verso verso);
 
 // Entered by mouse or key, its whole text is selected.
 class CampoTesto final : public QLineEdit {

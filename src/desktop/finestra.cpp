@@ -162,7 +162,7 @@ Finestra::Finestra(Dialoghi &dialoghi) : dialoghi_(dialoghi), utente_(dialoghi),
 
 Finestra::~Finestra() {
     vivo_.reset();
-    if (aParte_.joinable()) aParte_.join();
+    if (scrivano_.joinable()) scrivano_.join();
 }
 
 // What has no name yet for those who hear the window.

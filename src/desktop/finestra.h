@@ -127,11 +127,11 @@ private:
     struct Prodotto {
         std::string contenuto, errore;
     };
-    std::optional<Prodotto> aParte(const std::function<Prodotto(Tavolo &)> &lavoro);
+    std::optional<Prodotto> fabbrica(const std::function<Prodotto(Tavolo &)> &lavoro);
     bool piastrelle(const std::function<bool(const paint::Avanzamento &)> &lavoro);
 
     Dialoghi &dialoghi_;
-    std::thread aParte_;  // of aParte, perhaps given up
+    std::thread scrivano_;  // of fabbrica, perhaps given up
     UtenteFinestra utente_;
     Sessione s_;
     Ponte ponte_;

@@ -172,15 +172,15 @@ bool Finestra::piastrelle(const std::function<bool(const paint::Avanzamento &)> 
     });
 }
 
-std::optional<Finestra::Prodotto> Finestra::aParte(const std::function<Prodotto(Tavolo &)> &lavoro) {
-    if (aParte_.joinable()) aParte_.join();
+std::optional<Finestra::Prodotto> Finestra::fabbrica(const std::function<Prodotto(Tavolo &)> &lavoro) {
+    if (scrivano_.joinable()) scrivano_.join();
     auto foglio = std::make_shared<Tavolo>(perCarta());
     foglio->dispositivo = nullptr;
     foglio->suMessaggio = nullptr;
     foglio->suAttesa = nullptr;
     auto promessa = std::make_shared<std::promise<Prodotto>>();
     std::future<Prodotto> futuro = promessa->get_future();
-    aParte_ = std::thread([foglio, promessa, lavoro] {
+    scrivano_ = std::thread([foglio, promessa, lavoro] {
         try {
             promessa->set_value(lavoro(*foglio));
         } catch (...) {
@@ -236,7 +236,7 @@ void Finestra::esportaPdf() {
             pdf.contenuto = paint::PdfPiastrelle(perCarta(), avanza).toStdString();
             return true;
         });
-    } else if (auto fatto = aParte([](Tavolo &t) {
+    } else if (auto fatto = fabbrica([](Tavolo &t) {
                    Prodotto p;
                    p.contenuto = paint::PdfFoglio(t, p.errore).toStdString();
                    return p;
@@ -259,7 +259,7 @@ void Finestra::esporta() {
     const FormatoDisegno *forma = FormatoDi(QFileInfo(*f).suffix().toStdString());
     if (!forma || !forma->disegno)
         return dialoghi_.avviso(this, Motivo(ponte_, f->toStdString() + ": " + fini.join(QStringLiteral(", ")).toStdString()));
-    const auto fatto = aParte([forma](Tavolo &t) {
+    const auto fatto = fabbrica([forma](Tavolo &t) {
         Prodotto p;
         p.contenuto = forma->scrivi(t, p.errore);
         return p;

@@ -40,8 +40,9 @@ NoteCampi::Nota NoteCampi::diAngolo(std::string_view campo) const {
     const luoghi::AngoloLetto letto = luoghi::LeggiAngolo(testo, c);
     const QWidget *w = ponte_.widget(campo);
     if (letto.buono())
-        return {letto.testo != testo || (w && w->hasFocus()) ? QStringLiteral("= ") + DueFormeDette(ponte_, letto.gradi, c.verso)
-                                                             : QString()};
+        return {letto.testo != testo || (w && w->hasFocus())
+                    ? QStringLiteral("= ") + DueFormeTradotte(ponte_, letto.gradi, c.verso)
+                    : QString()};
     if (letto.intoppo == luoghi::Intoppo::Vuoto) return {};
     return {ponte_.Traduci(luoghi::Motivo(letto.intoppo)), true};
 }

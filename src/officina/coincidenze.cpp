@@ -24,15 +24,15 @@ bool retta(const Cammino &c) { return c.tipo == Cammino::Tipo::Linea && c.linea 
 }  // namespace
 
 std::vector<Coincidenza> Coincidenti(const std::vector<Cammino> &prima, const std::vector<Cammino> &dopo) {
-    struct Nome {
+    struct LineaNominata {
         Specie specie;
         double valore, persa = 0;
         std::vector<const Cammino *> sue{};
     };
-    std::map<int, Nome> nomi;
+    std::map<int, LineaNominata> nomi;
     for (const Cammino &c : prima) {
         if (!retta(c) || c.specie == Specie::Nessuna || c.specie == Specie::Etichetta) continue;
-        Nome &n = nomi.try_emplace(c.linea, Nome{c.specie, c.valore}).first->second;
+        LineaNominata &n = nomi.try_emplace(c.linea, LineaNominata{c.specie, c.valore}).first->second;
         n.persa += c.lunghezza();
         n.sue.push_back(&c);
     }
@@ -72,7 +72,7 @@ std::vector<Coincidenza> Coincidenti(const std::vector<Cammino> &prima, const st
             }
         for (const auto &[altra, n] : quante)
             if (altra >= 0 && altra != linea && n >= CONCORDI) {
-                const Nome &con = nomi.at(altra);
+                const LineaNominata &con = nomi.at(altra);
                 trovate.push_back({nome.specie, nome.valore, con.specie, con.valore, std::min(n * passo, nome.persa)});
             }
     }

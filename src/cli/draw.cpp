@@ -23,7 +23,7 @@ struct ArgomentiDraw {
 
     [[nodiscard]] const FormatoDisegno *formatoDi(const std::string &uscita) const {
         const FormatoDisegno *f = FormatoDi(Estensione(uscita));
-        return f ? f : FormatoDi(formato);
+        return f || Estensione(uscita) == "omb" ? f : FormatoDi(formato);
     }
 };
 

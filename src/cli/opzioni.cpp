@@ -35,6 +35,10 @@ std::string Opzioni::leggi(int argc, char **argv) const {
         if (!prendi(argc, argv, i, date, errore)) {
             const std::string a = argv[i];
             const bool opzione = a.starts_with("-") && a != "-";
+            // A project that stands where a file to write would: it must not be written over.
+            if (a.ends_with(".omb") &&
+                std::any_of(righe.begin(), righe.end(), [](const Opzione &o) { return o.nome == "--project"; }))
+                return a + ": a project is given as --project " + a;
             errore = opzione || !parola ? "unknown option " + a + "; see ombrelia " + comando + " --help" : parola(a);
         }
         if (!errore.empty()) return errore;

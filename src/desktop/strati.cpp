@@ -16,24 +16,26 @@ struct RigaStrato {
     std::string_view nome, linea;  // of the layer; of one of its lines, before its value
     std::uint32_t chiaro, scuro;   // RGB
 };
+// Any two of hour lines, day lines, equinoctial, Italic, Babylonian and temporary hours, altitudes, azimuths, prayer, analemma
+// and horizon are told apart by eyes that lack one kind of cone, too.
 constexpr RigaStrato TAVOLA[] = {
-    {"Ore"_it, "Ora"_it, 0x1f3a5f, 0x9cc2f0},
-    {"Linee diurne"_it, "Linea diurna"_it, 0xb45309, 0xf5b461},
-    {"Equinoziale"_it, "Equinoziale"_it, 0x0f766e, 0x5ad1c4},
-    {"Ore italiche"_it, "Ora italica"_it, 0x6d28d9, 0xc4a5fb},
-    {"Ore babiloniche"_it, "Ora babilonica"_it, 0xbe185d, 0xf48fb8},
-    {"Ore temporarie"_it, "Ora temporaria"_it, 0x4d7c0f, 0xb5d66b},
-    {"Almucantarat"_it, "Altezza"_it, 0x64748b, 0xa3b1c6},
-    {"Azimut"_it, "Azimut"_it, 0x78716c, 0xb8afa6},
-    {"Asr"_it, "Asr"_it, 0x15803d, 0x7fd99a},
-    {"Qibla"_it, "Qibla"_it, 0x15803d, 0x7fd99a},
-    {"Lemniscata"_it, "Lemniscata"_it, 0xa21caf, 0xe69bf0},
-    {"Mezzogiorno"_it, "Mezzogiorno"_it, 0x1f3a5f, 0x9cc2f0},
+    {"Ore"_it, "Ora"_it, 0x002141, 0x93add0},
+    {"Linee diurne"_it, "Linea diurna"_it, 0xc56a12, 0xf0b15b},
+    {"Equinoziale"_it, "Equinoziale"_it, 0x3e9087, 0x3cbbaf},
+    {"Ore italiche"_it, "Ora italica"_it, 0x652bd8, 0x9d82c9},
+    {"Ore babiloniche"_it, "Ora babilonica"_it, 0xc60f64, 0xd77891},
+    {"Ore temporarie"_it, "Ora temporaria"_it, 0x11742b, 0xdaed88},
+    {"Almucantarat"_it, "Altezza"_it, 0x58738f, 0xc0cddc},
+    {"Azimut"_it, "Azimut"_it, 0x565855, 0xac9c78},
+    {"Asr"_it, "Asr"_it, 0x074e15, 0x8adc9e},
+    {"Qibla"_it, "Qibla"_it, 0x074e15, 0x8adc9e},
+    {"Lemniscata"_it, "Lemniscata"_it, 0xa21fad, 0xce97fb},
+    {"Mezzogiorno"_it, "Mezzogiorno"_it, 0x002141, 0x93add0},
     {"Ora della sustilare"_it, "Ora della sustilare"_it, 0x57534e, 0xb8afa6},
     {"Sustilare"_it, "Sustilare"_it, 0x57534e, 0xb8afa6},
-    {"Orizzonte"_it, "Orizzonte"_it, 0x0c4a6e, 0x7cc4ea},
+    {"Orizzonte"_it, "Orizzonte"_it, 0x3d4978, 0x80d9ff},
     {"Stilo"_it, "Stilo"_it, 0x1c1917, 0xe7e5e4},
-    {"Segni di data"_it, "Segno di data"_it, 0xb45309, 0xf5b461},
+    {"Segni di data"_it, "Segno di data"_it, 0xc56a12, 0xf0b15b},
     {"Etichette"_it, "Etichetta"_it, 0x1f2937, 0xd6dce2},
     {"Cornice e segni"_it, "Cornice"_it, 0x4b5563, 0xaab3bd},
 };

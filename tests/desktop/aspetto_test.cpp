@@ -22,6 +22,7 @@
 #include <QTimer>
 #include <QTreeWidget>
 #include <QWheelEvent>
+#include <array>
 #include <cmath>
 #include <numbers>
 #include <set>
@@ -35,6 +36,7 @@
 namespace ombrelia {
 namespace {
 
+using desktop::Strato;
 using prova::BancoFinestra;
 
 double luce(const QColor &c) {
@@ -139,6 +141,50 @@ TEST(Aspetto, TestiELineeRisaltano) {
         EXPECT_GT(misurati, 40U);
     }
     desktop::VestiApplicazione(*qApp, desktop::Tema::Chiaro);
+}
+
+// Vision without one kind of cone: matrices for linear RGB of Machado, Oliveira, Fernandes 2009, severity 1. Distances in CIELAB.
+TEST(Aspetto, FamiliesAreToldApartByEveryEye) {
+    using Terna = std::array<double, 3>;
+    const auto per = [](const std::array<Terna, 3> &m, const Terna &v) {
+        Terna r{};
+        for (std::size_t i = 0; i < 3; ++i) r[i] = m[i][0] * v[0] + m[i][1] * v[1] + m[i][2] * v[2];
+        return r;
+    };
+    const std::array<Terna, 3> OCCHI[] = {
+        {{{1, 0, 0}, {0, 1, 0}, {0, 0, 1}}},
+        {{{0.152286, 1.052583, -0.204868}, {0.114503, 0.786281, 0.099216}, {-0.003882, -0.048116, 1.051998}}},
+        {{{0.367322, 0.860646, -0.227968}, {0.280085, 0.672501, 0.047413}, {-0.011820, 0.042940, 0.968881}}},
+        {{{1.255528, -0.076749, -0.178779}, {-0.078411, 0.930809, 0.147602}, {0.004733, 0.691367, 0.303900}}}};
+    const std::array<Terna, 3> XYZ = {
+        {{0.4124564, 0.3575761, 0.1804375}, {0.2126729, 0.7151522, 0.0721750}, {0.0193339, 0.1191920, 0.9503041}}};
+    const auto lab = [&](const QColor &c, const std::array<Terna, 3> &occhio) {
+        const auto lineare = [](double x) { return x <= 0.04045 ? x / 12.92 : std::pow((x + 0.055) / 1.055, 2.4); };
+        Terna visto = per(occhio, {lineare(c.redF()), lineare(c.greenF()), lineare(c.blueF())});
+        for (double &x : visto) x = std::clamp(x, 0.0, 1.0);
+        const Terna q = per(XYZ, visto), bianco{0.95047, 1, 1.08883};
+        Terna f{};
+        for (std::size_t i = 0; i < 3; ++i) {
+            const double t = q[i] / bianco[i];
+            f[i] = t > 216.0 / 24389 ? std::cbrt(t) : (24389.0 / 27 * t + 16) / 116;
+        }
+        return Terna{116 * f[1] - 16, 500 * (f[0] - f[1]), 200 * (f[1] - f[2])};
+    };
+    using enum Specie;
+    for (const bool scuro : {false, true}) {
+        const desktop::StileFoglio stile = desktop::StileDi(scuro);
+        const auto supporto = scuro ? paint::Supporto::Schermo : paint::Supporto::SchermoChiaro;
+        const auto tinta = [&](Specie x) { return paint::Inchiostro(stile.strati[Strato(x)].colore, supporto); };
+        const Specie famiglie[] = {Ora,          Diurna, Equinoziale, Italica,  Babilonica, Temporaria,
+                                   Almucantarat, Azimut, Asr,         Analemma, Orizzonte};
+        for (const Specie a : famiglie)
+            for (const Specie b : famiglie)
+                for (std::size_t k = 0; a < b && k < std::size(OCCHI); ++k) {
+                    const Terna x = lab(tinta(a), OCCHI[k]), y = lab(tinta(b), OCCHI[k]);
+                    EXPECT_GT(std::hypot(x[0] - y[0], x[1] - y[1], x[2] - y[2]), 13)
+                        << Strato(a) << " and " << Strato(b) << ", eye " << k << (scuro ? ", dark" : ", light");
+                }
+    }
 }
 
 TEST(Aspetto, IlFoglioDiceLeSueLinee) {

@@ -14,24 +14,14 @@
 #include "app/parametri_default.h"
 #include "core/file.h"
 #include "desktop/banco.h"
+#include "desktop/disegno_di.h"
 #include "reports/rapporti.h"
 
 namespace ombrelia {
 namespace {
 
 using prova::BancoFinestra;
-
-// The drawing of a session that was never anything else.
-std::string disegnoDi(const std::vector<std::pair<std::string_view, std::string_view>> &campi,
-                      const std::vector<std::string_view> &caselle) {
-    prova::UtenteDiProva utente;
-    Sessione s(utente);
-    app::Avvia(s);
-    for (const std::string_view c : caselle) app::Premi(s, TrovaControllo(c));
-    for (const auto &[nome, testo] : campi) app::Imposta(s, TrovaControllo(nome), std::string(testo));
-    app::Premi(s, TrovaControllo("cmdRun"));
-    return ListaTesto(s.tavolo.lista());
-}
+using prova::disegnoDi;
 
 TEST(Affidabile, UnSalvataggioFallitoTieneIlSegno) {
     BancoFinestra b;

@@ -390,6 +390,17 @@ TEST(Carta, PrintedRowsAreNotBroken) {
             intere += r.startsWith(QLatin1Char('r')) && r.contains(QLatin1Char('f'));
         }
         EXPECT_EQ(intere == RIGHE, !c.spezzate) << c.lettere << ": " << intere;
+        // The first row is red, the next ones are black.
+        const QImage pagina = QImage::fromData(chiama("pdftoppm", {"-r", "150", "-l", "1", "righe.pdf"}), "PPM");
+        int rossi = 0, neri = 0;
+        for (int y = 0; y < pagina.height(); ++y)
+            for (int x = 0; x < pagina.width(); ++x) {
+                const QColor q = pagina.pixelColor(x, y);
+                rossi += q.red() > 150 && q.green() < 100 && q.blue() < 100;
+                neri += q.value() < 60;
+            }
+        EXPECT_GT(rossi, 100) << c.lettere;
+        EXPECT_GT(neri, 20 * rossi) << c.lettere;
     }
 }
 

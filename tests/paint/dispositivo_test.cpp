@@ -96,6 +96,19 @@ TEST(Dispositivo, OgniColoreSiVedeSuiDueFondi) {
     EXPECT_EQ(paint::Inchiostro(QB(0), Supporto::Carta), QColor(Qt::black));
 }
 
+TEST(Dispositivo, ATextHasItsOwnColour) {
+    for (const auto &[colore, pieno] : {std::pair{QB(12), &QColor::red}, {QB(10), &QColor::green}}) {
+        Schermo s;
+        paint::DispositivoQt d(s.pittore, Supporto::Schermo, s.posa);
+        d.Testo(50, 50, "QIBLA", colore);
+        d.vuota();
+        int accesi = 0;
+        for (int y = 45; y < 80; ++y)
+            for (int x = 45; x < 150; ++x) accesi += (s.immagine.pixelColor(x, y).*pieno)() > 200;
+        EXPECT_GT(accesi, 20) << colore;
+    }
+}
+
 TEST(Dispositivo, ArchiAntiorari) {
     Schermo s;
     paint::DispositivoQt d(s.pittore, Supporto::Schermo, s.posa);

@@ -1,11 +1,13 @@
 // The list of layers.
 #include "desktop/pannello_strati.h"
 
+#include <QCheckBox>
 #include <QColorDialog>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QMenu>
 #include <QPushButton>
+#include <QSettings>
 #include <QSignalBlocker>
 #include <QSpinBox>
 #include <QTreeWidget>
@@ -23,6 +25,8 @@ constexpr int STRATO = Qt::UserRole, VALORE = Qt::UserRole + 1, LINEA = Qt::User
 std::pair<std::size_t, double> chiave(const QTreeWidgetItem *v) {
     return {v->data(0, STRATO).toULongLong(), v->data(0, VALORE).toDouble()};
 }
+
+constexpr auto TRATTINI = "trattini";
 
 QIcon campione(const QColor &tinta) {
     QPixmap q(14, 14);
@@ -55,6 +59,22 @@ PannelloStrati::PannelloStrati(Ponte &ponte, Foglio &foglio, QWidget *genitore)
     fila->addWidget(colore);
     fila->addWidget(spesso, 1);
     giu->addLayout(fila);
+    auto *trattini = new QCheckBox(ponte.Traduci("Sulla carta ogni famiglia col suo tratto"), this);
+    trattini->setObjectName(QString::fromLatin1(TRATTINI));
+    trattini->setToolTip(
+        ponte.Traduci("Linee intere, a tratti, a punti: si distinguono anche senza i colori. Vale per PDF, stampa e immagini"));
+    trattini->setChecked(QSettings().value(QLatin1String(TRATTINI), false).toBool());
+    giu->addWidget(trattini);
+    const auto tratteggia = [this](bool si) {
+        StileFoglio s = foglio_.stile();
+        s.trattini = si;
+        applica(s);
+    };
+    tratteggia(trattini->isChecked());
+    connect(trattini, &QCheckBox::toggled, this, [tratteggia](bool si) {
+        QSettings().setValue(QLatin1String(TRATTINI), si);
+        tratteggia(si);
+    });
     connect(colore, &QPushButton::clicked, this, [this] { colora(); });
     connect(spesso, &QSpinBox::valueChanged, this, [this](int n) { ingrossa(n); });
     connect(albero_, &QTreeWidget::itemChanged, this, [this](QTreeWidgetItem *v, int) { spuntata(v); });
@@ -215,6 +235,7 @@ void PannelloStrati::menu(const QPoint &globale) {
     });
     voce("Aspetto come disegnato"_it, [this] {
         StileFoglio s = StileDi(foglio_.stile().scuro);
+        s.trattini = foglio_.stile().trattini;
         s.scelta = foglio_.stile().scelta;
         applica(s);
         riempi();

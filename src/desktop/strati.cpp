@@ -15,29 +15,30 @@ namespace {
 struct RigaStrato {
     std::string_view nome, linea;  // of the layer; of one of its lines, before its value
     std::uint32_t chiaro, scuro;   // RGB
+    std::uint8_t trattini;         // on paper, where families are told apart by them
 };
 // Any two of hour lines, day lines, equinoctial, Italic, Babylonian and temporary hours, altitudes, azimuths, prayer, analemma
 // and horizon are told apart by eyes that lack one kind of cone, too.
 constexpr RigaStrato TAVOLA[] = {
-    {"Ore"_it, "Ora"_it, 0x002141, 0x93add0},
-    {"Linee diurne"_it, "Linea diurna"_it, 0xc56a12, 0xf0b15b},
-    {"Equinoziale"_it, "Equinoziale"_it, 0x3e9087, 0x3cbbaf},
-    {"Ore italiche"_it, "Ora italica"_it, 0x652bd8, 0x9d82c9},
-    {"Ore babiloniche"_it, "Ora babilonica"_it, 0xc60f64, 0xd77891},
-    {"Ore temporarie"_it, "Ora temporaria"_it, 0x11742b, 0xdaed88},
-    {"Almucantarat"_it, "Altezza"_it, 0x58738f, 0xc0cddc},
-    {"Azimut"_it, "Azimut"_it, 0x565855, 0xac9c78},
-    {"Asr"_it, "Asr"_it, 0x074e15, 0x8adc9e},
-    {"Qibla"_it, "Qibla"_it, 0x074e15, 0x8adc9e},
-    {"Lemniscata"_it, "Lemniscata"_it, 0xa21fad, 0xce97fb},
-    {"Mezzogiorno"_it, "Mezzogiorno"_it, 0x002141, 0x93add0},
-    {"Ora della sustilare"_it, "Ora della sustilare"_it, 0x57534e, 0xb8afa6},
-    {"Sustilare"_it, "Sustilare"_it, 0x57534e, 0xb8afa6},
-    {"Orizzonte"_it, "Orizzonte"_it, 0x3d4978, 0x80d9ff},
-    {"Stilo"_it, "Stilo"_it, 0x1c1917, 0xe7e5e4},
-    {"Segni di data"_it, "Segno di data"_it, 0xc56a12, 0xf0b15b},
-    {"Etichette"_it, "Etichetta"_it, 0x1f2937, 0xd6dce2},
-    {"Cornice e segni"_it, "Cornice"_it, 0x4b5563, 0xaab3bd},
+    {"Ore"_it, "Ora"_it, 0x002141, 0x93add0, 0},
+    {"Linee diurne"_it, "Linea diurna"_it, 0xc56a12, 0xf0b15b, 1},
+    {"Equinoziale"_it, "Equinoziale"_it, 0x3e9087, 0x3cbbaf, 2},
+    {"Ore italiche"_it, "Ora italica"_it, 0x652bd8, 0x9d82c9, 3},
+    {"Ore babiloniche"_it, "Ora babilonica"_it, 0xc60f64, 0xd77891, 4},
+    {"Ore temporarie"_it, "Ora temporaria"_it, 0x11742b, 0xdaed88, 5},
+    {"Almucantarat"_it, "Altezza"_it, 0x58738f, 0xc0cddc, 6},
+    {"Azimut"_it, "Azimut"_it, 0x565855, 0xac9c78, 7},
+    {"Asr"_it, "Asr"_it, 0x074e15, 0x8adc9e, 8},
+    {"Qibla"_it, "Qibla"_it, 0x074e15, 0x8adc9e, 8},
+    {"Lemniscata"_it, "Lemniscata"_it, 0xa21fad, 0xce97fb, 0},
+    {"Mezzogiorno"_it, "Mezzogiorno"_it, 0x002141, 0x93add0, 0},
+    {"Ora della sustilare"_it, "Ora della sustilare"_it, 0x57534e, 0xb8afa6, 9},
+    {"Sustilare"_it, "Sustilare"_it, 0x57534e, 0xb8afa6, 2},
+    {"Orizzonte"_it, "Orizzonte"_it, 0x3d4978, 0x80d9ff, 9},
+    {"Stilo"_it, "Stilo"_it, 0x1c1917, 0xe7e5e4, 0},
+    {"Segni di data"_it, "Segno di data"_it, 0xc56a12, 0xf0b15b, 0},
+    {"Etichette"_it, "Etichetta"_it, 0x1f2937, 0xd6dce2, 0},
+    {"Cornice e segni"_it, "Cornice"_it, 0x4b5563, 0xaab3bd, 0},
 };
 static_assert(std::size(TAVOLA) == STRATI);
 
@@ -78,6 +79,8 @@ QString oreMinuti(double ore) {
 
 }  // namespace
 
+std::uint8_t TrattiniDi(std::size_t strato) { return TAVOLA[strato].trattini; }
+
 QColor TintaDi(Colore c) { return {c & 0xFF, (c >> 8) & 0xFF, (c >> 16) & 0xFF}; }
 
 StileFoglio StileDi(bool scuro) {
@@ -88,7 +91,7 @@ StileFoglio StileDi(bool scuro) {
 }
 
 bool Ritoccato(const StileFoglio &stile) {
-    return !stile.nascoste.empty() || !stile.sue.empty() ||
+    return stile.trattini || !stile.nascoste.empty() || !stile.sue.empty() ||
            std::any_of(stile.strati.begin(), stile.strati.end(),
                        [](const StileFoglio::AspettoLinea &t) { return t.nascosto || t.mio || t.spessore > 0; });
 }
@@ -100,6 +103,7 @@ Tavolo::DisegnoTenuto Vesti(const Tavolo &t, const StileFoglio &stile, bool perC
     d.lista.Punti.clear();
     d.lista.Ordine.clear();
     d.lista.pretese.clear();
+    d.lista.trattini.clear();
     d.lista.Linee.reserve(l.Linee.size());
     d.lista.Punti.reserve(l.Punti.size());
     d.lista.Ordine.reserve(l.Ordine.size());
@@ -129,6 +133,7 @@ Tavolo::DisegnoTenuto Vesti(const Tavolo &t, const StileFoglio &stile, bool perC
             if (scelta) r.Spessore = GROSSA;
             tieni(tipo, p);
             d.lista.Linee.push_back(r);
+            if (perCarta && stile.trattini) d.lista.trattini.push_back(TrattiniDi(chi.first));
         } else if (tipo == 'P') {
             if (via) return;
             RecPunto r = l.Punti[k];

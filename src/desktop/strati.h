@@ -29,6 +29,7 @@ struct StileFoglio {
         bool operator==(const AspettoLinea &) const = default;
     };
     bool scuro = false;
+    bool trattini = false;  // on paper each family has its pattern
     std::array<AspettoLinea, STRATI> strati{};
     std::set<std::pair<std::size_t, double>> nascoste;           // single lines: layer and value
     std::map<std::pair<std::size_t, double>, AspettoLinea> sue;  // those with looks of their own
@@ -45,6 +46,8 @@ struct StileFoglio {
 // The calm palette: few colours, told apart by the colour-blind too, each at least 3 to 1 against its sheet.
 [[nodiscard]] StileFoglio StileDi(bool scuro);
 [[nodiscard]] QColor TintaDi(Colore colore);
+// The pattern of a layer's lines, as Dispositivo::Trattini takes it.
+[[nodiscard]] std::uint8_t TrattiniDi(std::size_t strato);
 
 // The drawing as the style shows it: colours of the layers, hidden lines left out. On paper only what the user changed.
 [[nodiscard]] Tavolo::DisegnoTenuto Vesti(const Tavolo &t, const StileFoglio &stile, bool perCarta);

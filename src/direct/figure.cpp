@@ -79,7 +79,7 @@ void LineeAzimutali(const Corsa &c, LineeAttese &linee) {
 namespace {
 
 // The plane read again; a horizontal one is worked as the wall that it equals, and stays that wall. Whether it is.
-bool rileggiPianoDegliAzimut(Corsa &c) {
+bool rileggiPianoAzimut(Corsa &c) {
     Variabili &v = c.s.v;
     v.latR = PI * c.letto.lat / 180.0;
     Reale G = c.letto.dec;
@@ -97,7 +97,7 @@ bool rileggiPianoDegliAzimut(Corsa &c) {
 
 void TracciaRetteAzimutali(Corsa &c, const LineeAttese &linee) {
     Sessione &s = c.s;
-    const bool orizzontale = rileggiPianoDegliAzimut(c);
+    const bool orizzontale = rileggiPianoAzimut(c);
     const Variabili &v = c.v;
     const Reale limite = orizzontale ? Valore(10) : v.gn * tan(v.incR);  // unscaled, as meant
     const Proiezione proietta(v);

@@ -13,6 +13,12 @@ namespace {
 constexpr qsizetype LINEA_MASSIMA = 4096, PUNTI_MASSIMI_IN_MANO = 4096;
 constexpr Colore NESSUNO = -1;
 
+// Patterns of lines: stroke, gap, stroke, gap ... in millimetres. The first is plain.
+const std::vector<double> TRATTINI[] = {
+    {},       {3, 1.2}, {7, 1.2},         {4, 1, 0.6, 1}, {4, 1, 0.6, 1, 0.6, 1},
+    {0.6, 1}, {1.5, 1}, {1.5, 1, 0.6, 1}, {6, 1, 1.5, 1}, {10, 1, 0.6, 1, 0.6, 1, 0.6, 1},
+};
+
 }  // namespace
 
 DispositivoQt::DispositivoQt(QPainter &pittore, Supporto supporto, const PosaDipinta &posa)
@@ -35,9 +41,15 @@ QColor DispositivoQt::ink(Colore colore) {
     return inchiostri_.emplace_back(colore, Inchiostro(colore, supporto_)).second;
 }
 
-QPen DispositivoQt::matita(Colore colore, double larghezza) {
+QPen DispositivoQt::matita(Colore colore, double larghezza, std::uint8_t trattini) {
     QPen p(ink(colore), larghezza, tratteggio_ ? Qt::DotLine : Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
     if (supporto_ != Supporto::Carta && !tratteggio_) p.setCapStyle(Qt::FlatCap), p.setJoinStyle(Qt::BevelJoin);
+    if (trattini > 0 && trattini < std::size(TRATTINI) && !tratteggio_) {
+        QList<qreal> volte;  // of the pen's width
+        for (const double mm : TRATTINI[trattini]) volte << mm * posa_.millimetro / larghezza;
+        p.setDashPattern(volte);
+        p.setCapStyle(Qt::FlatCap);
+    }
     return p;
 }
 
@@ -46,7 +58,9 @@ void DispositivoQt::Linea(double x1, double y1, double x2, double y2, Colore col
     if (fuori(a, b)) return;
     // Chords go on whichever way round they are drawn; the first of a line shows its way only with the second.
     for (LineaInMano &c : catene_) {
-        if (c.colore != colore || c.spessore != spessore || c.corsa.isEmpty() || c.corsa.size() >= LINEA_MASSIMA) continue;
+        if (c.colore != colore || c.spessore != spessore || c.trattini != trattini_ || c.corsa.isEmpty() ||
+            c.corsa.size() >= LINEA_MASSIMA)
+            continue;
         if (c.sola && (c.corsa[0] == a || c.corsa[0] == b)) {
             std::swap(c.corsa[0], c.fine);
             c.dirX = -c.dirX;
@@ -61,6 +75,7 @@ void DispositivoQt::Linea(double x1, double y1, double x2, double y2, Colore col
     vuotaCatena(c);
     c.colore = colore;
     c.spessore = spessore;
+    c.trattini = trattini_;
     c.sola = true;
     c.corsa.append(a);
     aggiungi(c, b);
@@ -110,11 +125,11 @@ void DispositivoQt::vuotaCatena(LineaInMano &c) {
             linea = QLineF(mezzo - verso * (posa_.penna / 2), mezzo + verso * (posa_.penna / 2));
         }
         for (LineeSciolte &t : tratti_)
-            if (t.colore == c.colore && t.spessore == c.spessore) return t.linee.append(linea);
-        tratti_.push_back({c.colore, c.spessore, {linea}});
+            if (t.colore == c.colore && t.spessore == c.spessore && t.trattini == c.trattini) return t.linee.append(linea);
+        tratti_.push_back({c.colore, c.spessore, c.trattini, {linea}});
         return;
     }
-    pittore_.setPen(matita(c.colore, posa_.penna * c.spessore));
+    pittore_.setPen(matita(c.colore, posa_.penna * c.spessore, c.trattini));
     pittore_.drawPolyline(c.corsa);
     c.corsa.clear();
 }
@@ -122,7 +137,7 @@ void DispositivoQt::vuotaCatena(LineaInMano &c) {
 void DispositivoQt::vuotaTratti() {
     for (LineeSciolte &t : tratti_) {
         if (t.linee.isEmpty()) continue;
-        pittore_.setPen(matita(t.colore, posa_.penna * t.spessore));
+        pittore_.setPen(matita(t.colore, posa_.penna * t.spessore, t.trattini));
         pittore_.drawLines(t.linee);
         t.linee.clear();
     }

@@ -20,6 +20,7 @@ struct PosaDipinta {
     double penna = 1;         // stroke of width 1
     double punto = 1.5;       // diameter of a point
     double corpo = 12;        // height of the letters
+    double millimetro = 4;    // of the patterns of lines
     double tolleranza = 0.3;  // how far a line may be simplified
     QRectF vista{};           // what lies outside is not painted; empty: everything is
 };
@@ -43,6 +44,7 @@ public:
                  double aspetto) override;
     void Testo(double x, double y, std::string_view testo, Colore colore) override;
     void Tratteggio(bool si) override;
+    void Trattini(std::uint8_t quali) override { trattini_ = quali; }
 
     // Puts out what is still held back.
     void vuota();
@@ -58,6 +60,7 @@ private:
         double lunga = 0;                         // how far it got
         Colore colore = 0;
         int spessore = 1;
+        std::uint8_t trattini = 0;
         bool sola = false;  // one chord so far
     };
     void aggiungi(LineaInMano &c, const QPointF &p) const;
@@ -67,12 +70,13 @@ private:
     // Whether a dot of the screen shows this colour's point already; it does from now on.
     [[nodiscard]] bool segnata(const QPointF &p, Colore colore);
     [[nodiscard]] QColor ink(Colore colore);
-    [[nodiscard]] QPen matita(Colore colore, double larghezza);
+    [[nodiscard]] QPen matita(Colore colore, double larghezza, std::uint8_t trattini = 0);
 
     QPainter &pittore_;
     Supporto supporto_;
     PosaDipinta posa_;
     bool tratteggio_ = false;
+    std::uint8_t trattini_ = 0;
 
     // Engines trace a few curves by turns. Lines and points in hand cross only where nobody can tell which came first.
     std::array<LineaInMano, 6> catene_;
@@ -81,6 +85,7 @@ private:
     struct LineeSciolte {
         Colore colore;
         int spessore;
+        std::uint8_t trattini;
         QVector<QLineF> linee;
     };
     std::vector<LineeSciolte> tratti_;

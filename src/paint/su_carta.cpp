@@ -14,6 +14,7 @@ PosaDipinta PosaSuCarta(double u, double scala, double x0, double y0) {
     p.penna = PENNA * u;
     p.punto = PUNTO * u;
     p.corpo = CORPO * u;
+    p.millimetro = u / 1000;
     p.tolleranza = TOLLERANZA * u;
     return p;
 }

@@ -2,6 +2,7 @@
 // recording one serves the tests.
 #pragma once
 
+#include <cstdint>
 #include <string_view>
 
 #include "core/colori.h"
@@ -24,6 +25,9 @@ public:
     virtual void Testo(double x, double y, std::string_view testo, Colore colore) = 0;
     // Lines that follow are dotted, or plain again.
     virtual void Tratteggio(bool) {}
+    // Lines that follow have this pattern, 0 for plain: what tells families of lines apart where colours don't. A device that has
+    // none draws them plain.
+    virtual void Trattini(std::uint8_t) {}
 };
 
 }  // namespace ombrelia

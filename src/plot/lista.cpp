@@ -18,6 +18,7 @@ void Lista::svuota() {
     Aree.clear();
     Ordine.clear();
     pretese.clear();
+    trattini.clear();
 }
 
 void Lista::togliArea(std::size_t quale) {
@@ -54,6 +55,7 @@ Lista Lista::copia() const {
     l.Aree = Aree;
     l.Ordine = Ordine;
     l.pretese = pretese;
+    l.trattini = trattini;
     for (std::size_t i = 0; i < nomi.quanti(); ++i) (void)l.nomi.id(nomi.testo(static_cast<IdNome>(i)));
     return l;
 }

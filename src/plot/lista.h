@@ -91,7 +91,8 @@ struct Lista {
     std::vector<RecArea> Aree;
     std::string Ordine;  // the kind of each primitive in the order it was added: P, L, V, B or C
     Nomi nomi;
-    std::vector<Pretesa> pretese;  // in the order of their records; ranges do not overlap
+    std::vector<std::uint8_t> trattini;  // of each line, where lines have any: see Dispositivo::Trattini; empty: all are plain
+    std::vector<Pretesa> pretese;        // in the order of their records; ranges do not overlap
 
     void svuota();
     // Takes a selected tile out, with its outline and its number.

@@ -98,6 +98,8 @@ void Pittore::rigioca(const Lista &l) const {
         }
         void linea(const RecLinea &r) {
             tratteggia(r.Id == p.griglia);
+            if (const auto i = static_cast<std::size_t>(&r - l.Linee.data()); i < l.trattini.size())
+                p.dispositivo.Trattini(l.trattini[i]);
             p.linea(r.X1, r.Y1, r.X2, r.Y2, r.colore, r.Spessore, p.specchia(r.Id));
         }
         void figura(std::size_t i) {

@@ -7,6 +7,8 @@
 #include <QRegularExpression>
 #include <QSlider>
 #include <QTimeEdit>
+#include <map>
+#include <set>
 
 #include "desktop/banco.h"
 #include "desktop/disegno_di.h"
@@ -87,6 +89,31 @@ TEST(Guardie, ADialTurnedIntoAnotherLeavesNothingToTheNext) {
         b.premi("cmdRun");
         EXPECT_TRUE(b.lista() == attesa) << (nuovo ? "new" : "opened");
     }
+}
+
+TEST(Guardie, OnPaperAFamilyHasItsPatternWhereOneWishes) {
+    BancoFinestra b;
+    b.f.primoQuadrante();
+    b.aspettaVivo();
+    b.vivo()->setChecked(false);
+    auto *casella = b.f.findChild<QCheckBox *>(QStringLiteral("trattini"));
+    const auto fogli = [&] {
+        std::map<Specie, std::set<int>> trovati;
+        Tavolo carta;
+        desktop::VestiFoglio(b.s().tavolo, b.f.quadro().foglio().stile(), true, carta);
+        const Lista &l = carta.lista();
+        for (const Pretesa &p : l.pretese)
+            for (std::size_t i = p.linea; i < l.trattini.size() && i < p.linea + 1; ++i) trovati[p.specie].insert(l.trattini[i]);
+        return trovati;
+    };
+    EXPECT_TRUE(fogli().empty());
+    casella->setChecked(true);
+    const auto f = fogli();
+    EXPECT_EQ(f.at(Specie::Ora), std::set<int>{0});
+    EXPECT_EQ(f.at(Specie::Diurna).size(), 1U);
+    EXPECT_NE(f.at(Specie::Diurna), f.at(Specie::Ora));
+    EXPECT_NE(f.at(Specie::Diurna), f.at(Specie::Equinoziale));
+    casella->setChecked(false);
 }
 
 // Bologna, 21 June 2026: true noon of the place is at 13:16:24 of the clock with summer time (equation of time -1 m 46 s; 14 m 38

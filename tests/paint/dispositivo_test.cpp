@@ -96,6 +96,31 @@ TEST(Dispositivo, OgniColoreSiVedeSuiDueFondi) {
     EXPECT_EQ(paint::Inchiostro(QB(0), Supporto::Carta), QColor(Qt::black));
 }
 
+// Along two lines drawn by turns in short chords: strokes of 3 mm and gaps of 1.2 on the first, the second whole.
+TEST(Dispositivo, PatternsRunAlongALine) {
+    Schermo s;
+    s.posa.millimetro = 10;
+    paint::DispositivoQt d(s.pittore, Supporto::Schermo, s.posa);
+    for (int x = 10; x < 388; x += 3)
+        for (const std::uint8_t k : {1, 0}) {
+            d.Trattini(k);
+            d.Linea(x, 100 + 50 * k, x + 3, 100 + 50 * k + 0.01 * x, QB(15), 1);
+        }
+    d.vuota();
+    for (int k = 0; k < 2; ++k) {
+        int tratti = 0, accesi = 0;
+        for (int x = 11, prima = 0; x < 388; ++x) {
+            const int ora = s.luce(x, 100 + 50 * k) >= ACCESO;
+            tratti += ora > prima;
+            accesi += ora;
+            prima = ora;
+        }
+        EXPECT_EQ(tratti, k == 1 ? 9 : 1);
+        EXPECT_GE(accesi, k == 1 ? 270 : 377);
+        EXPECT_LT(accesi, k == 1 ? 310 : 378);
+    }
+}
+
 TEST(Dispositivo, ATextHasItsOwnColour) {
     for (const auto &[colore, pieno] : {std::pair{QB(12), &QColor::red}, {QB(10), &QColor::green}}) {
         Schermo s;

@@ -102,9 +102,9 @@ TEST(Dispositivo, PatternsRunAlongALine) {
     s.posa.millimetro = 10;
     paint::DispositivoQt d(s.pittore, Supporto::Schermo, s.posa);
     for (int x = 10; x < 388; x += 3)
-        for (const std::uint8_t k : {1, 0}) {
-            d.Trattini(k);
-            d.Linea(x, 100 + 50 * k, x + 3, 100 + 50 * k + 0.01 * x, QB(15), 1);
+        for (const int k : {1, 0}) {
+            d.Trattini(k == 1 ? 1 : 0);
+            d.Linea(x, 100 + 50 * k, x + 3, 100 + 50 * k, QB(15), 1);
         }
     d.vuota();
     for (int k = 0; k < 2; ++k) {

@@ -38,7 +38,7 @@ void quadrante(desktop::Finestra &f, const QString &file) {
     for (const char *n : {"Tavolo1.cmdPulisci", "cmdRun"}) f.ponte().premi(n);
     Tavolo t;
     desktop::VestiFoglio(f.sessione().tavolo, desktop::StileDi(false), false, t);
-    Tavolo::Disegno d = t.CopiaDisegno();
+    auto d = t.CopiaDisegno();
     d.lista.Testi.clear();
     t.MettiDisegno(std::move(d));
     constexpr int LARGA = 1200;

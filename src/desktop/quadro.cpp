@@ -10,6 +10,7 @@
 #include <QScrollBar>
 #include <QToolButton>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "desktop/comandi.h"
 #include "desktop/dialoghi.h"
@@ -272,8 +273,13 @@ bool Quadro::corniceFuori() const {
     const Valore x0 = Val(in.txtX0) * u, x1 = Val(in.txtX1) * u, y0 = Val(in.txtY0) * u, y1 = Val(in.txtY1) * u;
     if (!(x0.esiste() && x1.esiste() && y0.esiste() && y1.esiste())) return false;
     constexpr double NULLA = 1e-9;
-    return x0.v < -t.ShiftX() - NULLA || x1.v > t.QuadranteL() - t.ShiftX() + NULLA || -y0.v < -t.ShiftY() - NULLA ||
-           -y1.v > t.QuadranteH() - t.ShiftY() + NULLA;
+    // As the sheet's mirrors show it.
+    const auto fuori = [](double da, double a, double specchio, double origine, double lato) {
+        const auto [basso, alto] = std::minmax(specchio * da, specchio * a);
+        return basso < -origine - NULLA || alto > lato - origine + NULLA;
+    };
+    return fuori(x0.v, x1.v, t.FattoreX, t.ShiftX(), t.QuadranteL()) ||
+           fuori(-y0.v, -y1.v, t.FattoreY, t.ShiftY(), t.QuadranteH());
 }
 
 void Quadro::aggiorna() {

@@ -275,7 +275,7 @@ bool Quadro::corniceFuori() const {
     constexpr double NULLA = 1e-9;
     // As the sheet's mirrors show it.
     const auto fuori = [](double da, double a, double specchio, double origine, double lato) {
-        const auto [basso, alto] = std::minmax(specchio * da, specchio * a);
+        const double basso = std::min(specchio * da, specchio * a), alto = std::max(specchio * da, specchio * a);
         return basso < -origine - NULLA || alto > lato - origine + NULLA;
     };
     return fuori(x0.v, x1.v, t.FattoreX, t.ShiftX(), t.QuadranteL()) ||

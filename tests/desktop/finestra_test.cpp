@@ -236,6 +236,11 @@ TEST(Finestra, IlFoglioSegueLaCornice) {
     b.f.findChild<QPushButton *>(QStringLiteral("Adatta"))->click();
     EXPECT_TRUE(avviso->text().isEmpty());
     EXPECT_NEAR(b.f.sessione().tavolo.QuadranteL(), 1.14, 1e-12);
+    // A mirror takes a frame that is wider on one side off the sheet.
+    b.premi("Tavolo1.cmdInvX");
+    EXPECT_FALSE(avviso->text().isEmpty());
+    b.premi("Tavolo1.cmdInvX");
+    EXPECT_TRUE(avviso->text().isEmpty());
     b.spunta("chkOreAstronomiche");
     b.premi("cmdRun");
     const std::string una = b.lista();

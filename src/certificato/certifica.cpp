@@ -244,11 +244,11 @@ Certificato Certifica(const DatiCertificato &dati, const Lista &lista, double to
             if (fermo && (i == p.da || i % OGNI == 0) && fermo()) return {};
             if (lista.Ordine[i] == 'L') {
                 const RecLinea &l = lista.Linee[linea++];
-                g.corda({verso * l.X1, -l.Y1}, {verso * l.X2, -l.Y2});
+                g.corda({verso * l.X1, l.Y1}, {verso * l.X2, l.Y2});
                 ++giudicati;
             } else if (lista.Ordine[i] == 'P') {
                 const RecPunto &r = lista.Punti[punto++];
-                const Punto q{verso * r.X, -r.Y};
+                const Punto q{verso * r.X, r.Y};
                 g.punto(q, ha ? &prima : nullptr);
                 prima = q;
                 ha = true;
@@ -290,7 +290,7 @@ Certificato Certifica(const DatiCertificato &dati, const Lista &lista, double to
 }
 
 std::optional<LineaVicina> TrovaLinea(const DatiCertificato &dati, const Lista &lista, const Punto &p, double entro) {
-    const double x = dati.posa.australe ? -p.x : p.x, y = -p.y;
+    const double x = dati.posa.australe ? -p.x : p.x, y = p.y;
     std::optional<LineaVicina> migliore;
     const auto prova = [&](double d, std::size_t k) {
         if (d > entro || (migliore && d >= migliore->distanza)) return;

@@ -312,7 +312,7 @@ void triangolo(const Corredo &d) {
     const bool vicino = c && std::hypot(c->x, c->y) < LONTANO;
     const Punto centro = vicino ? d.scena.nellaLista(*c) : Punto{}, piede;
     if (d.attesa.motore == Motore::Analitica) {
-        t.xPset(0, 0, BIANCO);
+        t.TracciaPunto(0, PIEDE, BIANCO);
     } else {
         if (vicino) t.TracciaPunto(centro.x, centro.y, ROSSO);
         t.TracciaPunto(punta.x, punta.y, ROSSO);

@@ -114,7 +114,7 @@ private:
     }
     void punto(const Mm &p) { scrivi("%.3f %.3f", p.x, p.y); }
     [[nodiscard]] Mm mm(const ombra::Punto &p) const {
-        return {(p.x + tavolo_.ShiftX()) * 1000, (tavolo_.ShiftY() - p.y) * 1000};
+        return {tavolo_.quadrante().daSinistra(p.x) * 1000, tavolo_.quadrante().dallAlto(p.y) * 1000};
     }
     // Not beyond twice the sheet: the shadows of sunrise and sunset run to the end of the world.
     [[nodiscard]] bool vicino(const ombra::Punto &p) const {

@@ -35,7 +35,7 @@ protected:
 
 private:
     [[nodiscard]] QPointF dot(double x, double y) const;  // list metres, y down, before the mirrors
-    [[nodiscard]] QPointF dot(const ombra::Punto &p, bool australe) const { return dot(australe ? -p.x : p.x, -p.y); }
+    [[nodiscard]] QPointF dot(const ombra::Punto &p, bool australe) const { return dot(australe ? -p.x : p.x, p.y); }
     void dipingiOmbra(QPainter &p) const;
     void dipingiAccese(QPainter &p) const;
 

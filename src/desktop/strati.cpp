@@ -160,13 +160,13 @@ std::vector<Linea> LineeDi(const Tavolo &t) {
         Linea &linea = trovate.try_emplace(chi, Linea{chi.first, chi.second, 0, {}}).first->second;
         if (tipo == 'L') {
             const RecLinea &r = l.Linee[k];
-            const QPointF a(r.X1 * t.FattoreX, r.Y1 * t.FattoreY), b(r.X2 * t.FattoreX, r.Y2 * t.FattoreY);
+            const QPointF a(r.X1 * t.FattoreX, -r.Y1 * t.FattoreY), b(r.X2 * t.FattoreX, -r.Y2 * t.FattoreY);
             linea.metri += std::hypot(b.x() - a.x(), b.y() - a.y());
             const QRectF qui = QRectF(a, b).normalized().adjusted(0, 0, 1e-9, 1e-9);
             linea.dove = linea.dove.isNull() ? qui : linea.dove.united(qui);
         } else if (tipo == 'P') {
             const RecPunto &r = l.Punti[k];
-            const QRectF qui(r.X * t.FattoreX, r.Y * t.FattoreY, 1e-9, 1e-9);
+            const QRectF qui(r.X * t.FattoreX, -r.Y * t.FattoreY, 1e-9, 1e-9);
             const auto [prima, primo] = ultimi.try_emplace(chi, qui.topLeft());
             const QPointF passo = qui.topLeft() - std::exchange(prima->second, qui.topLeft());
             if (const double lungo = std::hypot(passo.x(), passo.y()); !primo && lungo <= UNITI) linea.metri += lungo;
@@ -182,7 +182,7 @@ std::optional<Linea> LineaSotto(const Tavolo &t, const StileFoglio &stile, const
     const Lista &l = t.lista();
     double vicino = raggio;
     std::optional<std::pair<std::size_t, double>> chi;
-    const QPointF qui(punto.x() * t.FattoreX, punto.y() * t.FattoreY);
+    const QPointF qui(punto.x() * t.FattoreX, -punto.y() * t.FattoreY);
     percorri(l, [&](char tipo, std::size_t k, const Pretesa *p) {
         if (!p || p->specie == Specie::Nessuna || (tipo != 'L' && tipo != 'P')) return;
         double d = vicino;

@@ -60,24 +60,23 @@ class FilaDiPunti {
 public:
     FilaDiPunti(Tavolo &tavolo, IdNome strato) : tavolo_(tavolo), strato_(strato) {
         const Quadrante &q = tavolo.quadrante();
-        sinistra_ = -q.x, destra_ = q.L - q.x, alto_ = -q.y, basso_ = q.H - q.y;
+        sinistra_ = -q.x, destra_ = q.L - q.x, alto_ = q.y, basso_ = q.y - q.H;
     }
     // Metres, y upward. One without a value lies nowhere.
     void punto(double x, double y, Colore colore) {
-        const double Y = -y;
-        if (!(x >= sinistra_ && x < destra_ && Y >= alto_ && Y < basso_)) return;
-        punti_[quanti_++] = {x, Y, colore, strato_};
+        if (!(x >= sinistra_ && x < destra_ && y <= alto_ && y > basso_)) return;
+        punti_[quanti_++] = {x, y, colore, strato_};
         if (quanti_ == punti_.size()) fine();
     }
     void fine() {
-        tavolo_.xPsets({punti_.data(), quanti_});
+        tavolo_.TracciaPunti({punti_.data(), quanti_});
         quanti_ = 0;
     }
 
 private:
     Tavolo &tavolo_;
     IdNome strato_;
-    double sinistra_, destra_, alto_, basso_;  // of the sheet, which the high edges don't belong to
+    double sinistra_, destra_, alto_, basso_;  // of the sheet, which the right and the low edge don't belong to
     std::size_t quanti_ = 0;
     std::array<RecPunto, 256> punti_;
 };

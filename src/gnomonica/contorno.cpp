@@ -6,7 +6,7 @@ namespace ombrelia {
 void TracciaAssi(Sessione &s) {
     if (s.in.ckAssi != 1) return;
     Tavolo &t = s.tavolo;
-    t.xLine(-t.ShiftX(), 0, t.ShiftX(), 0, BIANCO);
+    t.TracciaLinea(-t.ShiftX(), PIEDE, t.ShiftX(), PIEDE, BIANCO);
     t.TracciaLinea(0, 2 * t.ShiftY(), 0, -2 * t.ShiftY(), BIANCO);
 }
 

@@ -93,7 +93,7 @@ public:
     }
     // A stroke, mm.
     void traccia(Tavolo &t, P2 a, P2 b, IdNome strato) const {
-        t.xLine(0.001 * x_ * a.x, -0.001 * y_ * a.y, 0.001 * x_ * b.x, -0.001 * y_ * b.y, INCHIOSTRO, strato);
+        t.TracciaLinea(0.001 * x_ * a.x, 0.001 * y_ * a.y, 0.001 * x_ * b.x, 0.001 * y_ * b.y, INCHIOSTRO, strato);
     }
 
 private:

@@ -7,6 +7,7 @@
 
 #include "officina/passi.h"
 #include "officina/tratti.h"
+#include "plot/percorso.h"
 
 namespace ombrelia::officina {
 
@@ -25,14 +26,7 @@ public:
     }
 
     Raccolta esegui() {
-        std::size_t punto = 0, linea = 0, figura = 0, n = 0;
-        for (const char tipo : lista.Ordine) {
-            while (pretesa < lista.pretese.size() && lista.pretese[pretesa].a <= n) ++pretesa;
-            posto = n++;
-            if (tipo == 'P') puntino(lista.Punti[punto++]);
-            else if (tipo == 'L') corda(lista.Linee[linea++]);
-            else figura = altra(tipo, figura);
-        }
+        Percorri(lista, *this);
         for (auto &[g, catena] : aperte) chiudi(g, catena);
         for (auto &[g, punti] : puntini) curve(g, punti);
         figureIntere();
@@ -40,7 +34,42 @@ public:
         return std::move(esito);
     }
 
+    void punto(const RecPunto &p) {
+        avanti();
+        puntino(p);
+    }
+    void linea(const RecLinea &l) {
+        avanti();
+        corda(l);
+    }
+    void figura(std::size_t i) {
+        avanti();
+        const auto &f = lista.Figure;
+        const Appartenenza g = gruppo(f[i].Id, f[i].colore);
+        if (f[i].Tipo == 'B') {
+            const P2 a = mm(f[i].X1, f[i].Y1), c = mm(f[i].X2, f[i].Y2), b{c.x, a.y}, d{a.x, c.y};
+            ++r.corde;
+            for (const auto &[p, q] : {std::pair{a, b}, {b, c}, {c, d}, {d, a}}) tratto(g, p, q);
+        } else if (f[i].Tipo == 'C') {
+            cerchio(f[i], g);
+        } else {
+            std::optional<P2> prima;
+            for (++i; i < f.size() && f[i].voce != Voce::END; ++i) {
+                const P2 p = mm(f[i].X1, f[i].Y1);
+                ++r.corde;
+                if (prima) tratto(g, *prima, p);
+                prima = p;
+            }
+        }
+    }
+
 private:
+    // The next record, and the claim that it stands in or before.
+    void avanti() {
+        posto = letti++;
+        while (pretesa < lista.pretese.size() && lista.pretese[pretesa].a <= posto) ++pretesa;
+    }
+
     struct Appartenenza {
         Genere genere;
         int linea;
@@ -53,7 +82,7 @@ private:
     };
 
     [[nodiscard]] P2 mm(double x, double y, bool specchia = true) const {
-        return specchia ? P2{MM * F * x, -MM * G * y} : P2{MM * x, -MM * y};
+        return specchia ? P2{MM * F * x, MM * G * y} : P2{MM * x, MM * y};
     }
 
     using ChiaveLinea = std::variant<std::size_t, std::pair<Specie, double>, std::pair<IdNome, Colore>>;
@@ -149,31 +178,6 @@ private:
             esito.cammini.push_back(g.cammino(Cammino::Tipo::Punto));
             esito.cammini.back().punti = {p};
         }
-    }
-
-    std::size_t altra(char tipo, std::size_t i) {
-        const auto &f = lista.Figure;
-        if (i >= f.size()) return i;
-        const Appartenenza g = gruppo(f[i].Id, f[i].colore);
-        if (tipo == 'B') {
-            const P2 a = mm(f[i].X1, f[i].Y1), c = mm(f[i].X2, f[i].Y2), b{c.x, a.y}, d{a.x, c.y};
-            ++r.corde;
-            for (const auto &[p, q] : {std::pair{a, b}, {b, c}, {c, d}, {d, a}}) tratto(g, p, q);
-            return i + 1;
-        }
-        if (tipo == 'C') {
-            cerchio(f[i], g);
-            return i + 1;
-        }
-        // A polyline: its vertices up to its end.
-        std::optional<P2> prima;
-        for (++i; i < f.size() && f[i].voce != Voce::END; ++i) {
-            const P2 p = mm(f[i].X1, f[i].Y1);
-            ++r.corde;
-            if (prima) tratto(g, *prima, p);
-            prima = p;
-        }
-        return i + 1;
     }
 
     // The angles of an arc do not mirror, as on the screen.
@@ -300,7 +304,7 @@ private:
             ++r.scritte;
             if (opzioni.testi == Testi::Niente) continue;
             // Whole or not at all: by the middle of its height at both ends.
-            const P2 base{MM * t.X, -MM * t.Y - BASE};
+            const P2 base{MM * t.X, MM * t.Y - BASE};
             const double largo = LarghezzaTratti(t.Testo, CORPO);
             if (!campo.contiene(base) || !campo.contiene(base + P2{largo, CORPO})) {
                 ++r.scritteFuori;
@@ -334,7 +338,7 @@ private:
     std::map<Appartenenza, std::vector<P2>> aperte;
     std::map<Appartenenza, std::vector<Puntino>> puntini;
     std::map<ChiaveLinea, int> linee;
-    std::size_t pretesa = 0, posto = 0;
+    std::size_t pretesa = 0, posto = 0, letti = 0;
 };
 
 }  // namespace
@@ -345,7 +349,7 @@ Riquadro Campo(const Tavolo &t, Ritaglio ritaglio, bool &senzaCornice) {
         for (const RecFigura &f : t.lista().Figure) {
             if (f.Tipo != 'B' || t.lista().nomi.testo(f.Id) != "Cornice") continue;
             const double x1 = MM * t.FattoreX * f.X1, x2 = MM * t.FattoreX * f.X2;
-            const double y1 = -MM * t.FattoreY * f.Y1, y2 = -MM * t.FattoreY * f.Y2;
+            const double y1 = MM * t.FattoreY * f.Y1, y2 = MM * t.FattoreY * f.Y2;
             if (x1 != x2 && y1 != y2) return {std::min(x1, x2), std::min(y1, y2), std::max(x1, x2), std::max(y1, y2)};
         }
         senzaCornice = true;

@@ -42,15 +42,15 @@ public:
         testo += " 0 \r\nSECTION\r\n 2 \r\nENTITIES\r\n"sv;
     }
 
-    void punto(const RecPunto &r) { DXF_Point(r.X, -r.Y, r.Id, r.colore); }
-    void linea(const RecLinea &r) { DXF_Line(F * r.X1, G * -r.Y1, F * r.X2, G * -r.Y2, r.Id, r.colore); }
+    void punto(const RecPunto &r) { DXF_Point(r.X, r.Y, r.Id, r.colore); }
+    void linea(const RecLinea &r) { DXF_Line(F * r.X1, G * r.Y1, F * r.X2, G * r.Y2, r.Id, r.colore); }
     // The format counts on its own: a polyline moves the counter to its end, over whatever lies between.
     void figura(std::size_t quale) {
         const char tipo = lista.Figure[quale].Tipo;
         if (tipo == 'V') return polilinea(contatore);
         if (contatore >= lista.Figure.size() || lista.Figure[contatore].Tipo != tipo) return;
         const RecFigura &r = lista.Figure[contatore++];
-        if (tipo == 'B') DXF_Box(r.X1, -r.Y1, r.X2, -r.Y2, r.Id, r.colore);
+        if (tipo == 'B') DXF_Box(r.X1, r.Y1, r.X2, r.Y2, r.Id, r.colore);
         else DXF_Circle(r);
     }
 
@@ -140,7 +140,7 @@ private:
         const bool intero = r.B == 0;
         inizio(intero ? " 0 \r\nCIRCLE\r\n 8 \r\n"sv : " 0 \r\nARC\r\n 8 \r\n"sv, r.Id, r.colore);
         coordinata(" 10 \r\n"sv, r.X1 * F * MILLIMETRI);
-        coordinata(" 20 \r\n"sv, -r.Y1 * G * MILLIMETRI);
+        coordinata(" 20 \r\n"sv, r.Y1 * G * MILLIMETRI);
         coordinata(" 30 \r\n0\r\n 40 \r\n"sv, r.X2 * MILLIMETRI);
         if (intero) return;
         double da = r.A, a = r.B;
@@ -173,7 +173,7 @@ private:
             if (f[i].voce == Voce::END) break;
             inizio(" 0 \r\nVERTEX\r\n 8 \r\n"sv, id);
             coordinata(" 10 \r\n"sv, f[i].X1 * F * MILLIMETRI);
-            coordinata(" 20 \r\n"sv, -f[i].Y1 * G * MILLIMETRI);
+            coordinata(" 20 \r\n"sv, f[i].Y1 * G * MILLIMETRI);
         }
         // A polyline that was never ended is closed at the array's end.
         inizio(" 0 \r\nSEQEND\r\n 8 \r\n"sv, id);

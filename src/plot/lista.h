@@ -1,5 +1,5 @@
-// The display list: what a dial is once it is drawn. World coordinates are metres, y grows downward; the list knows
-// nothing of scale, shift or device.
+// The display list: what a dial is once it is drawn. World coordinates are the dial's, metres from the foot, y upward; the list
+// knows nothing of scale, shift or device.
 #pragma once
 
 #include <cstdint>

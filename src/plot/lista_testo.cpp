@@ -11,6 +11,7 @@ namespace ombrelia {
 
 namespace {
 
+// Scripts read y downward, as the system's own operations take it.
 class ScrittoreLista {
 public:
     explicit ScrittoreLista(const Lista &l) : lista(l) {
@@ -19,12 +20,12 @@ public:
 
     void punto(const RecPunto &r) {
         t += 'P';
-        numeri({r.X, r.Y});
+        numeri({r.X, -r.Y});
         fine({r.colore}, r.Id);
     }
     void linea(const RecLinea &r) {
         t += 'L';
-        numeri({r.X1, r.Y1, r.X2, r.Y2});
+        numeri({r.X1, -r.Y1, r.X2, -r.Y2});
         fine({r.colore, r.Spessore}, r.Id);
     }
     void figura(std::size_t i) {
@@ -39,7 +40,7 @@ public:
     // Texts have no layer: the field stays empty.
     void testo(const RecTesto &r) {
         t += 'T';
-        numeri({r.X, r.Y});
+        numeri({r.X, -r.Y});
         t += "\t\t";
         testo(r.Testo);
         t += '\n';
@@ -51,16 +52,16 @@ private:
     void scrivi(const RecFigura &r) {
         t += r.Tipo;
         if (r.Tipo == 'B') {
-            numeri({r.X1, r.Y1, r.X2, r.Y2});
+            numeri({r.X1, -r.Y1, r.X2, -r.Y2});
             fine({r.colore, r.pieno ? 1 : 0}, r.Id);
         } else if (r.Tipo == 'C') {
-            numeri({r.X1, r.Y1, r.X2, r.Y2});
+            numeri({r.X1, -r.Y1, r.X2, r.Y2});
             interi({r.colore, r.Riempimento});
             numeri({r.A, r.B});
             fine({}, r.Id);
         } else {
             t += r.voce == Voce::START ? "\tSTART" : r.voce == Voce::VERTEX ? "\tVERTEX" : "\tEND";
-            numeri({r.X1, r.Y1});
+            numeri({r.X1, -r.Y1});
             fine({r.colore}, r.Id);
         }
     }

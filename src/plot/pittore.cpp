@@ -42,25 +42,26 @@ void Pittore::linea(double X1, double Y1, double X2, double Y2, Colore colore, s
     }
     const Quadrante &q = quadrante;
     if (q.RitagliaSegmento(X1, Y1, X2, Y2) == 0) return;
-    dispositivo.Linea((X1 + q.x) * scala, (Y1 + q.y) * scala, (X2 + q.x) * scala, (Y2 + q.y) * scala, tinta(colore), Spessore);
+    dispositivo.Linea(q.daSinistra(X1) * scala, q.dallAlto(Y1) * scala, q.daSinistra(X2) * scala, q.dallAlto(Y2) * scala,
+                      tinta(colore), Spessore);
 }
 
 void Pittore::punto(double X, double Y, Colore colore) const {
-    const double xd = (X * specchio.FattoreX + quadrante.x) * scala, yd = (Y * specchio.FattoreY + quadrante.y) * scala;
+    const double xd = quadrante.daSinistra(X * specchio.FattoreX) * scala, yd = quadrante.dallAlto(Y * specchio.FattoreY) * scala;
     if (dipingibile(xd, yd)) dispositivo.Punto(xd, yd, tinta(colore));
 }
 
 void Pittore::riquadro(double X1, double Y1, double X2, double Y2, Colore colore, bool pieno, bool specchiato) const {
     const double sx = fx(specchiato), sy = fy(specchiato);
-    const double x1 = (X1 * sx + quadrante.x) * scala, y1 = (Y1 * sy + quadrante.y) * scala;
-    const double x2 = (X2 * sx + quadrante.x) * scala, y2 = (Y2 * sy + quadrante.y) * scala;
+    const double x1 = quadrante.daSinistra(X1 * sx) * scala, y1 = quadrante.dallAlto(Y1 * sy) * scala;
+    const double x2 = quadrante.daSinistra(X2 * sx) * scala, y2 = quadrante.dallAlto(Y2 * sy) * scala;
     // A box filled in the black that stands for its colour would leave a black page: only its outline is printed.
     if (dipingibile(x1, y1, x2, y2)) dispositivo.Riquadro(x1, y1, x2, y2, tinta(colore), pieno && !nero);
 }
 
 void Pittore::cerchio(const RecFigura &f) const {
     const bool specchiato = specchia(f.Id);
-    const double x = (f.X1 * fx(specchiato) + quadrante.x) * scala, y = (f.Y1 * fy(specchiato) + quadrante.y) * scala;
+    const double x = quadrante.daSinistra(f.X1 * fx(specchiato)) * scala, y = quadrante.dallAlto(f.Y1 * fy(specchiato)) * scala;
     const double r = f.X2 * scala;
     double inizio = f.A, fine = f.B;
     if (specchiato) specchio.arco(inizio, fine);
@@ -84,7 +85,8 @@ void Pittore::testo(double xd, double yd, std::string_view testo, Colore colore)
 }
 
 void Pittore::rigioca(const Lista &l) const {
-    for (const RecTesto &t : l.Testi) testo((t.X + quadrante.x) * scala, (t.Y + quadrante.y) * scala, t.Testo, t.colore);
+    for (const RecTesto &t : l.Testi)
+        testo(quadrante.daSinistra(t.X) * scala, quadrante.dallAlto(t.Y) * scala, t.Testo, t.colore);
     struct Visita {
         const Pittore &p;
         const Lista &l;

@@ -22,7 +22,7 @@ int Quadrante::RitagliaSegmento(double &X1, double &Y1, double &X2, double &Y2) 
     const bool primo = copre(X1, Y1), secondo = copre(X2, Y2);
     if (primo && secondo) return 2;
     if (X1 == X2 && Y1 == Y2) return 0;
-    const double sx = -x, dx = L - x, su = -y, giu = H - y;
+    const double sx = -x, dx = L - x, su = y, giu = y - H;
 
     // Place of a point along the segment: 0 at its first end, 1 at its second. Of the longer component: squares of
     // lengths underflow.
@@ -38,7 +38,7 @@ int Quadrante::RitagliaSegmento(double &X1, double &Y1, double &X2, double &Y2) 
         if (!p) continue;
         const bool orizzontale = l.y1 == l.y2;
         (orizzontale ? p->y : p->x) = orizzontale ? l.y1 : l.x1;
-        if (orizzontale ? !(sx <= p->x && p->x <= dx) : !(su <= p->y && p->y <= giu)) continue;
+        if (orizzontale ? !(sx <= p->x && p->x <= dx) : !(giu <= p->y && p->y <= su)) continue;
         colpi[n++] = *p;
     }
     if (primo || secondo) {

@@ -7,15 +7,25 @@
 
 namespace ombrelia {
 
-// Metres. L wide, H high, the origin (x, y) from the top left corner; in world coordinates, y downward, the sheet reaches
-// from (-x, -y) to (L - x, H - y).
+// Metres. L wide, H high, the origin (x, y) from the top left corner; in world coordinates, y upward, the sheet reaches from
+// (-x, y) at its top left to (L - x, y - H).
 struct Quadrante {
     double L = 0, H = 0, x = 0, y = 0;
 
-    // The low edges belong to the sheet, the high ones do not; no value lies nowhere.
-    [[nodiscard]] bool tiene(Valore X, Valore Y) const { return -x <= X && X < L - x && -y <= Y && Y < H - y; }
+    // Where a place of the world lies on the sheet, from its top left corner. Here, and nowhere else, y is turned: a dial's grows
+    // upward, the sheet's downward.
+    template <class N>
+    [[nodiscard]] N daSinistra(N X) const {
+        return X + x;
+    }
+    template <class N>
+    [[nodiscard]] N dallAlto(N Y) const {
+        return y - Y;
+    }
+    // The left and the top edge belong to the sheet, the others do not; no value lies nowhere.
+    [[nodiscard]] bool tiene(Valore X, Valore Y) const { return -x <= X && X < L - x && Y <= y && Y > y - H; }
     // With all its edges.
-    [[nodiscard]] bool copre(double X, double Y) const { return -x <= X && X <= L - x && -y <= Y && Y <= H - y; }
+    [[nodiscard]] bool copre(double X, double Y) const { return -x <= X && X <= L - x && y - H <= Y && Y <= y; }
     // The part of a segment (world metres) that lies on the sheet. Gives how many ends were kept or found; at 0 nothing of
     // it does.
     int RitagliaSegmento(double &X1, double &Y1, double &X2, double &Y2) const;

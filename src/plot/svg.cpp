@@ -281,7 +281,7 @@ private:
             x *= tavolo.FattoreX;
             y *= tavolo.FattoreY;
         }
-        const double mmX = (x + tavolo.ShiftX()) * MILLIMETRI, mmY = (y + tavolo.ShiftY()) * MILLIMETRI;
+        const double mmX = q.daSinistra(x) * MILLIMETRI, mmY = q.dallAlto(y) * MILLIMETRI;
         if (!(std::fabs(mmX) < LIMITE_MM && std::fabs(mmY) < LIMITE_MM)) return false;
         p = {daMm(mmX), daMm(mmY)};
         return true;
@@ -432,7 +432,7 @@ private:
     // Texts do not mirror. One that begins beyond the sheet, or ends before it by a guess at its length, is left out.
     [[nodiscard]] bool siVede(const RecTesto &r) const {
         constexpr double LETTERA = 0.6 * CORPO_MM / MILLIMETRI, ALTA = BASE_MM / MILLIMETRI;
-        const double x = r.X + q.x, y = r.Y + q.y;
+        const double x = q.daSinistra(r.X), y = q.dallAlto(r.Y);
         return x < q.L && y < q.H && y + ALTA > 0 && x + LETTERA * static_cast<double>(r.Testo.size()) > 0;
     }
     void testi(std::string &t) const {

@@ -83,7 +83,7 @@ void Tavolo::pieno() { throw std::bad_alloc(); }
 
 // --- drawing ---------------------------------------------------------------------------------------------------------
 
-void Tavolo::xPsets(std::span<const RecPunto> punti) {
+void Tavolo::TracciaPunti(std::span<const RecPunto> punti) {
     if (recordMassimi < punti.size() || lista_.Ordine.size() > recordMassimi - punti.size()) pieno();
     lista_.Punti.insert(lista_.Punti.end(), punti.begin(), punti.end());
     lista_.Ordine.append(punti.size(), 'P');
@@ -96,14 +96,14 @@ void Tavolo::figura(const RecFigura &r, char ordine) {
     if (ordine != 0) lista_.Ordine.push_back(ordine);
 }
 
-void Tavolo::xBox(Valore X1, Valore Y1, Valore X2, Valore Y2, Colore colore, bool Filled, std::string_view Id) {
+void Tavolo::TracciaRiquadro(Valore X1, Valore Y1, Valore X2, Valore Y2, Colore colore, bool Filled, std::string_view Id) {
     if (!(X1.esiste() && Y1.esiste() && X2.esiste() && Y2.esiste())) return;
     figura({'B', Voce::START, Filled, X1.v, Y1.v, X2.v, Y2.v, 0, 0, colore, 0, nome(Id)}, 'B');
     if (dispositivo) pittore().riquadro(X1.v, Y1.v, X2.v, Y2.v, colore, Filled, specchia(nome(Id)));
 }
 
-void Tavolo::xCircle(Valore X, Valore Y, Valore Raggio, Colore colore, Colore FillColor, Valore Aspect, Valore Start, Valore End,
-                     std::string_view Id) {
+void Tavolo::TracciaCerchio(Valore X, Valore Y, Valore Raggio, Colore colore, Colore FillColor, Valore Aspect, Valore Start,
+                            Valore End, std::string_view Id) {
     for (const Valore v : {X, Y, Raggio, Aspect, Start, End})
         if (!v.esiste()) return;
     const RecFigura r{'C', Voce::START, false, X.v, Y.v, Raggio.v, Aspect.v, Start.v, End.v, colore, FillColor, nome(Id)};
@@ -111,24 +111,24 @@ void Tavolo::xCircle(Valore X, Valore Y, Valore Raggio, Colore colore, Colore Fi
     if (dispositivo) pittore().cerchio(r);
 }
 
-void Tavolo::xPlineStart(std::string_view Id) { figura({'V', Voce::START, false, 0, 0, 0, 0, 0, 0, 4, 0, nome(Id)}, 'V'); }
+void Tavolo::xPlineStart(std::string_view Id) { figura({'V', Voce::START, false, 0, PIEDE, 0, 0, 0, 0, 4, 0, nome(Id)}, 'V'); }
 
 void Tavolo::xPLineVertex(Valore X, Valore Y, Colore colore, std::string_view Id) {
-    if (X.esiste() && Y.esiste()) figura({'V', Voce::VERTEX, false, X.v, Y.v, 0, 0, 0, 0, colore, 0, nome(Id)}, 0);
+    if (X.esiste() && Y.esiste()) figura({'V', Voce::VERTEX, false, X.v, -Y.v, 0, 0, 0, 0, colore, 0, nome(Id)}, 0);
 }
 
 void Tavolo::xPlineEnd(std::string_view Id) {
-    figura({'V', Voce::END, false, 0, 0, 0, 0, 0, 0, 4, 0, nome(Id)}, 0);
+    figura({'V', Voce::END, false, 0, PIEDE, 0, 0, 0, 0, 4, 0, nome(Id)}, 0);
     if (dispositivo) pittore().polilinea(lista_, nome(Id));
 }
 
-void Tavolo::Dati(std::string_view Text, std::optional<Valore> X, std::optional<Valore> Y) {
+void Tavolo::scrivi(std::string_view Text, std::optional<Valore> X, std::optional<Valore> Y) {
     if ((X && !X->esiste()) || (Y && !Y->esiste())) return;
     // A position that overflows leaves the old one.
     Reale xd = currentX_, yd = currentY_;
-    if (X) xd = (*X + q_.x) * scalaCorrente_;
-    if (Y) yd = (*Y + q_.y) * scalaCorrente_;
-    const double x = X ? X->v : xCurrentX(), y = Y ? Y->v : xCurrentY();
+    if (X) xd = q_.daSinistra(*X) * scalaCorrente_;
+    if (Y) yd = q_.dallAlto(*Y) * scalaCorrente_;
+    const double x = X ? X->v : xCurrentX(), y = Y ? Y->v : -xCurrentY();
     lista_.Testi.push_back({x, y, std::string(tagliato(Text)), ForeColor});
     // Painted whole the first time; a replay shows the cut text of the record.
     if (dispositivo) pittore().testo(xd.numero(), yd.numero(), Text, ForeColor);

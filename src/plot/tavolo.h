@@ -21,11 +21,11 @@
 
 namespace ombrelia {
 
-// Ordinate of the foot for what is drawn y upward: turned, it is the list's 0, where the turn of 0 would be -0.
+// Ordinate of the foot where a script reads 0: scripts read y downward, and would read 0 as -0.
 inline constexpr double PIEDE = -0.0;
 
 // World coordinates: metres on the dial's plane, origin at (ShiftX, ShiftY) from the sheet's top left corner, x to the
-// right, y downward. Every coordinate argument is a Valore: a call with an argument that has no value is a faulted
+// right, y upward. Every coordinate argument is a Valore: a call with an argument that has no value is a faulted
 // statement and does nothing.
 class Tavolo {
 public:
@@ -37,60 +37,62 @@ public:
     explicit Tavolo(double larghezzaPagina = 11906, double altezzaPagina = 16838);
 
     // --- drawing -------------------------------------------------------------------------------------------------
-    // For whoever thinks as a dial does, y upward from the foot: here, and nowhere else, y is turned into the sheet's. See PIEDE.
-    template <class... T>
-    void TracciaLinea(Valore x1, Valore y1, Valore x2, Valore y2, Colore colore, const T &...altro) {
-        xLine(x1, -y1, x2, -y2, colore, altro...);
+    // As a dial thinks and as the list keeps it: y upward from the foot. Width 1 is the pen's own.
+    void TracciaLinea(Valore x1, Valore y1, Valore x2, Valore y2, Colore colore, std::string_view Id = {}) {
+        TracciaLinea(x1, y1, x2, y2, colore, nome(Id));
     }
-    template <class... T>
-    void TracciaPunto(Valore x, Valore y, Colore colore, const T &...altro) {
-        xPset(x, -y, colore, altro...);
-    }
-    template <class... T>
-    void TracciaCerchio(Valore x, Valore y, Valore raggio, Colore colore, const T &...altro) {
-        xCircle(x, -y, raggio, colore, altro...);
-    }
-    void TracciaRiquadro(Valore x1, Valore y1, Valore x2, Valore y2, Colore colore, bool pieno, std::string_view Id) {
-        xBox(x1, -y1, x2, -y2, colore, pieno, Id);
-    }
-    void Scritta(std::string_view testo, Valore x, Valore y) { Dati(testo, x, -y); }
-
-    // In the sheet's own frame. Width 1 is the pen's own.
-    void xLine(Valore X1, Valore Y1, Valore X2, Valore Y2, Colore colore, std::string_view Id = {}) {
-        xLine(X1, Y1, X2, Y2, colore, nome(Id));
-    }
-    void xLine(Valore X1, Valore Y1, Valore X2, Valore Y2, Colore colore, IdNome Id) {
-        xLine(X1, Y1, X2, Y2, colore, Id, Penna());
+    void TracciaLinea(Valore x1, Valore y1, Valore x2, Valore y2, Colore colore, IdNome Id) {
+        TracciaLinea(x1, y1, x2, y2, colore, Id, Penna());
     }
     // With a pen width of its own.
-    void xLine(Valore X1, Valore Y1, Valore X2, Valore Y2, Colore colore, IdNome Id, std::int32_t Spessore) {
-        if (!(X1.esiste() && Y1.esiste() && X2.esiste() && Y2.esiste())) return;
+    void TracciaLinea(Valore x1, Valore y1, Valore x2, Valore y2, Colore colore, IdNome Id, std::int32_t Spessore) {
+        if (!(x1.esiste() && y1.esiste() && x2.esiste() && y2.esiste())) return;
         if (lista_.Ordine.size() >= recordMassimi) pieno();
-        lista_.Linee.push_back({X1.v, Y1.v, X2.v, Y2.v, colore, Spessore, Id});
+        lista_.Linee.push_back({x1.v, y1.v, x2.v, y2.v, colore, Spessore, Id});
         lista_.Ordine.push_back('L');
-        if (dispositivo) pittore().linea(X1.v, Y1.v, X2.v, Y2.v, colore, Spessore, specchia(Id));
+        if (dispositivo) pittore().linea(x1.v, y1.v, x2.v, y2.v, colore, Spessore, specchia(Id));
     }
-    // Only a point of the sheet is kept: its low edges belong to it, its high edges do not.
-    void xPset(Valore X, Valore Y, Colore colore, std::string_view Id = {}) { xPset(X, Y, colore, nome(Id)); }
-    void xPset(Valore X, Valore Y, Colore colore, IdNome Id) {
-        if (!q_.tiene(X, Y)) return;
+    // Only a point of the sheet is kept: its left and top edge belong to it, the others do not.
+    void TracciaPunto(Valore x, Valore y, Colore colore, std::string_view Id = {}) { TracciaPunto(x, y, colore, nome(Id)); }
+    void TracciaPunto(Valore x, Valore y, Colore colore, IdNome Id) {
+        if (!q_.tiene(x, y)) return;
         if (lista_.Ordine.size() >= recordMassimi) pieno();
-        lista_.Punti.push_back({X.v, Y.v, colore, Id});
+        lista_.Punti.push_back({x.v, y.v, colore, Id});
         lista_.Ordine.push_back('P');
-        if (dispositivo) pittore().punto(X.v, Y.v, colore);
+        if (dispositivo) pittore().punto(x.v, y.v, colore);
     }
-    // Many points of the sheet, as xPset records them one by one; the list's room is taken once.
-    void xPsets(std::span<const RecPunto> punti);
-    void xBox(Valore X1, Valore Y1, Valore X2, Valore Y2, Colore colore, bool Filled, std::string_view Id = {});
-    void xCircle(Valore X, Valore Y, Valore Raggio, Colore colore, Colore FillColor = -1, Valore Aspect = 1, Valore Start = 0,
-                 Valore End = 0, std::string_view Id = {});
+    // Many points of the sheet, as TracciaPunto records them one by one; the list's room is taken once.
+    void TracciaPunti(std::span<const RecPunto> punti);
+    void TracciaRiquadro(Valore x1, Valore y1, Valore x2, Valore y2, Colore colore, bool pieno, std::string_view Id = {});
+    void TracciaCerchio(Valore x, Valore y, Valore raggio, Colore colore, Colore FillColor = -1, Valore Aspect = 1,
+                        Valore Start = 0, Valore End = 0, std::string_view Id = {});
+    void Scritta(std::string_view testo, Valore x, Valore y) { scrivi(testo, x, y); }
+
+    // The system's own operations, in the sheet's frame: y downward.
+    template <class... T>
+    void xLine(Valore X1, Valore Y1, Valore X2, Valore Y2, Colore colore, const T &...altro) {
+        TracciaLinea(X1, -Y1, X2, -Y2, colore, altro...);
+    }
+    template <class... T>
+    void xPset(Valore X, Valore Y, Colore colore, const T &...altro) {
+        TracciaPunto(X, -Y, colore, altro...);
+    }
+    template <class... T>
+    void xCircle(Valore X, Valore Y, Valore Raggio, Colore colore, const T &...altro) {
+        TracciaCerchio(X, -Y, Raggio, colore, altro...);
+    }
+    void xBox(Valore X1, Valore Y1, Valore X2, Valore Y2, Colore colore, bool Filled, std::string_view Id = {}) {
+        TracciaRiquadro(X1, -Y1, X2, -Y2, colore, Filled, Id);
+    }
     void xPlineStart(std::string_view Id);
     void xPLineVertex(Valore X, Valore Y, Colore colore, std::string_view Id);
     // Paints the polyline: it appears only when ended.
     void xPlineEnd(std::string_view Id);
     // Text at (X, Y), or at the present device position where a coordinate is missing. Afterwards the position is the
     // left edge of the sheet, one line lower. Texts do not mirror.
-    void Dati(std::string_view Text, std::optional<Valore> X = {}, std::optional<Valore> Y = {});
+    void Dati(std::string_view Text, std::optional<Valore> X = {}, std::optional<Valore> Y = {}) {
+        scrivi(Text, X, Y ? std::optional(-*Y) : std::nullopt);
+    }
     // Status line; records nothing.
     void Messaggio(std::string_view Text);
     // Empties list and picture, mirrors off; sheet, shift and scale stay.
@@ -147,7 +149,7 @@ public:
     [[nodiscard]] double LarghezzaImmagine() const { return q_.L * ScalaBase / scala_; }
     [[nodiscard]] double AltezzaImmagine() const { return q_.H * ScalaBase / scala_; }
 
-    // Present device position as world metres.
+    // Present device position as world metres, y downward.
     [[nodiscard]] double xCurrentX() const { return currentX_ / ScalaBase * scala_ - q_.x; }
     [[nodiscard]] double xCurrentY() const { return currentY_ / ScalaBase * scala_ - q_.y; }
 
@@ -220,6 +222,7 @@ private:
     }
 
     void figura(const RecFigura &r, char ordine);
+    void scrivi(std::string_view testo, std::optional<Valore> x, std::optional<Valore> y);
     [[noreturn]] static void pieno();
     void impostaScala(int n);
     void dopoFoglio();

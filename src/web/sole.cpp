@@ -84,9 +84,9 @@ std::string Pagina::Linea(std::size_t pretesa) {
     const RecLinea *prima = nullptr;
     const auto scrivi = [&](char c, double x, double y) {
         d += c;
-        AggiungiNumero(d, std::round((x * t.FattoreX + t.ShiftX()) * 1e6) / 1e3);
+        AggiungiNumero(d, std::round(t.quadrante().daSinistra(x * t.FattoreX) * 1e6) / 1e3);
         d += ' ';
-        AggiungiNumero(d, std::round((y * t.FattoreY + t.ShiftY()) * 1e6) / 1e3);
+        AggiungiNumero(d, std::round(t.quadrante().dallAlto(y * t.FattoreY) * 1e6) / 1e3);
     };
     for (std::size_t k = p.da; k < p.a && k < l.Ordine.size(); ++k) {
         if (l.Ordine[k] == 'L') {

@@ -56,7 +56,7 @@ TEST(Analitica, DiurneSulConoDelSoleELemniscataComeLaProiezione) {
             int quanti = 0;
             for (const RecPunto &q : m.ana.punti(colore)) {
                 if (q.X == 0 && q.Y == 0) continue;  // the foot has the colour of the first line
-                const double seno = std::fabs(q.X * polo[0] - q.Y * polo[1] - 0.2 * polo[2]) / std::hypot(q.X, q.Y, 0.2);
+                const double seno = std::fabs(q.X * polo[0] + q.Y * polo[1] - 0.2 * polo[2]) / std::hypot(q.X, q.Y, 0.2);
                 EXPECT_NEAR(seno, std::sin(Radianti(delta).v), 1e-7) << r[0] << " " << r[1] << " " << delta;
                 ++quanti;
             }
@@ -70,7 +70,7 @@ TEST(Analitica, DiurneSulConoDelSoleELemniscataComeLaProiezione) {
         });
         EXPECT_GE(static_cast<double>(coperte), 0.97 * static_cast<double>(corde.size())) << r[0] << " " << r[1];
         for (const RecPunto &q : punti) {
-            if (!(std::fabs(q.X) < 1.4 && q.Y > 0.001 && q.Y < 1.4)) continue;
+            if (!(std::fabs(q.X) < 1.4 && q.Y < -0.001 && q.Y > -1.4)) continue;
             EXPECT_LT(prova::DaCorde(q.X, q.Y, corde), 2e-5) << r[0] << " " << r[1] << " at " << q.X << " " << q.Y;
             ++vicini;
         }
@@ -188,7 +188,7 @@ TEST(Analitica, EquatoreFraISolstizi) {
         // Horizontal, below the foot by the tangent of the hour, as long as the shadow at 23.45 either side. At noon the
         // root is of a difference that should be 0: where it rounds below, the ordinate of the line before stays.
         EXPECT_NEAR(l.Y1, l.Y2, 1e-12);
-        EXPECT_NEAR(l.Y1, h == 0 ? l.Y2 : 0.1 * std::fabs(tan(Radianti(h)).v), 1e-12);
+        EXPECT_NEAR(l.Y1, h == 0 ? l.Y2 : -0.1 * std::fabs(tan(Radianti(h)).v), 1e-12);
         EXPECT_NEAR(l.X1, 0.1 * (tan(Radianti(23.45)) / cos(Radianti(h))).v, 1e-12);
         EXPECT_EQ(l.X2, -l.X1);
         h += 15;

@@ -70,7 +70,7 @@ TEST(Istante, MuroAustraleDisegnatoESpecchiato) {
         const ombra::PianoMontato piano(posa.quadrante);
         int corde = 0;
         for (const RecLinea &l : b.linee("hour")) {
-            const double t = piano.leggi(ombra::Punto{-l.X1, -l.Y1}).t * GRADI / 15;
+            const double t = piano.leggi(ombra::Punto{-l.X1, l.Y1}).t * GRADI / 15;
             EXPECT_NEAR(t, std::round(t), 1e-5);
             ++corde;
         }

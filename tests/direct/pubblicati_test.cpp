@@ -50,7 +50,7 @@ TEST(Pubblicati, AngoliOrariOrizzontali) {
                 if (p.specie == Specie::Ora && p.valore == 12 + verso * ora) l = &banco.lista().Linee.at(p.linea);
             ASSERT_TRUE(l) << r[1];
             const double errore =
-                std::fabs(std::remainder(std::atan2(l->X2 - l->X1, l->Y1 - l->Y2) * 180 / PI - verso * atteso, 180));
+                std::fabs(std::remainder(std::atan2(l->X2 - l->X1, l->Y2 - l->Y1) * 180 / PI - verso * atteso, 180));
             EXPECT_TRUE(errore <= tolleranza) << verso * ora << " h off by " << errore;
             peggiore = std::max(peggiore, errore);
         }
@@ -62,7 +62,7 @@ TEST(Pubblicati, AngoliOrariOrizzontali) {
 std::vector<ombra::SoleLetto> lette(const prova::Banco &b, const ombra::PianoMontato &piano, Colore colore) {
     std::vector<ombra::SoleLetto> l;
     for (const RecPunto &p : b.lista().Punti)
-        if (p.colore == colore) l.push_back(piano.leggi(ombra::Punto{p.X, -p.Y}));
+        if (p.colore == colore) l.push_back(piano.leggi(ombra::Punto{p.X, p.Y}));
     return l;
 }
 
@@ -123,7 +123,7 @@ TEST(Pubblicati, EstremiDellAnalemma) {
     b.esegui();
     const ombra::PianoMontato livello({45 * ombra::RADIANTI, 0, std::numbers::pi / 2, 1});
     std::vector<ombra::SoleLetto> anno;
-    for (const RecLinea &l : b.linee("Analemma")) anno.push_back(livello.leggi(ombra::Punto{l.X1, -l.Y1}));
+    for (const RecLinea &l : b.linee("Analemma")) anno.push_back(livello.leggi(ombra::Punto{l.X1, l.Y1}));
     ASSERT_GT(anno.size(), 3600U);
     std::vector<std::pair<double, double>> estremi;  // minutes, declination
     for (std::size_t i = 1; i + 1 < anno.size(); ++i)

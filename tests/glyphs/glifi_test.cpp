@@ -21,25 +21,25 @@ using Linee = std::vector<RecLinea>;
 
 constexpr double MM = 0.001, CELLA = 110 * MM;  // a unit of the cell in these tests
 
-// The box of the strokes, in metres of the sheet with y downward, and where their weight lies.
+// The box of the strokes, in metres, y upward, and where their weight lies.
 struct Ingombro {
-    double sinistra = 1e9, destra = -1e9, alto = 1e9, basso = -1e9, inchiostro = 0, mx = 0, my = 0;
+    double sinistra = 1e9, destra = -1e9, alto = -1e9, basso = 1e9, inchiostro = 0, mx = 0, my = 0;
 
     explicit Ingombro(const Linee &linee) {
         for (const auto &[x1, y1, x2, y2, colore, spessore, id] : linee) {
             sinistra = std::min({sinistra, x1, x2}), destra = std::max({destra, x1, x2});
-            alto = std::min({alto, y1, y2}), basso = std::max({basso, y1, y2});
+            alto = std::max({alto, y1, y2}), basso = std::min({basso, y1, y2});
             const double l = std::hypot(x2 - x1, y2 - y1);
             inchiostro += l, mx += l * (x1 + x2) / 2, my += l * (y1 + y2) / 2;
         }
     }
     [[nodiscard]] double larghezza() const { return destra - sinistra; }
-    [[nodiscard]] double altezza() const { return basso - alto; }
+    [[nodiscard]] double altezza() const { return alto - basso; }
     [[nodiscard]] double x() const { return (sinistra + destra) / 2; }
     [[nodiscard]] double y() const { return (alto + basso) / 2; }
     // Whether the weight lies on a side of the box's middle: 1 right or up, -1 left or down, 0 wherever it likes.
     [[nodiscard]] bool pende(double aDestra, double su, double gioco) const {
-        return (aDestra == 0 || aDestra * (mx / inchiostro - x()) > gioco) && (su == 0 || su * (y() - my / inchiostro) > gioco);
+        return (aDestra == 0 || aDestra * (mx / inchiostro - x()) > gioco) && (su == 0 || su * (my / inchiostro - y()) > gioco);
     }
 };
 
@@ -80,7 +80,7 @@ struct MuroDiCifre : Banco {
         for (const RecFigura &f : lista().Figure) {
             const double arco = f.B == 0 ? CERCHIO : std::fmod(f.B - f.A + CERCHIO, CERCHIO);
             const auto px = [&](int i) { return f.X1 + f.X2 * std::cos(f.A + arco * i / 200); };
-            const auto py = [&](int i) { return f.Y1 - f.X2 * std::sin(f.A + arco * i / 200); };
+            const auto py = [&](int i) { return f.Y1 + f.X2 * std::sin(f.A + arco * i / 200); };
             for (int i = 0; i < 200; ++i) linee.push_back({px(i), py(i), px(i + 1), py(i + 1), 0, 0, 0});
         }
         return Ingombro(linee);
@@ -165,7 +165,7 @@ TEST(Numeri, UnaCellaPerCifra) {
         const std::size_t attese = banco.cifra(n % 10).size() + (due ? banco.cifra(1).size() : 0);
         const Ingombro i(banco.numero(n));
         EXPECT_EQ(banco.lista().Linee.size(), attese) << n;
-        EXPECT_TRUE(i.sinistra >= 1 - CELLA && i.destra <= (due ? 1 + CELLA : 1) && std::fabs(i.y() + 2) < MM) << n;
+        EXPECT_TRUE(i.sinistra >= 1 - CELLA && i.destra <= (due ? 1 + CELLA : 1) && std::fabs(i.y() - 2) < MM) << n;
         EXPECT_LT(fuori(due ? 1 : 1 - CELLA, 2), 1e-9) << n;
         banco.numero(n, 0);  // upright to the right: the baseline runs down the plane
         EXPECT_LT(fuori(1, due ? 2 : 2 + CELLA), 1e-9) << n;
@@ -212,7 +212,7 @@ TEST(NumeriSulleOre, SulleOreDellaDiurna) {
             Reale x, y;
             proietta(PI * V / 180, Radianti(Val(delta)), x, y);
             const double ax = x.numero(), ay = y.numero(), gioco = 1.5e-5 + 1.5e-7 * std::hypot(ax, ay);
-            EXPECT_TRUE(std::fabs(ax) > 1e3 || std::hypot(i.x() - ax, i.y() + ay) < gioco) << V << " " << lat;
+            EXPECT_TRUE(std::fabs(ax) > 1e3 || std::hypot(i.x() - ax, i.y() - ay) < gioco) << V << " " << lat;
         }
         EXPECT_EQ(primo, fine);
     }
@@ -235,7 +235,7 @@ TEST(Segni, NellaMisuraEDiritti) {
     for (const auto &r : Tabella("segni.txt")) {
         const Ingombro i = cielo.segno(n++, 1, 2);
         EXPECT_NEAR(static_cast<double>(cielo.lista().Ordine.size()), Val(r[1]).v, 0.1 * Val(r[1]).v) << r[0];
-        EXPECT_LE(std::max({i.destra - 1, 1 - i.sinistra, i.basso + 2, -2 - i.alto}), 0.0079) << r[0];
+        EXPECT_LE(std::max({i.destra - 1, 1 - i.sinistra, i.alto - 2, 2 - i.basso}), 0.0079) << r[0];
         EXPECT_GE(std::max(i.larghezza(), i.altezza()), 0.011) << r[0] << ": too small to read";
         EXPECT_TRUE(i.pende(Val(r[2]).v, Val(r[3]).v, 0.05 * MM)) << r[0] << ": mirrored or upside down";
         for (const RecFigura &f : cielo.lista().Figure)
@@ -257,7 +257,7 @@ TEST(Glifi, CresconoColCampoEConLUnita) {
         EXPECT_EQ(Ingombro(banco.numero(12)).larghezza() + Ingombro(banco.romano(12)).larghezza(), 0) << niente;
         for (int n = 0; n < SEGNI; ++n) {
             const Ingombro i = banco.segno(n, 3, -4);
-            EXPECT_TRUE(i.larghezza() == 0 && i.altezza() == 0 && i.x() == 3 && i.y() == 4) << niente << n;
+            EXPECT_TRUE(i.larghezza() == 0 && i.altezza() == 0 && i.x() == 3 && i.y() == -4) << niente << n;
         }
     }
 }
@@ -273,7 +273,7 @@ TEST(Zodiaco, SegueLaLongitudineSuOgniMuro) {
                 const RecLinea &posto = posti.at(std::stoul(r[0]));
                 Reale x, y;  // a mended azimuth carries the error of the ten-digit PI, up to some 1e-8 m at these slopes
                 proietta(Radianti(Val(r[1]) / 4 - (15 + Val(lon))), Radianti(Val(r[2])), x, y);
-                EXPECT_LT(std::hypot(posto.X1 - x.numero(), posto.Y1 + y.numero()), 1.4e-7) << r[3] << " " << lon << " " << dec;
+                EXPECT_LT(std::hypot(posto.X1 - x.numero(), posto.Y1 - y.numero()), 1.4e-7) << r[3] << " " << lon << " " << dec;
             }
         }
 }
@@ -282,7 +282,7 @@ TEST(Zodiaco, AlSudLAnnoSiVolta) {
     MuroDiCifre cielo({{"txtDec", "0"}, {"txtLAT", "30"}, {"txtZodiacsize", "0"}});
     cielo.s.v.segnoLat = -1;
     const Linee posti = cielo.posti();
-    EXPECT_TRUE(posti.at(0).Y1 > posti.at(5).Y1 && posti[5].Y1 > posti.at(10).Y1)
+    EXPECT_TRUE(posti.at(0).Y1 < posti.at(5).Y1 && posti[5].Y1 < posti.at(10).Y1)
         << "Capricorn a summer sign, below the equinoctial";
 }
 
@@ -294,7 +294,7 @@ TEST(Zodiaco, IPuntiChiudonoLaFigura) {
     // Radians of the five stretches over their steps, both ends counted where they are met.
     const double attesi = ((24.98 + 29.5 + 14.6466 + 9.83) / 0.0001 + 3.5326 / 0.0002) * 15 * PI / (60 * 180);
     EXPECT_NEAR(static_cast<double>(cielo.lista().Punti.size()), attesi, 5);
-    for (const RecPunto &p : cielo.lista().Punti) EXPECT_TRUE(p.Y >= 0 && p.colore == QB(14));
+    for (const RecPunto &p : cielo.lista().Punti) EXPECT_TRUE(p.Y <= 0 && p.colore == QB(14));
     ChiudiZodiaco(nord.s);
     EXPECT_TRUE(nord.lista().Punti.empty()) << "the wall has the noon Sun behind it";
 }

@@ -40,8 +40,8 @@ void perOgniEstremo(const Lista &lista, bool australe, Punto punto) {
             if (lista.Ordine[i] != 'L') continue;
             const RecLinea &l = lista.Linee[linea++];
             const double verso = australe ? -1 : 1;
-            punto(p, verso * l.X1, -l.Y1);
-            punto(p, verso * l.X2, -l.Y2);
+            punto(p, verso * l.X1, l.Y1);
+            punto(p, verso * l.X2, l.Y2);
         }
     }
 }

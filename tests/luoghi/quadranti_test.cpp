@@ -55,7 +55,7 @@ double lontano(const prova::Banco &b, double ora, double x, double y) {
                                                                                l.Ordine.begin() + static_cast<long>(p.a), 'L'));
         for (std::size_t k = p.linea; k < fine; ++k) {
             const RecLinea &r = l.Linee[k];
-            const double s = b.s.tavolo.FattoreX, ax = s * r.X1, ay = -r.Y1, dx = s * r.X2 - ax, dy = -r.Y2 - ay,
+            const double s = b.s.tavolo.FattoreX, ax = s * r.X1, ay = r.Y1, dx = s * r.X2 - ax, dy = r.Y2 - ay,
                          q = dx * dx + dy * dy;
             const double t = q > 0 ? std::clamp(((x - ax) * dx + (y - ay) * dy) / q, 0.0, 1.0) : 0;
             minima = std::min(minima, std::hypot(x - ax - t * dx, y - ay - t * dy));

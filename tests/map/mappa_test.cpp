@@ -146,7 +146,7 @@ TEST(DisegnaMondo, ILuoghiDavantiDoveDiceIlGlobo) {
                 SCOPED_TRACE(p[0] + ' ' + p[2] + ' ' + p[3] + ' ' + std::to_string(lat) + ' ' + std::to_string(lon));
                 ASSERT_EQ(b.l.size(), q[2] > 0 ? 1u : 0u);
                 if (b.l.empty() && ++notte > 0) continue;
-                const double x = q[0] / gn, y = q[1] / gn, scarto = std::hypot(b.l[0].X1 / gn - x, -b.l[0].Y1 / gn - y);
+                const double x = q[0] / gn, y = q[1] / gn, scarto = std::hypot(b.l[0].X1 / gn - x, b.l[0].Y1 / gn - y);
                 EXPECT_LT(scarto / (1 + x * x + y * y), 1e-6);  // as an angle
                 EXPECT_TRUE(b.l[0].X1 == b.l[0].X2 && b.l[0].colore == QB(11));
                 ++confronti;
@@ -259,7 +259,7 @@ TEST(DisegnaCitta, SoloLeRigheInVista) {
             const RecFigura &f = b.lista.Figure[i];
             EXPECT_TRUE(f.X2 == 0.0009 && f.colore == QB(14) && f.Riempimento == QB(12));
             EXPECT_EQ(b.lista.Testi[i].X, f.X1);
-            EXPECT_NEAR(b.lista.Testi[i].Y, f.Y1 + 0.02, 1e-15);
+            EXPECT_NEAR(b.lista.Testi[i].Y, f.Y1 - 0.02, 1e-15);
         }
         EXPECT_EQ(b.s.in.punto, 1);
         EXPECT_EQ(b.utente.box, r.at(3).empty() ? std::vector<std::string>{} : std::vector{r.at(3)});
@@ -284,7 +284,7 @@ TEST(PuntoOpzionale, UnaStellaSullOmbra) {
         ASSERT_EQ(b.lista.Figure.size(), 1u);
         const RecFigura &f = b.lista.Figure[0];
         EXPECT_NEAR(f.X1, 0, 1e-9);
-        EXPECT_NEAR(-f.Y1, .2 * std::tan(25 * PI / 180), 1e-9);
+        EXPECT_NEAR(f.Y1, .2 * std::tan(25 * PI / 180), 1e-9);
         EXPECT_NEAR(f.X2 / (mm ? 200 : .2), std::sin(0.1 * PI) / std::sin(0.7 * PI) / 20, 1e-7);
         EXPECT_TRUE(f.colore == QB(14) && f.Riempimento == QB(9));
         EXPECT_TRUE(in.punto == 0 && b.s.v.deltaOpz == 20);
@@ -296,7 +296,7 @@ TEST(PuntoOpzionale, UnaStellaSullOmbra) {
             const RecLinea &l = b.l[k], &poi = b.l[(k + 1) % 10];
             EXPECT_TRUE(l.colore == QB(15) && l.X2 == poi.X1 && l.Y2 == poi.Y1) << k;
             EXPECT_NEAR(std::hypot(l.X1 - f.X1, l.Y1 - f.Y1), .2 / 20 * (k % 2 == 0 ? 1 : 0.381966), 1e-8);
-            const double gradi = std::atan2(f.Y1 - l.Y1, l.X1 - f.X1) * 180 / PI;
+            const double gradi = std::atan2(l.Y1 - f.Y1, l.X1 - f.X1) * 180 / PI;
             EXPECT_NEAR(std::remainder(gradi - 72 - 36.0 * static_cast<double>(k), 360), 0, 1e-6);
         }
     }

@@ -48,12 +48,12 @@ TEST(Pagine, ContornoENumeroRegistrati) {
     const RecLinea &alto = t.lista().Linee[0];
     EXPECT_NEAR(alto.X1, 0.15, 1e-12);
     EXPECT_NEAR(alto.X2, 0.4, 1e-12);
-    EXPECT_NEAR(alto.Y1, -0.2, 1e-12);
+    EXPECT_NEAR(alto.Y1, 0.2, 1e-12);
     EXPECT_EQ(alto.colore, 33023);
     EXPECT_EQ(t.lista().nomi.testo(alto.Id), "sys:page");
     EXPECT_EQ(t.lista().Testi[0].Testo, "2");
     EXPECT_NEAR(t.lista().Testi[0].X, 0.153, 1e-12);
-    EXPECT_NEAR(t.lista().Testi[0].Y, -0.197, 1e-12);
+    EXPECT_NEAR(t.lista().Testi[0].Y, 0.197, 1e-12);
 }
 
 TEST(Pagine, Griglia) {
@@ -65,9 +65,9 @@ TEST(Pagine, Griglia) {
     // 0.25, 0.5 ... up to 0.6 + 0.75; 0.5, 1 ... up to 0.7 + 1.5.
     ASSERT_EQ(t.lista().Linee.size(), 5U + 4U);
     EXPECT_NEAR(t.lista().Linee[1].X1, 0.4, 1e-9);
-    EXPECT_NEAR(t.lista().Linee[1].Y1, -0.2, 1e-9);
-    EXPECT_NEAR(t.lista().Linee[1].Y2, 0.5, 1e-9);
-    EXPECT_NEAR(t.lista().Linee[5].Y2, 0.3, 1e-9);
+    EXPECT_NEAR(t.lista().Linee[1].Y1, 0.2, 1e-9);
+    EXPECT_NEAR(t.lista().Linee[1].Y2, -0.5, 1e-9);
+    EXPECT_NEAR(t.lista().Linee[5].Y2, -0.3, 1e-9);
     EXPECT_NEAR(t.lista().Linee[5].X2, 0.5, 1e-9);
     EXPECT_EQ(t.lista().nomi.testo(t.lista().Linee[8].Id), "Page");
     EXPECT_EQ(d.atti.front(), "punteggiata");

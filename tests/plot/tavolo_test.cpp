@@ -108,7 +108,7 @@ TEST(Tavolo, PosizioneDelTesto) {
     ASSERT_EQ(t.lista().Testi.size(), 4U);
     for (std::size_t i = 0; i < 4; ++i) {
         EXPECT_NEAR(t.lista().Testi[i].X, attesi[i][0], 1e-15) << i;
-        EXPECT_NEAR(t.lista().Testi[i].Y, attesi[i][1], 1e-15) << i;
+        EXPECT_NEAR(t.lista().Testi[i].Y, -attesi[i][1], 1e-15) << i;
     }
     EXPECT_NEAR(t.xCurrentY(), 0.3 + 195 / 56700.0, 1e-15);
     t.Scala(10);

@@ -52,7 +52,7 @@ struct Disegnato : BancoRapporti {
 // From the nearest line, drawn on.
 double LontananzaRetta(const std::vector<RecLinea> &rette, const Coordinate &p) {
     double vicina = std::numeric_limits<double>::infinity();
-    for (const RecLinea &r : rette) vicina = std::min(vicina, distanza(p.x, -p.y, r));
+    for (const RecLinea &r : rette) vicina = std::min(vicina, distanza(p.x, p.y, r));
     return vicina;
 }
 
@@ -68,9 +68,9 @@ TEST(Concordanza, LaSfericaSuOreEDiurne) {
             for (const int lato : {-1, 1}) {
                 const Coordinate p(riga[lato < 0 ? 2 : 4], riga[lato < 0 ? 3 : 5]);
                 if (!q.illuminato(Numero(riga[1]), lato * 23.445) || !p.dentro()) continue;
-                EXPECT_LT(DaCorde(p.x, -p.y, corde), 0.01) << q.nome << " hour " << riga[0];
+                EXPECT_LT(DaCorde(p.x, p.y, corde), 0.01) << q.nome << " hour " << riga[0];
                 EXPECT_LT(LontananzaRetta(rette, p), QUATTRO_CIFRE) << q.nome << " hour " << riga[0];
-                EXPECT_TRUE(lato > 0 || !q.versoSud() || DaCorde(p.x, -p.y, inverno) < QUATTRO_CIFRE + 1e-5) << q.nome << riga[0];
+                EXPECT_TRUE(lato > 0 || !q.versoSud() || DaCorde(p.x, p.y, inverno) < QUATTRO_CIFRE + 1e-5) << q.nome << riga[0];
                 ++confrontati;
             }
     }
@@ -115,7 +115,7 @@ TEST(Concordanza, LeDiurneSonoQuelleDelMotore) {
                 for (const std::size_t k : {7U, 8U}) {
                     const Coordinate p(riga[0], riga[k]);
                     const bool trovato = std::any_of(punti.begin(), punti.end(), [&](const RecPunto &r) {
-                        return std::fabs(r.X - p.x) < 1e-9 && std::fabs(-r.Y - p.y) < 0.5001e-4;
+                        return std::fabs(r.X - p.x) < 1e-9 && std::fabs(r.Y - p.y) < 0.5001e-4;
                     });
                     EXPECT_TRUE(trovato || std::fabs(p.y) > 7) << q << " delta " << delta << " at " << riga[0];
                     ++confrontati;
@@ -170,7 +170,7 @@ TEST(Concordanza, ItalicheEBabilonicheSulleLoroLinee) {
                     if (!acceso(riga[0], 90 + lato * salita, lato * 23.445) || !p.dentro()) continue;
                     EXPECT_LT(LontananzaRetta(rette, p), QUATTRO_CIFRE) << q.nome << " hour " << riga[0];
                     // A line's two ends are told apart by the winter line alone.
-                    EXPECT_TRUE(lato > 0 || !q.versoSud() || DaCorde(p.x, -p.y, inverno) < QUATTRO_CIFRE + 1e-5)
+                    EXPECT_TRUE(lato > 0 || !q.versoSud() || DaCorde(p.x, p.y, inverno) < QUATTRO_CIFRE + 1e-5)
                         << q.nome << riga[0];
                     ++confrontati;
                 }

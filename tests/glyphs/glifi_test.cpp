@@ -116,7 +116,7 @@ TEST(Glifi, AlloSpecchioSiLeggono) {
             for (int i = 0; i <= 4; ++i) {
                 const double a = f.A + arco * i / 4;
                 // The arc is the mirror's own now: its points are put on the glyph's side of it.
-                p.push_back({ridotto(centro + verso * (f.X1 - centro) + f.X2 * std::cos(a)), ridotto(f.Y1 - f.X2 * std::sin(a))});
+                p.push_back({ridotto(centro + verso * (f.X1 - centro) + f.X2 * std::cos(a)), ridotto(f.Y1 + f.X2 * std::sin(a))});
             }
         }
         std::sort(p.begin(), p.end());

@@ -67,8 +67,7 @@ int main(int argc, char **argv) {
     QApplication a(argc, argv);
     desktop::VestiApplicazione(a);
     const QString dove = a.arguments().value(1, QStringLiteral(".")), lingua = a.arguments().value(2, QStringLiteral("it"));
-    if (lingua != QStringLiteral("it"))
-        desktop::RicordaLingua(lingua == QStringLiteral("fr") ? "mnuFrancais" : "mnuInglese", app::Esito::Fatto);
+    if (lingua != QStringLiteral("it")) desktop::RicordaLingua(LinguaDi(lingua.toStdString()), app::Esito::Fatto);
     prova::DialoghiDiProva dialoghi;
     desktop::Finestra f(dialoghi);
     f.resize(1280, 800);

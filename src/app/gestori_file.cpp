@@ -31,24 +31,33 @@ Esito mnuSalva_Click(Sessione &s, int) {
     return EsitoScrittura(s, *nome, SalvaProgetto(s, *nome));
 }
 
-// Each language item tells its message in its own language and is good for one press. The new language shows at the
-// next start; a dictionary that is not there changes nothing.
-void dopoLingua(Sessione &s, NomeControllo voce, std::string_view messaggio) {
-    s.stato(voce).abilitato = false;
-    s.utente.Box(messaggio);
-}
+constexpr Gestore GESTORI[] = {
+    {"mnuApri", Evento::Clic, mnuApri_Click},
+    {"mnuSalva", Evento::Clic, mnuSalva_Click},
+    {"cmdSave", Evento::Clic,
+     [](Sessione &s, int) { return EsitoScrittura(s, std::string(Parametri::NOME_FILE), ScriviDefault(s)); }},
+    {"mnuItalian", Evento::Clic, [](Sessione &s, int) { return ScegliLingua(s, LinguaDi("it")); }},
+    {"mnuFrancais", Evento::Clic, [](Sessione &s, int) { return ScegliLingua(s, LinguaDi("fr")); }},
+    {"mnuInglese", Evento::Clic, [](Sessione &s, int) { return ScegliLingua(s, LinguaDi("en")); }},
+};
 
-Esito mnuItalian_Click(Sessione &s, int) {
-    const std::string nome = Dizionario::NomeFile(LINGUA);
-    std::error_code ec;
-    std::filesystem::remove(nome, ec);
-    if (ec) return EsitoScrittura(s, nome, TraVirgolette(nome) + ": " + ec.message());
-    dopoLingua(s, "mnuItalian", "Riavviare Ombrelia!!");
-    return Esito::conFile(nome);
-}
+}  // namespace
 
-Esito cambiaLingua(Sessione &s, std::string_view lingua, NomeControllo voce, std::string_view messaggio) {
-    const std::string cercato = Dizionario::NomeFile(lingua), nome = Dizionario::NomeFile(LINGUA);
+Esito ScegliLingua(Sessione &s, const Lingua &lingua) {
+    const std::string nome = Dizionario::NomeFile(LINGUA), dizionario = DizionarioDi(lingua);
+    // An entry is good for one press.
+    const auto detto = [&] {
+        if (lingua.voce != NESSUN_CONTROLLO) s.stato(lingua.voce).abilitato = false;
+        s.utente.Box(lingua.avviso);
+    };
+    if (dizionario.empty()) {
+        std::error_code ec;
+        std::filesystem::remove(nome, ec);
+        if (ec) return EsitoScrittura(s, nome, TraVirgolette(nome) + ": " + ec.message());
+        detto();
+        return Esito::conFile(nome);
+    }
+    const std::string cercato = Dizionario::NomeFile(dizionario);
     const auto sorgente = TrovaDato(cercato);
     if (sorgente) {
         std::string errore;
@@ -56,26 +65,10 @@ Esito cambiaLingua(Sessione &s, std::string_view lingua, NomeControllo voce, std
         if (!contenuto) return EsitoScrittura(s, sorgente->string(), errore);
         if (Esito e = EsitoScrittura(s, nome, ScriviFile(nome, *contenuto)); !e) return e;
     }
-    dopoLingua(s, voce, messaggio);
+    detto();
     if (sorgente) return Esito::conFile(nome);
     return Esito::fallito(cercato, s.Traduci("Non trovo il file ") + cercato + ": " + LuoghiDati(), false);
 }
-
-constexpr Gestore GESTORI[] = {
-    {"mnuApri", Evento::Clic, mnuApri_Click},
-    {"mnuSalva", Evento::Clic, mnuSalva_Click},
-    {"cmdSave", Evento::Clic,
-     [](Sessione &s, int) { return EsitoScrittura(s, std::string(Parametri::NOME_FILE), ScriviDefault(s)); }},
-    {"mnuItalian", Evento::Clic, mnuItalian_Click},
-    {"mnuFrancais", Evento::Clic,
-     [](Sessione &s, int) {
-         return cambiaLingua(s, "FranceseC2008", "mnuFrancais", "Il faut sortir avant d'exécuter Ombrelia!!");
-     }},
-    {"mnuInglese", Evento::Clic,
-     [](Sessione &s, int) { return cambiaLingua(s, "IngleseC2008", "mnuInglese", "You must restart Ombrelia!!"); }},
-};
-
-}  // namespace
 
 Esito EsitoScrittura(Sessione &s, const std::string &nome, const std::optional<std::string> &errore) {
     if (!errore) return Esito::conFile(nome);

@@ -255,7 +255,8 @@ void Finestra::dopo(IdControllo id, const app::Esito &esito) {
         ricorda(percorso_);
         salvato_ = improntaProgetto();
     }
-    if (nome == "mnuItalian" || nome == "mnuFrancais" || nome == "mnuInglese") RicordaLingua(nome, esito);
+    for (const Lingua &l : Lingue())
+        if (id != NESSUN_CONTROLLO && id == l.voce) RicordaLingua(l, esito);
     if ((nome == "cmdDxf" || nome == "cmdSave") && esito && !esito.file.empty())
         messaggio(ponte_.Traduci("Scritto") + QLatin1Char(' ') + Q(esito.file));
     const bool segue = vivo_acceso();

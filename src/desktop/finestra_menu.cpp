@@ -14,6 +14,7 @@
 #include <QToolBar>
 #include <QWhatsThis>
 
+#include "app/lingua.h"
 #include "app/rapporti.h"
 #include "desktop/aiuti.h"
 #include "desktop/comandi.h"
@@ -127,10 +128,14 @@ void Finestra::costruisciMenu() {
     QMenu *lingua = menuBar()->addMenu(ponte_.Traduci("&Lingua"));
     auto *lingue = new QActionGroup(this);
     const QString parlata = CodiceLingua(s_);
-    for (const auto &[nome, codice] : {std::pair{"mnuItalian", "it"}, {"mnuFrancais", "fr"}, {"mnuInglese", "en"}}) {
-        QAction *a = lingue->addAction(voce(lingua, nome));
+    for (const Lingua &l : Lingue()) {
+        QAction *a =
+            l.voce != NESSUN_CONTROLLO ? voce(lingua, RigaDi(l.voce).nome) : lingua->addAction(Q(l.nome), this, [this, &l] {
+                RicordaLingua(l, ponte_.fai(NESSUN_CONTROLLO, [&] { return app::ScegliLingua(s_, l); }));
+            });
+        lingue->addAction(a);
         a->setCheckable(true);
-        a->setChecked(parlata == QLatin1String(codice));
+        a->setChecked(parlata == Q(l.codice));
     }
     QMenu *aiuto = menuBar()->addMenu(QStringLiteral("&?"));
     // By its keys it speaks of the field that has them, by the menu of what is pressed next.

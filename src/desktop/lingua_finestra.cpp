@@ -19,18 +19,11 @@ namespace {
 constexpr auto LINGUA = "lingua";
 
 // Which language a dictionary is, by how it says "open".
-struct LinguaDellaFinestra {
-    std::string_view apri;
-    const char *codice, *aggiunta;  // of the toolkit's catalogue; the dictionary of the window's own texts
-};
-constexpr LinguaDellaFinestra LINGUE[] = {
-    {"Open...", "en", "DBFinestraInglese.txt"}, {"Ouvrir...", "fr", "DBFinestraFrancese.txt"}, {"", "it", ""}};
-
-const LinguaDellaFinestra &linguaDi(const Sessione &s) {
+const Lingua &linguaDi(const Sessione &s) {
     const std::string apri = s.Traduci("Apri...");
-    for (const LinguaDellaFinestra &l : LINGUE)
+    for (const Lingua &l : Lingue())
         if (apri == l.apri) return l;
-    return LINGUE[2];
+    return Lingue()[0];
 }
 
 bool aggiungi(Sessione &s, std::string_view nome, void (Dizionario::*come)(std::string)) {
@@ -40,12 +33,11 @@ bool aggiungi(Sessione &s, std::string_view nome, void (Dizionario::*come)(std::
     return contenuto.has_value();
 }
 
-void traduciQt(const char *codice) {
+void traduciQt(const QString &codice) {
     static QTranslator *catalogo = nullptr;
     if (catalogo) QCoreApplication::removeTranslator(catalogo);
     else catalogo = new QTranslator(QCoreApplication::instance());
-    if (catalogo->load(QStringLiteral("qtbase_") + QString::fromLatin1(codice),
-                       QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+    if (catalogo->load(QStringLiteral("qtbase_") + codice, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QCoreApplication::installTranslator(catalogo);
 }
 
@@ -56,20 +48,17 @@ void LinguaRicordata(Sessione &s) {
         const std::string nome = QSettings().value(QLatin1String(LINGUA)).toString().toStdString();
         if (!nome.empty()) aggiungi(s, Dizionario::NomeFile(nome), &Dizionario::Interpreta);
     }
-    const LinguaDellaFinestra &lingua = linguaDi(s);
-    if (*lingua.aggiunta) {
-        aggiungi(s, lingua.aggiunta, &Dizionario::Aggiungi);
+    if (const std::string aggiunta = FileDi(linguaDi(s))[1]; !aggiunta.empty()) {
+        aggiungi(s, aggiunta, &Dizionario::Aggiungi);
         for (const std::string_view modulo : {"MDIForm1", "frmTavolo", "Tavolo1"}) app::CaricaForm(s, modulo);
     }
-    traduciQt(lingua.codice);
+    traduciQt(CodiceLingua(s));
 }
 
-QString CodiceLingua(const Sessione &s) { return QString::fromLatin1(linguaDi(s).codice); }
+QString CodiceLingua(const Sessione &s) { return Q(linguaDi(s).codice); }
 
-void RicordaLingua(std::string_view voce, const app::Esito &esito) {
-    if (!esito) return;
-    const char *nome = voce == "mnuFrancais" ? "FranceseC2008" : voce == "mnuInglese" ? "IngleseC2008" : "";
-    QSettings().setValue(QLatin1String(LINGUA), QString::fromLatin1(nome));
+void RicordaLingua(const Lingua &lingua, const app::Esito &esito) {
+    if (esito) QSettings().setValue(QLatin1String(LINGUA), Q(DizionarioDi(lingua)));
 }
 
 void Ritraduci(Sessione &s) {

@@ -45,6 +45,7 @@ constexpr Chiamata CHIAMATE[] = {
     {"collega", [](Pagina &p, Sv a) { return p.Collega(a), std::string(); }},
     {"collegamento", [](Pagina &p, Sv) { return p.Collegamento(); }},
     {"lingua", [](Pagina &p, Sv a) { return p.Lingua(a), std::string(); }},
+    {"lingue", [](Pagina &, Sv) { return Pagina::Lingue(); }},
     {"tavola", [](Pagina &p, Sv) { return p.Tavola(); }},
     {"stato", [](Pagina &p, Sv) { return p.Stato(); }},
     {"disegna", [](Pagina &p, Sv a) { return p.Disegna(numero(a)); }},

@@ -9,6 +9,7 @@
 #include "app/azioni.h"
 #include "app/comandi.h"
 #include "app/progetto.h"
+#include "controlli/lingue.h"
 #include "core/campi.h"
 #include "core/file.h"
 #include "core/percorsi.h"
@@ -155,20 +156,18 @@ std::string Pagina::Collegamento() {
 }
 
 void Pagina::Lingua(std::string_view codice) {
-    // The program's dictionary, then those of the words that window and page have beyond it.
-    struct LinguaDellaPagina {
-        std::string_view codice;
-        std::array<const char *, 3> file;
-    };
-    constexpr LinguaDellaPagina LINGUE[] = {{"fr", {"DBFranceseC2008.txt", "DBFinestraFrancese.txt", "DBPaginaFrancese.txt"}},
-                                            {"en", {"DBIngleseC2008.txt", "DBFinestraInglese.txt", "DBPaginaInglese.txt"}}};
     Dizionario &d = prova_.dizionario;
     d.Interpreta({});
-    for (const LinguaDellaPagina &l : LINGUE)
-        if (l.codice == codice)
-            for (const char *nome : l.file)
-                if (const auto file = TrovaDato(nome))
-                    d.Aggiungi(LeggiFile(file->string(), FILE_MASSIMO).value_or(std::string()));
+    for (const std::string &nome : FileDi(LinguaDi(codice)))
+        if (const auto file = nome.empty() ? std::nullopt : TrovaDato(nome))
+            d.Aggiungi(LeggiFile(file->string(), FILE_MASSIMO).value_or(std::string()));
+}
+
+std::string Pagina::Lingue() {
+    Json j;
+    j.apri('[');
+    for (const auto &l : ombrelia::Lingue()) j.apri('[').testo(l.codice).testo(l.nome).chiudi(']');
+    return std::move(j.chiudi(']')).fine();
 }
 
 std::string Pagina::Stato() {

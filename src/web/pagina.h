@@ -34,7 +34,9 @@ public:
     void Collega(std::string_view righe);
     [[nodiscard]] std::string Collegamento();
 
-    // The page's language: "it", "fr" or "en". The session keeps the one that its own dictionary has.
+    // Code and name of each language.
+    [[nodiscard]] static std::string Lingue();
+    // The page's language, by its code. The session keeps the one that its own dictionary has.
     void Lingua(std::string_view codice);
     // The table of controls in the page's language, group by group, and the page's own words. JSON.
     [[nodiscard]] std::string Tavola() const;

@@ -123,6 +123,28 @@ TEST(Guardie, OnPaperAFamilyHasItsPatternWhereOneWishes) {
     casella->setChecked(false);
 }
 
+// Of either half of the Earth, seen as it is mounted: a point of the ten o'clock line reads ten.
+TEST(Guardie, ThePointUnderThePointerIsReadAsTheDialIsMounted) {
+    for (const char *lat : {"44", "-33"}) {
+        BancoFinestra b;
+        b.scrivi("txtLAT", lat);
+        b.scrivi("txtDec", "25");
+        b.spunta("chkOreAstronomiche");
+        b.premi("cmdRun");
+        const Tavolo &t = b.s().tavolo;
+        bool trovata = false;
+        for (const Pretesa &p : t.lista().pretese) {
+            if (p.specie != Specie::Ora || p.valore != 10) continue;
+            trovata = true;
+            const RecLinea &r = t.lista().Linee[p.linea + (p.a - p.da) / 3];
+            const QPointF visto(t.FattoreX * (r.X1 + r.X2) / 2, -t.FattoreY * (r.Y1 + r.Y2) / 2);
+            EXPECT_TRUE(desktop::LetturaDi(b.s(), visto).contains(QStringLiteral("ora vera 10:00")))
+                << lat << ": " << desktop::LetturaDi(b.s(), visto).toStdString();
+        }
+        EXPECT_TRUE(trovata) << lat;
+    }
+}
+
 // Bologna, 21 June 2026: true noon of the place is at 13:16:24 of the clock with summer time (equation of time -1 m 46 s; 14 m 38
 // s West of the zone's meridian), so the shadow of 13:16 is that of 12 o'clock.
 TEST(Guardie, TheTimeBarsClockIsTheMakers) {

@@ -6,7 +6,10 @@
 #include <QSettings>
 #include <QTemporaryDir>
 #include <cstdio>
+#include <string>
+#include <vector>
 
+#include "controlli/lingue.h"
 #include "desktop/stile.h"
 
 int main(int argc, char **argv) {
@@ -20,8 +23,11 @@ int main(int argc, char **argv) {
     qputenv("XDG_RUNTIME_DIR", casa.path().toUtf8());
     qputenv("HOME", casa.path().toUtf8());
     QDir::setCurrent(casa.path());
-    for (const char *nome : {"DBFinestraInglese.txt", "DBFinestraFrancese.txt", "luoghi.csv"})
-        QFile::copy(QStringLiteral(OMBRELIA_RADICE "/data/") + QString::fromLatin1(nome), QString::fromLatin1(nome));
+    std::vector<std::string> dati{"luoghi.csv"};
+    for (const ombrelia::Lingua &l : ombrelia::Lingue())
+        if (!l.file.empty()) dati.push_back(ombrelia::FileDi(l)[1]);
+    for (const std::string &nome : dati)
+        QFile::copy(QStringLiteral(OMBRELIA_RADICE "/data/") + QString::fromStdString(nome), QString::fromStdString(nome));
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, casa.path());
     QApplication a(argc, argv);
     QCoreApplication::setOrganizationName(QStringLiteral("Ombrelia"));

@@ -88,9 +88,14 @@ const Raccolta &DelProgramma() {
     return r;
 }
 
-// Of each language: the dictionary that every user may take away, and those of the window's and the page's own words.
-const std::vector<std::string> LINGUE[] = {{"DBFranceseC2008.txt", "DBFinestraFrancese.txt", "DBPaginaFrancese.txt"},
-                                           {"DBIngleseC2008.txt", "DBFinestraInglese.txt", "DBPaginaInglese.txt"}};
+// Of each language but the program's own: the dictionary that every user may take away, and those of the window's and the page's
+// own words.
+const std::vector<std::array<std::string, 3>> LINGUE = [] {
+    std::vector<std::array<std::string, 3>> file;
+    for (const Lingua &l : Lingue())
+        if (!l.file.empty()) file.push_back(FileDi(l));
+    return file;
+}();
 
 std::string Contenuto(const std::string &nome) {
     std::ifstream f(OMBRELIA_RADICE "/data/" + nome, std::ios::binary);

@@ -419,7 +419,7 @@
       cerca(id).title = testo;
       cerca(id).setAttribute('aria-label', testo);
     }
-    cerca('lingua').setAttribute('aria-label', 'Italiano, Français, English');
+    cerca('lingua').setAttribute('aria-label', [...cerca('lingua').options].map((o) => o.text).join(', '));
     cerca('foglio').setAttribute('aria-label', testi.motto);
     cerca('foglietto').querySelector('.chiudi').setAttribute('aria-label', testi.chiudi);
     const esempi = modulo.FS.readdir(CASA).filter((n) => n.endsWith('.omb')).sort();
@@ -785,12 +785,14 @@
 
   async function avvia() {
     tema(matchMedia('(prefers-color-scheme: dark)').matches);
-    const lingue = [...cerca('lingua').options].map((o) => o.value);
-    cerca('lingua').value = (navigator.languages ?? []).map((l) => l.slice(0, 2)).find((l) => lingue.includes(l)) ?? 'en';
     const [wasm, piccoli] = await Promise.all([gonfia('modulo'), gonfia('dati')]);
     modulo = await globalThis.Modulo({ wasmBinary: wasm, stdout: (b) => b !== null && detto.push(b), stderr: () => {} });
     posa(JSON.parse(new TextDecoder().decode(piccoli)));
     modulo.FS.chdir(CASA);
+    const lingue = chiedi('lingue');
+    cerca('lingua').append(...lingue.map(([codice, nome]) => new Option(nome, codice)));
+    const parlate = (navigator.languages ?? []).map((l) => l.slice(0, 2));
+    cerca('lingua').value = parlate.find((p) => lingue.some(([codice]) => codice === p)) ?? 'en';
     const suo = dallIndirizzo();
     chiama('lingua', lingua());
     costruisci();

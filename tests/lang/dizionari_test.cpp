@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -11,6 +12,7 @@
 #include <vector>
 
 #include "controlli/controlli.h"
+#include "controlli/lingue.h"
 #include "core/testo.h"
 #include "lang/dizionario.h"
 

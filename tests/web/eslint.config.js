@@ -8,7 +8,7 @@ export default [
       globals: Object.fromEntries(
         `document window globalThis location history navigator matchMedia addEventListener performance setTimeout clearTimeout
         requestAnimationFrame cancelAnimationFrame ResizeObserver DecompressionStream TextDecoder Response Blob URL
-        URLSearchParams DOMParser atob`.split(/\s+/).map((nome) => [nome, 'readonly']),
+        URLSearchParams DOMParser Option atob`.split(/\s+/).map((nome) => [nome, 'readonly']),
       ),
     },
     linterOptions: { reportUnusedDisableDirectives: 'error' },

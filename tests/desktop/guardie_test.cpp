@@ -145,6 +145,15 @@ TEST(Guardie, ThePointUnderThePointerIsReadAsTheDialIsMounted) {
     }
 }
 
+TEST(Guardie, ArrowsStopAtTheEndOfAFieldsRange) {
+    BancoFinestra b;
+    b.scrivi("txtLAT", "89.9");
+    QTest::keyClick(b.w("txtLAT"), Qt::Key_Up);
+    EXPECT_EQ(b.campo("txtLAT"), "90");
+    QTest::keyClick(b.w("txtLAT"), Qt::Key_Down);
+    EXPECT_EQ(b.campo("txtLAT"), "89.5");
+}
+
 // Bologna, 21 June 2026: true noon of the place is at 13:16:24 of the clock with summer time (equation of time -1 m 46 s; 14 m 38
 // s West of the zone's meridian), so the shadow of 13:16 is that of 12 o'clock.
 TEST(Guardie, TheTimeBarsClockIsTheMakers) {

@@ -129,7 +129,8 @@ TEST(Dispositivo, ATextHasItsOwnColour) {
         d.vuota();
         int accesi = 0;
         for (int y = 45; y < 80; ++y)
-            for (int x = 45; x < 150; ++x) accesi += (s.immagine.pixelColor(x, y).*pieno)() > 200;
+            for (int x = 45; x < 150; ++x)
+                accesi += (s.immagine.pixelColor(x, y).*pieno)() > 200 && s.immagine.pixelColor(x, y).blue() < 120;
         EXPECT_GT(accesi, 20) << colore;
     }
 }

@@ -2,6 +2,7 @@
 #include "analytic/equivalente.h"
 
 #include "gnomonica/equivalente.h"
+#include "gnomonica/stilo.h"
 
 namespace ombrelia::analytic {
 
@@ -41,7 +42,7 @@ void lasciaEquivalente(Variabili &v, const PareteEquivalente &e, Valore E) {
     if (e.girata) return;
     v.segnoTrasf = Sgn(e.f1);
     v.altStilo = E;
-    const Reale x = sin(v.decR) * cos(v.incR) / cos(v.altStilo);
+    const Reale x = SenOraSustilare(v.decR, v.incR, v.altStilo);
     v.angoloOra = Atn(x / Sqr(1 - x * x));
 }
 

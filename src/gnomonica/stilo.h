@@ -103,6 +103,11 @@ inline Valore SustilareMuroIntera(Valore phi, Valore g) { return phi == 0 ? Valo
 // sin phi (Rohr; Waugh, "difference of longitude"). Faults: none else.
 inline Valore OraSustilareMuro(Valore phi, Valore g) { return phi == 0 ? Valore(PI / 2) : Arco2(tan(g), sin(phi)); }
 
+// Sine of the hour angle of a plane's substyle. Given: declination, inclination and the style's elevation, radians. Gives: with
+// the sign of the declination. Source: the right spherical triangle of zenith, pole and substyle. Faults: no value for a style
+// square to the plane.
+inline Valore SenOraSustilare(Valore g, Valore i, Valore stilo) { return sin(g) * cos(i) / cos(stilo); }
+
 // Distance from the foot of the ortostilo to the equinoctial along the substyle. Given: ortostilo, style's elevation in radians.
 // Gives: the unit of gn. Source: elementary geometry of the style's triangle. Faults: no value for an endless one.
 inline Valore DistanzaEquinoziale(Valore gn, Valore altStilo) { return gn * tan(altStilo); }

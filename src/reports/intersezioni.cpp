@@ -91,7 +91,7 @@ namespace {
 
 // The hour angle of the substyle with the longitude in it, and where the equinoctial lies, on which the rows rest.
 void lasciaAnalitiche(Variabili &v) {
-    const Reale seno = sin(v.decR) * cos(v.incR) / cos(v.altStilo);
+    const Reale seno = SenOraSustilare(v.decR, v.incR, v.altStilo);
     v.angoloOra = ArcSin(seno) + (DalMeridiano(v.lonCopia, v.meridiano) * PI / 180) * v.oraFuso;
     v.y0 = DistanzaEquinoziale(v.gn, v.altStilo);
 }

@@ -110,7 +110,7 @@ TEST(Guardie, OnPaperAFamilyHasItsPatternWhereOneWishes) {
         desktop::VestiFoglio(b.s().tavolo, b.f.quadro().foglio().stile(), true, carta);
         const Lista &l = carta.lista();
         for (const Pretesa &p : l.pretese)
-            for (std::size_t i = p.linea; i < l.trattini.size() && i < p.linea + 1; ++i) trovati[p.specie].insert(l.trattini[i]);
+            if (p.linea < l.trattini.size()) trovati[p.specie].insert(l.trattini[p.linea]);
         return trovati;
     };
     EXPECT_TRUE(fogli().empty());

@@ -14,16 +14,20 @@ inline constexpr double GIORNI_DELL_ANNO = 365.2422;
 // The year whose Sun an analemma shows: the field's, or that of now.
 [[nodiscard]] int AnnoDelSole(const Sessione &s);
 
-// Bearing of a place from a site, radians from South, West positive; latitudes North and longitudes West positive.
+// Bearing of a place from a site. Given: both, radians, latitudes North and longitudes West positive. Gives: radians from South,
+// West positive, -pi to pi. Source: the four-parts formula of the spherical triangle of pole, site and place (Smart, Textbook on
+// Spherical Astronomy, ch. I). Faults: 0 where the two are one or
+// antipodes.
 [[nodiscard]] double Rilevamento(double lat, double lon, double latMeta, double lonMeta);
 
-// The Sun at the same hour of the zone's mean time, through the days of a year.
+// The Sun at the same hour of the zone's mean time, through the days of a year. Given: days from the year's first, of universal
+// time. Gives: hour angle and declination, radians, afternoon and North positive. Source: ombra::soleDi; mean time and the
+// equation of time by definition. Faults: none.
 class TempoMedio {
 public:
     TempoMedio(const Posa &posa, int anno, double ora)
         : inizio_(ombra::giornoGiuliano({anno, 1, 1}) + (ora - posa.fuso()) / 24),
           medio_((ora - 12) * 15 * ombra::RADIANTI - (posa.longitudine - posa.meridiano)) {}
-    // Days from the year's first; hour angle and declination, radians.
     [[nodiscard]] std::pair<double, double> sole(double giorno) const {
         const ombra::Sole sole = ombra::soleDi(inizio_ + giorno);
         return {medio_ + sole.equazione / 4 * ombra::RADIANTI, sole.delta};

@@ -18,9 +18,13 @@ struct Istante {
     ombra::SoleLetto cielo;  // hour angle, declination, altitude, azimuth; luce is the dial's
     ombra::Getto ombra;      // metres as mounted
 };
-// The moment of a civil date and time, zone in hours East of Greenwich.
+// All: Given: the dial, a civil date, hours since its 0h, the zone in hours East of Greenwich, minutes between moments. Gives:
+// see Istante. Source: ombra::soleDi and PianoMontato; civil time by definition. Faults: a shadow that there is not is part of
+// Getto.
+//
+// The moment of a date and time.
 [[nodiscard]] Istante IstanteDi(const Posa &posa, const ombra::Data &data, double ore, double fuso);
-// The moments of a civil day, every passo minutes from 0h on, 24h left out.
+// The moments of a day from 0h on, 24h left out.
 [[nodiscard]] std::vector<Istante> GiornataDi(const Posa &posa, const ombra::Data &data, double fuso, double passo);
 
 // What a point says.

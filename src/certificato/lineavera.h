@@ -31,13 +31,17 @@ struct DatiCertificato {
 
 using Intervallo = std::pair<double, double>;
 
-// Stretches of a line in order, none of them overlapping.
+// Stretches of a line in order, none of them overlapping. Given, gives: the parameter's unit. Source: elementary. Faults: none;
+// an empty row has no length.
 using Intervalli = std::vector<Intervallo>;
 [[nodiscard]] double Lunghezza(const Intervalli &t);
 // Sorts and joins what touches.
 void Unisci(Intervalli &t);
 [[nodiscard]] Intervalli Intersezione(const Intervalli &a, const Intervalli &b);
 
+// What for: judging. Given: the dial, a claim and its value. Gives: metres as mounted, x to the right, y upward from the foot.
+// Source: planes and cones through the tip (ombra); no formula of a dial. Faults: a line that does not exist has no stretch and
+// no sample.
 class LineaVera {
 public:
     LineaVera(const DatiCertificato &dati, Specie specie, double valore);

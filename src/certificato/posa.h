@@ -6,6 +6,7 @@
 
 namespace ombrelia {
 
+// Given, gives: see each. Source: elementary (an hour is 15 degrees, a degree 4 minutes). Faults: none.
 struct Posa {
     ombra::QuadranteMontato quadrante;  // as mounted: a southern plane's field of declination counts from North
     double longitudine = 0;             // radians, West positive

@@ -32,6 +32,8 @@ inline Valore Arco2(Valore y, Valore x) {
     return y > 0 ? Atn(q) + PI : Atn(q) + CERCHIO;
 }
 
+// All that round. Given: x in any unit. Gives: the same unit. Source: elementary. Faults: no value where x, scaled, has none.
+
 // To n places, a tie to the even digit.
 inline Valore Round(Valore x, int posti) {
     const double scala = std::pow(10.0, posti);

@@ -10,6 +10,10 @@
 
 namespace ombrelia {
 
+// All arithmetic here. Given: numbers, angles in radians. Gives: numbers, angles in radians. Source: IEEE 754 double precision
+// and the standard library; departure: as told at each. Faults: division by zero, overflow, root of a negative and whatever is
+// made of a fault have no value.
+
 // What an expression gives: a finite number, or no value because a step of it faulted (division by zero,
 // overflow, root of a negative, angle of an infinite quotient). "No value" is any double that is not finite,
 // so that plain arithmetic spreads it at no cost; only the operations that could turn it finite again are guarded.

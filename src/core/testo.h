@@ -8,8 +8,8 @@
 
 namespace ombrelia {
 
-// The longest numeric prefix behind leading blanks: sign, digits, point, exponent. 0 when there is none; no value when
-// the number overflows a double.
+// The longest numeric prefix behind leading blanks: sign, digits, point, exponent. Given: a text. Gives: its number, 0 when there
+// is none. Source: the usual decimal form, read exactly rounded. Faults: no value when the number overflows a double.
 [[nodiscard]] Valore Val(std::string_view testo);
 
 // The number form of files: up to 15 significant digits without trailing zeros; plain from 0.1 up to below 1E+15,

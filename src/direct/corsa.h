@@ -11,9 +11,9 @@
 
 namespace ombrelia::direct {
 
-// Half day arc over the year, radians, at the original dial's latitude. In polar day and night the statement faults and
-// the arc of the declination before stays; from the second line on the first declinations inherit the end of the line
-// before.
+// Half day arc over the year. Given: the original dial's latitude, radians. Gives: radians, one a declination of Anno(). Source:
+// cos H = -tan phi tan delta (Smart, ch. II). Faults: in polar day and night the arc of the declination before stays; from the
+// second line on the first declinations inherit the end of the line before.
 class SemiArchi {
 public:
     explicit SemiArchi(Valore latitudine);

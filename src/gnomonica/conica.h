@@ -26,8 +26,9 @@ inline Radici RisolviQuadratica(Valore a, Valore b, Valore c) {
 }
 
 // Frame (u, v): origin P where substyle and equinoctial meet, u along the equinoctial, v along the substyle towards the
-// centre. Frame (x, y) of the dial: origin at the foot of the ortostilo, x to the right, y upward. sigma is the substyle's angle
-// from the vertical, y0 the distance from foot to P; lengths in the unit of y0.
+// centre. Frame (x, y) of the dial: origin at the foot of the ortostilo, x to the right, y upward. Given: sigma, the substyle's
+// angle from the vertical, radians; y0, the distance from foot to P. Gives: x, y in the unit of y0. Source: plane geometry, a
+// turn and a shift. Faults: none.
 class RiferimentoSustilare {
 public:
     RiferimentoSustilare(Valore sigma, Valore y0) : cs_(cos(sigma)), ss_(sin(sigma)), y0_(y0) {}

@@ -14,7 +14,7 @@ inline void LasciaDalMeridiano(Variabili &v) { v.lonPiu15 = DalMeridiano(v.lon, 
 // The same as an angle of time. Given: lonPiu15, degrees. Gives: radians. Source: elementary. Faults: none.
 inline Valore CorrezioneLongitudine(const Variabili &v) { return PI * v.lonPiu15 / 180; }
 
-// The same with the box of the zone's time set, else 0.
+// The same with the box of the zone's time set, else 0. Given, gives, source, faults: as above.
 inline Valore CorrezioneFuso(const Variabili &v) { return CorrezioneLongitudine(v) * v.oraFuso; }
 
 // "Costante locale". Given: lonCopia, the longitude as typed, and the zone's meridian, degrees. Gives: minutes of time, West

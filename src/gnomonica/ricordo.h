@@ -11,7 +11,8 @@
 namespace ombrelia {
 
 // A function of one number, remembered by its place in a sweep: asked there for the bits it was asked for last time, it gives
-// what it gave; for others it works anew, so what comes out is the same with memory and without. Not for two threads.
+// what it gave; for others it works anew, so what comes out is the same with memory and without. Given: a place from 0 and a
+// number. Gives, source, faults: those of the function. Not for two threads.
 template <typename Esito, typename Funzione>
 class Ricordo {
 public:
@@ -34,6 +35,7 @@ private:
     std::vector<PostoRicordo> voci_;
 };
 
+// Given: radians. Gives: sine and cosine. Source: the standard library. Faults: as SenCos.
 struct DammiSenCos {
     SenCos operator()(double t) const { return SenCos(t); }
 };

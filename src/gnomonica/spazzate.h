@@ -11,6 +11,10 @@
 
 namespace ombrelia {
 
+// All sweeps. Given: no more than what their names fix. Gives: the points in the order of drawing, made at the first call, the
+// same for the life of the process. Source: the program's own ranges, counted by Conteggio, and the standard library's functions;
+// of mean noons SoleAllaLongitudine. Faults: none.
+
 // A declination of a sweep, degrees, and its tangent.
 struct Declinazione {
     double d, tanD;
@@ -23,7 +27,7 @@ struct Declinazione {
 [[nodiscard]] const std::vector<Declinazione> &AnnoFitto();
 
 // Hour angles of a day line: -120 to 120 by 0.1 degrees, shifted by scarto (radians). No time correction: a day line is
-// the same in every zone.
+// the same in every zone. Given: the shift. Gives: sines and cosines, kept until another shift is asked for.
 class GiornoDiOre {
 public:
     [[nodiscard]] const std::vector<SenCos> &con(Valore scarto);

@@ -12,9 +12,9 @@
 namespace ombrelia {
 
 // 1 for a plane that declines to the West or not at all, else -1. Given: dec as typed, which is tested against 0; decR, whose
-// sign is taken.
+// sign is taken. Gives: 1, -1, or 0 for a decR of 0 beside another dec. Source: by definition. Faults: none.
 inline Valore SegnoDeclinazione(Valore dec, Valore decR) { return dec == 0 ? Valore(1) : Sgn(decR); }
-// Sign of a latitude, 1 on the equator.
+// Sign of a latitude, 1 on the equator. Given: in any unit. Gives: 1 or -1. Source, faults: as above.
 inline Valore SegnoLatitudine(Valore lat) { return lat == 0 ? Valore(1) : Sgn(lat); }
 
 // A plane as sines and cosines, computed once.

@@ -89,7 +89,8 @@ private:
 // The place's name as it was asked for: the one of its names that the search takes for that, else the gazetteer's.
 [[nodiscard]] std::string_view NomeChiesto(const Luogo &luogo, std::string_view chiesto);
 
-// Degrees of arc between two places, plane near them: for telling near from far.
+// How far two places lie apart, for telling near from far. Given: degrees. Gives: degrees of arc. Source: plane geometry on the
+// parallel of the second place; departure: the sphere is flat, wrong far off and near the poles. Faults: none.
 [[nodiscard]] double Distanza(const Luogo &a, double latitudine, double longitudine);
 
 }  // namespace ombrelia::luoghi

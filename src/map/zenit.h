@@ -9,8 +9,9 @@ namespace ombrelia {
 // Whether the plane is that of a southern site as a corrected run draws it: mirrored, with the seasons exchanged.
 bool Specchiato(const Sessione &s);
 
-// Site, plane and gnomon from the fields into the shared variables latR (signed, but for a mirrored one), dec, decR and gn; gives
-// the complement of the inclination, radians. A horizontal plane has no declination.
+// The plane that places are shown on. Given: the fields as read, degrees; the gnomon, metres. Gives: the complement of the
+// inclination, radians; leaves site, plane and gnomon in the shared variables latR (signed, but for a mirrored one), dec, decR
+// and gn; a horizontal plane has no declination. Source: by definition. Faults: a field without a value keeps its variable.
 double LeggiPiano(Sessione &s, const Lettura &letto, Valore gn);
 
 // A place as the Sun that stands in its zenith. Given: X degrees West of the site, Y minus the latitude. Gives: the point of the

@@ -5,6 +5,8 @@
 
 namespace ombrelia::officina {
 
+// Given: a field and segments, millimetres. Gives: see each. Source: plane geometry on a grid of cells. Faults: a segment without
+// length is a point.
 class Griglia {
 public:
     explicit Griglia(const Riquadro &campo);
@@ -36,7 +38,8 @@ private:
     mutable std::uint32_t giro_ = 0;
 };
 
-// Distance (mm) of a point from a segment.
+// Distance of a point from a segment. Given, gives: millimetres. Source: plane geometry. Faults: a segment without length is a
+// point.
 [[nodiscard]] double Distanza(P2 p, P2 a, P2 b);
 
 }  // namespace ombrelia::officina

@@ -15,9 +15,11 @@ struct P3 {
     double x = 0, y = 0, z = 0;
 };
 
+// A shell. Given: its triangles, counter-clockwise from outside, millimetres. Gives: cubic millimetres. Source: the divergence
+// theorem, summed over tetrahedra to the origin. Faults: an open shell has a volume that means nothing.
 struct Solido {
     std::vector<std::array<P3, 3>> facce;
-    [[nodiscard]] double volume() const;  // mm³
+    [[nodiscard]] double volume() const;
     void aggiungi(const Solido &altro, P3 dove);
 };
 

@@ -103,9 +103,11 @@ private:
 };
 
 // --- hours, from the Sun's hour angle and declination, radians -------------------------------------------------------
-// Given: latitude North positive, hour angle t (afternoon positive), declination. Source: cos H = -tan phi tan delta (Smart,
-// Textbook on Spherical Astronomy, ch. II); the kinds of hours as Rohr, Sundials, tells them. Faults: none where there is no such
-// hour. Half of the day's arc, 0 to pi; none where the Sun neither rises nor sets. The Sun's centre, no refraction.
+// All hours. Given: latitude North positive, hour angle t (afternoon positive), declination. Gives: hours, or radians. Source:
+// cos H = -tan phi tan delta (Smart, Textbook on Spherical Astronomy, ch. II); the kinds of hours as Rohr, Sundials, tells them.
+// Faults: none where there is no such hour.
+//
+// Half of the day's arc, 0 to pi; none where the Sun neither rises nor sets. The Sun's centre, no refraction.
 [[nodiscard]] std::optional<double> semiarco(double latitudine, double delta);
 // True hour, 0 to 24, noon at 12.
 [[nodiscard]] double oraVera(double t);

@@ -16,8 +16,8 @@ struct Data {
     friend bool operator==(const Data &, const Data &) = default;
 };
 
-// Julian day at 0h of a date, and the date that holds a Julian day. Source: Meeus, Astronomical Algorithms, ch. 7; departure: the
-// Gregorian calendar for all years. Faults: none.
+// Julian day at 0h of a date, and the date that holds a Julian day. Given, gives: days; see Data. Source: Meeus, Astronomical
+// Algorithms, ch. 7; departure: the Gregorian calendar for all years. Faults: none.
 [[nodiscard]] double giornoGiuliano(const Data &d);
 [[nodiscard]] Data dataDi(double jd);
 // "2026-06-21" both ways; none when it is no date of the years 1 to 9999.
@@ -33,7 +33,11 @@ struct Sole {
 // table of the year. Faults: none.
 [[nodiscard]] Sole soleDi(double jd);
 
-// Hour angle of the Sun, radians, -pi to pi, at a moment and a longitude (radians, West positive).
+// All below. Given: Julian days of universal time, minutes of the equation of time, radians: hour angle t afternoon positive,
+// declination North positive, longitude West positive. Gives: as said. Source: soleDi and the equation of time by definition;
+// moments by repetition and by halving. Faults: none but what is told.
+//
+// Hour angle of the Sun, radians, -pi to pi.
 [[nodiscard]] double angoloOrario(double jd, double equazione, double longitudine);
 // The moment of a day (Julian day at its 0h of universal time) at which the Sun stands at an hour angle there.
 [[nodiscard]] double momento(double jd0, double t, double longitudine);

@@ -5,7 +5,8 @@
 
 namespace ombrelia::ombra {
 
-// m: where the equator crosses the meridian; w: the West point; p: the North celestial pole.
+// m: where the equator crosses the meridian; w: the West point; p: the North celestial pole. Given, gives: components in any
+// unit, the product in its square. Source: vector algebra. Faults: none.
 struct Vettore {
     double m = 0, w = 0, p = 0;
 

@@ -16,6 +16,7 @@ struct PaginaFoglio {
     bool piena = false;  // something of the drawing crosses it
 };
 
+// Given, gives: metres. Source: plane geometry. Faults: margins too wide leave sizes that are not buona().
 struct Impaginazione {
     Carta carta = CARTA_A4;      // as it lies
     double margine = 0.0075;     // metres, on each side of the paper

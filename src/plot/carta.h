@@ -5,10 +5,10 @@
 
 namespace ombrelia {
 
+// Given: metres. Gives: device units, 1440 an inch, whole as a printer gives them. Source: the inch is 0.0254 m. Faults: none.
 struct Carta {
     double larga, alta;
     bool operator==(const Carta &) const = default;
-    // In device units, 1440 an inch, whole as a printer gives them.
     [[nodiscard]] double largaTwip() const;
     [[nodiscard]] double altaTwip() const;
 };

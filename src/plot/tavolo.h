@@ -145,11 +145,11 @@ public:
     [[nodiscard]] const std::vector<int> &cmbScala() const { return vociScala_; }
     void CaricaComboScala(int Minimo, int Corrente);
 
-    // Size of the picture in device units.
+    // Size of the picture. Given: the sheet and its scale. Gives: device units. Source: by definition of the scale. Faults: none.
     [[nodiscard]] double LarghezzaImmagine() const { return q_.L * ScalaBase / scala_; }
     [[nodiscard]] double AltezzaImmagine() const { return q_.H * ScalaBase / scala_; }
 
-    // Present device position as world metres, y downward.
+    // Present device position. Given: device units. Gives: world metres, y downward. Source, faults: as above.
     [[nodiscard]] double xCurrentX() const { return currentX_ / ScalaBase * scala_ - q_.x; }
     [[nodiscard]] double xCurrentY() const { return currentY_ / ScalaBase * scala_ - q_.y; }
 

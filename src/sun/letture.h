@@ -17,7 +17,8 @@ namespace ombrelia::sun {
 // A number and nothing else, between da and a.
 [[nodiscard]] std::string LeggiNumero(std::string_view testo, double da, double a, Valore &numero);
 
-// Degrees to -180..180, 180 included.
+// An angle within half a turn. Given: degrees. Gives: degrees, above -180 to 180. Source: elementary. Faults: no number for what
+// is not finite.
 [[nodiscard]] double Girato(double gradi);
 
 struct LetturaParete {

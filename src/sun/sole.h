@@ -34,7 +34,7 @@ struct SoleDelPannello {
     Valore ascensione = 0;  // right ascension, hours; not reduced, may pass 24
 };
 
-// The Sun at a moment, UT: gives the equation of time in minutes (apparent less mean), everything else in sole.
+// The Sun at a moment. Given: date and time, UT. Gives: the equation of time in minutes (apparent less mean), all else in sole.
 // Anno is joined to the date as text, so a two-digit year is one of the first century. Mese comes back as its last two
 // characters behind "00", Giorno likewise after the carry of the hours.
 // Dates whose number is below 1582 10 15 are of the Julian calendar. No range is tested: a month 0 or 13 goes through the sums.

@@ -120,7 +120,8 @@ private:
     double senLat_, cosLat_, decR_, gn_, unita_;
 };
 
-// Ordinate of the horizon of the original plane, scaled, times segno.
+// Ordinate of the horizon of the original plane. Given: iz_o, radians, gn, unita; segno, 1 or -1. Gives: metres, y upward.
+// Source: elementary geometry. Faults: overflow alone.
 inline Valore OrdinataOrizzonte(const Variabili &v, Valore segno) { return segno * v.unita * tan(v.iz_o) * v.gn; }
 
 // The chord test against it: both ends.
@@ -135,7 +136,8 @@ private:
     bool sotto_;
 };
 
-// The declination of a plane, degrees, folded as a southern latitude works it; a northern one keeps it.
+// The declination of a plane, folded as a southern latitude works it; a northern one keeps it. Given: the latitude's sign,
+// degrees. Gives: degrees, -180..180. Source: by definition, half a turn. Faults: none.
 inline Valore PiegaDeclinazione(Valore latR, Valore gradi) {
     if (!(latR < 0)) return gradi;
     const Valore girata = -(gradi + 180);

@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QDockWidget>
+#include <QKeyEvent>
 #include <QLayout>
 #include <QMenu>
 #include <QMenuBar>
@@ -63,12 +64,10 @@ Aggiunte::Aggiunte(Finestra &finestra, Dialoghi &dialoghi) : QObject(&finestra),
                 for (ombra::Punto &p : punti) p.x *= mm, p.y *= mm;
                 sopra_->accendi({}, std::move(punti), false);
             };
-    // The manual at what has the keys, in the window or in one of its forms.
-    QAction *manuale = CreaComando(ponte, "manuale", this, [this] {
-        if (!ApriManuale(f_.ponte(), &f_, AncoraDi(QApplication::focusWidget())))
-            dialoghi_.avviso(&f_, f_.ponte().Traduci("Il manuale non è installato"));
-    });
+    QAction *manuale = CreaComando(ponte, "manuale", this, [this] { apriManuale(&f_); });
     manuale->setShortcutContext(Qt::ApplicationShortcut);
+    tastiManuale_ = manuale->shortcut();
+    qApp->installEventFilter(this);
     QMenu *aiuto = menu(QStringLiteral("&?"));
     aiuto->insertAction(aiuto->actions().value(0), manuale);
     constexpr int CALMA = 150;
@@ -97,6 +96,21 @@ QMenu *Aggiunte::menu(const QString &titolo) {
     for (QAction *a : f_.menuBar()->actions())
         if (a->menu() && a->text() == titolo) return a->menu();
     return f_.menuBar()->addMenu(titolo);
+}
+
+// The manual at what has the keys, in the window or in one of its forms.
+void Aggiunte::apriManuale(QWidget *sopra) {
+    if (!ApriManuale(f_.ponte(), sopra, AncoraDi(QApplication::focusWidget())))
+        dialoghi_.avviso(sopra, f_.ponte().Traduci("Il manuale non è installato"));
+}
+
+// A box that must be answered first keeps the keys from the window's commands; the manual it needs opens over it.
+bool Aggiunte::eventFilter(QObject *chi, QEvent *e) {
+    QWidget *box = e->type() == QEvent::KeyPress ? QApplication::activeModalWidget() : nullptr;
+    if (!box || !chi->isWidgetType() || QKeySequence(static_cast<QKeyEvent *>(e)->keyCombination()) != tastiManuale_)
+        return QObject::eventFilter(chi, e);
+    apriManuale(box);
+    return true;
 }
 
 // What is laid over the sheet has it painted too: only another drawing counts.

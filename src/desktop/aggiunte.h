@@ -1,6 +1,7 @@
 // What stands round fields and sheet: docks and boxes of their own, hung into the window's menus when it is made.
 #pragma once
 
+#include <QKeySequence>
 #include <QObject>
 #include <QTimer>
 
@@ -22,7 +23,11 @@ public:
     // Before the window takes its docks' remembered places.
     Aggiunte(Finestra &finestra, Dialoghi &dialoghi);
 
+protected:
+    bool eventFilter(QObject *chi, QEvent *e) override;
+
 private:
+    void apriManuale(QWidget *sopra);
     QDockWidget *molo(const QString &titolo, const char *nome, QWidget *contenuto, Qt::DockWidgetArea dove, const QString &tasti);
     // A menu of the window by its caption; never null: the bar gets a new one where it has none.
     QMenu *menu(const QString &titolo);
@@ -35,6 +40,7 @@ private:
     BarraTempo *tempo_ = nullptr;
     PannelloCertificato *certificato_ = nullptr;
     std::size_t disegno_ = 0, impronta_ = 0;
+    QKeySequence tastiManuale_;
     QTimer calma_;  // between the last painting and what follows from it
 };
 

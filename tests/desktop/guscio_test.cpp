@@ -314,6 +314,17 @@ TEST(Guscio, TheManualOpensWhereTheKeysAre) {
     EXPECT_EQ(qui(b.f.findChild<QWidget *>(QStringLiteral("tavolaCertificato"))), "Il certificato");
     EXPECT_EQ(qui(b.f.findChild<QWidget *>(QStringLiteral("elencoPassi"))), "Annullare: i passi fatti");
     EXPECT_EQ(qui(nullptr), "");  // its beginning
+    // A box that must be answered first has its own, over it.
+    QDialog box(&b.f);
+    box.setObjectName(QStringLiteral("perMacchina"));
+    box.setModal(true);
+    auto *campo = new QLineEdit(&box);
+    box.show();
+    campo->setFocus();
+    QTest::keyClick(campo, Qt::Key_F1);
+    const auto *suo = box.findChild<QTextBrowser *>(QStringLiteral("manuale"));
+    ASSERT_TRUE(suo && suo->isVisible());
+    EXPECT_GT(suo->textCursor().position(), 0);
     QDir::setCurrent(casa);
 }
 

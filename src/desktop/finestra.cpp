@@ -160,10 +160,7 @@ Finestra::Finestra(Dialoghi &dialoghi) : dialoghi_(dialoghi), utente_(dialoghi),
     ponte_.widget("txtLAT")->setFocus(Qt::OtherFocusReason);
 }
 
-Finestra::~Finestra() {
-    vivo_.reset();
-    if (scrivano_.joinable()) scrivano_.join();
-}
+Finestra::~Finestra() { vivo_.reset(); }
 
 // What has no name yet for those who hear the window.
 void Finestra::nomina() {

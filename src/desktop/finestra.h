@@ -5,6 +5,7 @@
 #include <memory>
 #include <optional>
 #include <thread>
+#include <vector>
 
 #include "desktop/clessidra.h"
 #include "desktop/dialoghi.h"
@@ -131,7 +132,7 @@ private:
     bool piastrelle(const std::function<bool(const paint::Avanzamento &)> &lavoro);
 
     Dialoghi &dialoghi_;
-    std::thread scrivano_;  // of fabbrica, perhaps given up
+    std::vector<std::jthread> rinunciati_;  // of fabbrica: files that nobody waits for
     UtenteFinestra utente_;
     Sessione s_;
     Ponte ponte_;

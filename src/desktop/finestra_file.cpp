@@ -173,14 +173,13 @@ bool Finestra::piastrelle(const std::function<bool(const paint::Avanzamento &)> 
 }
 
 std::optional<Finestra::Prodotto> Finestra::fabbrica(const std::function<Prodotto(Tavolo &)> &lavoro) {
-    if (scrivano_.joinable()) scrivano_.join();
     auto foglio = std::make_shared<Tavolo>(perCarta());
     foglio->dispositivo = nullptr;
     foglio->suMessaggio = nullptr;
     foglio->suAttesa = nullptr;
     auto promessa = std::make_shared<std::promise<Prodotto>>();
     std::future<Prodotto> futuro = promessa->get_future();
-    scrivano_ = std::thread([foglio, promessa, lavoro] {
+    std::jthread scrivano([foglio, promessa, lavoro] {
         try {
             promessa->set_value(lavoro(*foglio));
         } catch (...) {
@@ -199,7 +198,9 @@ std::optional<Finestra::Prodotto> Finestra::fabbrica(const std::function<Prodott
             box->show();
         }
         QCoreApplication::processEvents(box ? QEventLoop::AllEvents : QEventLoop::ExcludeUserInputEvents);
-        if (box && box->wasCanceled()) return messaggio(ponte_.Traduci("Nessun file scritto")), std::nullopt;
+        if (!box || !box->wasCanceled()) continue;
+        rinunciati_.push_back(std::move(scrivano));
+        return messaggio(ponte_.Traduci("Nessun file scritto")), std::nullopt;
     }
     try {
         return futuro.get();

@@ -57,6 +57,7 @@ and size, and what of the drawing the form has no place for.
   --check BOX        a feature: chkOreAstronomiche, Ck_DayLightCurves, ck_Equinoziale, ck_Italiche, ck_babiloniche, ckTemp,
                      ck_Lemniscate, ck_Triangolo, ck_Sustilare, ckAlt, ckAz, ckAsr, CkQibla, ck_Orizzonte, ckAssi ...
                      ChCentimetro: lengths are millimetres; ck_Etna: true time of the zone; ckFunzione: intermediate lines
+  --uncheck BOX      clears a box, as one of the project's
   --corrected        true lines in place of those that are not (the box ckCorretta)
   --engine ENGINE    auto (as the run button decides), direct, vertical or analytic (walls only)
   --map              the map of the world on the dial

@@ -61,14 +61,15 @@ void Campi::opzioni(Opzioni &o) {
                            return {};
                        },
                        true});
-    o.righe.push_back({"--check", 1, "a box, as in ck_Italiche",
-                       [this](const Valori &v) {
-                           caselle.push_back(v[0]);
-                           return std::string();
-                       },
-                       true});
+    for (const auto &[nome, valore] : {std::pair{"--check", 1}, {"--uncheck", 0}})
+        o.righe.push_back({nome, 1, "a box, as in ck_Italiche",
+                           [this, valore = valore](const Valori &v) {
+                               caselle.emplace_back(v[0], valore);
+                               return std::string();
+                           },
+                           true});
     o.righe.push_back({"--corrected", 0, {}, [this](const Valori &) {
-                           caselle.emplace_back("ckCorretta");
+                           caselle.emplace_back("ckCorretta", 1);
                            return std::string();
                        }});
 }
@@ -97,10 +98,10 @@ std::string Campi::Applica(Sessione &s) const {
         if (const std::string e = leggiCampo(RigaDi(*id), testo); !e.empty()) return "--set " + nome + ": " + e;
         if (std::string e = motivo(app::Imposta(s, *id, testo), nome); !e.empty()) return e;
     }
-    for (const std::string &nome : caselle) {
+    for (const auto &[nome, valore] : caselle) {
         const auto id = CercaControllo(nome);
         if (!id) return "unknown box " + nome;
-        if (std::string e = motivo(app::Spunta(s, *id, 1), nome); !e.empty()) return e;
+        if (std::string e = motivo(app::Spunta(s, *id, valore), nome); !e.empty()) return e;
     }
     return {};
 }

@@ -14,11 +14,11 @@ namespace ombrelia::cli {
 struct Campi {
     std::string progetto;
     std::vector<std::pair<std::string, std::string>> testi;
-    std::vector<std::string> caselle;
+    std::vector<std::pair<std::string, int>> caselle;  // and 1 to set, 0 to clear
     std::string luogo, paese;
 
-    // Adds --project FILE, --place NAME, --country XX, --set FIELD=TEXT, --check BOX and --corrected. The rows keep what they
-    // take in this object.
+    // Adds --project FILE, --place NAME, --country XX, --set FIELD=TEXT, --check BOX, --uncheck BOX and --corrected. The rows
+    // keep what they take in this object.
     void opzioni(Opzioni &o);
     // Opens the project, sets the place, then gives fields and boxes in their order; from then on a run is of its fields. Angles
     // may be written as people do, and a number may have a comma for its point: the field gets a plain number. Empty, or what

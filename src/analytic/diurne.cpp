@@ -189,13 +189,13 @@ void CalcolaSolstiziOrizzonte(Corsa &c, const LineeAttese &) {
         std::string_view etichetta;
         Valore valore;
         double y;
-    } righe[] = {{"lat = "_it, Gradi(v.lat_o), -0.7},
-                 {"d = "_it, Gradi(v.dec_o), -0.65},
-                 {"i = "_it, Gradi(v.iz_o), -0.6},
-                 {"gn = "_it, v.gn / v.unita, -0.55}};
+    } righe[] = {{"lat = "_it, Gradi(v.lat_o), 0.7},
+                 {"d = "_it, Gradi(v.dec_o), 0.65},
+                 {"i = "_it, Gradi(v.iz_o), 0.6},
+                 {"gn = "_it, v.gn / v.unita, 0.55}};
     for (const auto &riga : righe) {
-        s.Dati(s.Traduci(riga.etichetta), 0.1, -riga.y);
-        s.Dati(Frase() << riga.valore, 0.15, -riga.y);
+        s.Dati(s.Traduci(riga.etichetta), 0.1, riga.y);
+        s.Dati(Frase() << riga.valore, 0.15, riga.y);
     }
     if (v.inc_o == 90) return;
     Reale ore12;

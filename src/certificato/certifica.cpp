@@ -223,7 +223,7 @@ Certificato Certifica(const DatiCertificato &dati, const Lista &lista, double to
     std::vector<Giudice> giudici;
     std::map<std::pair<Specie, long>, std::size_t> quale;
     std::size_t giudicati = 0;
-    const double verso = dati.posa.australe ? -1 : 1;
+    const double verso = dati.posa.verso();
     for (const Pretesa &p : lista.pretese) {
         if (!giudicabile(p.specie)) continue;
         const auto [posto, nuovo] = quale.try_emplace({p.specie, std::lround(p.valore * 1e5)}, giudici.size());

@@ -14,6 +14,8 @@ struct Posa {
     double unita = 1;                   // metres in a unit of the fields
     bool australe = false;              // the list of its drawing is the mirror image: x is the other way round there
 
+    // From the list's x to that of the plane as mounted, and back.
+    [[nodiscard]] double verso() const { return australe ? -1 : 1; }
     // Hours of the zone's mean time East of Greenwich.
     [[nodiscard]] double fuso() const { return -meridiano * ombra::GRADI / 15; }
     // Minutes that make the site's true time the zone's: added to it.

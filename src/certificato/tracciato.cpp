@@ -24,7 +24,7 @@ constexpr double MARGINI[] = {1e-12, 1e-9};
 
 }  // namespace
 
-Scena::Scena(const Sessione &s) : posa_(PosaDelDisegno(s)), piano_(posa_.quadrante), verso_(posa_.australe ? -1 : 1) {
+Scena::Scena(const Sessione &s) : posa_(PosaDelDisegno(s)), piano_(posa_.quadrante), verso_(posa_.verso()) {
     // An equivalent dial's field of longitude holds its difference too, and stays on the zone's where local hours were
     // asked for.
     longitudine_ = s.v.flagVerticale == 1 ? campo(s.in.txtLonG, ombra::RADIANTI) + s.v.diffLong.numero() : posa_.longitudine;

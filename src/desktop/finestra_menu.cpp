@@ -174,7 +174,7 @@ void Finestra::costruisciVista(QMenu *vedi) {
     nostro("vero", [&f] { f.vero(); });
     nostro("allaCornice", [this, &f] {
         const Cornice c = CorniceDi(Lettura(s_.in));
-        f.inquadra(QRectF(QPointF(c.xMin.numero(), -c.yMax.numero()), QPointF(c.xMax.numero(), -c.yMin.numero())));
+        f.inquadra(QRectF(QPointF(c.xMin.numero(), c.yMin.numero()), QPointF(c.xMax.numero(), c.yMax.numero())));
     });
     nostro("allaLinea", [this, &f] {
         if (const auto dove = strati_->dovScelta()) f.inquadra(*dove);

@@ -36,14 +36,20 @@ double Foglio::fattoreVero() const {
 }
 
 QPointF Foglio::suMondo(const QPointF &punto) const {
-    const QPointF d = suDispositivo(punto);
-    const double k = tavolo_.Scala() / Tavolo::ScalaBase;
-    return {d.x() * k - tavolo_.ShiftX(), d.y() * k - tavolo_.ShiftY()};
+    const QPointF m = daBordo(punto);
+    const PuntoPiano p = tavolo_.disegnato(m.x(), m.y());
+    return {p.x, p.y};
 }
 
 QPointF Foglio::daMondo(const QPointF &m) const {
-    const double k = Tavolo::ScalaBase / tavolo_.Scala() * vista_.fattore;
-    return QPointF(m.x() + tavolo_.ShiftX(), m.y() + tavolo_.ShiftY()) * k + vista_.origine;
+    const PuntoPiano p = tavolo_.dipinto(m.x(), m.y());
+    return alPunto({p.x, p.y});
+}
+
+QPointF Foglio::daBordo(const QPointF &punto) const { return suDispositivo(punto) * (tavolo_.Scala() / Tavolo::ScalaBase); }
+
+QPointF Foglio::alPunto(const QPointF &metri) const {
+    return metri * (Tavolo::ScalaBase / tavolo_.Scala() * vista_.fattore) + vista_.origine;
 }
 
 double Foglio::metriAlPunto() const { return tavolo_.Scala() / Tavolo::ScalaBase / vista_.fattore; }
@@ -74,11 +80,6 @@ void Foglio::mostraRighelli(bool si) {
 void Foglio::fumetto(const QString &testo) {
     if (testo == fumetto_) return;
     fumetto_ = testo;
-    viewport()->update();
-}
-
-void Foglio::segna(std::optional<QPointF> mondo) {
-    segno_ = mondo;
     viewport()->update();
 }
 
@@ -246,21 +247,21 @@ void Foglio::wheelEvent(QWheelEvent *e) {
 void Foglio::mousePressEvent(QMouseEvent *e) {
     if (e->button() != Qt::LeftButton && e->button() != Qt::MiddleButton) return;
     premuto_ = e->position();
-    if (conMisura_ && e->button() == Qt::LeftButton) misurata_ = {suMondo(e->position()), suMondo(e->position())};
+    if (conMisura_ && e->button() == Qt::LeftButton) misurata_ = {daBordo(e->position()), daBordo(e->position())};
     ultimo_ = e->position().toPoint();
     trascina_ = false;
 }
 
 void Foglio::mouseMoveEvent(QMouseEvent *e) {
     puntatore_ = e->position();
-    if (suPosizione) suPosizione(suMondo(e->position()) * 1000);
+    if (suPosizione) suPosizione((daBordo(e->position()) - piede()) * 1000);
     if (conLente_) viewport()->update();
     if (!premuto_) {
         if (suSotto) suSotto(suMondo(e->position()));
         return;
     }
     if (conMisura_ && misurata_ && (e->buttons() & Qt::LeftButton)) {
-        misurata_->second = suMondo(e->position());
+        misurata_->second = daBordo(e->position());
         trascina_ = true;
         viewport()->update();
         return;

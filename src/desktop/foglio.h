@@ -22,34 +22,33 @@ public:
     // True size on this screen.
     void vero();
     void ingrandisci(double volte);
-    // A part of the sheet, world metres as painted, fills the window.
+    // A part of the drawing, metres, fills the window.
     void inquadra(const QRectF &mondo);
     [[nodiscard]] const Vista &vista() const { return vista_; }
     [[nodiscard]] const StileFoglio &stile() const { return vista_.stile; }
     void stile(const StileFoglio &nuovo);
     // Device position of the sheet under a point of the picture.
     [[nodiscard]] QPointF suDispositivo(const QPointF &punto) const { return (punto - vista_.origine) / vista_.fattore; }
-    // World metres as painted under a point of the picture, and back.
+    // The drawing's metres, y upward, under a point of the picture, and back.
     [[nodiscard]] QPointF suMondo(const QPointF &punto) const;
     [[nodiscard]] QPointF daMondo(const QPointF &mondo) const;
     // Metres in a dot of the picture.
     [[nodiscard]] double metriAlPunto() const;
     [[nodiscard]] bool sulFoglio(const QPointF &punto) const { return vista_.foglio(tavolo_).contains(punto); }
 
-    // What is laid over the picture: colours with their names, a line of text at the foot, a mark at a point.
+    // What is laid over the picture: colours with their names, a line of text at the foot.
     void legenda(std::vector<std::pair<QString, QColor>> voci);
     void mostraLegenda(bool si);
     [[nodiscard]] const QRect &postoLegenda() const { return legendaQui_; }
     void mostraRighelli(bool si);
     void fumetto(const QString &testo);
-    void segna(std::optional<QPointF> mondo);
     // Two tools of the pointer: measuring between two points, and a lens that shows true size.
     void misura(bool si);
     void lente(bool si);
 
     std::function<void(const QPointF &)> suClic, suDestro;    // a point of the picture; of the other button
-    std::function<void(std::optional<QPointF>)> suPosizione;  // world millimetres under the pointer
-    std::function<void(const QPointF &)> suSotto;             // world metres as painted
+    std::function<void(std::optional<QPointF>)> suPosizione;  // millimetres from the dial's foot on the sheet, y downward
+    std::function<void(const QPointF &)> suSotto;             // metres of the drawing
     std::function<void(const Vista &)> suDipinto;
     std::function<QString(double millimetri, double gradi)> testoMisura;
 
@@ -74,6 +73,10 @@ private:
     void dipingiLegenda(QPainter &p);
     void dipingiLente(QPainter &p);
     [[nodiscard]] double fattoreVero() const;
+    // Metres from the sheet's top left corner, y downward, under a point of the picture, and back.
+    [[nodiscard]] QPointF daBordo(const QPointF &punto) const;
+    [[nodiscard]] QPointF alPunto(const QPointF &metri) const;
+    [[nodiscard]] QPointF piede() const { return {tavolo_.ShiftX(), tavolo_.ShiftY()}; }
 
     Tavolo &tavolo_;
     Vista vista_, dipinta_;
@@ -88,8 +91,8 @@ private:
     int colonneLegenda_ = 1;
     bool conLegenda_ = true, conRighelli_ = true, conMisura_ = false, conLente_ = false;
     QString fumetto_;
-    std::optional<QPointF> segno_, puntatore_;             // world metres; a point of the picture
-    std::optional<std::pair<QPointF, QPointF>> misurata_;  // world metres
+    std::optional<QPointF> puntatore_;                     // a point of the picture
+    std::optional<std::pair<QPointF, QPointF>> misurata_;  // metres from the sheet's corner, y downward
 };
 
 }  // namespace ombrelia::desktop

@@ -32,19 +32,12 @@ void Foglio::sopra(QPainter &p) {
     p.setRenderHint(QPainter::Antialiasing);
     const TinteSopra t = tinte(stile().scuro);
     if (conLente_ && puntatore_) dipingiLente(p);
-    if (segno_) {
-        const QPointF c = daMondo(*segno_);
-        p.setPen(QPen(QColor(0xC0, 0x26, 0x1C), 2));
-        p.drawEllipse(c, 7, 7);
-        p.drawLine(c - QPointF(11, 0), c + QPointF(11, 0));
-        p.drawLine(c - QPointF(0, 11), c + QPointF(0, 11));
-    }
     if (misurata_) {
-        const QPointF a = daMondo(misurata_->first), b = daMondo(misurata_->second), d = misurata_->second - misurata_->first;
+        const QPointF a = alPunto(misurata_->first), b = alPunto(misurata_->second), d = misurata_->second - misurata_->first;
         p.setPen(QPen(QColor(0xC0, 0x26, 0x1C), 1.6));
         p.drawLine(a, b);
         for (const QPointF &q : {a, b}) p.drawEllipse(q, 3, 3);
-        const double mm = std::hypot(d.x(), d.y()) * 1000, gradi = std::atan2(-d.y(), d.x()) * 180 / std::numbers::pi;
+        const double mm = std::hypot(d.x(), d.y()) * 1000, gradi = std::atan2(Capovolta(d.y()), d.x()) * 180 / std::numbers::pi;
         const QString testo = testoMisura ? testoMisura(mm, gradi) : QStringLiteral("%1 mm").arg(mm, 0, 'f', 1);
         const QRectF r = p.boundingRect(QRectF(), Qt::AlignLeft, testo).translated((a + b) / 2 + QPointF(8, -22));
         p.fillRect(r.adjusted(-4, -2, 4, 2), t.fondo);
@@ -81,13 +74,13 @@ void Foglio::righelli(QPainter &p) {
     p.setPen(t.bordo);
     p.drawLine(0, RIGHELLO, l, RIGHELLO);
     p.drawLine(RIGHELLO, 0, RIGHELLO, h);
-    const QPointF inizio = suMondo({0, 0}) * 1000, fine = suMondo(QPointF(l, h)) * 1000;
+    const QPointF inizio = (daBordo({0, 0}) - piede()) * 1000, fine = (daBordo(QPointF(l, h)) - piede()) * 1000;
     const auto tacche = [&](double da, double a, const auto &disegna) {
         for (double x = std::ceil(da / tacca) * tacca; x <= a; x += tacca)
             disegna(x, std::fabs(std::remainder(x, numero)) < tacca / 2);
     };
     tacche(inizio.x(), fine.x(), [&](double x, bool lunga) {
-        const int dove = static_cast<int>(std::lround(daMondo({x / 1000, 0}).x()));
+        const int dove = static_cast<int>(std::lround(alPunto(piede() + QPointF(x / 1000, 0)).x()));
         if (dove <= RIGHELLO) return;
         p.setPen(t.bordo);
         p.drawLine(dove, lunga ? 3 : 13, dove, RIGHELLO);
@@ -96,7 +89,7 @@ void Foglio::righelli(QPainter &p) {
         p.drawText(dove + 3, 11, QString::number(std::round(x * 100) / 100 + 0.0));
     });
     tacche(inizio.y(), fine.y(), [&](double y, bool lunga) {
-        const int dove = static_cast<int>(std::lround(daMondo({0, y / 1000}).y()));
+        const int dove = static_cast<int>(std::lround(alPunto(piede() + QPointF(0, y / 1000)).y()));
         if (dove <= RIGHELLO) return;
         p.setPen(t.bordo);
         p.drawLine(lunga ? 3 : 13, dove, RIGHELLO, dove);

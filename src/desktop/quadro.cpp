@@ -273,13 +273,9 @@ bool Quadro::corniceFuori() const {
     const Valore x0 = Val(in.txtX0) * u, x1 = Val(in.txtX1) * u, y0 = Val(in.txtY0) * u, y1 = Val(in.txtY1) * u;
     if (!(x0.esiste() && x1.esiste() && y0.esiste() && y1.esiste())) return false;
     constexpr double NULLA = 1e-9;
-    // As the sheet's mirrors show it.
-    const auto fuori = [](double da, double a, double specchio, double origine, double lato) {
-        const double basso = std::min(specchio * da, specchio * a), alto = std::max(specchio * da, specchio * a);
-        return basso < -origine - NULLA || alto > lato - origine + NULLA;
-    };
-    return fuori(x0.v, x1.v, t.FattoreX, t.ShiftX(), t.QuadranteL()) ||
-           fuori(-y0.v, -y1.v, t.FattoreY, t.ShiftY(), t.QuadranteH());
+    const PuntoPiano a = t.dipinto(x0.v, y0.v), b = t.dipinto(x1.v, y1.v);
+    const auto fuori = [](double p, double q, double lato) { return std::min(p, q) < -NULLA || std::max(p, q) > lato + NULLA; };
+    return fuori(a.x, b.x, t.QuadranteL()) || fuori(a.y, b.y, t.QuadranteH());
 }
 
 void Quadro::aggiorna() {

@@ -44,12 +44,6 @@ void SopraFoglio::accendi(std::vector<std::pair<std::size_t, std::size_t>> tratt
     update();
 }
 
-QPointF SopraFoglio::dot(double x, double y) const {
-    const Quadrante &q = tavolo_.quadrante();
-    const double k = Tavolo::ScalaBase / tavolo_.Scala() * foglio_.vista().fattore;
-    return foglio_.vista().origine + k * QPointF(q.daSinistra(x * tavolo_.FattoreX), q.dallAlto(y * tavolo_.FattoreY));
-}
-
 void SopraFoglio::paintEvent(QPaintEvent *) {
     QPainter p(this);
     p.setRenderHint(QPainter::Antialiasing);

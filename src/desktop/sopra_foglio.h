@@ -34,7 +34,7 @@ protected:
     bool eventFilter(QObject *chi, QEvent *e) override;
 
 private:
-    [[nodiscard]] QPointF dot(double x, double y) const;  // list metres, y down, before the mirrors
+    [[nodiscard]] QPointF dot(double x, double y) const { return foglio_.daMondo({x, y}); }  // metres of the drawing
     [[nodiscard]] QPointF dot(const ombra::Punto &p, bool australe) const { return dot(australe ? -p.x : p.x, p.y); }
     void dipingiOmbra(QPainter &p) const;
     void dipingiAccese(QPainter &p) const;

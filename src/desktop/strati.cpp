@@ -160,13 +160,13 @@ std::vector<Linea> LineeDi(const Tavolo &t) {
         Linea &linea = trovate.try_emplace(chi, Linea{chi.first, chi.second, 0, {}}).first->second;
         if (tipo == 'L') {
             const RecLinea &r = l.Linee[k];
-            const QPointF a(r.X1 * t.FattoreX, -r.Y1 * t.FattoreY), b(r.X2 * t.FattoreX, -r.Y2 * t.FattoreY);
+            const QPointF a(r.X1, r.Y1), b(r.X2, r.Y2);
             linea.metri += std::hypot(b.x() - a.x(), b.y() - a.y());
             const QRectF qui = QRectF(a, b).normalized().adjusted(0, 0, 1e-9, 1e-9);
             linea.dove = linea.dove.isNull() ? qui : linea.dove.united(qui);
         } else if (tipo == 'P') {
             const RecPunto &r = l.Punti[k];
-            const QRectF qui(r.X * t.FattoreX, -r.Y * t.FattoreY, 1e-9, 1e-9);
+            const QRectF qui(r.X, r.Y, 1e-9, 1e-9);
             const auto [prima, primo] = ultimi.try_emplace(chi, qui.topLeft());
             const QPointF passo = qui.topLeft() - std::exchange(prima->second, qui.topLeft());
             if (const double lungo = std::hypot(passo.x(), passo.y()); !primo && lungo <= UNITI) linea.metri += lungo;
@@ -178,11 +178,10 @@ std::vector<Linea> LineeDi(const Tavolo &t) {
     return linee;
 }
 
-std::optional<Linea> LineaSotto(const Tavolo &t, const StileFoglio &stile, const QPointF &punto, double raggio) {
+std::optional<Linea> LineaSotto(const Tavolo &t, const StileFoglio &stile, const QPointF &qui, double raggio) {
     const Lista &l = t.lista();
     double vicino = raggio;
     std::optional<std::pair<std::size_t, double>> chi;
-    const QPointF qui(punto.x() * t.FattoreX, -punto.y() * t.FattoreY);
     percorri(l, [&](char tipo, std::size_t k, const Pretesa *p) {
         if (!p || p->specie == Specie::Nessuna || (tipo != 'L' && tipo != 'P')) return;
         double d = vicino;
@@ -230,8 +229,7 @@ QString LetturaDi(const Sessione &s, const QPointF &punto) {
     const Posa posa = PosaDelDisegno(s);
     if (!(std::fabs(posa.quadrante.gnomone) > 0)) return {};
     // The list of a southern dial is its mirror image; the surface's mirror shows it as it is mounted.
-    const double x = punto.x() * s.tavolo.FattoreX * (posa.australe ? -1 : 1), y = -punto.y() * s.tavolo.FattoreY;
-    const LetturaPunto l = LeggiPunto(posa, {x, y}, Oggi(posa.fuso()).anno);
+    const LetturaPunto l = LeggiPunto(posa, {punto.x() * posa.verso(), punto.y()}, Oggi(posa.fuso()).anno);
     if (l.sole.luce != ombra::Luce::Si) return {};
     const auto t = [&s](std::string_view testo) { return Q(s.Traduci(testo)); };
     QString testo = t("ora vera"_it) + QLatin1Char(' ') + oreMinuti(l.oraVera);

@@ -59,19 +59,18 @@ struct Linea {
     std::size_t strato = 0;
     double valore = 0;
     double metri = 0;  // length
-    QRectF dove;       // world metres, as painted
+    QRectF dove;       // metres of the drawing
 };
 [[nodiscard]] std::vector<Linea> LineeDi(const Tavolo &t);
 
-// The line under a point, world metres as painted, within a reach in metres; none when there is none. Frame and glyphs are
-// no lines.
-[[nodiscard]] std::optional<Linea> LineaSotto(const Tavolo &t, const StileFoglio &stile, const QPointF &punto, double raggio);
+// The line under a point of the drawing, metres, within a reach in metres; none when there is none. Frame and glyphs are no
+// lines.
+[[nodiscard]] std::optional<Linea> LineaSotto(const Tavolo &t, const StileFoglio &stile, const QPointF &qui, double raggio);
 
 // Names as people say them, through the dictionary: "Ore", "Ora 9:30", "Linea diurna 23.4°".
 [[nodiscard]] QString NomeStrato(const Sessione &s, std::size_t strato);
 [[nodiscard]] QString NomeLinea(const Sessione &s, std::size_t strato, double valore);
-// What a point of the dial says, read back by vectors: time, dates, Sun; empty where no Sun reads there. World metres as
-// painted.
+// What a point of the drawing says, read back by vectors: time, dates, Sun; empty where no Sun reads there. Metres.
 [[nodiscard]] QString LetturaDi(const Sessione &s, const QPointF &punto);
 
 }  // namespace ombrelia::desktop

@@ -29,7 +29,10 @@ protected:
     void mouseDoubleClickEvent(QMouseEvent *) override { tutto(); }
 
 private:
-    [[nodiscard]] QPointF dot(officina::P2 p) const { return {x0_ + p.x * fattore_, y0_ - p.y * fattore_}; }
+    [[nodiscard]] QPointF dot(officina::P2 p) const {
+        const Quadrante vista{0, 0, x0_, y0_};
+        return {vista.daSinistra(p.x * fattore_), vista.dallAlto(p.y * fattore_)};
+    }
     void dipingi(QPainter &p, const officina::Cammino &c) const;
 
     QString inizio_, fine_, invece_;

@@ -55,7 +55,7 @@ void PuntoOpzionale(Sessione &s) {
     if (!s.ombraVera(H, D, x, y)) return;
     // The circle's radius is not scaled by unita, the star's is: meant.
     s.tavolo.TracciaCerchio(x, y, (v.gn / 20) * std::sin(18 * PI / 180) / std::sin(126 * PI / 180), GIALLO, BLU, 1, -CERCHIO, 0);
-    DisegnaStella(s, x, -y, v.unita * v.gn / 20, BIANCO);
+    DisegnaStella(s, x, Capovolta(Valore(y)), v.unita * v.gn / 20, BIANCO);
 }
 
 void DisegnaStella(Sessione &s, Valore X, Valore Y, Valore raggio, Colore colore) {

@@ -38,7 +38,7 @@ std::string xml(std::string_view s) {
 
 class ScrittoreSvgMacchina {
 public:
-    explicit ScrittoreSvgMacchina(const Disegno &d) : d_(d), pagina_(Pagina(d)) {}
+    explicit ScrittoreSvgMacchina(const Disegno &d) : d_(d), pagina_(Pagina(d)), foglio_{0, 0, -pagina_.x0, pagina_.y1} {}
 
     std::string scrivi(const std::string &titolo) {
         t = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<svg xmlns=\"http://www.w3.org/2000/svg\" "
@@ -59,9 +59,9 @@ public:
 private:
     void numero(double n) { AggiungiDecimali(t, n, 4); }
     void punto(P2 p) {
-        numero(p.x - pagina_.x0);
+        numero(foglio_.daSinistra(p.x));
         t += ' ';
-        numero(pagina_.y1 - p.y);
+        numero(foglio_.dallAlto(p.y));
     }
     void attributo(std::string_view nome, double n) {
         ((t += ' ') += nome) += "=\"";
@@ -85,14 +85,14 @@ private:
     void cammino(const Cammino &c, const char *colore) {
         if (c.tipo == Cammino::Tipo::Cerchio) {
             t += "<circle";
-            attributo("cx", c.punti[0].x - pagina_.x0);
-            attributo("cy", pagina_.y1 - c.punti[0].y);
+            attributo("cx", foglio_.daSinistra(c.punti[0].x));
+            attributo("cy", foglio_.dallAlto(c.punti[0].y));
             attributo("r", c.raggio);
             t += "/>\n";
         } else if (c.tipo == Cammino::Tipo::Testo) {
             t += "<text xml:space=\"preserve\"";
-            attributo("x", c.punti[0].x - pagina_.x0);
-            attributo("y", pagina_.y1 - c.punti[0].y);
+            attributo("x", foglio_.daSinistra(c.punti[0].x));
+            attributo("y", foglio_.dallAlto(c.punti[0].y));
             t += std::string(" fill=\"") + colore + "\" stroke=\"none\" font-family=\"sans-serif\"";
             attributo("font-size", CORPO * c.raggio);
             t += ">" + xml(c.testo) + "</text>\n";
@@ -122,6 +122,7 @@ private:
 
     const Disegno &d_;
     const Riquadro pagina_;
+    const Quadrante foglio_;  // millimetres, the drawing's foot on the page
     std::string t;
 };
 

@@ -6,6 +6,7 @@
 
 #include "core/testo.h"
 #include "plot/percorso.h"
+#include "plot/quadrante.h"
 
 namespace ombrelia {
 
@@ -20,12 +21,12 @@ public:
 
     void punto(const RecPunto &r) {
         t += 'P';
-        numeri({r.X, -r.Y});
+        numeri({r.X, Capovolta(r.Y)});
         fine({r.colore}, r.Id);
     }
     void linea(const RecLinea &r) {
         t += 'L';
-        numeri({r.X1, -r.Y1, r.X2, -r.Y2});
+        numeri({r.X1, Capovolta(r.Y1), r.X2, Capovolta(r.Y2)});
         fine({r.colore, r.Spessore}, r.Id);
     }
     void figura(std::size_t i) {
@@ -40,7 +41,7 @@ public:
     // Texts have no layer: the field stays empty.
     void testo(const RecTesto &r) {
         t += 'T';
-        numeri({r.X, -r.Y});
+        numeri({r.X, Capovolta(r.Y)});
         t += "\t\t";
         testo(r.Testo);
         t += '\n';
@@ -52,16 +53,16 @@ private:
     void scrivi(const RecFigura &r) {
         t += r.Tipo;
         if (r.Tipo == 'B') {
-            numeri({r.X1, -r.Y1, r.X2, -r.Y2});
+            numeri({r.X1, Capovolta(r.Y1), r.X2, Capovolta(r.Y2)});
             fine({r.colore, r.pieno ? 1 : 0}, r.Id);
         } else if (r.Tipo == 'C') {
-            numeri({r.X1, -r.Y1, r.X2, r.Y2});
+            numeri({r.X1, Capovolta(r.Y1), r.X2, r.Y2});
             interi({r.colore, r.Riempimento});
             numeri({r.A, r.B});
             fine({}, r.Id);
         } else {
             t += r.voce == Voce::START ? "\tSTART" : r.voce == Voce::VERTEX ? "\tVERTEX" : "\tEND";
-            numeri({r.X1, -r.Y1});
+            numeri({r.X1, Capovolta(r.Y1)});
             fine({r.colore}, r.Id);
         }
     }

@@ -61,7 +61,7 @@ public:
             for (int c = std::max(numero(sinistra - oltreX, g_.passoX), 0); c <= numero(std::min(destra, L_), g_.passoX); ++c) {
                 if (c * g_.passoX >= L_ || r * g_.passoY >= H_ || tessere.contains({r, c})) continue;
                 const Quadrante tessera{g_.larga, g_.alta, -c * g_.passoX, -r * g_.passoY};
-                double a = x1, b = -y1, d = x2, e = -y2;  // a page is a sheet of its own
+                double a = x1, b = Capovolta(y1), d = x2, e = Capovolta(y2);  // a page is a sheet of its own
                 if (tessera.RitagliaSegmento(a, b, d, e) > 0) tessere.insert({r, c});
             }
     }

@@ -7,13 +7,20 @@
 
 namespace ombrelia {
 
+// In this file, and nowhere else, y is turned: here about the foot, between a dial's ordinate and that of the system's own
+// operations, which grows downward; in dallAlto about the sheet's edge.
+template <class N>
+[[nodiscard]] constexpr N Capovolta(N y) {
+    return -y;
+}
+
 // Metres. L wide, H high, the origin (x, y) from the top left corner; in world coordinates, y upward, the sheet reaches from
 // (-x, y) at its top left to (L - x, y - H).
 struct Quadrante {
     double L = 0, H = 0, x = 0, y = 0;
 
-    // Where a place of the world lies on the sheet, from its top left corner. Here, and nowhere else, y is turned: a dial's grows
-    // upward, the sheet's downward.
+    // Where a place of the world lies on the sheet, from its top left corner: a dial's y grows upward, the sheet's downward. What
+    // undoes dallAlto is dallAlto.
     template <class N>
     [[nodiscard]] N daSinistra(N X) const {
         return X + x;

@@ -114,7 +114,7 @@ void Tavolo::TracciaCerchio(Valore X, Valore Y, Valore Raggio, Colore colore, Co
 void Tavolo::xPlineStart(std::string_view Id) { figura({'V', Voce::START, false, 0, PIEDE, 0, 0, 0, 0, 4, 0, nome(Id)}, 'V'); }
 
 void Tavolo::xPLineVertex(Valore X, Valore Y, Colore colore, std::string_view Id) {
-    if (X.esiste() && Y.esiste()) figura({'V', Voce::VERTEX, false, X.v, -Y.v, 0, 0, 0, 0, colore, 0, nome(Id)}, 0);
+    if (X.esiste() && Y.esiste()) figura({'V', Voce::VERTEX, false, X.v, Capovolta(Y.v), 0, 0, 0, 0, colore, 0, nome(Id)}, 0);
 }
 
 void Tavolo::xPlineEnd(std::string_view Id) {

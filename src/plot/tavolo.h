@@ -71,18 +71,18 @@ public:
     // The system's own operations, in the sheet's frame: y downward.
     template <class... T>
     void xLine(Valore X1, Valore Y1, Valore X2, Valore Y2, Colore colore, const T &...altro) {
-        TracciaLinea(X1, -Y1, X2, -Y2, colore, altro...);
+        TracciaLinea(X1, Capovolta(Y1), X2, Capovolta(Y2), colore, altro...);
     }
     template <class... T>
     void xPset(Valore X, Valore Y, Colore colore, const T &...altro) {
-        TracciaPunto(X, -Y, colore, altro...);
+        TracciaPunto(X, Capovolta(Y), colore, altro...);
     }
     template <class... T>
     void xCircle(Valore X, Valore Y, Valore Raggio, Colore colore, const T &...altro) {
-        TracciaCerchio(X, -Y, Raggio, colore, altro...);
+        TracciaCerchio(X, Capovolta(Y), Raggio, colore, altro...);
     }
     void xBox(Valore X1, Valore Y1, Valore X2, Valore Y2, Colore colore, bool Filled, std::string_view Id = {}) {
-        TracciaRiquadro(X1, -Y1, X2, -Y2, colore, Filled, Id);
+        TracciaRiquadro(X1, Capovolta(Y1), X2, Capovolta(Y2), colore, Filled, Id);
     }
     void xPlineStart(std::string_view Id);
     void xPLineVertex(Valore X, Valore Y, Colore colore, std::string_view Id);
@@ -91,7 +91,7 @@ public:
     // Text at (X, Y), or at the present device position where a coordinate is missing. Afterwards the position is the
     // left edge of the sheet, one line lower. Texts do not mirror.
     void Dati(std::string_view Text, std::optional<Valore> X = {}, std::optional<Valore> Y = {}) {
-        scrivi(Text, X, Y ? std::optional(-*Y) : std::nullopt);
+        scrivi(Text, X, Y ? std::optional(Capovolta(*Y)) : std::nullopt);
     }
     // Status line; records nothing.
     void Messaggio(std::string_view Text);
@@ -144,6 +144,16 @@ public:
     // Entries of the scale list, from the smallest allowed.
     [[nodiscard]] const std::vector<int> &cmbScala() const { return vociScala_; }
     void CaricaComboScala(int Minimo, int Corrente);
+
+    // Where a point of the drawing is painted, and what point is painted there. Given: metres, y upward; back, metres from the
+    // sheet's top left corner, y downward. Gives: the other of the two, mirrored as the sheet is. Source: by definition of the
+    // sheet. Faults: none.
+    [[nodiscard]] PuntoPiano dipinto(double x, double y) const {
+        return {q_.daSinistra(x * FattoreX), q_.dallAlto(y * FattoreY)};
+    }
+    [[nodiscard]] PuntoPiano disegnato(double daSinistra, double dallAlto) const {
+        return {(daSinistra - q_.x) * FattoreX, q_.dallAlto(dallAlto) * FattoreY};
+    }
 
     // Size of the picture. Given: the sheet and its scale. Gives: device units. Source: by definition of the scale. Faults: none.
     [[nodiscard]] double LarghezzaImmagine() const { return q_.L * ScalaBase / scala_; }

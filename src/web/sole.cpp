@@ -13,14 +13,18 @@ namespace {
 
 constexpr double MM = 1000;
 
-// The sheet's millimetres, y downward, and the plane's metres as mounted, y upward.
+// The sheet's millimetres and the plane's metres as mounted.
 struct VistaSole {
-    double x0, y0, versoX, versoY;
-    explicit VistaSole(const Tavolo &t, const Posa &posa)
-        : x0(t.ShiftX()), y0(t.ShiftY()), versoX(t.FattoreX * (posa.australe ? -1 : 1)), versoY(-t.FattoreY) {}
-    [[nodiscard]] ombra::Punto piano(double x, double y) const { return {(x / MM - x0) * versoX, (y / MM - y0) * versoY}; }
+    const Tavolo &tavolo;
+    double verso;
+    VistaSole(const Tavolo &t, const Posa &posa) : tavolo(t), verso(posa.verso()) {}
+    [[nodiscard]] ombra::Punto piano(double x, double y) const {
+        const PuntoPiano p = tavolo.disegnato(x / MM, y / MM);
+        return {p.x * verso, p.y};
+    }
     Json &foglio(Json &j, const ombra::Punto &p) const {
-        return j.apri('[').numero((p.x * versoX + x0) * MM).numero((p.y * versoY + y0) * MM).chiudi(']');
+        const PuntoPiano q = tavolo.dipinto(p.x * verso, p.y);
+        return j.apri('[').numero(q.x * MM).numero(q.y * MM).chiudi(']');
     }
 };
 
@@ -84,9 +88,10 @@ std::string Pagina::Linea(std::size_t pretesa) {
     const RecLinea *prima = nullptr;
     const auto scrivi = [&](char c, double x, double y) {
         d += c;
-        AggiungiNumero(d, std::round(t.quadrante().daSinistra(x * t.FattoreX) * 1e6) / 1e3);
+        const PuntoPiano q = t.dipinto(x, y);
+        AggiungiNumero(d, std::round(q.x * 1e6) / 1e3);
         d += ' ';
-        AggiungiNumero(d, std::round(t.quadrante().dallAlto(y * t.FattoreY) * 1e6) / 1e3);
+        AggiungiNumero(d, std::round(q.y * 1e6) / 1e3);
     };
     for (std::size_t k = p.da; k < p.a && k < l.Ordine.size(); ++k) {
         if (l.Ordine[k] == 'L') {

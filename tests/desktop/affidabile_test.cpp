@@ -322,7 +322,7 @@ TEST(Affidabile, OgniPassoSiAnnullaESiRipete) {
         {"numerals", [&] { b.spunta("ckArabi"); }},
         {"tile",
          [&] {
-             b.f.quadro().foglio().suClic(b.f.quadro().foglio().daMondo({-0.5, -0.4}));
+             b.f.quadro().foglio().suClic(b.f.quadro().foglio().daMondo({-0.5, 0.4}));
          }},
         {"mirror", [&] { b.premi("Tavolo1.cmdInvX"); }},
         {"second run", [&] { b.premi("cmdRun"); }},

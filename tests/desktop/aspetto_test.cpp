@@ -201,7 +201,7 @@ TEST(Aspetto, IlFoglioDiceLeSueLinee) {
         if (p.specie == Specie::Ora && p.valore == 10) dieci = &p;
     ASSERT_NE(dieci, nullptr);
     const RecLinea r = t.lista().Linee[dieci->linea + (dieci->a - dieci->da) / 3];
-    const QPointF mondo((r.X1 + r.X2) / 2, -(r.Y1 + r.Y2) / 2);
+    const QPointF mondo((r.X1 + r.X2) / 2, (r.Y1 + r.Y2) / 2);
     const auto linea =
         desktop::LineaSotto(t, foglio.stile(), mondo + QPointF(0, foglio.metriAlPunto()), 5 * foglio.metriAlPunto());
     ASSERT_TRUE(linea);

@@ -137,7 +137,10 @@ TEST(Guardie, ThePointUnderThePointerIsReadAsTheDialIsMounted) {
             if (p.specie != Specie::Ora || p.valore != 10) continue;
             trovata = true;
             const RecLinea &r = t.lista().Linee[p.linea + (p.a - p.da) / 3];
-            const QPointF visto(t.FattoreX * (r.X1 + r.X2) / 2, -t.FattoreY * (r.Y1 + r.Y2) / 2);
+            // The dot where it is painted.
+            const desktop::Foglio &foglio = b.f.quadro().foglio();
+            const QPointF metri(t.ShiftX() + t.FattoreX * (r.X1 + r.X2) / 2, t.ShiftY() - t.FattoreY * (r.Y1 + r.Y2) / 2);
+            const QPointF visto = foglio.suMondo(metri / foglio.metriAlPunto() + foglio.vista().origine);
             EXPECT_TRUE(desktop::LetturaDi(b.s(), visto).contains(QStringLiteral("ora vera 10:00")))
                 << lat << ": " << desktop::LetturaDi(b.s(), visto).toStdString();
         }

@@ -1,5 +1,5 @@
 // The analytic engine: a wall's dial as straight lines and conics. Origin at the foot of the ortostilo, x to the right, y
-// upward; what is drawn is (x, -y). Its formulas hold no inclination.
+// upward, and so it is drawn. Its formulas hold no inclination.
 #pragma once
 
 #include "sessione/sessione.h"

@@ -77,7 +77,7 @@ void TracciaOreAstronomiche(Corsa &c, const LineeAttese &linee) {
         a = sinE * tanT;
         b = obliqua * tanT;
         k = (b - v.y0 * a) / (cr + sr * a);  // abscissa at y = 0
-        m = (a * cr - sr) / (cr + a * sr);   // dx/dy, y downward
+        m = (a * cr - sr) / (cr + a * sr);   // -dx/dy
         primo.x = -m * 2 + k;
         x2 = m * 2 + k;
         c.s.tavolo.TracciaLinea(primo.x, 2, x2, -2, l.colore, strato, SPESSORE);

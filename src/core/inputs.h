@@ -1,12 +1,12 @@
-// The record of inputs: what the fields and boxes of the main window hold, under the controls' names. It is the
-// single source of truth of a run; the engines read it again whenever they need a field.
+// The record of inputs: what the fields and boxes of the main window hold, under the controls' names. A run
+// reads them once, as numbers (Lettura); where it reads one again, a routine Rileggi... or Leggi... does.
 #pragma once
 
 #include <string>
 
 namespace ombrelia {
 
-// Texts are kept as typed and read by Val at the moment of use; a box counts as set only at 1. The start values and
+// Texts are kept as typed, what they are worth Val says; a box counts as set only at 1. The start values and
 // meanings stand in the table of controls, which fills a new record.
 struct DialInputs {
     // Site, plane and gnomon.

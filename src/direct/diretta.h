@@ -1,5 +1,5 @@
 // The direct engine: a dial on a plane of any declination and inclination, every point by central projection of the
-// Sun's direction. Origin at the foot of the ortostilo, x to the right, y upward; what is drawn is (x, -y).
+// Sun's direction. Origin at the foot of the ortostilo, x to the right, y upward, and so it is drawn.
 #pragma once
 
 #include "sessione/sessione.h"

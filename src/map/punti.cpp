@@ -59,7 +59,7 @@ void PuntoOpzionale(Sessione &s) {
 }
 
 void DisegnaStella(Sessione &s, Valore X, Valore Y, Valore raggio, Colore colore) {
-    // Tips at even multiples of 36 degrees, notches at odd ones; ordinates grow downward on the sheet.
+    // Tips at even multiples of 36 degrees, notches at odd ones; Y is the sheet's, downward.
     const auto ascissa = [&](int gradi) { return X + (gradi % 72 == 0 ? 1 : 0.381966) * raggio * std::cos(gradi * PI / 180); };
     const auto ordinata = [&](int gradi) { return Y - (gradi % 72 == 0 ? 1 : 0.381966) * raggio * std::sin(gradi * PI / 180); };
     for (int k = 0; k < 10; ++k) {

@@ -159,7 +159,7 @@ public:
     [[nodiscard]] double LarghezzaImmagine() const { return q_.L * ScalaBase / scala_; }
     [[nodiscard]] double AltezzaImmagine() const { return q_.H * ScalaBase / scala_; }
 
-    // Present device position. Given: device units. Gives: world metres, y downward. Source, faults: as above.
+    // Present device position. Given: device units. Gives: metres from the world's origin, y downward. Source, faults: as above.
     [[nodiscard]] double xCurrentX() const { return currentX_ / ScalaBase * scala_ - q_.x; }
     [[nodiscard]] double xCurrentY() const { return currentY_ / ScalaBase * scala_ - q_.y; }
 

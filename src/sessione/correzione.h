@@ -41,7 +41,7 @@ struct Attesa {
 // What it may read: the fields (s.in), the original dial (lat_o, iz_o, dec_o, inc_o, lon_o of s.v), segnoLat (-1: a
 // southern run; what is drawn will be mirrored in x), flagVerticale, flagTrasformato, diffLong, lonEq, unita. The other
 // shared variables are an engine's working state. What it draws it draws on s.tavolo as the engines do, metres, y
-// downward, with claims of its own (Pretendi). The Qibla's row is asked in every run of the direct engine, with no lines
+// upward, with claims of its own (Pretendi). The Qibla's row is asked in every run of the direct engine, with no lines
 // where CkQibla is clear, so that the caption's bearing can be put right.
 using Correzione = std::function<bool(Sessione &, const Attesa &)>;
 

@@ -1,5 +1,5 @@
 // The vertical engine: a dial on a wall by spherical trigonometry, every point through the Sun's azimuth and altitude.
-// Origin at the foot of the ortostilo, x to the right, y upward; what is drawn is (x, -y). The latitude keeps its sign.
+// Origin at the foot of the ortostilo, x to the right, y upward, and so it is drawn. The latitude keeps its sign.
 #pragma once
 
 #include "sessione/sessione.h"

@@ -4,6 +4,7 @@
 
 #include "certificato/certificato.h"
 #include "certificato/cielo.h"
+#include "plot/percorso.h"
 
 namespace ombrelia {
 
@@ -20,14 +21,17 @@ constexpr double SUPERFLUO = 0.005, MANCANTE = 0.02, RASTER_MM = 0.5;
 
 class Giudice {
 public:
-    Giudice(const DatiCertificato &dati, Specie specie, double valore, double tolleranza, std::string strato)
+    Giudice(const DatiCertificato &dati, Specie specie, double valore, double tolleranza)
         : dati_(dati), vera_(dati, specie, valore), tolleranza_(tolleranza / MM) {
-        riga_.strato = std::move(strato);
         riga_.specie = specie;
         riga_.valore = valore;
         if (vera_.forma() == LineaVera::Andamento::Curva) coperte_.assign(vera_.campioni().size() + 1, 0), sole_ = coperte_;
     }
 
+    // The layer is that of the first records that have one.
+    void strato(const std::string &nome) {
+        if (riga_.strato.empty()) riga_.strato = nome;
+    }
     void corda(const Punto &a, const Punto &b) {
         const double l = std::hypot(b.x - a.x, b.y - a.y);
         const LineaVera::Esame ea = esamina(a), eb = esamina(b);
@@ -168,6 +172,34 @@ private:
     std::size_t lette_ = 0;
 };
 
+// The records of one claim, before its judge.
+struct VisitaGiudice {
+    Giudice &giudice;
+    const Nomi &nomi;
+    double verso;  // of x: -1 mounts a southern dial
+    bool nomina;   // the line's layer is not known yet
+    std::size_t quanti = 0;
+    std::optional<Punto> prima{};  // the dot before
+
+    void linea(const RecLinea &l) {
+        conta(l.Id);
+        giudice.corda({verso * l.X1, l.Y1}, {verso * l.X2, l.Y2});
+    }
+    void punto(const RecPunto &r) {
+        conta(r.Id);
+        const Punto q{verso * r.X, r.Y};
+        giudice.punto(q, prima ? &*prima : nullptr);
+        prima = q;
+    }
+    static void figura(std::size_t) {}
+
+private:
+    void conta(IdNome id) {
+        if (nomina) giudice.strato(nomi.testo(id));
+        ++quanti;
+    }
+};
+
 // The original dial where it is not the one of the fields: the next one of a session that keeps its first.
 std::optional<QuadranteOriginale> altroOriginale(const Sessione &s) {
     const Variabili &v = s.v;
@@ -227,34 +259,15 @@ Certificato Certifica(const DatiCertificato &dati, const Lista &lista, double to
     for (const Pretesa &p : lista.pretese) {
         if (!giudicabile(p.specie)) continue;
         const auto [posto, nuovo] = quale.try_emplace({p.specie, std::lround(p.valore * 1e5)}, giudici.size());
-        std::size_t linea = p.linea, punto = p.punto;
-        if (nuovo) {
-            std::string strato;
-            for (std::size_t i = p.da, l = p.linea, q = p.punto; i < p.a && strato.empty(); ++i) {
-                if (lista.Ordine[i] == 'L') strato = lista.nomi.testo(lista.Linee[l++].Id);
-                else if (lista.Ordine[i] == 'P') strato = lista.nomi.testo(lista.Punti[q++].Id);
-            }
-            giudici.emplace_back(dati, p.specie, p.valore, tolleranza, strato);
-        }
-        Giudice &g = giudici[posto->second];
-        Punto prima;
-        bool ha = false;
+        if (nuovo) giudici.emplace_back(dati, p.specie, p.valore, tolleranza);
+        VisitaGiudice visita{giudici[posto->second], lista.nomi, verso, nuovo};
         constexpr std::size_t OGNI = 4096;
-        for (std::size_t i = p.da; i < p.a; ++i) {
-            if (fermo && (i == p.da || i % OGNI == 0) && fermo()) return {};
-            if (lista.Ordine[i] == 'L') {
-                const RecLinea &l = lista.Linee[linea++];
-                g.corda({verso * l.X1, l.Y1}, {verso * l.X2, l.Y2});
-                ++giudicati;
-            } else if (lista.Ordine[i] == 'P') {
-                const RecPunto &r = lista.Punti[punto++];
-                const Punto q{verso * r.X, r.Y};
-                g.punto(q, ha ? &prima : nullptr);
-                prima = q;
-                ha = true;
-                ++giudicati;
-            }
+        const std::size_t fine = std::min(p.a, lista.Ordine.size());
+        for (PostoLista qui{p.da, p.linea, p.punto, p.figura}; qui.ordine < fine;) {
+            if (fermo && fermo()) return {};
+            qui = Percorri(lista, qui, std::min(fine, qui.ordine + OGNI), visita);
         }
+        giudicati += visita.quanti;
     }
     c.ignoti = lista.Ordine.size() - giudicati;
     const auto due = [&](const RigaCertificato &r, double mm) {
@@ -299,18 +312,12 @@ std::optional<LineaVicina> TrovaLinea(const DatiCertificato &dati, const Lista &
     for (std::size_t k = 0; k < lista.pretese.size(); ++k) {
         const Pretesa &q = lista.pretese[k];
         if (!giudicabile(q.specie)) continue;
-        std::size_t linea = q.linea, punto = q.punto;
-        for (std::size_t i = q.da; i < q.a; ++i) {
-            if (lista.Ordine[i] == 'L') {
-                const RecLinea &l = lista.Linee[linea++];
-                const double dx = l.X2 - l.X1, dy = l.Y2 - l.Y1, l2 = dx * dx + dy * dy;
-                const double f = l2 > 0 ? std::clamp(((x - l.X1) * dx + (y - l.Y1) * dy) / l2, 0.0, 1.0) : 0;
-                prova(std::hypot(x - l.X1 - f * dx, y - l.Y1 - f * dy), k);
-            } else if (lista.Ordine[i] == 'P') {
-                const RecPunto &r = lista.Punti[punto++];
-                prova(std::hypot(x - r.X, y - r.Y), k);
-            }
-        }
+        const auto linea = [&](const RecLinea &l) {
+            const double dx = l.X2 - l.X1, dy = l.Y2 - l.Y1, l2 = dx * dx + dy * dy;
+            const double f = l2 > 0 ? std::clamp(((x - l.X1) * dx + (y - l.Y1) * dy) / l2, 0.0, 1.0) : 0;
+            prova(std::hypot(x - l.X1 - f * dx, y - l.Y1 - f * dy), k);
+        };
+        Percorri(lista, q, TrattiEPunti{linea, [&](const RecPunto &r) { prova(std::hypot(x - r.X, y - r.Y), k); }});
     }
     return migliore;
 }

@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "plot/percorso.h"
+
 namespace ombrelia::desktop {
 
 namespace {
@@ -81,17 +83,11 @@ void SopraFoglio::dipingiAccese(QPainter &p) const {
         QPen penna(ACCESA, 3.5, Qt::SolidLine, Qt::RoundCap);
         p.setPen(penna);
         // The place of each record among those of its kind is counted from the list's beginning.
-        std::size_t linea = 0, punto = 0, i = 0;
-        for (const auto &[da, a] : accese_) {
-            for (; i < std::min(a, l.Ordine.size()); ++i) {
-                const char tipo = l.Ordine[i];
-                if (i >= da && tipo == 'L' && linea < l.Linee.size())
-                    p.drawLine(dot(l.Linee[linea].X1, l.Linee[linea].Y1), dot(l.Linee[linea].X2, l.Linee[linea].Y2));
-                if (i >= da && tipo == 'P' && punto < l.Punti.size()) p.drawPoint(dot(l.Punti[punto].X, l.Punti[punto].Y));
-                linea += tipo == 'L';
-                punto += tipo == 'P';
-            }
-        }
+        const TrattiEPunti conta{[](const RecLinea &) {}, [](const RecPunto &) {}};
+        const TrattiEPunti dipingi{[&](const RecLinea &r) { p.drawLine(dot(r.X1, r.Y1), dot(r.X2, r.Y2)); },
+                                   [&](const RecPunto &r) { p.drawPoint(dot(r.X, r.Y)); }};
+        PostoLista qui;
+        for (const auto &[da, a] : accese_) qui = Percorri(l, Percorri(l, qui, da, conta), a, dipingi);
     }
     for (const ombra::Punto &segno : segni_) {
         const QPointF qui = dot({segno.x / 1000, segno.y / 1000}, australe_);

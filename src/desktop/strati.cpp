@@ -7,6 +7,7 @@
 
 #include "certificato/istante.h"
 #include "desktop/dialoghi.h"
+#include "plot/percorso.h"
 
 namespace ombrelia::desktop {
 
@@ -49,13 +50,17 @@ constexpr Colore coloreDi(std::uint32_t rgb) {
 // Walks the records in their order with the claim that each belongs to. f(kind, index in its array, claim or null).
 template <class F>
 void percorri(const Lista &l, const F &f) {
-    std::size_t linea = 0, punto = 0, figura = 0, p = 0;
-    for (std::size_t k = 0; k < l.Ordine.size(); ++k) {
-        while (p < l.pretese.size() && k >= l.pretese[p].a) ++p;
-        const Pretesa *mia = p < l.pretese.size() && k >= l.pretese[p].da ? &l.pretese[p] : nullptr;
-        const char tipo = l.Ordine[k];
-        f(tipo, tipo == 'L' ? linea++ : tipo == 'P' ? punto++ : figura++, mia);
-    }
+    struct {
+        const Lista &l;
+        const F &f;
+        const Pretesa *mia = nullptr;
+
+        void pretesa(const Pretesa *p) { mia = p; }
+        void linea(const RecLinea &r) const { f('L', static_cast<std::size_t>(&r - l.Linee.data()), mia); }
+        void punto(const RecPunto &r) const { f('P', static_cast<std::size_t>(&r - l.Punti.data()), mia); }
+        void figura(std::size_t k) const { f(l.Figure[k].Tipo, k, mia); }
+    } visita{l, f};
+    Percorri(l, visita);
 }
 
 std::pair<std::size_t, double> chiave(const Pretesa *p) {
@@ -141,9 +146,16 @@ Tavolo::DisegnoTenuto Vesti(const Tavolo &t, const StileFoglio &stile, bool perC
             tieni(tipo, p);
             d.lista.Punti.push_back(r);
         } else {
+            figure = k;
             tieni(tipo, p);
-            ++figure;
-            if (tinge && k < d.lista.Figure.size()) d.lista.Figure[k].colore = tratto.colore;
+            // A polyline's vertices and its end stand behind it, with its name.
+            for (std::size_t i = k; tinge && i < d.lista.Figure.size(); ++i) {
+                RecFigura &r = d.lista.Figure[i];
+                const bool sua = r.Tipo == 'V' && r.Id == l.Figure[k].Id;
+                if (i == k || sua) r.colore = tratto.colore;
+                if (tipo != 'V' || (sua && r.voce == Voce::END)) break;
+            }
+            figure = k + 1;
         }
     });
     return d;

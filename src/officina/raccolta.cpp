@@ -34,16 +34,10 @@ public:
         return std::move(esito);
     }
 
-    void punto(const RecPunto &p) {
-        avanti();
-        puntino(p);
-    }
-    void linea(const RecLinea &l) {
-        avanti();
-        corda(l);
-    }
+    void pretesa(const Pretesa *p) { sua = p; }
+    void punto(const RecPunto &p) { puntino(p); }
+    void linea(const RecLinea &l) { corda(l); }
     void figura(std::size_t i) {
-        avanti();
         const auto &f = lista.Figure;
         const Appartenenza g = gruppo(f[i].Id, f[i].colore);
         if (f[i].Tipo == 'B') {
@@ -64,12 +58,6 @@ public:
     }
 
 private:
-    // The next record, and the claim that it stands in or before.
-    void avanti() {
-        posto = letti++;
-        while (pretesa < lista.pretese.size() && lista.pretese[pretesa].a <= posto) ++pretesa;
-    }
-
     struct Appartenenza {
         Genere genere;
         int linea;
@@ -92,8 +80,9 @@ private:
 
     // The group of the present record. Without a claim, records of one layer and colour belong together.
     Appartenenza gruppo(IdNome id, Colore colore, Genere senzaNome = Genere::Figure) {
-        if (pretesa < lista.pretese.size() && lista.pretese[pretesa].da <= posto) {
-            const Pretesa &p = lista.pretese[pretesa];
+        if (sua) {
+            const Pretesa &p = *sua;
+            const auto pretesa = static_cast<std::size_t>(sua - lista.pretese.data());
             if (p.specie == Specie::Etichetta)
                 return {std::max(Genere::Etichette, GenereDi(lista.nomi.testo(id))), numero(linee, pretesa), p.specie, p.valore};
             // One line may be claimed in pieces, a point at a time.
@@ -338,7 +327,7 @@ private:
     std::map<Appartenenza, std::vector<P2>> aperte;
     std::map<Appartenenza, std::vector<Puntino>> puntini;
     std::map<ChiaveLinea, int> linee;
-    std::size_t pretesa = 0, posto = 0, letti = 0;
+    const Pretesa *sua = nullptr;  // the present record's claim
 };
 
 }  // namespace

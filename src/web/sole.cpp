@@ -4,6 +4,7 @@
 #include "certificato/certificato.h"
 #include "certificato/istante.h"
 #include "luoghi/atlante.h"
+#include "plot/percorso.h"
 #include "web/json.h"
 #include "web/pagina.h"
 
@@ -84,7 +85,6 @@ std::string Pagina::Linea(std::size_t pretesa) {
     if (pretesa >= l.pretese.size()) return {};
     const Pretesa &p = l.pretese[pretesa];
     std::string d = "<path d=\"";
-    std::size_t linea = p.linea, punto = p.punto;
     const RecLinea *prima = nullptr;
     const auto scrivi = [&](char c, double x, double y) {
         d += c;
@@ -93,20 +93,18 @@ std::string Pagina::Linea(std::size_t pretesa) {
         d += ' ';
         AggiungiNumero(d, std::round(q.y * 1e6) / 1e3);
     };
-    for (std::size_t k = p.da; k < p.a && k < l.Ordine.size(); ++k) {
-        if (l.Ordine[k] == 'L') {
-            const RecLinea &r = l.Linee[linea++];
-            const bool segue = prima && prima->X1 == r.X2 && prima->Y1 == r.Y2;
-            if (!segue) scrivi('M', r.X2, r.Y2);
-            scrivi('L', r.X1, r.Y1);
-            prima = &r;
-        } else if (l.Ordine[k] == 'P') {
-            const RecPunto &r = l.Punti[punto++];
-            scrivi('M', r.X, r.Y);
-            d += "h0";
-            prima = nullptr;
-        }
-    }
+    const auto corda = [&](const RecLinea &r) {
+        const bool segue = prima && prima->X1 == r.X2 && prima->Y1 == r.Y2;
+        if (!segue) scrivi('M', r.X2, r.Y2);
+        scrivi('L', r.X1, r.Y1);
+        prima = &r;
+    };
+    const auto punto = [&](const RecPunto &r) {
+        scrivi('M', r.X, r.Y);
+        d += "h0";
+        prima = nullptr;
+    };
+    Percorri(l, p, TrattiEPunti{corda, punto});
     return d.substr(d.find('"') + 1);
 }
 

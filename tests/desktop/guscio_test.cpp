@@ -186,6 +186,24 @@ TEST(Guscio, ALineHasLooksOfItsOwn) {
     stile.nascoste.insert(chi);
     EXPECT_GT(verdi, 0);
     EXPECT_EQ(quante(stile, [](const RecLinea &) { return true; }), tutte - verdi);
+    // A polyline takes its own claim's colour to its end, and figures behind it theirs.
+    Tavolo t;
+    const auto cerchio = [&](double ora) {
+        const Pretendi p(t, Specie::Ora, ora);
+        t.TracciaCerchio(0, 0, 0.1, 1);
+    };
+    cerchio(9);
+    t.xPlineStart("curva");
+    for (const double x : {0.1, 0.2}) t.xPLineVertex(x, 0, 2, "curva");
+    t.xPlineEnd("curva");
+    cerchio(10);
+    const auto figure = desktop::Vesti(t, stile, true).lista.Figure;
+    std::string colori;
+    for (const RecFigura &f : figure) colori += f.colore == VERDE ? 'v' : '-';
+    EXPECT_EQ(colori, "-----v");
+    stile.sue[{desktop::Strato(Specie::Nessuna), 0.0}] = {VERDE, false, 0, true};
+    for (const RecFigura &f : desktop::Vesti(t, stile, true).lista.Figure) colori += f.colore == VERDE ? 'v' : '-';
+    EXPECT_EQ(colori.substr(6), "-vvvvv");
 }
 
 TEST(Guscio, ASouthernDialIsMirroredByItself) {

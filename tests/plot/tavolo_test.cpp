@@ -8,6 +8,7 @@
 
 #include "comuni/prova.h"
 #include "plot/lista_testo.h"
+#include "plot/percorso.h"
 #include "registratore.h"
 
 namespace ombrelia {
@@ -147,6 +148,46 @@ TEST(Tavolo, IlTestoDellaListaTieneUnRecordPerRiga) {
     ASSERT_EQ(righe.size(), 3u);  // the last one is empty
     EXPECT_TRUE(righe[0].ends_with("\tstrato  L 9")) << righe[0];
     EXPECT_TRUE(righe[1].ends_with("\tuno due tre ")) << righe[1];
+}
+
+// What a walk meets: a letter and the abscissa of each primitive, between the values of the claims.
+struct Passeggiata {
+    const Lista &lista;
+    std::string detto;
+
+    void scrivi(char tipo, double x) { detto += tipo + TestoNumero(x) + ' '; }
+    void pretesa(const Pretesa *p) { detto += p ? '<' + TestoNumero(p->valore) + "> " : "<> "; }
+    void linea(const RecLinea &r) { scrivi('L', r.X1); }
+    void punto(const RecPunto &r) { scrivi('P', r.X); }
+    void figura(std::size_t k) { scrivi(lista.Figure[k].Tipo, lista.Figure[std::min(k + 1, lista.Figure.size() - 1)].X1); }
+};
+
+TEST(Percorso, OgniPrimitivaConLaSuaPretesa) {
+    Tavolo t;
+    prova::Disegna(t, "F 1 1 0 0;L 0.1 0 0 0 1 a");
+    const auto pretesa = [&](double valore, std::string_view passi) {
+        const Pretendi p(t, Specie::Diurna, valore);
+        prova::Disegna(t, passi);
+    };
+    pretesa(5, "L 0.2 0 0 0 1 a;P 0.3 0 1 a;S curva;V 0.4 0 1 curva;V 0.5 0 1 curva;E curva");
+    pretesa(6, "P 0.6 0 1 a");
+    prova::Disegna(t, "P 0.65 0 1 a");
+    pretesa(7, "B 0 0 0.1 0.1 1 0 b;C 0.7 0 0.1 1 -1 1 0 0 c;L 0.8 0 0 0 1 a");
+    const auto detto = [&](auto... dove) {
+        Passeggiata v{t.lista(), {}};
+        Percorri(t.lista(), dove..., v);
+        return v.detto;
+    };
+    // Of a figure the abscissa of the one behind it: a polyline's first vertex, and what stands behind a polyline.
+    const std::string prima = "<5> L0.2 P0.3 V0.4 <6> P0.6 <> P0.65 ", dopo = "<7> B0.7 C0.7 L0.8 ";
+    EXPECT_EQ(detto(), "<> L0.1 " + prima + dopo);
+    EXPECT_EQ(detto(t.lista().pretese[0]), prima.substr(0, prima.find("<6>")));
+    EXPECT_EQ(detto(t.lista().pretese[2]), dopo);
+    // In two pieces, the second from where the first ended.
+    Passeggiata v{t.lista(), {}};
+    const PostoLista meta = Percorri(t.lista(), {}, 3, v);
+    Percorri(t.lista(), meta, 99, v);
+    EXPECT_EQ(v.detto, "<> L0.1 <5> L0.2 P0.3 <5> V0.4" + prima.substr(prima.find(" <6>")) + dopo);
 }
 
 TEST(Tavolo, ClearTieneIlFoglio) {

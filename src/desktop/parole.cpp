@@ -1,4 +1,4 @@
-// The table of reasons.
+// The tables of reasons and of messages.
 #include "desktop/parole.h"
 
 #include "core/testo.h"
@@ -21,7 +21,23 @@ constexpr std::pair<std::string_view, std::string_view> MOTIVI[] = {
     {"no page of this sheet holds a line", "Nessuna pagina di questo foglio ha linee"_it},
 };
 
+// What engines and map tell of themselves in the status line: said alike in every language.
+constexpr std::pair<std::string_view, std::string_view> DETTI[] = {
+    {"I_Graf_diretta per ogni tipo di os comunque orientato ", "Disegnato: un piano qualsiasi"_it},
+    {"Piana _Esegui: Vertical dial by spherical trigonometry ", "Disegnata: una parete, per trigonometria sferica"_it},
+    {"Piede Esegui: algoritmo che usa prevalentemente la Geometria Analitica ",
+     "Disegnata: una parete, per geometria analitica"_it},
+    {"Grafica Analitica non è abilitata a lavorare a latitudini australi ",
+     "La grafica analitica non disegna a latitudini australi"_it},
+};
+
 }  // namespace
+
+QString Detto(const Ponte &ponte, std::string_view messaggio) {
+    for (const auto &[motore, nostro] : DETTI)
+        if (messaggio == motore) return ponte.Traduci(nostro);
+    return Q(messaggio);
+}
 
 QString Motivo(const Ponte &ponte, std::string_view errore) {
     for (const auto &[inglese, nostro] : MOTIVI)

@@ -17,6 +17,7 @@
 #include "desktop/clessidra.h"
 #include "desktop/comandi.h"
 #include "desktop/dialoghi.h"
+#include "desktop/parole.h"
 
 namespace ombrelia::desktop {
 
@@ -221,7 +222,7 @@ void Ponte::mostra(Legame &l) {
         }
     } else if (auto *lab = qobject_cast<QLabel *>(w)) {
         if (RigaDi(l.id).classe == Classe::Etichetta)
-            secambia(lab, RigaDi(l.id).pannello ? Q(app::Didascalia(s_, l.id)) : didascalia(l.id));
+            secambia(lab, RigaDi(l.id).pannello ? Detto(*this, app::Didascalia(s_, l.id)) : didascalia(l.id));
     } else if (auto *g = qobject_cast<QGroupBox *>(w)) {
         if (g->title() != didascalia(l.id)) g->setTitle(didascalia(l.id));
     } else if (auto *p = qobject_cast<QPlainTextEdit *>(w)) {

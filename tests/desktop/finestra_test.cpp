@@ -55,12 +55,14 @@ TEST(Finestra, FinestraECopioneLoStessoDisegno) {
         const char *nome;
         std::vector<std::pair<std::string_view, const char *>> campi;
         std::vector<std::string_view> caselle, pulsanti;
+        const char *detto = nullptr;  // in the status line
     };
     const std::vector<Caso> casi{
         {"wall",
          {{"txtLAT", "45.07"}, {"txtDec", "18"}, {"txtInc", "0"}, {"TxtFraz", "1"}},
          {"chkOreAstronomiche", "Ck_DayLightCurves", "ck_Triangolo"},
-         {"cmdRun"}},
+         {"cmdRun"},
+         "Disegnato: un piano qualsiasi"},
         {"leaning, added up",
          {{"txtDec", "-12.5"}, {"txtInc", "33"}},
          {"chkOreAstronomiche", "ck_Equinoziale"},
@@ -70,7 +72,11 @@ TEST(Finestra, FinestraECopioneLoStessoDisegno) {
          {{"txtInc", "0"}},
          {"ck_babiloniche", "ck_Italiche", "ck_babiloniche"},
          {"cmdRun", "Tavolo1.CmdGriglia"}},
-        {"analytic", {{"txtInc", "0"}, {"txtDec", "10"}}, {"chkOreAstronomiche", "ck_Equinoziale"}, {"cmdEqui"}},
+        {"analytic",
+         {{"txtInc", "0"}, {"txtDec", "10"}},
+         {"chkOreAstronomiche", "ck_Equinoziale"},
+         {"cmdEqui"},
+         "Disegnata: una parete, per geometria analitica"},
     };
     for (const Caso &c : casi) {
         BancoFinestra b;
@@ -95,6 +101,7 @@ TEST(Finestra, FinestraECopioneLoStessoDisegno) {
         EXPECT_EQ(b.dialoghi.avvisi, utente.box) << c.nome;
         EXPECT_EQ(app::ScriviProgetto(b.f.sessione()), app::ScriviProgetto(s)) << c.nome;
         EXPECT_EQ(b.w<QLineEdit>("txtLAT")->text().toStdString(), s.in.txtLAT) << c.nome;
+        if (c.detto) EXPECT_EQ(b.w<QLabel>("Tavolo1.p_mess")->text(), QString::fromUtf8(c.detto));
     }
 }
 

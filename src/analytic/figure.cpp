@@ -18,7 +18,8 @@ void lasciaEstremo(Variabili &v, const Estremo &e) {
     v.x1 = e.x;
     v.y1 = e.y;
 }
-// Beside it an abscissa of the reports: once an auxiliary line, overwritten by every hour line and read by the next report.
+// Beside it the abscissa at which the next report reads equinoctial and substyle: behind hour lines it is this one, not the
+// field's.
 void lasciaOre(Variabili &v, const Estremo &e) {
     lasciaEstremo(v, e);
     v.xEq = 0.8;

@@ -21,4 +21,6 @@ inline constexpr Colore NERO = QB(0), BLU_SCURO = QB(1), VERDE_SCURO = QB(2), AC
 
 constexpr Colore Rgb(int rosso, int verde, int blu) { return rosso | (verde << 8) | (blu << 16); }
 
+inline constexpr Colore CORALLO = Rgb(255, 128, 128), SMERALDO = Rgb(0, 193, 97);
+
 }  // namespace ombrelia

@@ -1,5 +1,5 @@
-// What each control is, in its maker's words: a name where the system's caption is cryptic, a sentence, and a small drawing of
-// what it measures. The system's caption and tool tip stay in the tool tip.
+// What each control is, in its maker's words: a name where the control's caption is cryptic, a sentence, and a small drawing of
+// what it measures. The control's own caption and tool tip stay in the tool tip.
 #pragma once
 
 #include <QImage>
@@ -26,14 +26,14 @@ enum class Grandezza : std::uint8_t {
 
 struct Aiuto {
     std::string_view nome;   // as the action script gives it
-    std::string_view umano;  // empty: the system's caption
+    std::string_view umano;  // empty: the control's caption
     std::string_view testo;
     Grandezza disegno = Grandezza::Nessuno;
 };
 
 // Null when there is none.
 [[nodiscard]] const Aiuto *TrovaAiuto(IdControllo id);
-// The tool tip of a control: the system's, or the help's sentence; the system's caption where the window shows another; its keys.
+// The tool tip of a control: its own, or the help's sentence; its caption where the window shows another; its keys.
 [[nodiscard]] QString Suggerimento(Sessione &s, IdControllo id);
 // "What's this?": name, sentences and drawing, as rich text in the palette's colours.
 [[nodiscard]] QString CheCosE(Sessione &s, IdControllo id);

@@ -1,4 +1,4 @@
-// A report's form from the inside: its tables as tables, its text as it always was.
+// A report's form from the inside: its tables as tables, its text line by line.
 #pragma once
 
 #include <QTabWidget>

@@ -62,7 +62,7 @@ void TracciaQibla(Corsa &c, Valore B) {
 
 void TestiQibla(Corsa &c, Valore q) {
     Sessione &s = c.s;
-    s.tavolo.ForeColor = 65280;  // bright green
+    s.tavolo.ForeColor = VERDE;
     s.tavolo.Scritta("", -s.tavolo.ShiftX(), -0.75);
     const auto riga = [&s](std::string_view etichetta, Valore gradi, std::string_view coda) {
         s.Dati(Frase(s.Traduci(etichetta)) << Tronca5(gradi) << coda);

@@ -1,8 +1,8 @@
 // The polar style over its plane: elevation, substyle, the dial's centre, the hour of the substyle. Angles in radians,
 // the plane's declination g positive to the West, its inclination i from the vertical, latitude phi positive to the North.
 //
-// The same quantity stands here in several forms where engines wrote it in an order of operations of their own: the
-// values agree to rounding, the bits do not, and a dial once drawn is drawn again to the bit. Each names who uses it.
+// The same quantity stands here in several forms, which differ in the order of their operations: the values agree to
+// rounding, the bits do not, and a dial drawn with one is drawn anew to the bit. Each names who uses it.
 // What divides by 0 or takes the root of a negative has no value.
 #pragma once
 

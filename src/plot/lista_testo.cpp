@@ -12,7 +12,7 @@ namespace ombrelia {
 
 namespace {
 
-// Scripts read y downward, as the system's own operations take it.
+// Scripts read y downward, as xLine and its like take it.
 class ScrittoreLista {
 public:
     explicit ScrittoreLista(const Lista &l) : lista(l) {

@@ -7,8 +7,8 @@
 
 namespace ombrelia {
 
-// In this file, and nowhere else, y is turned: here about the foot, between a dial's ordinate and that of the system's own
-// operations, which grows downward; in dallAlto about the sheet's edge.
+// In this file, and nowhere else, y is turned: here about the foot, between a dial's ordinate and that of xLine
+// and its like, which grows downward; in dallAlto about the sheet's edge.
 template <class N>
 [[nodiscard]] constexpr N Capovolta(N y) {
     return -y;

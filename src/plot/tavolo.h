@@ -68,7 +68,7 @@ public:
                         Valore Start = 0, Valore End = 0, std::string_view Id = {});
     void Scritta(std::string_view testo, Valore x, Valore y) { scrivi(testo, x, y); }
 
-    // The system's own operations, in the sheet's frame: y downward.
+    // The same in the sheet's frame, y downward, as action scripts read and write it.
     template <class... T>
     void xLine(Valore X1, Valore Y1, Valore X2, Valore Y2, Colore colore, const T &...altro) {
         TracciaLinea(X1, Capovolta(Y1), X2, Capovolta(Y2), colore, altro...);
@@ -164,7 +164,7 @@ public:
     [[nodiscard]] double xCurrentY() const { return currentY_ / ScalaBase * scala_ - q_.y; }
 
     double FattoreX = 1.0, FattoreY = 1.0;  // mirrors, each 1 or -1
-    // Beside the letter, off for action scripts: arcs mirror with the drawing and not only their centres; a tile's second
+    // Off for action scripts: arcs mirror with the drawing and not only their centres; a tile's second
     // click takes it back, and a click beside the sheet chooses none.
     bool specchiaArchi = false, piastrelleAScelta = false;
     [[nodiscard]] Specchio specchio() const { return {FattoreX, FattoreY, specchiaArchi}; }

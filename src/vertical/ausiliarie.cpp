@@ -123,7 +123,6 @@ void lasciaQibla(Variabili &v, Valore lon) {
 
 }  // namespace
 
-// The curve was once plotted in a second pass of another colour, of which nothing was to be seen; there is one pass.
 void TracciaQibla(Corsa &c, const LineeAttese &) {
     Sessione &s = c.s;
     lasciaQibla(s.v, c.letto.lon);

@@ -175,7 +175,7 @@ constexpr Riga ORIZZONTE_DI_NUOVO[] = {
 constexpr Riga ULTIME[] = {
     {&In::ckAsr, Specie::Asr, "afternoon prayer",
      [](const Corsa &, LineeAttese &l) {
-         l.push_back({0, 1, "", Rgb(0, 193, 97)});
+         l.push_back({0, 1, "", SMERALDO});
      },
      TracciaAsr, nullptr, RileggiPiano},
 };

@@ -223,7 +223,7 @@ void PreparaItaliche(Corsa &c) {
 
 void LineeItaliche(const Corsa &c, LineeAttese &linee) {
     const double scarto = campanili(c) ? 0.5 : 0;
-    conta(c, 6 + scarto, 24 + scarto, "Ita", Rgb(255, 128, 128), linee);
+    conta(c, 6 + scarto, 24 + scarto, "Ita", CORALLO, linee);
 }
 void LineeBabiloniche(const Corsa &c, LineeAttese &linee) { conta(c, 0, 18, "Bab", CIANO, linee); }
 void LineeTemporarie(const Corsa &c, LineeAttese &linee) { conta(c, 0, 12, "Temp", OLIVA, linee); }

@@ -455,7 +455,7 @@ std::set<QString> testi(BancoFinestra &b) {
         QString s = x;
         s.remove(QLatin1Char('&'));
         static const QRegularExpression didascalia(
-            QStringLiteral("«[^»]*»|\\(\\.\\w+\\)"));  // the system's own, as it stands; a file's ending
+            QStringLiteral("«[^»]*»|\\(\\.\\w+\\)"));  // a caption, quoted as it stands; a file's ending
         s.remove(didascalia);
         s = s.simplified();
         static const QRegularExpression parola(QStringLiteral("[a-zà-ù]{3}"));

@@ -120,7 +120,7 @@ TEST(Guscio, EveryControlHasANameATipAndAnAnswer) {
         if (!(w->focusPolicy() & Qt::TabFocus) || !w->isVisible() || figlio || qobject_cast<const QMenu *>(w)) continue;
         EXPECT_FALSE(w->accessibleName().isEmpty()) << w->metaObject()->className() << ' ' << w->objectName().toStdString();
     }
-    // The system's caption and the keys stand in the tip.
+    // The control's own caption and the keys stand in the tip.
     EXPECT_TRUE(b.w("txtX0")->parentWidget());
     EXPECT_EQ(b.f.ponte().didascalia(TrovaControllo("lblX0")), QStringLiteral("Bordo sinistro, x0"));
     EXPECT_TRUE(b.w("Tavolo1.cmdPulisci")->toolTip().contains(QStringLiteral("Clear")));

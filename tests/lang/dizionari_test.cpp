@@ -104,7 +104,7 @@ std::string Contenuto(const std::string &nome) {
     return {std::istreambuf_iterator<char>(f), {}};
 }
 
-// Words of an earlier window: the files that a user takes away keep their bytes.
+// Rows that no text of the window asks for: the files that a user takes away keep their bytes.
 const std::set<std::string> RIMASTE{"Cornice e rette", "Piano", "Ultimo punto premuto, millimetri",
                                     "Solo le pagine scelte, una per foglio A4? Con No tutto il foglio su una pagina sola."};
 

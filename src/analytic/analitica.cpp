@@ -88,7 +88,7 @@ void EseguiGraficaAnalitica(Sessione &s) {
     lasciaFoglio(c);
     TracciaAssi(s);
     CalcolaAngoliAnalitici(s, c.letto);
-    Percorri(c, Motore::Analitica, CARATTERISTICHE);
+    PercorriCaratteristiche(c, Motore::Analitica, CARATTERISTICHE);
     TracciaCornice(s, c.letto);
     s.utente.Puntatore(false);
 }

@@ -97,7 +97,7 @@ Esito Imposta(Sessione &s, IdControllo id, const std::string &testo) {
     const Esito esito = Entra(s, id);
     if (!esito) return esito;
     Cambia(s, id, testo);
-    return Lascia(s, id);
+    return LasciaCampo(s, id);
 }
 
 namespace {
@@ -115,7 +115,7 @@ Esito Entra(Sessione &s, IdControllo id) {
     return conCasella(s, id, [](Sessione &q, IdControllo i, const std::string &) { return avvisa(q, i, Evento::Entrata); }, {});
 }
 Esito Cambia(Sessione &s, IdControllo id, const std::string &testo) { return conCasella(s, id, cambiaTesto, testo); }
-Esito Lascia(Sessione &s, IdControllo id) {
+Esito LasciaCampo(Sessione &s, IdControllo id) {
     return conCasella(s, id, [](Sessione &q, IdControllo i, const std::string &) { return avvisa(q, i, Evento::Uscita); }, {});
 }
 

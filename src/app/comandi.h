@@ -51,7 +51,7 @@ Esito Imposta(Sessione &s, IdControllo id, const std::string &testo);
 // The same in a window's three moments: the box is entered, its text changes, it is left.
 Esito Entra(Sessione &s, IdControllo id);
 Esito Cambia(Sessione &s, IdControllo id, const std::string &testo);
-Esito Lascia(Sessione &s, IdControllo id);
+Esito LasciaCampo(Sessione &s, IdControllo id);
 // Sends keys, one a character, through the control's filter, appended to what stands in the box; a backspace that
 // passes takes its last character.
 Esito Digita(Sessione &s, IdControllo id, std::string_view tasti);

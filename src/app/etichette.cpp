@@ -15,7 +15,7 @@ namespace ombrelia::app {
 namespace {
 
 constexpr int ANNO_TIPO = 2026;                                // dates of a day line move by a day at the most
-constexpr double SOLSTIZIO = 23.4;                             // degrees: from here on a day line is the solstice's
+constexpr double QUASI_SOLSTIZIO = 23.4;                       // degrees: from here on a day line is the solstice's
 constexpr double ALTEZZA_MINIMA = 0.5, ALTEZZA_MASSIMA = 500;  // mm
 
 // Signs that begin when the Sun has a declination, the one it climbs into first.
@@ -86,7 +86,7 @@ private:
     [[nodiscard]] std::string giorno(double delta) const {
         if (in_.ckEtichetteSegni == 1)
             if (const std::string t = segni(delta); !t.empty()) return t;
-        if (std::fabs(delta) >= SOLSTIZIO) return delta > 0 ? "21 VI" : "21 XII";
+        if (std::fabs(delta) >= QUASI_SOLSTIZIO) return delta > 0 ? "21 VI" : "21 XII";
         std::string t;
         for (const ombra::Data &d : ombra::dateDi(delta * ombra::RADIANTI, 0, ANNO_TIPO, posa_.longitudine, posa_.fuso()))
             t += (t.empty() ? "" : " - ") + std::to_string(d.giorno) + " " + NumeroRomano(d.mese);

@@ -44,7 +44,7 @@ constexpr VoceRapporto ELENCO[] = {
      true,
      {},
      1},
-    {"daylines", "day lines by abscissa, walls only", "Form8", reports::LineeDiurne, "Option1", parete},
+    {"daylines", "day lines by abscissa, walls only", "Form8", reports::TabellaDiurne, "Option1", parete},
     {"notice", "what the program does and does not promise", "Form5", reports::Avviso, "mnuAvviso"},
 };
 

@@ -66,11 +66,11 @@ public:
         opposti = opposti_;
         if (vera_.forma() == LineaVera::Andamento::Retta) {
             const double somma = Lunghezza(tratti_) + Lunghezza(soli_);
-            Unisci(tratti_);
-            Unisci(soli_);
+            UnisciIntervalli(tratti_);
+            UnisciIntervalli(soli_);
             doppi = (somma - Lunghezza(tratti_) - Lunghezza(soli_)) * MM;
             tratti_.insert(tratti_.end(), soli_.begin(), soli_.end());
-            Unisci(tratti_);
+            UnisciIntervalli(tratti_);
             r.visibili = Lunghezza(vera_.visibili()) * MM;
             r.mancanti = r.visibili - Lunghezza(Intersezione(vera_.visibili(), tratti_)) * MM;
         } else if (vera_.forma() == LineaVera::Andamento::Curva) {

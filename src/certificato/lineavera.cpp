@@ -52,7 +52,7 @@ double Lunghezza(const Intervalli &t) {
     return l;
 }
 
-void Unisci(Intervalli &t) {
+void UnisciIntervalli(Intervalli &t) {
     if (!std::is_sorted(t.begin(), t.end())) std::sort(t.begin(), t.end());
     std::size_t k = 0;
     for (std::size_t i = 1; i < t.size(); ++i) {

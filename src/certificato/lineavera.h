@@ -36,7 +36,7 @@ using Intervallo = std::pair<double, double>;
 using Intervalli = std::vector<Intervallo>;
 [[nodiscard]] double Lunghezza(const Intervalli &t);
 // Sorts and joins what touches.
-void Unisci(Intervalli &t);
+void UnisciIntervalli(Intervalli &t);
 [[nodiscard]] Intervalli Intersezione(const Intervalli &a, const Intervalli &b);
 
 // What for: judging. Given: the dial, a claim and its value. Gives: metres as mounted, x to the right, y upward from the foot.

@@ -263,7 +263,7 @@ void CampoTesto::focusOutEvent(QFocusEvent *e) {
     entrato_ = false;
     if (e->reason() == Qt::PopupFocusReason || e->reason() == Qt::ActiveWindowFocusReason) return;
     concludi();
-    ponte_.fai(id_, [this] { app::Lascia(ponte_.sessione(), id_); });
+    ponte_.fai(id_, [this] { app::LasciaCampo(ponte_.sessione(), id_); });
 }
 
 }  // namespace ombrelia::desktop

@@ -63,8 +63,8 @@ private:
 
 Passi::Passi(Sessione &s, QObject *genitore, std::function<void(bool)> rimesso)
     : QUndoStack(genitore), s_(s), rimesso_(std::move(rimesso)) {
-    constexpr int PASSI_MASSIMI = 200;
-    setUndoLimit(PASSI_MASSIMI);
+    constexpr int PASSI_TENUTI = 200;
+    setUndoLimit(PASSI_TENUTI);
     ora_ = ritrai(false);
 }
 

@@ -329,7 +329,7 @@ void PerMacchina::arrivato(const Lavoro &lavoro) {
         const int n = generi_->rowCount();
         generi_->insertRow(n);
         QPixmap campione(14, 14);
-        campione.fill(TintaDi(g));
+        campione.fill(TintaDelGenere(g));
         generi_->setItem(n, 0, new QTableWidgetItem(QIcon(campione), Q(officina::Riga(g).nome)));
         const QString numeri[] = {QString::number(quanti), QString::number(mm, 'f', 0)};
         for (int k = 0; k < 2; ++k) {

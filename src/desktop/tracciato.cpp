@@ -12,7 +12,7 @@
 
 namespace ombrelia::desktop {
 
-QColor TintaDi(officina::Genere g) {
+QColor TintaDelGenere(officina::Genere g) {
     const std::uint32_t rgb = officina::Riga(g).rgb;
     return paint::Inchiostro(static_cast<Colore>(((rgb & 0xFF) << 16) | (rgb & 0xFF00) | (rgb >> 16)), paint::Supporto::Carta);
 }
@@ -114,7 +114,7 @@ void Tracciato::paintEvent(QPaintEvent *) {
             p.drawLine(dot(testa), dot(c.capo()));
             testa = c.coda();
         }
-        QColor tinta = TintaDi(c.genere);
+        QColor tinta = TintaDelGenere(c.genere);
         if (i >= fino_) tinta = QColor(0xd5, 0xd9, 0xde);
         const bool punto = c.tipo == officina::Cammino::Tipo::Punto;
         p.setPen(QPen(tinta, punto ? 3 : 1.5, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));

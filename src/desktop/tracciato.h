@@ -43,6 +43,6 @@ private:
 };
 
 // The colour of a kind so that it is seen on white.
-[[nodiscard]] QColor TintaDi(officina::Genere g);
+[[nodiscard]] QColor TintaDelGenere(officina::Genere g);
 
 }  // namespace ombrelia::desktop

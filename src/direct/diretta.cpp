@@ -252,18 +252,18 @@ void I_Graf_diretta(Sessione &s) {
     lasciaOrigine(s);
     TracciaAssi(s);
     lasciaOrizzonte(s);
-    Percorri(c, Motore::Diretta, CARATTERISTICHE);
+    PercorriCaratteristiche(c, Motore::Diretta, CARATTERISTICHE);
 
     rileggiPiano(c);
     s.tavolo.Dati("");
     const Reale q = qibla(c);
     lasciaCentro(c);
-    Percorri(c, Motore::Diretta, ORIZZONTE);
+    PercorriCaratteristiche(c, Motore::Diretta, ORIZZONTE);
     didascalia(c, seno, q);
-    Percorri(c, Motore::Diretta, ORIZZONTE_DI_NUOVO);
+    PercorriCaratteristiche(c, Motore::Diretta, ORIZZONTE_DI_NUOVO);
     lasciaCornice(c);
     TracciaLimiti(s, c.letto, c.cornice);
-    Percorri(c, Motore::Diretta, ULTIME);
+    PercorriCaratteristiche(c, Motore::Diretta, ULTIME);
     s.utente.Puntatore(false);
 }
 

@@ -84,7 +84,7 @@ void DisegnaZodiaco(Sessione &s) {
         double delta;   // declination, degrees
     };
     // Capricorn and Cancer stand outside the solstices, where the day lines leave room.
-    const PostoSegno posti[SEGNI] = {
+    const PostoSegno posti[QUANTI_SEGNI] = {
         {Segno::Capricorno, m0, sl == 1 ? -28.0 : 25.0},
         {Segno::Sagittario, minuti(28 * (f + 3) / 4), -20 * sl},
         {Segno::Acquario, minuti(-22 * (f + 3) / 4), -20 * sl},

@@ -6,7 +6,7 @@
 namespace ombrelia {
 
 enum class Segno { Capricorno, Sagittario, Acquario, Scorpione, Pesci, Bilancia, Ariete, Toro, Vergine, Gemelli, Leone, Cancro };
-inline constexpr int SEGNI = 12;
+inline constexpr int QUANTI_SEGNI = 12;
 
 // One sign centred on (x0, y0), metres on the plane, y upward; txtZodiacsize times unita high and about as wide.
 // gradi is the direction of its upright; 90, the only value in use, sets it upright. A size of 0 draws points. What will be

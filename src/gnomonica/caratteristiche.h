@@ -25,7 +25,7 @@ struct Caratteristica {
 };
 
 template <typename Corsa, std::size_t N>
-void Percorri(Corsa &c, Motore motore, const Caratteristica<Corsa> (&tavola)[N]) {
+void PercorriCaratteristiche(Corsa &c, Motore motore, const Caratteristica<Corsa> (&tavola)[N]) {
     Sessione &s = c.s;
     LineeAttese linee;
     for (const Caratteristica<Corsa> &r : tavola) {

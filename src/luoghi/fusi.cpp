@@ -11,7 +11,7 @@ namespace ombrelia::luoghi {
 namespace {
 
 constexpr std::int64_t GIORNO = 86400;
-constexpr std::size_t FILE_MASSIMO = 1U << 20;  // bytes; the largest zone has some 4000
+constexpr std::size_t ZONA_MASSIMA = 1U << 20;  // bytes; the largest zone has some 4000
 constexpr int SCARTO_MASSIMO = 26 * 3600;
 
 // Days from 1970-01-01 of a day of the Gregorian calendar; the year begins in March, so that the leap day ends it.
@@ -131,7 +131,7 @@ std::optional<Fuso> Fuso::Leggi(std::string_view nome) {
             return {};
     const char *cartella = std::getenv("TZDIR");
     const auto file =
-        LeggiFile(std::string(cartella && *cartella ? cartella : "/usr/share/zoneinfo") + "/" + std::string(nome), FILE_MASSIMO);
+        LeggiFile(std::string(cartella && *cartella ? cartella : "/usr/share/zoneinfo") + "/" + std::string(nome), ZONA_MASSIMA);
     return file ? DaTesto(*file) : std::nullopt;
 }
 

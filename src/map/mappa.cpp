@@ -13,8 +13,8 @@ namespace ombrelia {
 
 namespace {
 
-constexpr std::size_t FILE_MASSIMO = 32u << 20;  // bytes
-constexpr std::size_t CORDE_MASSIME = 100001;    // points of a run that have a place in the arrays
+constexpr std::size_t MONDO_MASSIMO = 32u << 20;  // bytes
+constexpr std::size_t CORDE_MASSIME = 100001;     // points of a run that have a place in the arrays
 
 bool cifra(char c) { return c >= '0' && c <= '9'; }
 
@@ -39,7 +39,7 @@ std::string_view campo(std::string_view &riga) { return taglia(riga, ';', ';'); 
 // The text of a data file; empty when it is missing, unreadable or beyond the bound.
 std::string testoDi(std::string_view nome) {
     const auto percorso = TrovaDato(nome);
-    auto testo = percorso ? LeggiFile(percorso->string(), FILE_MASSIMO) : std::nullopt;
+    auto testo = percorso ? LeggiFile(percorso->string(), MONDO_MASSIMO) : std::nullopt;
     return testo ? DaFile(std::move(*testo)) : std::string();
 }
 

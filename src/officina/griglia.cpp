@@ -59,7 +59,7 @@ bool nelBordo(P2 a, P2 b, P2 c, P2 d, double r, double &t0, double &t1) {
 
 }  // namespace
 
-double Distanza(P2 p, P2 a, P2 b) {
+double DistanzaDalSegmento(P2 p, P2 a, P2 b) {
     const P2 v = b - a;
     const double vv = Scalare(v, v);
     if (vv == 0) return Distanza(p, a);
@@ -128,7 +128,7 @@ void Griglia::coperto(P2 a, P2 b, double distanza, std::vector<std::pair<double,
 double Griglia::distanza(P2 p, double fino) const {
     double minima = std::numeric_limits<double>::infinity();
     celle(p, p, fino, [&](std::size_t i) {
-        for (const std::uint32_t n : celle_[i]) minima = std::min(minima, Distanza(p, segmenti_[n].a, segmenti_[n].b));
+        for (const std::uint32_t n : celle_[i]) minima = std::min(minima, DistanzaDalSegmento(p, segmenti_[n].a, segmenti_[n].b));
     });
     return minima <= fino ? minima : std::numeric_limits<double>::infinity();
 }

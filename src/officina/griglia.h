@@ -40,6 +40,6 @@ private:
 
 // Distance of a point from a segment. Given, gives: millimetres. Source: plane geometry. Faults: a segment without length is a
 // point.
-[[nodiscard]] double Distanza(P2 p, P2 a, P2 b);
+[[nodiscard]] double DistanzaDalSegmento(P2 p, P2 a, P2 b);
 
 }  // namespace ombrelia::officina

@@ -24,7 +24,7 @@ void lascia(Sessione &s) {
 
 }  // namespace
 
-void LineeDiurne(Sessione &s, Uscita uscita) {
+void TabellaDiurne(Sessione &s, Uscita uscita) {
     const Lettura letto(s.in);
     const Conteggio ascisse(letto.limMin, letto.limMax, 0.05 / letto.unita);
     const bool inizio = Abs(letto.limMin) > Abs(letto.limMax);

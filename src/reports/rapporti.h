@@ -44,7 +44,7 @@ void OreTemporarie(Sessione &s, Uscita uscita);
 // abscissa (Form8).
 void IntersezioniSferiche(Sessione &s, Uscita uscita);
 void IntersezioniAnalitiche(Sessione &s, Uscita uscita);
-void LineeDiurne(Sessione &s, Uscita uscita);
+void TabellaDiurne(Sessione &s, Uscita uscita);
 
 // The notice (Form5), which no menu prints.
 void Avviso(Sessione &s, Uscita uscita);

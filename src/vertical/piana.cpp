@@ -216,15 +216,15 @@ void Piana_Esegui(Sessione &s) {
     TracciaAssi(s);
     lasciaCentro(s.v, calcolaCentroPiana(v));
 
-    Percorri(c, Motore::Verticale, CARATTERISTICHE);
-    Percorri(c, Motore::Verticale, ORIZZONTE_DI_NUOVO);
+    PercorriCaratteristiche(c, Motore::Verticale, CARATTERISTICHE);
+    PercorriCaratteristiche(c, Motore::Verticale, ORIZZONTE_DI_NUOVO);
     if (s.in.ck_Orizzonte == 1) s.Scrivi(&DialInputs::txtOriz, TestoNumero(v.yOriz.numero()));
     TracciaLimiti(s, c.letto, c.cornice);
     s.utente.Puntatore(false);
 
     lasciaCentro(s.v, centroDidascalia(v));
     didascalia(s, c2);
-    Percorri(c, Motore::Verticale, ULTIME);
+    PercorriCaratteristiche(c, Motore::Verticale, ULTIME);
 }
 
 }  // namespace ombrelia::vertical

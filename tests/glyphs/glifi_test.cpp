@@ -134,7 +134,7 @@ TEST(Glifi, AlloSpecchioSiLeggono) {
         banco.s.tavolo.Clear(), disegna();
         EXPECT_TRUE(punti(false, centro) == dritti) << chi;
     };
-    for (int n = 0; n < SEGNI; ++n)
+    for (int n = 0; n < QUANTI_SEGNI; ++n)
         prova([&] { DisegnaSegno(banco.s, static_cast<Segno>(n), 0.3, -0.2, 90); }, 0.3, "sign " + std::to_string(n));
     const double mezzaCella = 0.15 * LARGHEZZA_CELLA / ALTEZZA_CELLA / 2;
     for (const int n : {1, 6, 7, 10, 12}) {
@@ -241,21 +241,21 @@ TEST(Segni, NellaMisuraEDiritti) {
         for (const RecFigura &f : cielo.lista().Figure)
             EXPECT_TRUE(f.X2 > 0 && f.A >= 0 && f.A < CERCHIO && f.B >= (f.A > 0 ? 1e-9 : 0) && f.B <= CERCHIO) << r[0];
     }
-    EXPECT_EQ(n, SEGNI);
+    EXPECT_EQ(n, QUANTI_SEGNI);
 }
 
 TEST(Glifi, CresconoColCampoEConLUnita) {
     MuroDiCifre banco;
-    const double alto = banco.segno(SEGNI - 1).altezza();
+    const double alto = banco.segno(QUANTI_SEGNI - 1).altezza();
     banco.imposta({{"txtArabi", "30"}, {"txtNumbersize", "60"}, {"txtZodiacsize", "30"}});
     banco.s.v.unita = MM;
-    EXPECT_NEAR(banco.segno(SEGNI - 1).altezza(), 2 * alto, 1e-9);
+    EXPECT_NEAR(banco.segno(QUANTI_SEGNI - 1).altezza(), 2 * alto, 1e-9);
     EXPECT_NEAR(Ingombro(banco.cifra(4)).altezza() / 30, MM, 1e-10);
     EXPECT_NEAR(Ingombro(banco.romano(4)).altezza() / 60, MM, 1e-10);
     for (const char *niente : {"0", "x", "1e999"}) {
         banco.imposta({{"txtArabi", niente}, {"txtNumbersize", niente}, {"txtZodiacsize", niente}});
         EXPECT_EQ(Ingombro(banco.numero(12)).larghezza() + Ingombro(banco.romano(12)).larghezza(), 0) << niente;
-        for (int n = 0; n < SEGNI; ++n) {
+        for (int n = 0; n < QUANTI_SEGNI; ++n) {
             const Ingombro i = banco.segno(n, 3, -4);
             EXPECT_TRUE(i.larghezza() == 0 && i.altezza() == 0 && i.x() == 3 && i.y() == -4) << niente << n;
         }

@@ -11,9 +11,10 @@ namespace ombrelia {
 namespace {
 
 struct Comandi : prova::InCartella {
-    // Runs a line of the shell, in which "ombrelia" is the program; fills detto and errore.
+    // Runs a line of the shell, in which "ombrelia" is the program and $programma its file; fills detto and errore.
     int guscio(const std::string &riga) {
-        const std::string preludio = "exec >fuori 2>errore </dev/null; ombrelia() { '" OMBRELIA_PROGRAMMA "' \"$@\"; }; ";
+        const std::string preludio =
+            "exec >fuori 2>errore </dev/null; programma='" OMBRELIA_PROGRAMMA "'; ombrelia() { \"$programma\" \"$@\"; }; ";
         scrivi("riga.sh", preludio + riga + "\n");
         const int stato = std::system("QT_QPA_PLATFORM=offscreen sh riga.sh");
         detto = leggi("fuori");

@@ -116,23 +116,27 @@ TEST(Corsa, AnalemmaDelMeridianoDellaZona) {
     }
 }
 
-// What a run leaves on the sheet, as the session's first or behind another dial's.
-std::string disegno(const Motrice &m, bool prima) {
-    Banco b({{"txtLAT", "30"}, {"txtDec", "40"}, {"txtInc", "10"}},
-            {"chkOreAstronomiche", "ck_Italiche", "ckTemp", "ck_Orizzonte", "ckAlt"});
+// What a run leaves on the sheet, as the session's first or behind another dial's, whose fields were these but for some.
+std::string disegno(const Motrice &m, const std::vector<std::string_view> &altri) {
+    Banco b({}, {"chkOreAstronomiche", "ck_Italiche", "ckTemp", "ck_Orizzonte", "ckAlt"});
     b.s.originaleFresco = true;
-    if (prima) {
-        b.premi("cmdRun");
-        b.s.tavolo.Clear();
-    }
-    b.imposta({{"txtLAT", "47"}, {"txtDec", m.dec}, {"txtInc", m.inc}, {"TxtStilo", "0.1"}, {"txtOriz", "0.1"}});
+    const prova::CampiScritti suoi{
+        {"txtLAT", "47"}, {"txtDec", m.dec}, {"txtInc", m.inc}, {"TxtStilo", "0.1"}, {"txtOriz", "0.1"}};
+    b.imposta(suoi);
+    for (const std::string_view campo : altri) b.imposta({{campo, campo == "txtLAT" ? "30" : campo == "txtDec" ? "40" : "10"}});
+    if (altri.size() > 0) b.premi("cmdRun");
+    b.s.tavolo.Clear();
+    b.imposta(suoi);
     b.s.in.CkUNI = m.piana;
     b.premi(m.bottone);
     return ListaTesto(b.lista());
 }
 
 TEST(Corsa, OriginaleFrescoCancellaLaCorsaPrima) {
-    for (const Motrice &m : MOTRICI) EXPECT_TRUE(disegno(m, true) == disegno(m, false)) << m.nome;
+    const std::vector<std::vector<std::string_view>> tutti{{"txtLAT", "txtDec", "txtInc"}, {"txtLAT"}, {"txtDec"}, {"txtInc"}};
+    for (const Motrice &m : MOTRICI)
+        for (const auto &altri : tutti)
+            EXPECT_TRUE(disegno(m, altri) == disegno(m, {})) << m.nome << " behind another " << altri[0];
 }
 
 TEST(Corsa, UnAltroDisegnaAlPostoDelMotore) {

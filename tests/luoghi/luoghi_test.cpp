@@ -56,6 +56,23 @@ TEST(Luoghi, OmonimiEQuasi) {
     EXPECT_EQ(rotto.luoghi()[0].longitudine, -7);
 }
 
+// By the map: a zone's meridian is said as it lies from its towns, also beyond the 180th; a degree of longitude is as long as the
+// cosine of the latitude.
+TEST(Luoghi, MeridianiEDistanze) {
+    struct Riga {
+        const char *longitudine;  // East, as the table has it
+        int minuti;
+        double meridiano;
+    };
+    for (const Riga &r :
+         {Riga{"172.9", -600, -210}, {"-171.8", 780, 165}, {"-157.4", 840, 150}, {"178.4", 720, -180}, {"7", 60, -15}}) {
+        const Atlante a("=0;X;" + std::to_string(r.minuti) + "\nA;;XX;;60;" + r.longitudine + ";1;0");
+        ASSERT_EQ(a.luoghi().size(), 1U);
+        EXPECT_EQ(a.luoghi()[0].meridiano, r.meridiano) << r.longitudine;
+        EXPECT_NEAR(Distanza(a.luoghi()[0], 60, a.luoghi()[0].longitudine + 359), 0.5, 1e-9);
+    }
+}
+
 TEST(Luoghi, RispondeAOgniTasto) {
     for (const std::string_view nome : {"San Francisco", "zürich", "qwertyuiop", "Saint-Étienne", "new york"})
         for (std::size_t k = 1; k <= nome.size(); ++k)
@@ -164,6 +181,30 @@ TEST(Fusi, ComeLaLibreriaDelC) {
     for (const Luogo &l : atlante().luoghi())
         base += l.popolazione > 200000 && Fuso::Leggi(l.fuso)->InUT(ora).base != l.base * 60;
     EXPECT_EQ(base, 0);
+}
+
+// Rules alone, in every form that they have, hour by hour through leap years and common ones.
+TEST(Fusi, RegoleComeLaLibreriaDelC) {
+    const char *prima = std::getenv("TZ");
+    const std::string tz = prima ? prima : "";
+    for (const std::string regola : {"AAA-1BBB,J60/0,J300/3", "AAA5BBB,59/2,J300/1:30", "<+03>-3:30<+04>,M3.5.0,M10.1.6/5",
+                                     "AAA-9:30", "AAA3BBB2,M11.1.0/0,J60/0", "AAA-10BBB-10:30,300,J59/12:00:30"}) {
+        std::string parte = "TZif2";
+        parte.append(15 + 4 * 4 + 3, '\0').append("\1\0\0\0\1", 5).append(7, '\0');  // one kind of time, one letter
+        const auto f = Fuso::DaTesto(parte + parte + "\n" + regola + "\n");
+        ASSERT_TRUE(f) << regola;
+        ::setenv("TZ", regola.c_str(), 1);
+        ::tzset();
+        int diversi = 0;
+        for (std::time_t t = 1672531200; t < 1672531200 + 5 * 365 * 86400; t += 3600) {  // from 2023 on
+            std::tm tm{};
+            ::localtime_r(&t, &tm);
+            diversi += f->InUT(t).scarto != tm.tm_gmtoff;
+        }
+        EXPECT_EQ(diversi, 0) << regola;
+    }
+    prima ? ::setenv("TZ", tz.c_str(), 1) : ::unsetenv("TZ");
+    ::tzset();
 }
 
 TEST(Fusi, FileRotti) {

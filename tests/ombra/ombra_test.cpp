@@ -116,7 +116,7 @@ TEST(Ombra, OreDelGiorno) {
     EXPECT_NEAR(*babilonica(f, 0, d), 7.712946, 1e-6);
     EXPECT_NEAR(*temporaria(f, 0, d), 6, 1e-12);
     EXPECT_NEAR(*temporaria(f, *semiarco(f, d), d), 12, 1e-12);
-    EXPECT_FALSE(temporaria(f, 2.1, d));
+    EXPECT_FALSE(temporaria(f, 2.1, d) || temporaria(f, -2.1, d));
     EXPECT_NEAR(oraVera(-1.5 * 15 * RADIANTI), 10.5, 1e-12);
     for (const double polo : {70.0, -70.0})
         for (const double delta : {23.0, -23.0})
@@ -131,9 +131,11 @@ TEST(SoleDiUnaData, ControGliAlmanacchi) {
             if (r[7] != "delta" && r[7] != "tempo") continue;
             const Sole s = soleDi(giornoGiuliano({int(n(r[2])), int(n(r[1])), int(n(r[0]))}) + n(r[3]) / 24);
             // The published rows come from several theories and delta Ts: 2.1 seconds of arc, 0.31 of time, and half a unit of
-            // the third place.
-            if (r[7] == "delta") EXPECT_NEAR(s.delta * GRADI, n(r[8]), 2.1 / 3600 + 0.0005) << r[2];
-            else EXPECT_NEAR(s.equazione, n(r[8]), 0.31 / 60 + 0.0005) << r[2];
+            // the third place. Against the precise theory what is promised holds, and half a unit of the row's last place, in
+            // years whose delta T is known.
+            const bool precisa = r[10] == "ERFA" && n(r[2]) < 2030;
+            if (r[7] == "delta") EXPECT_NEAR(s.delta * GRADI, n(r[8]), precisa ? 0.55 / 3600 + 5e-6 : 2.1 / 3600 + 5e-4) << r[2];
+            else EXPECT_NEAR(s.equazione, n(r[8]), precisa ? 0.12 / 60 + 5e-5 : 0.31 / 60 + 5e-4) << r[2];
             double &peggiore = r[7] == "delta" ? delta : tempo;
             peggiore = std::max(peggiore, std::fabs((r[7] == "delta" ? s.delta * GRADI : s.equazione) - n(r[8])));
             ++righe;

@@ -182,6 +182,11 @@ TEST(Pagine, Carte) {
     // 8.5 by 11 inches of 1440 units, less what a page loses.
     EXPECT_DOUBLE_EQ(t.LarghezzaPagina(), 8.5 * 1440 / 56700 - 0.013);
     EXPECT_DOUBLE_EQ(t.AltezzaPagina(), 11 * 1440 / 56700.0 - 0.015);
+    // Of the same width, and of the same height, and another paper all the same.
+    EXPECT_FALSE(t.Pagina({0.2159, 0.3556}));
+    EXPECT_DOUBLE_EQ(t.AltezzaPagina(), 14 * 1440 / 56700.0 - 0.015);
+    EXPECT_FALSE(t.Pagina({0.2794, 0.3556}));
+    EXPECT_DOUBLE_EQ(t.LarghezzaPagina(), 11 * 1440 / 56700.0 - 0.013);
 }
 
 }  // namespace

@@ -92,9 +92,12 @@ TEST(Pagina, UnQuadranteDopoUnAltro) {
 TEST(Pagina, LaTavolaNellaSuaLingua) {
     const auto prima = std::filesystem::current_path();
     std::filesystem::current_path(OMBRELIA_RADICE "/data");
-    Pagina p;
+    Pagina p, q;
+    const std::string nostra = p.Tavola();
     p.Lingua("fr");
+    q.Lingua("de");
     std::filesystem::current_path(prima);
+    EXPECT_TRUE(q.Tavola() == nostra) << "a language that is not there is Italian";
     EXPECT_NE(p.Tavola().find("\"nome\":\"ck_Etna\",\"classe\":\"casella\",\"caption\":\"Heure vraie"), std::string::npos);
 }
 

@@ -12,18 +12,27 @@ inline Valore QuadratoCotangente(Valore gradi) {
     return 1 / (t * t);
 }
 
-// The two roots of a z² + b z + c = 0. Given: a, b, c. Gives: the roots by the sign of the square root. Source: elementary
-// algebra. Faults: reali is false, and the roots are nothing, when the discriminant is negative; at a = 0 they have no value.
+// The two roots of a z² + b z + c = 0, by the sign of the square root.
 struct Radici {
     bool reali;
     Valore meno, piu;
 };
-inline Radici RisolviQuadratica(Valore a, Valore b, Valore c) {
-    const Valore disc = b * b - 4 * a * c;
-    if (!(disc >= 0)) return {false, Valore::nessuno(), Valore::nessuno()};
-    const Valore radice = Sqr(disc);
-    return {true, (-b - radice) / (2 * a), (-b + radice) / (2 * a)};
-}
+
+// a z² + b z + c = 0. All. Given: a, b, c. Gives: numbers. Source: elementary algebra. Faults: reali is false, and the roots are
+// nothing, when the discriminant is negative or none; at a = 0 they have no value.
+struct Quadratica {
+    Valore a, b, c;
+    [[nodiscard]] Valore discriminante() const { return b * b - 4 * a * c; }
+    // By a discriminant of the caller's own.
+    [[nodiscard]] Radici radici(Valore disc) const {
+        if (!(disc >= 0)) return {false, Valore::nessuno(), Valore::nessuno()};
+        const Valore radice = Sqr(disc);
+        return {true, (-b - radice) / (2 * a), (-b + radice) / (2 * a)};
+    }
+    [[nodiscard]] Radici radici() const { return radici(discriminante()); }
+};
+// Given, gives, source, faults: as above.
+inline Radici RisolviQuadratica(Valore a, Valore b, Valore c) { return Quadratica{a, b, c}.radici(); }
 
 // Frame (u, v): origin P where substyle and equinoctial meet, u along the equinoctial, v along the substyle towards the
 // centre. Frame (x, y) of the dial: origin at the foot of the ortostilo, x to the right, y upward. Given: sigma, the substyle's
@@ -89,6 +98,13 @@ inline Radici AscisseConica(const Conica &k, Valore sigma, Valore y0, Valore L) 
     const Valore b = -2 * y0 * ss - 2 * L * ss * cs + 2 * R * L * cs * ss - Q * ss;
     const Valore c = y0 * y0 + L * L * (cs * cs) + 2 * y0 * L * cs + R * (L * L) * (ss * ss) + Q * y0 + Q * L * cs + P;
     return RisolviQuadratica(a, b, c);
+}
+
+// What gives a conic's ordinates on the vertical through the foot, x = 0, with the terms of x unwritten: the reports'. Given: as
+// above. Gives: the equation of both ordinates, y upward, in the unit of y0. Source, faults: as above.
+inline Quadratica OrdinateSulPiede(const Conica &k, Valore sigma, Valore y0) {
+    const Valore ss = sin(sigma), cs = cos(sigma);
+    return {cs * cs + k.R * (ss * ss), cs * (2 * y0 + k.Q), y0 * y0 + k.Q * y0 + k.P};
 }
 
 }  // namespace ombrelia

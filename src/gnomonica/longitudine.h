@@ -12,15 +12,19 @@ inline Valore DalMeridiano(Valore lon, Valore meridiano) { return lon - meridian
 // Leaves it for the longitude that the shared variables hold.
 inline void LasciaDalMeridiano(Variabili &v) { v.lonPiu15 = DalMeridiano(v.lon, v.meridiano); }
 // The same as an angle of time. Given: lonPiu15, degrees. Gives: radians. Source: elementary. Faults: none.
-inline Valore CorrezioneLongitudine(const Variabili &v) { return PI * v.lonPiu15 / 180; }
+inline Valore CorrezioneLongitudine(Valore lonPiu15) { return PI * lonPiu15 / 180; }
+inline Valore CorrezioneLongitudine(const Variabili &v) { return CorrezioneLongitudine(v.lonPiu15); }
 
-// The same with the box of the zone's time set, else 0. Given, gives, source, faults: as above.
-inline Valore CorrezioneFuso(const Variabili &v) { return CorrezioneLongitudine(v) * v.oraFuso; }
+// The same with the box of the zone's time set, else 0. Given: besides oraFuso, 1 or 0. Gives, source, faults: as above.
+inline Valore CorrezioneFuso(Valore lonPiu15, Valore oraFuso) { return CorrezioneLongitudine(lonPiu15) * oraFuso; }
+inline Valore CorrezioneFuso(const Variabili &v) { return CorrezioneFuso(v.lonPiu15, v.oraFuso); }
 
 // "Costante locale". Given: lonCopia, the longitude as typed, and the zone's meridian, degrees. Gives: minutes of time, West
 // positive. Source: elementary (a degree is 4 minutes). Faults: none.
-inline Valore CostanteLocale(const Variabili &v) { return 4 * (v.lonCopia - v.meridiano); }
+inline Valore CostanteLocale(Valore lonCopia, Valore meridiano) { return 4 * (lonCopia - meridiano); }
+inline Valore CostanteLocale(const Variabili &v) { return CostanteLocale(v.lonCopia, v.meridiano); }
 // Whether the zone is another than the one at start; captions then name its meridian.
-inline bool AltroMeridiano(const Variabili &v) { return v.meridiano != -15; }
+inline bool AltroMeridiano(Valore meridiano) { return meridiano != -15; }
+inline bool AltroMeridiano(const Variabili &v) { return AltroMeridiano(v.meridiano); }
 
 }  // namespace ombrelia

@@ -49,6 +49,10 @@ struct Piano {
     // What the tangent of the substyle's hour angle divides by, and that hour angle; 90 degrees on a wall at the equator.
     [[nodiscard]] Valore divisoreOra() const { return sphi * cg + cphi * tan(i); }
     [[nodiscard]] Valore oraSustilare() const { return phi == 0 && i == 0 ? Valore(PI / 2.0) : Arco2(sg, divisoreOra()); }
+    // The same, known but for half a turn: reports.
+    [[nodiscard]] Valore oraSustilareMezza() const { return Atn(sg / divisoreOra()); }
+    // Sine of the substyle's angle, by the style's elevation: hours' report.
+    [[nodiscard]] Valore senSustilare(Valore epsilon) const { return sg * cphi / cos(epsilon); }
     // Sine of the latitude of the equivalent wall, whose zenith lies in the plane.
     [[nodiscard]] Valore senZenit() const { return sphi * ci + cphi * si * cg; }
     // Ordinate of the dial's centre over gn and senStilo, with the other sign.
@@ -102,6 +106,8 @@ inline Valore SustilareMuroIntera(Valore phi, Valore g) { return phi == 0 ? Valo
 // Hour angle of a wall's substyle. Given: as above. Gives: radians, 0..CERCHIO, a quarter on the equator. Source: tan t = tan g /
 // sin phi (Rohr; Waugh, "difference of longitude"). Faults: none else.
 inline Valore OraSustilareMuro(Valore phi, Valore g) { return phi == 0 ? Valore(PI / 2) : Arco2(tan(g), sin(phi)); }
+// The same, known but for half a turn: hours' report. Given, source: as above. Gives: radians. Faults: no value at phi = 0.
+inline Valore OraSustilareMuroMezza(Valore phi, Valore g) { return Atn(tan(g) / sin(phi)); }
 
 // Sine of the hour angle of a plane's substyle. Given: declination, inclination and the style's elevation, radians. Gives: with
 // the sign of the declination. Source: the right spherical triangle of zenith, pole and substyle. Faults: no value for a style

@@ -89,11 +89,30 @@ void IntersezioniSferiche(Sessione &s, Uscita uscita) {
 
 namespace {
 
-// The hour angle of the substyle with the longitude in it, and where the equinoctial lies, on which the rows rest.
-void lasciaAnalitiche(Variabili &v) {
-    const Reale seno = SenOraSustilare(v.decR, v.incR, v.altStilo);
-    v.angoloOra = ArcSin(seno) + (DalMeridiano(v.lonCopia, v.meridiano) * PI / 180) * v.oraFuso;
-    v.y0 = DistanzaEquinoziale(v.gn, v.altStilo);
+// What the rows rest on.
+struct SustilareAnalitica {
+    explicit SustilareAnalitica(const Variabili &v) : angoloOra(v.angoloOra), y0(v.y0) {
+        const Reale seno = SenOraSustilare(v.decR, v.incR, v.altStilo);
+        angoloOra = ArcSin(seno) + (DalMeridiano(v.lonCopia, v.meridiano) * PI / 180) * v.oraFuso;
+        y0 = DistanzaEquinoziale(v.gn, v.altStilo);
+    }
+    Reale angoloOra;  // hour angle of the substyle with the longitude in it, radians
+    Reale y0;         // from the foot to the equinoctial, the unit of gn
+};
+
+// The same, for the engines that take them up; the option that asked for the report springs back.
+void lasciaAnalitiche(Sessione &s, const SustilareAnalitica &sustilare) {
+    s.v.angoloOra = sustilare.angoloOra;
+    s.v.y0 = sustilare.y0;
+    s.in.OptInter = 0;
+}
+
+// Where the hour line that meets the equinoctial at h, with the slope q, meets a day line. Given: both in the frame of the
+// substyle, the equinox being a line and no conic. Gives: both points by the sign of the root. Source: the line put into the
+// conic's equation. Faults: none where they don't meet.
+Quadratica incontri(const Conica &k, Valore h, Valore q, bool equinozio) {
+    if (equinozio) return {1, 0, 0};
+    return {1 + k.R * (q * q), k.Q - 2 * k.R * h * q, k.P + k.R * (h * h)};
 }
 
 }  // namespace
@@ -103,14 +122,14 @@ void IntersezioniAnalitiche(Sessione &s, Uscita uscita) {
     const Valore inizio = letto.inizio, fine = letto.fine;
     if (TroppeRighe(s, inizio, fine, letto.fraz, 4)) return;
     CalcolaAngoliAnalitici(s, letto);
-    lasciaAnalitiche(s.v);
     const Variabili &v = s.v;
+    const SustilareAnalitica sustilare(v);
     Tabulato f(s, "Form7", uscita);
 
     f.etichetta(" Geometria Analitica "_it);
     const auto tabella = [&](Valore delta) { f.tabella("delta = +/- " + TestoNumero(delta.v), colonne(s)); };
     const Valore tabelle[] = {v.deltaOpz, DELTA_SEGNI, DELTA_SEGNI_VICINI, 0};
-    const RiferimentoSustilare quadro(v.angSustilare, v.y0);
+    const RiferimentoSustilare quadro(v.angSustilare, sustilare.y0);
     Conica k;
     Reale m, h, q, x1, y1, x2, y2;
     bool prima = true;
@@ -127,12 +146,9 @@ void IntersezioniAnalitiche(Sessione &s, Uscita uscita) {
         k.calcola(m, v.altStilo, v.gn);
         for (const double V : Conteggio(180 - 15 * fine, 180 - 15 * inizio, 15 / v.fraz)) {
             const Valore t = V * PI / 180;
-            h = (v.gn / cos(v.altStilo)) * tan(v.angoloOra + t);
-            q = sin(v.altStilo) * tan(v.angoloOra + t);
-            const Valore a = equinozio ? Valore(1) : 1 + k.R * (q * q);
-            const Valore b = equinozio ? Valore(0) : k.Q - 2 * k.R * h * q;
-            const Valore c = equinozio ? Valore(0) : k.P + k.R * (h * h);
-            const Radici r = RisolviQuadratica(a, b, c);
+            h = (v.gn / cos(v.altStilo)) * tan(sustilare.angoloOra + t);
+            q = sin(v.altStilo) * tan(sustilare.angoloOra + t);
+            const Radici r = incontri(k, h, q, equinozio).radici();
             if (r.reali) {
                 const Valore u1 = -(h - r.piu * q), u2 = -(h - r.meno * q);
                 x1 = quadro.x(u1, r.piu);
@@ -145,7 +161,7 @@ void IntersezioniAnalitiche(Sessione &s, Uscita uscita) {
                     Numero(delta)});
         }
     }
-    s.in.OptInter = 0;
+    lasciaAnalitiche(s, sustilare);
     f.chiudi();
 }
 

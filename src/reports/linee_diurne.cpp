@@ -16,10 +16,10 @@ constexpr std::string_view PRIME[] = {"ascissa                ordinata e      or
 constexpr std::string_view ALTRE[] = {"    ordinata e      ordinata i  ", "    ordonnée é      ordonnée h  ",
                                       "    ordinate s      ordinate w  "};
 
-// The unit, and where the equinoctial lies, which the conics' frame begins at.
-void lascia(Sessione &s) {
+// The unit, and where the equinoctial lies, for the analytic engine.
+void lascia(Sessione &s, Valore y0) {
     LeggiUnita(s);
-    s.v.y0 = DistanzaEquinoziale(s.v.gn, s.v.altStilo);
+    s.v.y0 = y0;
 }
 
 }  // namespace
@@ -32,8 +32,9 @@ void TabellaDiurne(Sessione &s, Uscita uscita) {
             s, {{inizio ? "txtMinus" : "txtMax", inizio ? s.in.txtMinus : s.in.txtMax, ascisse, PUNTI_MASSIMI / RIGHE_MASSIME}}))
         return;
     CalcolaAngoliAnalitici(s, letto);
-    lascia(s);
     const Variabili &v = s.v;
+    Reale y0 = v.y0;
+    y0 = DistanzaEquinoziale(v.gn, v.altStilo);
     Tabulato f(s, "Form8", uscita);
 
     const Valore declinazioni[] = {OBLIQUITA, DELTA_SEGNI, DELTA_SEGNI_VICINI, v.deltaOpz};
@@ -42,7 +43,7 @@ void TabellaDiurne(Sessione &s, Uscita uscita) {
         Conica k;
         const Reale m = QuadratoCotangente(d);  // a declination of 0 has none: m stays empty
         k.calcola(m, v.altStilo, v.gn);
-        linee.emplace_back(k, v.angSustilare, v.y0);
+        linee.emplace_back(k, v.angSustilare, y0);
     }
 
     f.riga({" Coordinate cartesiane   Coordonnées rectangulaires  Rectangular coordinates"});
@@ -77,6 +78,7 @@ void TabellaDiurne(Sessione &s, Uscita uscita) {
         }
         f.dati(std::move(voci));
     }
+    lascia(s, y0);
     f.chiudi();
 }
 

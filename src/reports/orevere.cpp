@@ -1,169 +1,185 @@
 // The true hours on any plane, on a wall and at the equator: angles and points before the tables.
 #include "reports/orevere.h"
 
+#include "gnomonica/centro.h"
+#include "gnomonica/equivalente.h"
 #include "gnomonica/longitudine.h"
-#include "gnomonica/stilo.h"
 
 namespace ombrelia::reports {
 
-namespace {
-
-using ore::Calcolo;
+using ore::DatiOre;
 using ore::SpecieOreVere;
 
-// A reclining plane, by the wall of latitude f1 and declination d1 that has its lines; latR and decR become that wall's.
-void angoliInclinato(Conto &v, bool senzaFuso, bool schermo, Calcolo &c) {
-    const Reale segno = SegnoDeclinazione(v.decR, v.decR);
+ore::DatiOre::DatiOre(const Variabili &v, SpecieOreVere quale)
+    : specie(quale),
+      latR(v.latR),
+      decR(v.decR),
+      declinSessag(v.declinSessag),
+      segnoDec(v.segnoDec),
+      diffLong(v.diffLong),
+      lon(v.lon),
+      lonPiu15(v.lonPiu15),
+      corrLong(v.corrLong),
+      delta(v.deltaOpz),
+      altStilo(v.altStilo),
+      angSustilare(v.angSustilare),
+      angoloOra(v.angoloOra),
+      lati(v),
+      xSusEq(v.xSusEq),
+      ySusEq(v.ySusEq),
+      xSusPiede(v.xSusPiede),
+      ySusPiede(v.ySusPiede) {}
+
+namespace {
+
+// A reclining plane, by the wall that has its lines: style and substyle are the plane's, latitude and declination the wall's.
+DatiOre angoliInclinato(const Variabili &v, DatiOre d, bool senzaFuso, bool schermo) {
+    const Valore segno = SegnoDeclinazione(d.decR, d.decR);
     if (schermo && Abs(v.iz_o) == PI / 2) {  // on the screen alone: meant
-        v.decR = 0;
-        v.declinSessag = 0;
+        d.decR = 0;
+        d.declinSessag = 0;
     }
-    const Piano p(v);
-    v.altStilo = -ArcSin(p.senStilo());
-    v.angSustilare = ArcSin(p.sg * p.cphi / cos(v.altStilo));
-    v.assostiloLen = Abs(v.gn / sin(v.altStilo));
-    c.k = -1;
-    Reale f1, w, coseno, d1, u;
-    f1 = ArcSin(p.senZenit());
-    w = p.si * p.sg / cos(f1);
-    if (v.dec == 0) {
-        v.diffLong = 0;
-    } else if (Abs(v.dec) == 180) {
-        v.diffLong = PI;
-    } else {
-        coseno = (p.ci - p.sphi * sin(f1)) / (p.cphi * cos(f1));
-        if (Abs(coseno) < 1) v.diffLong = ArcCos(coseno) * Sgn(w);
-        else v.diffLong = 0;
-    }
-    v.lon = (senzaFuso ? Valore(v.meridiano) : Valore(v.lonCopia)) - v.diffLong * 180 / PI;
-    if (v.dec == 0) {
-        d1 = 0;
-    } else if (Abs(v.dec) == 180) {
-        d1 = PI;
-    } else if (v.incR == 0) {
-        d1 = v.decR;
-    } else {
-        coseno = (p.ci * sin(f1) - p.sphi) / (p.si * cos(f1));
-        if (Abs(coseno) < 1) d1 = ArcCos(coseno) * segno;
-        else d1 = 0;
-    }
+    const Piano p(d.latR, d.decR, v.incR, v.gn, v.unita);
+    d.altStilo = -ArcSin(p.senStilo());
+    d.angSustilare = ArcSin(p.senSustilare(d.altStilo));
+    d.lati.assostiloLen = Abs(v.gn / sin(d.altStilo));
+    d.k = -1;
+    const PareteEquivalente e = EquivalenteDelleOre(p, v.dec, segno);
+    d.diffLong = e.diffLong;
+    d.lon = (senzaFuso ? Valore(v.meridiano) : Valore(v.lonCopia)) - d.diffLong * 180 / PI;
     if (v.inc == 90) {
-        v.angoloOra = 0;
+        d.angoloOra = 0;
     } else {
-        u = tan(d1) / sin(f1);
-        v.angoloOra = DalLatoDi(v.decR, Atn(u));
+        const Reale mezza = OraSustilareMuroMezza(e.f1, e.d1);
+        d.angoloOra = DalLatoDi(d.decR, mezza);
     }
-    c.oraSus = 12 + (v.angoloOra - v.diffLong) * 12 / PI;
-    v.latR = f1;
-    v.decR = d1;
+    d.oraSus = 12 + (d.angoloOra - d.diffLong) * 12 / PI;
+    d.latR = e.f1;
+    d.decR = e.d1;
+    return d;
 }
 
 // Longitude terms under the box of the zone meridian.
-void longitudine(Conto &v) {
-    v.segnoDec = SegnoDeclinazione(v.dec, v.decR);
-    LasciaDalMeridiano(v);
-    v.corrLong = CorrezioneFuso(v);
+DatiOre longitudine(const Variabili &v, DatiOre d) {
+    d.segnoDec = SegnoDeclinazione(v.dec, d.decR);
+    d.lonPiu15 = DalMeridiano(d.lon, v.meridiano);
+    d.corrLong = CorrezioneFuso(d.lonPiu15, v.oraFuso);
+    return d;
 }
 
-void angoliParete(Conto &v, Calcolo &c) {
-    longitudine(v);
-    v.angSustilare = SustilareMuro(v.latR, v.decR);
-    c.sine = TanStiloMuro(v.latR, v.decR);
-    v.altStilo = Atn(c.sine);
-    v.assostiloLen = Abs(v.gn / sin(v.altStilo));
-    c.k = 1;
-    if (v.latR == 0 && v.incR == 0) {
-        v.angoloOra = (PI / 2) * Sgn(v.decR);
+DatiOre angoliParete(const Variabili &v, DatiOre d) {
+    d.angSustilare = SustilareMuro(d.latR, d.decR);
+    d.tanStilo = TanStiloMuro(d.latR, d.decR);
+    d.altStilo = Atn(d.tanStilo);
+    d.lati.assostiloLen = Abs(v.gn / sin(d.altStilo));
+    d.k = 1;
+    if (d.latR == 0 && v.incR == 0) {
+        d.angoloOra = (PI / 2) * Sgn(d.decR);
     } else {
-        v.angoloOra = Atn(tan(v.decR) / sin(v.latR));
-        v.angoloOra = DalLatoDi(v.decR, v.angoloOra);
+        d.angoloOra = OraSustilareMuroMezza(d.latR, d.decR);
+        d.angoloOra = DalLatoDi(d.decR, d.angoloOra);
     }
-    c.oraSus = 12 + (v.angoloOra - v.diffLong) * 12 / PI;
+    d.oraSus = 12 + (d.angoloOra - d.diffLong) * 12 / PI;
+    return d;
 }
 
 // A wall on the equator; its style lies at the complement of the declination.
-void angoliLatZero(Conto &v, Calcolo &c) {
-    const Valore cd = cos(v.decR);
-    if (Abs(cd) == 1) v.altStilo = (PI / 2) * Sgn(cd);
-    else v.altStilo = ArcSin(cd);
-    v.angSustilare = (PI / 2) * v.segnoDec;
-    v.angoloOra = v.angSustilare;
-    if (v.decR != 0) c.L = cd / sin(v.decR);
-    v.assostiloLen = v.gn / sin(v.altStilo);
-    c.k = Abs(v.dec) == 180 ? 1 : -1;
+DatiOre angoliLatZero(const Variabili &v, DatiOre d) {
+    const Valore cd = cos(d.decR);
+    if (Abs(cd) == 1) d.altStilo = (PI / 2) * Sgn(cd);
+    else d.altStilo = ArcSin(cd);
+    d.angSustilare = (PI / 2) * d.segnoDec;
+    d.angoloOra = d.angSustilare;
+    if (d.decR != 0) d.L = cd / sin(d.decR);
+    d.lati.assostiloLen = v.gn / sin(d.altStilo);
+    d.k = Abs(v.dec) == 180 ? 1 : -1;
+    return d;
 }
 
-void punti(Conto &v, Calcolo &c) {
-    const Valore te = tan(v.altStilo), ss = sin(v.angSustilare), ts = tan(v.angSustilare);
-    v.xCentro = -v.gn * ss / te;
-    v.yCentro = v.gn * cos(v.angSustilare) / te;
-    v.segStiloSus = v.assostiloLen * cos(v.altStilo);
-    v.segCentroPiede = v.assostiloLen / sin(v.latR);
-    v.xCentroNeg = v.gn * ss / te;
-    v.yCentroNeg = -v.yCentro;
-    v.segAsse = v.assostiloLen / cos(v.altStilo);
-    if (v.latR != 0) {
-        c.yM = -(v.gn / (sin(v.altStilo) * sin(v.latR)) - v.yCentro);
-        v.segPiedeEq = v.gn * ts / (sin(v.latR) * sin(v.altStilo));
+// Centre, lengths of the style's triangle, and the chosen lines against equinoctial and substyle.
+DatiOre conPunti(const Variabili &v, DatiOre d) {
+    TriangoloStilo &t = d.lati;
+    const Valore ts = tan(d.angSustilare);
+    const PostoCentro centro = CentroDaStilo(v.gn, d.angSustilare, d.altStilo);
+    t.xCentro = centro.x;
+    t.yCentro = centro.y;
+    t.xCentroNeg = -centro.x;
+    t.yCentroNeg = -t.yCentro;
+    t.CM = t.assostiloLen / sin(d.latR);
+    t.suSustilare(d.altStilo);
+    Reale yM;  // ordinate of M
+    if (d.latR != 0) {
+        yM = -(v.gn / (sin(d.altStilo) * sin(d.latR)) - t.yCentro);
+        t.MS = v.gn * ts / (sin(d.latR) * sin(d.altStilo));
     } else {
-        v.segCentroPiede = v.segAsse / cos(v.angSustilare);
-        v.segPiedeEq = -v.segCentroPiede * ts;
+        t.CM = t.CP / cos(d.angSustilare);
+        t.MS = -t.CM * ts;
     }
-    if (v.decR == 0 || c.specie == SpecieOreVere::LatZero) return;
-    v.ySusEq = (v.xEq - v.xCentro) * ts + c.yM;
-    v.xSusEq = (v.yEq - c.yM) / ts + v.xCentro;
-    v.xSusPiede = -v.xSus / ts;
-    v.ySusPiede = -v.ySus * ts;
+    if (d.decR == 0 || d.specie == SpecieOreVere::LatZero) return d;
+    d.ySusEq = (v.xEq - t.xCentro) * ts + yM;
+    d.xSusEq = (v.yEq - yM) / ts + t.xCentro;
+    d.xSusPiede = -v.xSus / ts;
+    d.ySusPiede = -v.ySus * ts;
+    return d;
 }
 
-void lascia(Variabili &v, const Conto &conto) {
-    using V = Variabili;
+DatiOre dati(const Sessione &s, const Lettura &letto, SpecieOreVere specie, bool schermo) {
+    const Variabili &v = s.v;
+    DatiOre d(v, specie);
+    d.delta = Abs(letto.delta);
+    if (specie == SpecieOreVere::Inclinato) {
+        d = conPunti(v, angoliInclinato(v, d, s.in.ck_Etna == 0, schermo));
+        d.lonPiu15 = DalMeridiano(d.lon, v.meridiano) + (d.diffLong * 180 / PI) * 0;
+        d.corrLong = CorrezioneLongitudine(d.lonPiu15);  // whatever the box of the zone meridian says: it is in lon by now
+        return d;
+    }
+    d = longitudine(v, d);
+    if (specie == SpecieOreVere::Parete) return conPunti(v, angoliParete(v, d));
+    if (v.incR != 0) d.specie = SpecieOreVere::LatZeroInclinato;
+    else d = conPunti(v, angoliLatZero(v, d));
+    d.oraSus = 12 + d.angoloOra * 12 / PI;
+    return d;
+}
+
+void lascia(Sessione &s, const DatiOre &d) {
+    Variabili &v = s.v;
     // The plane worked on, which for a reclining one is the equivalent wall; the longitude that has lines like it.
-    Lascia(v, conto, {&V::latR, &V::decR, &V::declinSessag, &V::segnoDec, &V::diffLong, &V::lon, &V::lonPiu15, &V::corrLong});
+    v.latR = d.latR;
+    v.decR = d.decR;
+    v.declinSessag = d.declinSessag;
+    v.segnoDec = d.segnoDec;
+    v.diffLong = d.diffLong;
+    v.lon = d.lon;
+    v.lonPiu15 = d.lonPiu15;
+    v.corrLong = d.corrLong;
     // Style and substyle, centre and lengths of the style's triangle, as the data report leaves them.
-    Lascia(v, conto,
-           {&V::angSustilare, &V::altStilo, &V::angoloOra, &V::assostiloLen, &V::xCentro, &V::yCentro, &V::xCentroNeg,
-            &V::yCentroNeg, &V::segStiloSus, &V::segCentroPiede, &V::segAsse, &V::segPiedeEq});
+    v.angSustilare = d.angSustilare;
+    v.altStilo = d.altStilo;
+    v.angoloOra = d.angoloOra;
+    LasciaTriangolo(v, d.lati);
     // The chosen lines against equinoctial and substyle; the declination of choice without its sign.
-    Lascia(v, conto, {&V::xSusEq, &V::ySusEq, &V::xSusPiede, &V::ySusPiede, &V::deltaOpz});
+    v.xSusEq = d.xSusEq;
+    v.ySusEq = d.ySusEq;
+    v.xSusPiede = d.xSusPiede;
+    v.ySusPiede = d.ySusPiede;
+    v.deltaOpz = d.delta;
+    // The option that asked for the report springs back.
+    s.in.optHorae = 0;
 }
 
 void oreVere(Sessione &s, Uscita uscita, SpecieOreVere specie) {
     const Lettura letto(s.in);
     if (TroppeRighe(s, letto.inizio, letto.fine, letto.fraz, 2)) return;
     LeggiParametri(s, letto);
-    Conto v(s, letto);
     Tabulato f(s, "Form2", uscita);
-    v.deltaOpz = Abs(letto.delta);
-    Calcolo c;
-    c.specie = specie;
-    switch (specie) {
-        case SpecieOreVere::Inclinato:
-            angoliInclinato(v, s.in.ck_Etna == 0, f.schermo(), c);
-            punti(v, c);
-            v.lonPiu15 = DalMeridiano(v.lon, v.meridiano) + (v.diffLong * 180 / PI) * 0;
-            v.corrLong = CorrezioneLongitudine(v);  // whatever the box of the zone meridian says: it is in lon by now
-            break;
-        case SpecieOreVere::Parete:
-            angoliParete(v, c);
-            punti(v, c);
-            break;
-        default:
-            longitudine(v);
-            if (v.incR != 0) {
-                c.specie = SpecieOreVere::LatZeroInclinato;
-            } else {
-                angoliLatZero(v, c);
-                punti(v, c);
-            }
-            f.etichetta(c.specie == SpecieOreVere::LatZero ? "  LATITUDINE ZERO"_it
-                                                           : "  LATITUDINE ZERO, declinazione gnomonica = 0"_it);
-            c.oraSus = 12 + v.angoloOra * 12 / PI;
-            break;
-    }
-    ore::Tabelle(s, v, f, c);
-    ore::Blocchi(s, v, f, c);
-    lascia(s.v, v);
+    const DatiOre d = dati(s, letto, specie, f.schermo());
+    if (specie == SpecieOreVere::LatZero)
+        f.etichetta(d.specie == SpecieOreVere::LatZero ? "  LATITUDINE ZERO"_it
+                                                       : "  LATITUDINE ZERO, declinazione gnomonica = 0"_it);
+    ore::Tabelle(s, letto, d, f);
+    const DatiOre sotto = ore::DatiDeiBlocchi(s.v, d);
+    ore::Blocchi(s, sotto, f);
+    lascia(s, sotto);
     f.chiudi();
 }
 

@@ -1,4 +1,5 @@
 // Under the tables of the true hours: equinoctial, substyle, fundamental points, legend.
+#include "gnomonica/centro.h"
 #include "gnomonica/longitudine.h"
 #include "reports/orevere.h"
 
@@ -6,33 +7,23 @@ namespace ombrelia::reports::ore {
 
 namespace {
 
-// A turned dial's substyle, and the point P where substyle and equinoctial meet.
-struct Piede {
+// The point P where substyle and equinoctial meet; the foot itself where the wall looks due east or west.
+struct PuntoEquinoziale {
     Reale x, y;
 };
-Piede preparaBlocchi(Conto &v, Calcolo &c) {
-    if (Abs(v.dec) == 90) {
-        v.segStiloSus = v.gn / tan(v.altStilo);
-        v.xCentro = -v.segStiloSus * sin(v.angSustilare);
-        v.yCentro = v.segStiloSus * cos(v.angSustilare);
-    }
-    if (Abs(v.dec) > 90) {
-        v.angSustilare = v.segnoDec * PI - v.angSustilare;
-        v.angoloOra = v.angoloOra + v.segnoDec * 180;  // degrees onto radians: meant
-        c.oraSus = 12 + v.angoloOra / 15;
-    }
-    Piede p;
-    if (Abs(v.declinSessag) != 90) {
-        p.x = v.gn * tan(v.altStilo) * sin(v.angSustilare);
-        p.y = -v.gn * tan(v.altStilo) * cos(v.angSustilare);
+PuntoEquinoziale incontro(Valore gn, const DatiOre &d) {
+    PuntoEquinoziale p;
+    if (Abs(d.declinSessag) != 90) {
+        p.x = gn * tan(d.altStilo) * sin(d.angSustilare);
+        p.y = -gn * tan(d.altStilo) * cos(d.angSustilare);
     }
     return p;
 }
 
-void coppie(Conto &v, Tabulato &f, Calcolo &c) {
-    const Piede P = preparaBlocchi(v, c);
-    const Valore ts = tan(v.angSustilare);
-    const bool declina = v.decR != 0;
+void coppie(const Variabili &v, const DatiOre &d, Tabulato &f) {
+    const PuntoEquinoziale P = incontro(v.gn, d);
+    const Valore ts = tan(d.angSustilare);
+    const bool declina = d.decR != 0;
     const auto taglia = [](Valore x) { return Int(x * 10000) / 10000; };
     // Not computed is 0.
     const auto equinoziale = [&](Valore a) { return Reale(declina ? ts * (a - P.x) + P.y : Valore(0)); };
@@ -54,50 +45,70 @@ void coppie(Conto &v, Tabulato &f, Calcolo &c) {
     riga("Ordinata retta sust.re a scelta y3 ="_it, v.ySus, "Ascissa relativa x ="_it, sustilareY(v.ySus));
 }
 
+bool equatore(const DatiOre &d) { return d.specie == SpecieOreVere::LatZero || d.specie == SpecieOreVere::LatZeroInclinato; }
+
 }  // namespace
 
-void Blocchi(Sessione &s, Conto &v, Tabulato &f, Calcolo &c) {
-    const bool equatore = c.specie == SpecieOreVere::LatZero || c.specie == SpecieOreVere::LatZeroInclinato;
-    s.in.optHorae = 0;
+DatiOre DatiDeiBlocchi(const Variabili &v, DatiOre d) {
+    if (equatore(d)) {
+        d.xSusEq = Sgn(d.lati.xCentro) * v.gn * tan(d.altStilo);
+        return d;
+    }
+    if (Abs(v.dec) == 90) {
+        d.lati.CG = v.gn / tan(d.altStilo);
+        const PostoCentro centro = CentroDaSustilare(d.lati.CG, d.angSustilare);
+        d.lati.xCentro = centro.x;
+        d.lati.yCentro = centro.y;
+    }
+    if (Abs(v.dec) > 90) {
+        d.angSustilare = d.segnoDec * PI - d.angSustilare;
+        d.angoloOra = d.angoloOra + d.segnoDec * 180;  // degrees onto radians: meant
+        d.oraSus = 12 + d.angoloOra / 15;
+    }
+    return d;
+}
+
+void Blocchi(const Sessione &s, const DatiOre &d, Tabulato &f) {
+    const Variabili &v = s.v;
+    const TriangoloStilo &t = d.lati;
     f.colore(BLU);
-    if (equatore) {
-        v.xSusEq = Sgn(v.xCentro) * v.gn * tan(v.altStilo);
+    if (equatore(d)) {
         f.etichetta("E Q U I N O Z I A L E"_it);
         f.riga({f.tr("La retta equinoziale è sempre verticale dal punto xel ="_it),
-                Numero(Round(v.xSusEq * 10000, 4) / 10000).vero(v.xSusEq)});
+                Numero(Round(d.xSusEq * 10000, 4) / 10000).vero(d.xSusEq)});
         f.etichetta("S U S T I L A R E"_it);
         f.etichetta("La retta sustilare coincide con l'orizzonte"_it);
     } else {
-        coppie(v, f, c);
+        coppie(v, d, f);
     }
-    const Valore GP = Abs(v.segAsse) - Abs(v.segStiloSus), PM = v.segAsse * tan(v.angSustilare);
-    f.riga({f.tr("CM = "_it), Arrotonda5(v.segCentroPiede), Spc(3), f.tr("CG = "_it), Arrotonda5(v.segStiloSus), Spc(3),
-            f.tr("CP = "_it), Arrotonda5(v.segAsse)});
-    f.riga({f.tr("GP = "_it), Arrotonda5(GP), Spc(3), f.tr("PM = "_it), Arrotonda5(PM), Spc(3), f.tr("MS = "_it),
-            Arrotonda5(v.segPiedeEq)});
+    const Valore GP = Abs(t.CP) - Abs(t.CG), PM = t.CP * tan(d.angSustilare);
+    f.riga({f.tr("CM = "_it), Arrotonda5(t.CM), Spc(3), f.tr("CG = "_it), Arrotonda5(t.CG), Spc(3), f.tr("CP = "_it),
+            Arrotonda5(t.CP)});
+    f.riga(
+        {f.tr("GP = "_it), Arrotonda5(GP), Spc(3), f.tr("PM = "_it), Arrotonda5(PM), Spc(3), f.tr("MS = "_it), Arrotonda5(t.MS)});
     f.colore(NERO);
     const auto angolo = [&](std::string_view nome, Valore x, std::string_view cosa) {
         f.riga({f.tr(nome), Arrotonda5(x), f.tr(" rad   "_it), Arrotonda5(Gradi(x)), " °", Zona(), f.tr(cosa)});
     };
-    angolo("sigma ="_it, v.angSustilare, "angolo sustilare i"_it);
-    angolo("epsilon ="_it, -v.altStilo, "elevazione dello stilo j"_it);
-    if (equatore) f.colore(BLU_SCURO);
-    f.riga({f.tr("CX ="_it), Arrotonda5(v.xCentro), Spc(3), f.tr("CY ="_it), Arrotonda5(v.yCentro), Zona(),
+    angolo("sigma ="_it, d.angSustilare, "angolo sustilare i"_it);
+    angolo("epsilon ="_it, -d.altStilo, "elevazione dello stilo j"_it);
+    if (equatore(d)) f.colore(BLU_SCURO);
+    f.riga({f.tr("CX ="_it), Arrotonda5(t.xCentro), Spc(3), f.tr("CY ="_it), Arrotonda5(t.yCentro), Zona(),
             f.tr("Coordinate del centro"_it)});
-    if (equatore) f.colore(NERO);
+    if (equatore(d)) f.colore(NERO);
 
-    const Valore minuti = 60 * (c.oraSus - Int(c.oraSus));
-    const Valore angolare = Gradi(equatore ? Valore(v.angoloOra) : v.angoloOra - v.diffLong);
+    const Valore minuti = 60 * (d.oraSus - Int(d.oraSus));
+    const Valore angolare = Gradi(equatore(d) ? Valore(d.angoloOra) : d.angoloOra - d.diffLong);
     const Valore dalFuso = DalMeridiano(angolare, v.meridiano);
-    const Valore longitudine = equatore ? -Round(dalFuso, 4) : -dalFuso;
-    f.riga({f.tr("ORA VERA SUSTILARE "_it), Arrotonda5(c.oraSus), Numero(Int(c.oraSus)), Numero(Int(minuti)),
+    const Valore longitudine = equatore(d) ? -Round(dalFuso, 4) : -dalFuso;
+    f.riga({f.tr("ORA VERA SUSTILARE "_it), Arrotonda5(d.oraSus), Numero(Int(d.oraSus)), Numero(Int(minuti)),
             Arrotonda5(60 * (minuti - Int(minuti))), f.tr(" long.sustilare = "_it), Fmt(longitudine, "0.0000")});
-    const std::string unita = s.Traduci(equatore ? " metri" : " unità");
+    const std::string unita = s.Traduci(equatore(d) ? " metri" : " unità");
     f.riga({f.tr("latitudine "_it), Arrotonda5(v.lat), f.tr(", declinazione "_it), Arrotonda5(v.dec), f.tr(", ortostilo "_it),
-            Arrotonda5(v.gn), unita, f.tr(", assostilo "_it), Arrotonda5(v.assostiloLen), unita});
-    f.riga({f.tr("longitudine "_it), Arrotonda5(v.lon), f.tr(", declinazione sole "_it), Arrotonda5(v.deltaOpz)});
+            Arrotonda5(v.gn), unita, f.tr(", assostilo "_it), Arrotonda5(t.assostiloLen), unita});
+    f.riga({f.tr("longitudine "_it), Arrotonda5(d.lon), f.tr(", declinazione sole "_it), Arrotonda5(d.delta)});
     f.legenda();
-    if (equatore) f.colore(MAGENTA);
+    if (equatore(d)) f.colore(MAGENTA);
 }
 
 }  // namespace ombrelia::reports::ore

@@ -56,39 +56,56 @@ constexpr std::string_view INF_ASCISSA = "inf         ";
 
 Valore taglia(Valore x) { return Int(x * 10000) / 10000; }
 
-// Shadow lengths at the hour angle q from the substyle.
-void ombre(const Variabili &v, Calcolo &c, Valore q) {
-    const Valore delta = v.deltaOpz * PI / 180;
-    switch (c.specie) {
+// What a row holds; a formula without a value keeps the row's before.
+struct RigaOre {
+    Reale se, si, ce;   // shadow lengths, the unit of gn
+    Reale x, ordinata;  // where the hour line meets the chosen ones
+    std::string testoOrdinata;
+    Reale w, A;  // tangent of the angle at the centre between style and hour line, and that angle
+    Reale D;     // what the hour line's tangent is multiplied by
+};
+
+// From the centre to the points of both solstices and of the equinox on an hour line. Given: the dial, q the hour angle from the
+// substyle, radians. Gives: se, si, ce, the unit of gn, negative beyond the centre. Source: tan A = tan(style) / cos q of the
+// right spherical triangle of pole, substyle and hour line (Napier); the law of sines in the triangle of centre, tip and point,
+// whose angle at the tip is a quarter turn less or more the declination. Faults: a length without a value is that of the row
+// before.
+void ombre(const DatiOre &d, RigaOre &r, Valore gn, Valore q) {
+    const Valore delta = d.delta * PI / 180;
+    switch (d.specie) {
         case SpecieOreVere::Inclinato:
-            c.w = tan(v.altStilo) / cos(q);
+            r.w = tan(d.altStilo) / cos(q);
             break;
         case SpecieOreVere::Parete:
-            c.w = c.sine / cos(q);
+            r.w = d.tanStilo / cos(q);
             break;
         default:
-            c.w = c.L / cos(q);
+            r.w = d.L / cos(q);
             break;
     }
-    c.A = c.specie == SpecieOreVere::LatZero ? -Atn(c.w) : Atn(c.w);
-    if (Abs(q) > PI / 2) c.A = (PI - Abs(c.A)) * Sgn(c.A);
-    const Valore lato = c.specie == SpecieOreVere::Inclinato ? Sgn(sin(v.altStilo)) : Sgn(v.gn / sin(v.altStilo));
-    const Reale K = c.k * lato * v.deltaOpz * PI / 180;
-    c.se = v.assostiloLen * cos(-delta) / cos(c.A + K);
-    c.si = v.assostiloLen * cos(delta) / cos(c.A - K);
-    c.ce = v.assostiloLen / cos(c.A);
+    r.A = d.specie == SpecieOreVere::LatZero ? -Atn(r.w) : Atn(r.w);
+    if (Abs(q) > PI / 2) r.A = (PI - Abs(r.A)) * Sgn(r.A);
+    const Valore lato = d.specie == SpecieOreVere::Inclinato ? Sgn(sin(d.altStilo)) : Sgn(gn / sin(d.altStilo));
+    const Reale K = d.k * lato * d.delta * PI / 180;
+    const Valore asse = d.lati.assostiloLen;
+    r.se = asse * cos(-delta) / cos(r.A + K);
+    r.si = asse * cos(delta) / cos(r.A - K);
+    r.ce = asse / cos(r.A);
 }
 
-// Abscissa at the chosen ordinate, ordinate at the chosen abscissa.
-void intercetti(const Variabili &v, Calcolo &c, double V, Valore t, Valore xs, Valore ys) {
-    const bool fuoriMeridiano = V + v.lonPiu15 != 0;
+// Abscissa at the chosen ordinate ys, ordinate at the chosen abscissa xs. Given: V, degrees of hour angle, and t, the same with
+// the longitude in it, radians. Gives: the unit of gn, y upward, the ordinate cut to four decimals in its text. Source: the
+// straight line through the centre at tan = cos(lat) tan t / D (Rohr, Sundials, hour lines of declining walls). Faults: as above.
+void intercetti(const Variabili &v, const DatiOre &d, RigaOre &r, double V, Valore t, Valore xs, Valore ys) {
+    const bool fuoriMeridiano = V + d.lonPiu15 != 0;
+    const Valore xC = d.lati.xCentro, yC = d.lati.yCentro;
     const auto ordinata = [&](Valore y) {
-        c.ordinata = y;
-        if (const Valore tagliata = taglia(c.ordinata); tagliata.esiste()) c.testoOrdinata = TestoNumero(tagliata.v);
+        r.ordinata = y;
+        if (const Valore tagliata = taglia(r.ordinata); tagliata.esiste()) r.testoOrdinata = TestoNumero(tagliata.v);
     };
-    switch (c.specie) {
+    switch (d.specie) {
         case SpecieOreVere::LatZeroInclinato:
-            c.x = ys * tan(t);
+            r.x = ys * tan(t);
             if (fuoriMeridiano) {
                 ordinata(xs / tan(t + 0.0001));  // the small angle keeps the division alive
                 return;
@@ -98,62 +115,62 @@ void intercetti(const Variabili &v, Calcolo &c, double V, Valore t, Valore xs, V
             if (Abs(v.dec) == 90) {
                 ordinata(v.gn / tan(t));  // whichever side the wall looks: meant
             } else {
-                ordinata((xs - v.xCentro) * cos(v.decR) / tan(t) + v.yCentro);
-                c.x = (ys - v.yCentro) * tan(t) / cos(v.decR) + v.xCentro;
+                ordinata((xs - xC) * cos(d.decR) / tan(t) + yC);
+                r.x = (ys - yC) * tan(t) / cos(d.decR) + xC;
             }
             break;
         default:
-            c.D = cos(v.decR) - sin(v.decR) * sin(v.latR) * tan(t);
-            c.x = (ys - v.yCentro) * cos(v.latR) * tan(t) / c.D + v.xCentro;
-            if (fuoriMeridiano) ordinata((xs - v.xCentro) * c.D / (cos(v.latR) * tan(t)) + v.yCentro);
+            r.D = cos(d.decR) - sin(d.decR) * sin(d.latR) * tan(t);
+            r.x = (ys - yC) * cos(d.latR) * tan(t) / r.D + xC;
+            if (fuoriMeridiano) ordinata((xs - xC) * r.D / (cos(d.latR) * tan(t)) + yC);
             break;
     }
-    if (t == 0) c.testoOrdinata = INF;
+    if (t == 0) r.testoOrdinata = INF;
 }
 
-void riga(const Variabili &v, Tabulato &f, Calcolo &c, double V, Valore xs, Valore ys, bool prima) {
-    const Valore t = V * PI / 180 + v.corrLong;
-    if (c.specie == SpecieOreVere::LatZeroInclinato) {
-        c.se = v.gn * tan(PI / 2 - v.deltaOpz * PI / 180);
-        c.si = -v.gn * tan(PI / 2 - v.deltaOpz * PI / 180);
+void calcola(const Variabili &v, const DatiOre &d, RigaOre &r, double V, Valore xs, Valore ys) {
+    const Valore t = V * PI / 180 + d.corrLong;
+    if (d.specie == SpecieOreVere::LatZeroInclinato) {
+        r.se = v.gn * tan(PI / 2 - d.delta * PI / 180);
+        r.si = -v.gn * tan(PI / 2 - d.delta * PI / 180);
     } else {
-        ombre(v, c, v.angoloOra + t);
+        ombre(d, r, v.gn, d.angoloOra + t);
     }
-    intercetti(v, c, V, t, xs, ys);
+    intercetti(v, d, r, V, t, xs, ys);
+}
 
+void scrivi(const Variabili &v, const DatiOre &d, const RigaOre &r, Tabulato &f, double V, Valore xs, Valore ys, bool prima) {
     const bool estOvest = Abs(v.dec) == 90;
-    const auto differenza = [&](Valore d) { return Taglio4(prima && !estOvest ? Abs(d) : d); };
+    const auto differenza = [&](Valore x) { return Taglio4(prima && !estOvest ? Abs(x) : x); };
     const Elemento inf(INF);
-    Elemento ordinata(c.testoOrdinata);
-    if (c.testoOrdinata != INF && !c.testoOrdinata.empty()) ordinata.numero = c.ordinata.numero();
-    const bool senzaAscissa = c.specie == SpecieOreVere::LatZero && estOvest;
+    Elemento ordinata(r.testoOrdinata);
+    if (r.testoOrdinata != INF && !r.testoOrdinata.empty()) ordinata.numero = r.ordinata.numero();
+    const bool senzaAscissa = d.specie == SpecieOreVere::LatZero && estOvest;
     std::vector<Elemento> voci{Fmt(12 - Valore(V) / 15, "00.00"), Spc(2),
-                               senzaAscissa ? Elemento(INF_ASCISSA) : Fmt(taglia(c.x), ".0000").vero(c.x), Spc(2), Numero(ys)};
+                               senzaAscissa ? Elemento(INF_ASCISSA) : Fmt(taglia(r.x), ".0000").vero(r.x), Spc(2), Numero(ys)};
     const auto cella = [&](Elemento e) {
         voci.push_back(Zona());
         voci.push_back(std::move(e));
     };
     cella(Numero(xs));
     cella(std::move(ordinata));
-    if (c.specie == SpecieOreVere::LatZeroInclinato) {
-        for (Elemento &e : std::array{Taglio4(c.se), Taglio4(c.si), differenza(c.se - c.si), inf, inf, inf}) cella(std::move(e));
+    if (d.specie == SpecieOreVere::LatZeroInclinato) {
+        for (Elemento &e : std::array{Taglio4(r.se), Taglio4(r.si), differenza(r.se - r.si), inf, inf, inf}) cella(std::move(e));
     } else {
-        cella(estOvest ? inf : Taglio4(c.se));
-        cella(estOvest ? inf : Taglio4(c.si));
-        cella(differenza(c.se - c.si));
-        cella(estOvest ? inf : Taglio4(c.ce));
-        cella(differenza(c.se - c.ce));
-        cella(differenza(c.si - c.ce));
+        cella(estOvest ? inf : Taglio4(r.se));
+        cella(estOvest ? inf : Taglio4(r.si));
+        cella(differenza(r.se - r.si));
+        cella(estOvest ? inf : Taglio4(r.ce));
+        cella(differenza(r.se - r.ce));
+        cella(differenza(r.si - r.ce));
     }
-    if (prima) cella(Numero(v.deltaOpz));
+    if (prima) cella(Numero(d.delta));
     f.dati(std::move(voci));
 }
 
 }  // namespace
 
-bool PrimoOrdine(SpecieOreVere specie, const Variabili &v) {
-    return specie == SpecieOreVere::Parete ? v.altStilo > 0 : v.altStilo < 0;
-}
+bool PrimoOrdine(SpecieOreVere specie, Valore altStilo) { return specie == SpecieOreVere::Parete ? altStilo > 0 : altStilo < 0; }
 
 Trilingue Intestazioni(SpecieOreVere specie, bool schermo, bool primoOrdine, bool prima) {
     const std::size_t carta = schermo ? 0 : 1;
@@ -164,17 +181,22 @@ Trilingue Intestazioni(SpecieOreVere specie, bool schermo, bool primoOrdine, boo
     return {std::string(it).append(ombre), std::string(fr).append(ombre), std::string(INGLESE)};
 }
 
-void Tabelle(const Sessione &s, const Conto &v, Tabulato &f, Calcolo &c) {
-    const Valore Vi = -(15 * v.letto.inizio - 180), Vf = -(15 * v.letto.fine - 180);
-    const bool primo = PrimoOrdine(c.specie, v);
+void Tabelle(const Sessione &s, const Lettura &letto, const DatiOre &d, Tabulato &f) {
+    const Variabili &v = s.v;
+    const Valore Vi = -(15 * letto.inizio - 180), Vf = -(15 * letto.fine - 180);
+    const bool primo = PrimoOrdine(d.specie, d.altStilo);
+    RigaOre r;
     for (const bool prima : {true, false}) {
         const Valore xs = prima ? v.x0 : v.x1, ys = prima ? v.y0 : v.y1;
         const std::string n = prima ? "0" : "1";
         if (!prima) f.vuota();
         f.tabella("x" + n + " = " + TestoNumero(xs.v) + ", y" + n + " = " + TestoNumero(ys.v),
-                  colonne(s, Intestazioni(c.specie, true, primo, prima), prima));
-        f.intestazioni(Intestazioni(c.specie, f.schermo(), primo, prima));
-        for (const double V : Conteggio(Vf, Vi, 15 / v.fraz)) riga(v, f, c, V, xs, ys, prima);
+                  colonne(s, Intestazioni(d.specie, true, primo, prima), prima));
+        f.intestazioni(Intestazioni(d.specie, f.schermo(), primo, prima));
+        for (const double V : Conteggio(Vf, Vi, 15 / v.fraz)) {
+            calcola(v, d, r, V, xs, ys);
+            scrivi(v, d, r, f, V, xs, ys, prima);
+        }
     }
 }
 

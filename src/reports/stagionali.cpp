@@ -64,12 +64,33 @@ struct Punti {
     Reale xa, ya, xb, yb;
 };
 
-// Runs through the lines of a report, what one line computes carried to the next.
+// The plane as the lines take it, radians: a horizontal one that was transformed comes back; one that lies level has no
+// declination.
+struct PianoLinee {
+    explicit PianoLinee(const Variabili &v) : latR(v.latR), decR(v.decR), incR(v.incR) {
+        if (Gradi(v.iz_o) != 90 || v.incR != 0) return;
+        latR = v.lat_o;
+        decR = 0;
+        incR = PI / 2;
+    }
+    [[nodiscard]] bool orizzontale() const { return Gradi(incR) == 90; }
+    Reale latR, decR, incR;
+};
+
+// Runs through the lines of a report, what one line computes carried to the next: a half day that doesn't exist is that of the
+// line before.
 class Linee {
 public:
-    Linee(const Variabili &v, Ora ora) : v_(v), ora_(ora), proietta_(Proiezione::delPiano(v.latR, v.decR, v.incR, v.gn, 1)) {}
+    Linee(const Variabili &v, const PianoLinee &p, Ora ora)
+        : tanLat_(tan(v.lat_o)),
+          diffLong_(v.diffLong),
+          ora_(ora),
+          proietta_(Proiezione::delPiano(p.latR, p.decR, p.incR, v.gn, 1)) {}
 
-    // The solstice points of the line V.
+    // The solstice points of the line V. Given: the hour as its system counts it. Gives: the unit of gn, y upward. Source: half
+    // the day by cos H = -tan(lat) tan(delta), the hour angle from sunset, sunrise or noon, the gnomonic projection; departure:
+    // the line between is taken to be straight, which that of a twelfth is but nearly. Faults: a point without a value is the
+    // line's before.
     const Punti &operator()(double V) {
         punto(V, -OBLIQUITA, p_.xa, p_.ya);
         punto(V, OBLIQUITA, p_.xb, p_.yb);
@@ -79,22 +100,22 @@ public:
 private:
     void punto(double V, double delta, Reale &x, Reale &y) {
         const Valore d = Radianti(delta);
-        H_ = PI / 2 - ArcSin(-tan(v_.lat_o) * tan(d));
+        H_ = PI / 2 - ArcSin(-tanLat_ * tan(d));
         switch (ora_) {
             case Ora::Italica:
-                a_ = Valore(V) * PI / 12 + H_ - 2 * PI + v_.diffLong;
+                a_ = Valore(V) * PI / 12 + H_ - 2 * PI + diffLong_;
                 break;
             case Ora::Babilonica:
-                a_ = Valore(V) * PI / 12 - H_ + v_.diffLong;
+                a_ = Valore(V) * PI / 12 - H_ + diffLong_;
                 break;
             case Ora::Temporaria:
-                a_ = H_ * (Valore(V) / 6 - 1) + v_.diffLong;
+                a_ = H_ * (Valore(V) / 6 - 1) + diffLong_;
                 break;
         }
         proietta_(Valore(a_), d, x, y);
     }
 
-    const Variabili &v_;
+    Valore tanLat_, diffLong_;  // of the original dial; its longitude less that of the plane, radians
     Ora ora_;
     Proiezione proietta_;
     Reale H_, a_;
@@ -140,23 +161,26 @@ void tabelleRette(Sessione &s, Tabulato &f, const TestiStagionali &t, Linee &lin
     }
 }
 
-void latitudini(const Variabili &v, Tabulato &f) {
+void latitudini(const Variabili &v, const PianoLinee &p, Tabulato &f) {
     const auto riga = [&](std::string_view nome, Valore lat, Valore dec, Valore inc) {
         f.riga({nome, Spc(2), Numero(Round(Gradi(lat), 4)), Zona(), Numero(Round(dec, 4)), Zona(), Numero(Gradi(inc))});
     };
-    riga("lat", v.latR, v.dec, v.incR);
+    riga("lat", p.latR, v.dec, p.incR);
     riga("lat_o", v.lat_o, Gradi(v.dec_o), v.iz_o);
 }
 
-// The plane as the lines take it: a horizontal one that was transformed comes back.
-void lasciaPiano(Variabili &v) {
-    if (Gradi(v.iz_o) != 90 || v.incR != 0) return;
-    v.latR = v.lat_o;
-    v.decR = 0;
-    v.incR = PI / 2;
+// For the reports and engines after this one: the plane of the lines.
+void lasciaPiano(Variabili &v, const PianoLinee &p) {
+    v.latR = p.latR;
+    v.decR = p.decR;
+    v.incR = p.incR;
 }
-// One that lies level has no declination.
-void lasciaOrizzontale(Variabili &v) { v.decR = 0; }
+// The options that asked for the report spring back.
+void lasciaOpzioni(DialInputs &in) {
+    in.OptIta = 0;
+    in.OptBab = 0;
+}
+void lasciaOpzioneTemporarie(DialInputs &in) { in.OptTEMP = 0; }
 
 // The day on which the lines end, degrees.
 void lasciaSolstizio(Variabili &v) { v.deltaOpz = OBLIQUITA; }
@@ -165,65 +189,36 @@ void italicheBabiloniche(Sessione &s, Uscita uscita, Ora ora) {
     const Lettura letto(s.in);
     if (TroppeRighe(s, letto.inizio, letto.fine, letto.fraz, 3)) return;
     LeggiParametri(s, letto);
+    const Variabili &v = s.v;
     const TestiStagionali &t = testi(ora);
     Tabulato f(s, t.modulo, uscita);
-    s.in.OptIta = 0;
-    s.in.OptBab = 0;
-    lasciaPiano(s.v);
-    const Variabili &v = s.v;
+    PianoLinee piano(v);
     Valore da = letto.inizio, a = letto.fine;
-    if (Gradi(v.incR) == 90) {
-        lasciaOrizzontale(s.v);
+    if (piano.orizzontale()) {
+        piano.decR = 0;
         da = 12;
         a = 22;
     }
     const Conteggio ore(da, a, 1 / v.fraz);
     testata(s, f, t.titoloSolstizi, t.testaSolstizi, {});
-    Linee linee(v, ora);
+    Linee linee(v, piano, ora);
     for (const double V : ore) {
         const Punti &p = linee(V);
         f.dati({Fmt(V, "00.00"), Zona(), quattro(p.xa), Zona(), quattro(p.ya), Zona(), quattro(p.xb), Zona(), quattro(p.yb)});
     }
     tabelleRette(s, f, t, linee, ore, [](double V) { return V == 24 ? Speciale{"0", "inf"} : Speciale{}; });
-    latitudini(v, f);
+    latitudini(v, piano, f);
+    lasciaPiano(s.v, piano);
     if (ore.begin() != ore.end()) lasciaSolstizio(s.v);
+    lasciaOpzioni(s.in);
     f.chiudi();
 }
 
-// At noon, which a level dial's substyle is, and without declination.
-void lasciaTemporarie(Variabili &v) {
-    v.angoloOra = 0;
-    v.decR = 0;
-}
+// Noon, which a level dial's substyle is.
+void lasciaMezzogiorno(Variabili &v) { v.angoloOra = 0; }
 
-}  // namespace
-
-void OreTemporarie(Sessione &s, Uscita uscita) {
-    const Lettura letto(s.in);
-    if (TroppeRighe(s, 0, 11, letto.fraz, 2)) return;
-    LeggiParametri(s, letto);
-    Tabulato f(s, "Form3", uscita);
-    s.in.OptTEMP = 0;
-    lasciaPiano(s.v);
-    const Variabili &v = s.v;
-    if (v.lat_o == 0) {
-        f.chiudi();
-        return;
-    }
-    const bool orizzontale = Gradi(v.iz_o) == 90;
-    if (orizzontale) {
-        lasciaTemporarie(s.v);
-        f.riga({f.schermo() ? "iz0 = 90" : "iz_o = 90"});
-    }
-    // Sunrise and sunset are the horizon, which has no abscissa at an ordinate; noon is upright and has no ordinate.
-    const bool nonTrasformato = Gradi(v.latR) == Gradi(v.lat_o);
-    const auto speciale = [nonTrasformato](double V) {
-        return V == 6 ? Speciale{"inf", {}} : nonTrasformato && (V == 0 || V == 12) ? Speciale{{}, "inf"} : Speciale{};
-    };
-    Linee linee(v, Ora::Temporaria);
-    const Conteggio ore = orizzontale ? Conteggio(1, 11, 1) : Conteggio(0, 4, 1 / v.fraz);
-    tabelleRette(s, f, testi(Ora::Temporaria), linee, ore, speciale);
-    latitudini(v, f);
+// Lines that are no hour lines are told to be nearly straight.
+void avvertenza(Tabulato &f) {
     f.vuota();
     for (const std::string_view riga :
          {"Si ricorda che i dati numerici sono stati ottenuti considerando rette le linee orarie. ",
@@ -233,6 +228,40 @@ void OreTemporarie(Sessione &s, Uscita uscita) {
           "Let me remind you that the numerical data have been obtained considering straight the hour lines. ",
           "The error is, in any case, irrelevant."})
         f.riga({riga});
+}
+
+}  // namespace
+
+void OreTemporarie(Sessione &s, Uscita uscita) {
+    const Lettura letto(s.in);
+    if (TroppeRighe(s, 0, 11, letto.fraz, 2)) return;
+    LeggiParametri(s, letto);
+    const Variabili &v = s.v;
+    Tabulato f(s, "Form3", uscita);
+    PianoLinee piano(v);
+    lasciaOpzioneTemporarie(s.in);
+    if (v.lat_o == 0) {
+        lasciaPiano(s.v, piano);
+        f.chiudi();
+        return;
+    }
+    const bool orizzontale = Gradi(v.iz_o) == 90;
+    if (orizzontale) {
+        piano.decR = 0;
+        lasciaMezzogiorno(s.v);
+        f.riga({f.schermo() ? "iz0 = 90" : "iz_o = 90"});
+    }
+    lasciaPiano(s.v, piano);
+    // Sunrise and sunset are the horizon, which has no abscissa at an ordinate; noon is upright and has no ordinate.
+    const bool nonTrasformato = Gradi(piano.latR) == Gradi(v.lat_o);
+    const auto speciale = [nonTrasformato](double V) {
+        return V == 6 ? Speciale{"inf", {}} : nonTrasformato && (V == 0 || V == 12) ? Speciale{{}, "inf"} : Speciale{};
+    };
+    Linee linee(v, piano, Ora::Temporaria);
+    const Conteggio ore = orizzontale ? Conteggio(1, 11, 1) : Conteggio(0, 4, 1 / v.fraz);
+    tabelleRette(s, f, testi(Ora::Temporaria), linee, ore, speciale);
+    latitudini(v, piano, f);
+    avvertenza(f);
     f.chiudi(orizzontale ? "Lia Berna 220408 " : "");
 }
 

@@ -151,10 +151,6 @@ std::vector<std::string> Colonne(const Sessione &s, const Trilingue &intestazion
     return nomi;
 }
 
-void Lascia(Variabili &v, const Conto &conto, std::initializer_list<Reale Variabili::*> quali) {
-    for (const auto quale : quali) v.*quale = conto.*quale;
-}
-
 bool TroppeRighe(Sessione &s, Valore da, Valore a, Valore frazione, double righePerPasso) {
     return TroppoFitto(s, {GiroOre(s, da, a, frazione, righePerPasso * PUNTI_MASSIMI / RIGHE_MASSIME)});
 }

@@ -92,15 +92,6 @@ inline constexpr std::string_view INDIRIZZO = "Lia Berna frazione Colle 7 00100 
 // names fewer columns gets the names of the language before it.
 [[nodiscard]] std::vector<std::string> Colonne(const Sessione &s, const Trilingue &intestazioni);
 
-// What a report computes on: the shared variables as they stood when it began, a copy of its own, and the fields as numbers.
-// What must stay behind is named in one place of its file, by Lascia.
-struct Conto : Variabili {
-    Conto(const Sessione &s, const Lettura &letto_) : Variabili(s.v), letto(letto_) {}
-    Lettura letto;
-};
-// Leaves these of them in the shared variables.
-void Lascia(Variabili &v, const Conto &conto, std::initializer_list<Reale Variabili::*> quali);
-
 // Rows that a report may have, all its tables together.
 inline constexpr double RIGHE_MASSIME = 100000;
 // Whether a report over so many hours, rows a step in all, is refused; the user is told the field.

@@ -25,7 +25,7 @@ std::string Parete(const std::vector<std::string> &r) {
            " txtLonG=" + r.at(2) + (r.at(3).empty() ? "" : " ") + r.at(3);
 }
 
-TEST(Analitica, RetteOrarieComeLaProiezione) {
+TEST(Analitica, HourLinesAsTheProjectionHasThem) {
     for (const auto &r : prova::Tabella("analitica_pareti.txt"))
         for (const char *frazione : {"1", "2", "4"}) {
             Motori m(Parete(r) + " chkOreAstronomiche TxtFraz=" + frazione);
@@ -42,7 +42,7 @@ TEST(Analitica, RetteOrarieComeLaProiezione) {
 
 // Every point of the day lines is on the cone of its declination, seen from the tip of the gnomon. Every analytic point of
 // the analemma that the direct engine's horizon lets see is within the sag of its chords, and has a neighbour there.
-TEST(Analitica, DiurneSulConoDelSoleELemniscataComeLaProiezione) {
+TEST(Analitica, DayLinesLieOnTheSunsConeAndTheAnalemmaIsTheProjections) {
     std::size_t vicini = 0;
     for (const auto &r : prova::Tabella("analitica_pareti.txt")) {
         Motori m(Parete(r) + " txtDelta=-17 Ck_DayLightCurves ck_Lemniscate");
@@ -80,7 +80,7 @@ TEST(Analitica, DiurneSulConoDelSoleELemniscataComeLaProiezione) {
 
 // Each line of the direct engine is one of the tangents. Due south each routine has its own; on other walls those that
 // cross the equinoctial behind the wall belong to the other routine.
-TEST(Analitica, ItalicheEBabilonicheComeLaProiezione) {
+TEST(Analitica, ItalicAndBabylonianHoursAsTheProjectionHasThem) {
     const auto confronta = [](const std::string &parete, bool italiche, bool babiloniche) {
         Motori m(parete + " txtDensity=1 TxtFraz=1 TxtInizio=" + (babiloniche ? "0" : "13") +
                  " TxtFine=" + (italiche ? "24" : "12"));
@@ -104,7 +104,7 @@ TEST(Analitica, ItalicheEBabilonicheComeLaProiezione) {
         if (Val(r[0]) != 0 && Val(r[0]) < 66) confronta(Parete(r), true, true);
 }
 
-TEST(Analitica, OrdineColoriEDiUnaCorsa) {
+TEST(Analitica, OrderColoursAndWhatIsOfOneRun) {
     QuadroProvato b(
         "txtLAT=42 txtDec=15 txtInc=0 txtOriz=-0.1 txtLonG=-13 ckAssi chkOreAstronomiche Ck_DayLightCurves ck_Sustilare "
         "ck_Equinoziale ck_babiloniche ck_Lemniscate");
@@ -132,7 +132,7 @@ TEST(Analitica, OrdineColoriEDiUnaCorsa) {
     EXPECT_TRUE(std::ranges::all_of(l.Linee, [](const RecLinea &r) { return r.Spessore == 1; }));
 }
 
-TEST(Analitica, PuntiFondamentali) {
+TEST(Analitica, FundamentalPoints) {
     QuadroProvato b("txtLAT=45 txtDec=30 txtInc=0 TxtStilo=0.2");
     b.premi("cmdEqui");
     EXPECT_NEAR(b.s.v.xCentro.numero(), -0.2 * std::tan(PI / 6), 1e-9) << "the pole as the wall sees it";
@@ -152,7 +152,7 @@ TEST(Analitica, PuntiFondamentali) {
         }
 }
 
-TEST(Analitica, MillimetriSenzaOreRestanoMillimetri) {
+TEST(Analitica, MillimetresWithoutHoursStayMillimetres) {
     QuadroProvato metri("txtDec=15 txtInc=0 TxtStilo=0.2 chkOreAstronomiche"),
         mm("txtDec=15 txtInc=0 TxtStilo=200 ChCentimetro chkOreAstronomiche");
     const auto a = metri.analitica().linee("Ore_astro"), b = mm.analitica().linee("Ore_astro");
@@ -164,7 +164,7 @@ TEST(Analitica, MillimetriSenzaOreRestanoMillimetri) {
     EXPECT_TRUE(mm.testo("200000")) << "and the note divides it again";
 }
 
-TEST(Analitica, CasiDelPiano) {
+TEST(Analitica, CasesOfThePlane) {
     for (const auto &r : prova::Tabella("analitica_casi.txt")) {
         QuadroProvato b("txtInc=0 TxtFraz=4 TxtStilo=0.2 chkOreAstronomiche ck_Sustilare txtLAT=" + r.at(0) +
                         " txtDec=" + r.at(1));
@@ -177,7 +177,7 @@ TEST(Analitica, CasiDelPiano) {
     }
 }
 
-TEST(Analitica, EquatoreFraISolstizi) {
+TEST(Analitica, AtTheEquatorBetweenTheSolstices) {
     QuadroProvato b("txtLAT=0 txtDec=90 txtInc=0 TxtStilo=0.1 TxtFraz=1 txtX0=-1 txtX1=1 txtY1=-1 chkOreAstronomiche");
     b.premi("cmdEqui");
     auto parallele = b.linee("Ore_astro");
@@ -195,7 +195,7 @@ TEST(Analitica, EquatoreFraISolstizi) {
     }
 }
 
-TEST(Analitica, CioCheRestaDiPrima) {
+TEST(Analitica, WhatIsLeftFromBefore) {
     // At the equator the substyle's hour angle has no side at first; then the family is the same but shifted by six hours.
     QuadroProvato b("txtLAT=0 txtDec=-30 txtInc=0 TxtFraz=1 chkOreAstronomiche");
     const auto prima = b.analitica().linee("Ore_astro"), dopo = b.analitica().linee("Ore_astro");
@@ -210,7 +210,7 @@ TEST(Analitica, CioCheRestaDiPrima) {
     EXPECT_TRUE(b.punti(5).empty()) << "lat_o is 0 since the first run: no Italic hours, whatever the latitude now";
 }
 
-TEST(Analitica, RifiutiEFoglio) {
+TEST(Analitica, RefusalsAndTheSheet) {
     QuadroProvato australe("txtLAT=-45 txtInc=0 chkOreAstronomiche ckAssi");
     EXPECT_EQ(australe.premi("cmdEqui"), app::Esito::Fatto);
     EXPECT_TRUE(australe.lista().Ordine.empty() && australe.lista().Testi.empty());
@@ -232,7 +232,7 @@ TEST(Analitica, RifiutiEFoglio) {
     EXPECT_EQ(b.s.tavolo.ShiftX(), 0) << "one shift of 0 is a choice";
 }
 
-TEST(Analitica, CampiAssurdiSonoRifiutatiOInnocui) {
+TEST(Analitica, AbsurdFieldsAreRefusedOrHarmless) {
     for (const auto &r : prova::Tabella("analitica_assurdi.txt")) {
         QuadroProvato b(
             "txtInc=0 chkOreAstronomiche Ck_DayLightCurves ck_Sustilare ck_Equinoziale ck_babiloniche ck_Lemniscate " + r.at(0));

@@ -11,7 +11,7 @@ namespace {
 
 using prova::QuadroProvato;
 
-TEST(Equivalente, LeStesseRetteOrarie) {
+TEST(Equivalente, TheSameHourLines) {
     const auto piani = prova::Tabella("analitica_piani.txt");
     double peggiore = 0;
     int mezzogiorno = 0;
@@ -41,7 +41,7 @@ TEST(Equivalente, LeStesseRetteOrarie) {
     std::printf("%zu planes, worst off by %.3g m\n", piani.size(), peggiore);
 }
 
-TEST(Equivalente, QuelCheScrive) {
+TEST(Equivalente, WhatItWrites) {
     for (const auto &r : prova::Tabella("analitica_equivalenti.txt")) {
         const std::string dove = r.at(0) + " " + r.at(1) + " " + r.at(2);
         QuadroProvato b("txtLonG=-12.5 TxtStilo=0.2 txtOriz=7 txtLAT=" + r[0] + " txtDec=" + r[1] + " txtInc=" + r[2]);
@@ -66,7 +66,7 @@ TEST(Equivalente, QuelCheScrive) {
     }
 }
 
-TEST(Equivalente, UnaPareteResta) {
+TEST(Equivalente, AWallStays) {
     QuadroProvato b("txtLAT=45 txtDec=12 txtInc=0 txtLonG=-7 CkQibla ckAlt ckAsr");
     b.premi("cmdTrasforma");
     EXPECT_EQ(b.s.in.txtDec + " " + b.s.in.txtLonG, "12 -7");
@@ -80,7 +80,7 @@ TEST(Equivalente, UnaPareteResta) {
 }
 
 // After the transformation the analemma follows the equivalent longitude, and a second press does nothing more.
-TEST(Equivalente, DopoLaTrasformazione) {
+TEST(Equivalente, BehindTheTransformation) {
     QuadroProvato b("txtLAT=45 txtDec=-20 txtInc=25.2 txtLonG=-12.5 txtX0=-1 txtX1=1 txtY0=1 txtY1=-1 ck_Lemniscate");
     b.esegui();
     const auto corde = b.linee("Analemma");  // the plane's own, by projection

@@ -9,7 +9,7 @@ namespace {
 
 using EsitoTest = prova::InCartella;
 
-TEST_F(EsitoTest, DiOgniAzioneDiFile) {
+TEST_F(EsitoTest, OfEveryActionOnFiles) {
     const struct {
         const char *controllo, *risposta;
         app::Esito::Cosa cosa;
@@ -46,7 +46,7 @@ TEST_F(EsitoTest, DiOgniAzioneDiFile) {
 }
 
 // A language that could not be written, or whose dictionary is not there, is not chosen.
-TEST_F(EsitoTest, DiUnaLingua) {
+TEST_F(EsitoTest, OfALanguage) {
     std::filesystem::create_directories("DBC2008.txt/dentro");
     scrivi("DBFranceseC2008.txt", "\"Dati|Données\"\r\n");
     prova::Banco b;

@@ -16,7 +16,7 @@ const char *const DIZIONARIO =
     "Troppo fitto|too dense\r\nEsegui|RUN\r\nTavola di conversione|Conversion\r\nL Larghezza |W \r\n"
     "File non riconosciuto!|Not known!\r\nInversion of the map|flip\r\nazimut|\r\n\"\r\n";
 
-TEST_F(LinguaTest, QualiTestiDiUnModuloSiTraducono) {
+TEST_F(LinguaTest, WhichTextsOfAFormAreTranslated) {
     scrivi("DBC2008.txt", DIZIONARIO);
     Banco b;
     Sessione &s = b.s;
@@ -39,7 +39,7 @@ TEST_F(LinguaTest, QualiTestiDiUnModuloSiTraducono) {
     EXPECT_EQ(b.utente.box, std::vector<std::string>{"Not known!"});
 }
 
-TEST_F(LinguaTest, NomiDellaLingua) {
+TEST_F(LinguaTest, NamesOfTheLanguage) {
     scrivi("DBuno.txt", "\"Stati|1\"");
     scrivi("DBdue.txt", "\"Stati|2\r\n1|once more\"");
     Banco b;
@@ -55,7 +55,7 @@ TEST_F(LinguaTest, NomiDellaLingua) {
     EXPECT_EQ(s.dizionario.Traduci("1"), "1");
 }
 
-TEST_F(LinguaTest, Esporta) {
+TEST_F(LinguaTest, Exports) {
     Banco b;
     app::TraduciForm(b.s, "frmAbout", "_DB");
     EXPECT_EQ(
@@ -70,7 +70,7 @@ TEST_F(LinguaTest, Esporta) {
     EXPECT_EQ(leggi("_DBfrmTavolo.txt"), "\"\"\r\n");
 }
 
-TEST_F(LinguaTest, IComandiCambianoIlFileUnaVolta) {
+TEST_F(LinguaTest, CommandsChangeTheFileOnce) {
     const std::string francese = prova::Scritto("\"Dati|Donn\\xE9es\"\\r\\n");
     scrivi("DBFranceseC2008.txt", francese);
     scrivi("DBIngleseC2008.txt", "\"Dati|Data\"\r\n");

@@ -13,7 +13,7 @@ namespace {
 using prova::Banco;
 using DefaultTest = prova::InCartella;
 
-TEST_F(DefaultTest, UnFileNuovo) {
+TEST_F(DefaultTest, ANewFile) {
     Banco b({{"txtLAT", "45,5"}, {"txtNumbersize", ".07"}}, {"ckAsr"});
     b.s.in.ckRomani = 1;  // disabled on this plane
     b.premi("cmdSave");
@@ -22,7 +22,7 @@ TEST_F(DefaultTest, UnFileNuovo) {
     EXPECT_EQ(leggi("Ombrelia.dat"), atteso);
 }
 
-TEST_F(DefaultTest, QuelCheSiSalvaCESubito) {
+TEST_F(DefaultTest, WhatIsSavedIsThereAtOnce) {
     Banco prima({{"txtLAT", "41.9"}, {"txtOriz", "12abc"}, {"txtZodiacsize", ".05"}}, {"ck_Etna", "ck_Lemniscate", "ckTemp"});
     prima.imposta({{"TxtInizio", "3"}, {"TxtFine", "9"}});
     prima.premi("cmdSave");
@@ -33,7 +33,7 @@ TEST_F(DefaultTest, QuelCheSiSalvaCESubito) {
     }
 }
 
-TEST_F(DefaultTest, GliStessiByteDiScrittureSingole) {
+TEST_F(DefaultTest, TheSameBytesAsSingleWrites) {
     const std::string vecchio = "\"mine\",\"kept\"\r\n\"DEC\",\"1\"\r\n\"DEC\",\"2\"\r\n\"lat\",\"3\"\r\nZODIACO,.9\n";
     scrivi("Ombrelia.dat", vecchio);
     Banco b({{"txtLAT", "5\" x"}});
@@ -53,7 +53,7 @@ TEST_F(DefaultTest, GliStessiByteDiScrittureSingole) {
     EXPECT_EQ(leggi("Ombrelia.dat"), avuto);
 }
 
-TEST_F(DefaultTest, QuelCheIlFileFaAiControlli) {
+TEST_F(DefaultTest, WhatTheFileDoesToControls) {
     for (const auto &r : prova::Tabella("default.txt")) {
         scrivi("Ombrelia.dat", prova::Scritto(r.at(0)));
         Banco b;
@@ -65,7 +65,7 @@ TEST_F(DefaultTest, QuelCheIlFileFaAiControlli) {
 }
 
 // The sheet's height and the rule of the inclination follow what was read.
-TEST_F(DefaultTest, LAvvioLeggePrima) {
+TEST_F(DefaultTest, TheStartReadsFirst) {
     scrivi("Ombrelia.dat", "\"LAT\",\"-30\"\r\n\"INC\",\"0\"\r\n");
     prova::UtenteDiProva utente;
     Sessione s(utente);

@@ -34,7 +34,7 @@ std::vector<std::string> Tutto(Sessione &s) {
     return t;
 }
 
-TEST_F(ProgettoTest, LaFormaDelFile) {
+TEST_F(ProgettoTest, FormOfTheFile) {
     Banco b({{"txtInc", "0"}}, {"ckZodiac"});
     b.foglio(3, 2, 1.0 / 64, -0.25);
     b.premi("optHorae");
@@ -45,7 +45,7 @@ TEST_F(ProgettoTest, LaFormaDelFile) {
     EXPECT_TRUE(t.starts_with("\"<mnuApri ") && t.ends_with("</_Shifty>\"\r\n"));
 }
 
-TEST_F(ProgettoTest, SalvareAprireERisalvare) {
+TEST_F(ProgettoTest, SaveOpenAndSaveAgain) {
     std::mt19937 caso(7);
     const char *TESTI[] = {"", " ", "45.5", "-7,68", "12abc", "perché €", "<b>", "a > b", "1E-7", "x=true enabled", "'"};
     for (int giro = 0; giro < 20; ++giro) {
@@ -72,7 +72,7 @@ TEST_F(ProgettoTest, SalvareAprireERisalvare) {
     }
 }
 
-TEST_F(ProgettoTest, UnTagMancanteLasciaIlControllo) {
+TEST_F(ProgettoTest, AMissingTagLeavesTheControl) {
     Banco b({{"txtDec", "11"}, {"txtLAT", "12"}}, {"ck_Sustilare", "ckAlt"});
     b.s.stato("txtDec").visibile = false;
     const auto attesi = Tutto(b.s);
@@ -88,7 +88,7 @@ TEST_F(ProgettoTest, UnTagMancanteLasciaIlControllo) {
     EXPECT_EQ(diversi, 6U) << "two controls and four numbers";
 }
 
-TEST_F(ProgettoTest, ValoriDiOgniClasse) {
+TEST_F(ProgettoTest, ValuesOfEveryClass) {
     const std::tuple<const char *, const char *, int> casi[] = {
         {"ckAlt", "1", 1},   {"ckAlt", "2", 2},   {"ckAlt", "1.9", 1},    {"ckAlt", "", 0},
         {"ckAlt", "1e9", 1}, {"ckAlt", "abc", 0}, {"OptIta", "-1", 1},    {"OptIta", "1", 1},
@@ -110,7 +110,7 @@ TEST_F(ProgettoTest, ValoriDiOgniClasse) {
     EXPECT_TRUE(b.s.stato("lblLatitudine").abilitato);
 }
 
-TEST_F(ProgettoTest, TagCheSiUrtano) {
+TEST_F(ProgettoTest, TagsThatClash) {
     Banco b;
     // A value that holds the open tag of a control confuses it; the later element is not seen.
     app::ApplicaProgetto(b.s, Tag("txtLAT", "<txtDec>9") + Tag("txtDec", "8") + FOGLIO);
@@ -121,7 +121,7 @@ TEST_F(ProgettoTest, TagCheSiUrtano) {
     EXPECT_TRUE(b.s.stato("txtH").abilitato);
 }
 
-TEST_F(ProgettoTest, IlFoglio) {
+TEST_F(ProgettoTest, TheSheet) {
     for (const auto &r : prova::Tabella("fogli.txt")) {
         Banco b;
         app::ApplicaProgetto(b.s, r.at(0));
@@ -132,7 +132,7 @@ TEST_F(ProgettoTest, IlFoglio) {
     }
 }
 
-TEST_F(ProgettoTest, FileCheNonSonoProgetti) {
+TEST_F(ProgettoTest, FilesThatAreNoProjects) {
     scrivi("vuoto.omb", "");
     scrivi("virgolette.omb", "\"\"\r\n");
     for (const char *nome : {"vuoto.omb", "virgolette.omb", "manca.omb", "."}) {
@@ -145,7 +145,7 @@ TEST_F(ProgettoTest, FileCheNonSonoProgetti) {
     }
 }
 
-TEST_F(ProgettoTest, IMenuChiedonoEDicono) {
+TEST_F(ProgettoTest, MenusAskAndTell) {
     Banco b({{"txtLAT", "33"}});
     std::filesystem::create_directory("qui");
     b.utente.risposte = {"qui/muro.omb"};

@@ -116,7 +116,7 @@ double disegna(Tavolo &t, const DatiCertificato &dati, const Linea &l, const Gua
     return mm;
 }
 
-TEST(Certificato, GiudicaIlVeroEIlFalso) {
+TEST(Certificato, JudgesTheTrueAndTheFalse) {
     int viste = 0;
     double peggiore = 0;
     for (const Quadro &q : QUADRI) {
@@ -170,7 +170,7 @@ TEST(Certificato, GiudicaIlVeroEIlFalso) {
 }
 
 // Night and the far side: a day line drawn all round the clock.
-TEST(Certificato, LeLineeAlBuioSonoSuperflue) {
+TEST(Certificato, LinesInTheDarkAreSuperfluous) {
     prova::Banco b({{"txtLAT", "45"},
                     {"txtDec", "0"},
                     {"txtInc", "35"},
@@ -192,7 +192,7 @@ TEST(Certificato, LeLineeAlBuioSonoSuperflue) {
     }
 }
 
-TEST(Certificato, LineeNoteDeiMotori) {
+TEST(Certificato, KnownLinesOfTheEngines) {
     int righe = 0;
     for (const auto &r : prova::Tabella("certificato.txt")) {
         prova::Banco b({{"txtLAT", r[0]},
@@ -222,7 +222,7 @@ TEST(Certificato, LineeNoteDeiMotori) {
 }
 
 // True lines are true in the judge's eyes too, where dials are at their oddest: poles, polar days, equator, walls that look away.
-TEST(Certificato, QuadrantiCorrettiVeri) {
+TEST(Certificato, CorrectedDialsAreTrue) {
     constexpr Quadro ESTREMI[] = {{0, 0, 0},     {0, 90, 0},   {69.65, 180, 0},   {85.5, 180, 0}, {90, 0, 90},
                                   {90, -120, 0}, {-78, 30, 0}, {-33.9, 25, -24.}, {23.445, 0, 90}};
     std::size_t righe = 0;
@@ -255,7 +255,7 @@ TEST(Certificato, QuadrantiCorrettiVeri) {
 }
 
 // The next dial of a session that keeps its first reading is told apart from what the fields say.
-TEST(Certificato, SecondoQuadranteDetto) {
+TEST(Certificato, TheSecondDialIsTold) {
     prova::Banco b({{"txtLAT", "45"}, {"txtDec", "-20"}, {"txtInc", "90"}}, {"chkOreAstronomiche"});
     const auto note = [&] {
         std::string t;
@@ -273,7 +273,7 @@ TEST(Certificato, SecondoQuadranteDetto) {
     EXPECT_EQ(note(), "");
 }
 
-TEST(Certificato, ParoleEForme) {
+TEST(Certificato, WordsAndForms) {
     prova::Banco b({{"txtLAT", "45"},
                     {"txtDec", "18"},
                     {"txtInc", "0"},

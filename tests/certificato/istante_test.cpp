@@ -15,7 +15,7 @@ using ombra::RADIANTI;
 
 // Reda and Andreas, Solar Position Algorithm, NREL 2008, table A5.1: 2003-10-17 12:30:30, zone -7: azimuth 194.34024 from
 // North, altitude 39.872046 before refraction with 0.0019 of parallax taken back, hour angle 11.105902, declination -9.31434.
-TEST(Istante, MomentoPubblicato) {
+TEST(Istante, PublishedMoment) {
     prova::Banco b({{"txtLAT", "39.742476"},
                     {"txtLonG", "105.1786"},
                     {"txtInc", "90"},
@@ -49,7 +49,7 @@ TEST(Istante, MomentoPubblicato) {
 }
 
 // A southern wall's declination counts from North. Its drawing's list is the mirror image; hour lines agree with the shadow.
-TEST(Istante, MuroAustraleDisegnatoESpecchiato) {
+TEST(Istante, SouthernWallDrawnAndMirrored) {
     for (const bool prima : {true, false}) {
         prova::Banco b({{"txtLAT", "-33.8688"},
                         {"txtLonG", "-151"},
@@ -78,7 +78,7 @@ TEST(Istante, MuroAustraleDisegnatoESpecchiato) {
     }
 }
 
-TEST(Istante, OrologioEPercorso) {
+TEST(Istante, ClockAndPath) {
     const std::pair<double, const char *> ore[] = {
         {10.4, "10:24"}, {0, "0:00"}, {23.9999, "0:00"}, {25.5, "1:30"}, {-0.5, "23:30"}};
     for (const auto &[h, t] : ore) EXPECT_EQ(Orologio(h), t);

@@ -18,7 +18,7 @@ Esito Esegui(std::string_view script) {
     return {stato, testing::internal::GetCapturedStdout(), testing::internal::GetCapturedStderr()};
 }
 
-TEST_F(BatchProgetto, SalvaEApri) {
+TEST_F(BatchProgetto, SavesAndOpens) {
     const Esito e = Esegui(
         "set txtLAT 41.5\nsave a b.omb\nset txtLAT 12\ncheck ck_Italiche\nanswer a b.omb\nclick mnuApri\nshow txtLAT\nshow "
         "ck_Italiche\nshow TxtInizio\nsave c.omb\nopen none.omb\nshow txtLAT\n");
@@ -29,7 +29,7 @@ TEST_F(BatchProgetto, SalvaEApri) {
     EXPECT_EQ(Esegui("set txtLAT 41.5\nsave -\n").detto, leggi("c.omb"));
 }
 
-TEST_F(BatchProgetto, QuelCheNonSiSalvaFerma) {
+TEST_F(BatchProgetto, WhatIsNotSavedStops) {
     for (const std::string file : {"/dev/full", "no/where.omb"}) {
         const Esito e = Esegui("show txtH\nsave " + file + "\nshow txtH\n");
         EXPECT_EQ(e.stato, 2) << file;

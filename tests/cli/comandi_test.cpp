@@ -30,7 +30,7 @@ bool come(const std::string &testo, const std::string &atteso) {
     return std::regex_search(testo, std::regex(atteso));
 }
 
-TEST_F(Comandi, Tavola) {
+TEST_F(Comandi, TheTable) {
     int righe = 0;
     for (const auto &r : prova::Tabella("comandi.txt")) {
         ++righe;

@@ -38,7 +38,7 @@ std::string Pieno(const Controllo &riga) {
     return riga.indice < 0 ? nome : nome + '(' + std::to_string(riga.indice) + ')';
 }
 
-TEST(Controlli, OgniMembroHaLaSuaRiga) {
+TEST(Controlli, EveryMemberHasItsRow) {
     const DialInputs in;
     const PannelloTavolo pannello;
     std::multiset<const void *> campi, testi;
@@ -58,14 +58,14 @@ TEST(Controlli, OgniMembroHaLaSuaRiga) {
     EXPECT_EQ(diversi(testi), NumeroMembri<PannelloTavolo>());
 }
 
-TEST(Controlli, OgniRigaSiTrovaColSuoNome) {
+TEST(Controlli, EveryRowIsFoundByItsName) {
     for (const Controllo &riga : TavolaControlli()) {
         EXPECT_EQ(CercaControllo(Pieno(riga)), IdDi(riga)) << Pieno(riga);
     }
 }
 
 // The project file looks a control up by the first place where its name begins.
-TEST(Controlli, NessunNomeCominciaComeUnAltro) {
+TEST(Controlli, NoNameBeginsAsAnother) {
     const auto righe = ControlliDi("MDIForm1");
     for (const Controllo &prima : righe)
         for (const Controllo &poi : righe)
@@ -73,7 +73,7 @@ TEST(Controlli, NessunNomeCominciaComeUnAltro) {
                 << prima.nome << ' ' << poi.nome;
 }
 
-TEST(Controlli, NomiComeNelCopione) {
+TEST(Controlli, NamesAsInTheScript) {
     for (const auto &r : prova::Tabella("controlli.txt")) {
         const auto id = CercaControllo(r.at(0));
         EXPECT_EQ(id ? Pieno(RigaDi(*id)) : "", r.at(1)) << r[0];
@@ -81,7 +81,7 @@ TEST(Controlli, NomiComeNelCopione) {
     EXPECT_FALSE(CercaControllo(" txtLAT"));
 }
 
-TEST(Controlli, IModuliUnoDopoLAltro) {
+TEST(Controlli, FormsOneAfterAnother) {
     std::size_t somma = 0;
     for (const Modulo &modulo : TavolaModuli()) {
         const auto righe = ControlliDi(modulo.nome);
@@ -95,7 +95,7 @@ TEST(Controlli, IModuliUnoDopoLAltro) {
 }
 
 // So that no engine meets an empty text; years may be empty to mean the current one, and words say what they like.
-TEST(Controlli, ICampiNasconoNumeri) {
+TEST(Controlli, FieldsAreBornNumbers) {
     static const std::set<std::string_view> PAROLE{"txtAnno", "txtAnnoCartiglio", "txtLetture", "txtLuogo", "txtMotto"};
     const DialInputs in = InputsIniziali();
     for (const Controllo &riga : TavolaControlli()) {
@@ -110,7 +110,7 @@ constexpr std::pair<Filtro, const char *> FILTRI[] = {{Filtro::Tasti, "keys"},
                                                       {Filtro::SoloCifreSegno, "digits and sign"},
                                                       {Filtro::SoloCifre, "digits"}};
 
-TEST(Controlli, QualiCaselleFiltranoOSiNascondono) {
+TEST(Controlli, WhichBoxesFilterOrHide) {
     std::map<std::string, std::set<std::string>> attesi, trovati;
     for (const auto &r : prova::Tabella("filtri.txt")) attesi[r.at(0)].insert(r.begin() + 1, r.end());
     for (const Controllo &riga : TavolaControlli()) {
@@ -122,7 +122,7 @@ TEST(Controlli, QualiCaselleFiltranoOSiNascondono) {
     EXPECT_EQ(trovati, attesi);
 }
 
-TEST(Controlli, FiltriDeiTasti) {
+TEST(Controlli, FiltersOfKeys) {
     const struct {
         std::uint16_t tasto, numerico;
         bool beep;

@@ -18,7 +18,7 @@
 namespace ombrelia {
 namespace {
 
-TEST(Reale, UnGuastoLasciaIlValoreDiPrima) {
+TEST(Reale, AFaultLeavesTheLastValue) {
     const Reale zero, uno = 1;
     const Valore guasti[] = {uno / zero,      zero / zero,      Sqr(-uno),        ArcSin(1),
                              ArcSin(-2),      ArcCos(1.5),      Arco2(1, 0),      Valore(1e308) * 10,
@@ -37,7 +37,7 @@ TEST(Reale, UnGuastoLasciaIlValoreDiPrima) {
     EXPECT_EQ(y.numero(), 7);
 }
 
-TEST(Angoli, Tabella) {
+TEST(Angoli, Table) {
     const std::pair<Valore, double> casi[] = {
         {Arco2(1, 1), PI / 4},
         {Arco2(1, -1), 3 * PI / 4},
@@ -63,7 +63,7 @@ TEST(Angoli, Tabella) {
     EXPECT_EQ(Radianti(90), PI / 2.0) << "a horizontal plane is known by an exact comparison";
 }
 
-TEST(Conteggio, ContaComeSempre) {
+TEST(Conteggio, CountsByAdding) {
     const Valore no = Valore::nessuno();
     const Valore casi[][4] = {{-90, 90, 15, 13},
                               {-23.445, 23.445, 0.05, 938},
@@ -90,7 +90,7 @@ TEST(Conteggio, ContaComeSempre) {
     EXPECT_FALSE(Conteggio(0, 4999999, 1).eccessivo());
 }
 
-TEST(Val, PrefissoPiuLungo) {
+TEST(Val, LongestPrefix) {
     for (const auto &r : prova::Tabella("val.txt")) {
         const Valore v = Val(prova::Scritto(r.at(0)));
         EXPECT_EQ(v.esiste(), r.at(1) != "none") << r[0];
@@ -98,7 +98,7 @@ TEST(Val, PrefissoPiuLungo) {
     }
 }
 
-TEST(Numeri, FormeEMaschere) {
+TEST(Numeri, FormsAndMasks) {
     for (const auto &r : prova::Tabella("numeri.txt")) {
         const double n = std::stod(r.at(0));
         const std::string avuto = r.at(1) == "file" ? NumeroGenerale(n) : r[1] == "people" ? TestoNumero(n) : Formato(n, r[1]);
@@ -118,7 +118,7 @@ TEST(Numeri, FormeEMaschere) {
 }
 
 // The make for libraries without floating charconv against the library's own: bits of every size, dial-sized numbers, ties.
-TEST(Numeri, LeCifrePortatiliDannoGliStessiByte) {
+TEST(Numeri, PortableDigitsGiveTheSameBytes) {
     std::mt19937_64 caso(17);
     const auto uguali = [](double x) {
         char a[64], b[64];
@@ -148,7 +148,7 @@ TEST(Numeri, LeCifrePortatiliDannoGliStessiByte) {
 }
 
 // Against the library's longer type, rounded once more: where that stands near the middle of two doubles they may part.
-TEST(Funzioni, ArrotondateAlPiuVicino) {
+TEST(Funzioni, RoundedToTheNearest) {
     std::mt19937_64 caso(23);
     std::uniform_real_distribution<double> angolo(-8, 8), largo(-1e5, 1e5), retta(-1.5707, 1.5707);
     constexpr int PROVE = 50000;
@@ -179,7 +179,7 @@ TEST(Funzioni, ArrotondateAlPiuVicino) {
     EXPECT_EQ(portatile::atan(-infinito), std::atan(-infinito));
 }
 
-TEST(Codifiche, Utf8EWindows1252) {
+TEST(Codifiche, Utf8AndWindows1252) {
     EXPECT_EQ(DaFile("citt\xE0 \x80 20\xB0"), "città € 20°");
     EXPECT_EQ(DaFile("città"), "città");
     EXPECT_EQ(DaFile("\xEF\xBB\xBFx"), "x");
@@ -191,7 +191,7 @@ TEST(Codifiche, Utf8EWindows1252) {
     EXPECT_EQ(t, "?");
 }
 
-TEST(Frase, UnNumeroSenzaValoreTogliLaFrase) {
+TEST(Frase, ANumberWithoutValueTakesThePhraseAway) {
     EXPECT_EQ((Frase("a = ") << Valore(0.5) << " m").testo(), "a = 0.5 m");
     EXPECT_FALSE((Frase("a = ") << Valore(1) / 0 << " m").esiste());
 }

@@ -11,7 +11,7 @@
 namespace ombrelia {
 namespace {
 
-TEST(Campi, UnCampoDopoLAltro) {
+TEST(Campi, OneFieldAfterAnother) {
     for (const auto &r : prova::Tabella("campi.txt")) {
         const std::string testo = prova::Scritto(r.at(0));
         std::vector<std::string> avuti, attesi;
@@ -21,7 +21,7 @@ TEST(Campi, UnCampoDopoLAltro) {
     }
 }
 
-TEST(Campi, InteriDiSediciBit) {
+TEST(Campi, IntegersOfSixteenBits) {
     const std::pair<const char *, std::optional<int>> casi[] = {
         {"1", 1},           {" 2 ", 2},         {"", 0},       {"abc", 0},     {"1.9", 1},    {"-1.9", -1},  {"32767", 32767},
         {"-32768", -32768}, {"32767.5", 32767}, {"32768", {}}, {"-32769", {}}, {"1e300", {}}, {"1e999", {}}, {"1e-999", 0},

@@ -18,7 +18,7 @@ namespace fs = std::filesystem;
 
 using File = prova::InCartella;
 
-TEST_F(File, ScrittoERiletto) {
+TEST_F(File, WrittenAndReadBack) {
     const std::string f = "a.dxf", testo = std::string("uno\r\ndue\0tre", 12);
     EXPECT_EQ(ScriviFile(f, std::string(100000, 'x')), std::nullopt);
     fs::permissions(f, fs::perms::owner_read | fs::perms::owner_write);
@@ -30,7 +30,7 @@ TEST_F(File, ScrittoERiletto) {
     EXPECT_EQ(quanti(), 1U) << "nothing is left beside the target";
 }
 
-TEST_F(File, CollegamentiRestano) {
+TEST_F(File, LinksStay) {
     fs::create_directory("altrove");
     fs::create_symlink("altrove/b", "a");
     EXPECT_EQ(ScriviFile("a", "primo"), std::nullopt) << "the link may point to nothing yet";
@@ -41,7 +41,7 @@ TEST_F(File, CollegamentiRestano) {
     EXPECT_TRUE(ScriviFile("giro", "x"));
 }
 
-TEST_F(File, ErroriConNomeEMotivo) {
+TEST_F(File, ErrorsWithNameAndReason) {
     ASSERT_EQ(::mkfifo("tubo", 0600), 0);
     struct Riga {
         std::string nome;
@@ -62,7 +62,7 @@ TEST_F(File, ErroriConNomeEMotivo) {
 }
 
 // What can be written but not replaced is written in place, and what it holds is never lost.
-TEST_F(File, DoveNonSiSostituisce) {
+TEST_F(File, WhereNothingCanBeReplaced) {
     ASSERT_EQ(ScriviFile("vecchio", "vecchio, e piu lungo"), std::nullopt);
     fs::create_hard_link("vecchio", "altro nome");
     EXPECT_EQ(ScriviFile("vecchio", "uno"), std::nullopt);
@@ -88,7 +88,7 @@ TEST_F(File, DoveNonSiSostituisce) {
 }
 
 // Killed programs leave files beside their targets; a program that lives holds its own.
-TEST_F(File, ProvvisoriDiMorti) {
+TEST_F(File, TemporaryFilesOfTheDead) {
     for (const char *nome : {".ombrelia-0.tmp", ".ombrelia-77.tmp", ".ombrelia-mio", "ombrelia-1.tmp"}) scrivi(nome, "mezzo");
     const int vivo = ::open(".ombrelia-77.tmp", O_RDONLY);
     ASSERT_EQ(::flock(vivo, LOCK_EX), 0);
@@ -99,7 +99,7 @@ TEST_F(File, ProvvisoriDiMorti) {
     EXPECT_TRUE(fs::exists(".ombrelia-77.tmp"));
 }
 
-TEST_F(File, FileApertiEPipe) {
+TEST_F(File, OpenFilesAndPipes) {
     int capi[2];
     ASSERT_EQ(::pipe(capi), 0);
     EXPECT_EQ(ScriviFile("/dev/fd/" + std::to_string(capi[1]), "per il tubo"), std::nullopt);
@@ -115,7 +115,7 @@ TEST_F(File, FileApertiEPipe) {
     ::close(scrive);
 }
 
-TEST_F(File, LetturaLimitata) {
+TEST_F(File, BoundedReading) {
     ASSERT_EQ(ScriviFile("a", std::string(50000, 'x')), std::nullopt);
     ASSERT_EQ(::mkfifo("tubo", 0600), 0);
     std::string errore;

@@ -23,7 +23,7 @@ namespace {
 using prova::BancoFinestra;
 using prova::disegnoDi;
 
-TEST(Affidabile, UnSalvataggioFallitoTieneIlSegno) {
+TEST(Affidabile, AFailedSaveKeepsTheMark) {
     BancoFinestra b;
     b.scrivi("txtDec", "7.25");
     b.dialoghi.risposte = {"no such folder/x.omb"};
@@ -46,7 +46,7 @@ TEST(Affidabile, UnSalvataggioFallitoTieneIlSegno) {
     EXPECT_TRUE(b.f.close());
 }
 
-TEST(Affidabile, IlProgettoSiSalvaDoveStaEUnAltroChiede) {
+TEST(Affidabile, TheProjectIsSavedWhereItIsAndAnotherAsks) {
     BancoFinestra b;
     b.scrivi("txtDec", "3");
     b.dialoghi.risposte = {"uno.omb"};
@@ -75,7 +75,7 @@ TEST(Affidabile, IlProgettoSiSalvaDoveStaEUnAltroChiede) {
     EXPECT_TRUE(b.f.percorso().isEmpty() && !b.f.modificato());
 }
 
-TEST(Affidabile, IlDxfVaDoveSiDiceODaNessunaParte) {
+TEST(Affidabile, TheDxfGoesWhereOneSaysOrNowhere) {
     BancoFinestra b;
     b.premi("Tavolo1.cmdDxf");  // cancelled
     EXPECT_TRUE(QDir().entryList({QStringLiteral("*.dxf")}, QDir::Files | QDir::Hidden).isEmpty());
@@ -85,7 +85,7 @@ TEST(Affidabile, IlDxfVaDoveSiDiceODaNessunaParte) {
     EXPECT_NE(b.campo("Tavolo1.p_mess").find("muro.dxf"), std::string::npos);
 }
 
-TEST(Affidabile, UnQuadranteEDeiSuoiCampi) {
+TEST(Affidabile, ADialIsOfItsFields) {
     const std::vector<std::string_view> caselle{"chkOreAstronomiche", "ck_babiloniche"};
     for (const auto &[campo, testo] : {std::pair{"txtDec", "-33"}, {"txtInc", "40"}, {"txtLAT", "38.25"}}) {
         const std::string attesa = disegnoDi({{campo, testo}}, caselle);
@@ -121,7 +121,7 @@ TEST(Affidabile, UnQuadranteEDeiSuoiCampi) {
     EXPECT_TRUE(b.lista() == disegnoDi({{"txtLAT", "50"}}, caselle));
 }
 
-TEST(Affidabile, INumeriUnaVoltaSola) {
+TEST(Affidabile, NumeralsOnceOnly) {
     for (const bool universale : {false, true}) {
         BancoFinestra b;
         b.scrivi("txtInc", "0");
@@ -146,7 +146,7 @@ TEST(Affidabile, INumeriUnaVoltaSola) {
     }
 }
 
-TEST(Affidabile, UnCampoPrendeQuelCheITastiPrenderebbero) {
+TEST(Affidabile, AFieldTakesWhatKeysWouldTake) {
     BancoFinestra b;
     auto *campo = b.w<QLineEdit>("txtDec");
     b.scrivi("txtDec", "-33");
@@ -176,7 +176,7 @@ TEST(Affidabile, UnCampoPrendeQuelCheITastiPrenderebbero) {
     EXPECT_TRUE(QFile::exists(QStringLiteral("scorciatoia.pdf")));
 }
 
-TEST(Affidabile, LaFinestraNonSiContraddice) {
+TEST(Affidabile, TheWindowDoesNotContradictItself) {
     BancoFinestra b;
     b.f.findChild<QAbstractButton *>(QStringLiteral("Adatta"))->click();
     // Both read-outs of one point.
@@ -218,7 +218,7 @@ TEST(Affidabile, LaFinestraNonSiContraddice) {
     EXPECT_NE(pianta(), nord);
 }
 
-TEST(Affidabile, UnProgettoItalianoInFinestraInglese) {
+TEST(Affidabile, AnItalianProjectInAnEnglishWindow) {
     {
         BancoFinestra b;
         b.dialoghi.risposte = {"italiano.omb"};
@@ -240,7 +240,7 @@ TEST(Affidabile, UnProgettoItalianoInFinestraInglese) {
     QSettings().remove(QStringLiteral("lingua"));
 }
 
-TEST(Affidabile, IlQuadroDiceEDisfa) {
+TEST(Affidabile, TheBoardTellsAndUndoes) {
     BancoFinestra b;
     b.f.ponte().premi("mnuAusiliaria");
     b.f.ponte().fai(NESSUN_CONTROLLO, [&] { app::Imposta(b.s(), TrovaControllo("frmDeclin.txtAngle"), "12"); });
@@ -259,7 +259,7 @@ TEST(Affidabile, IlQuadroDiceEDisfa) {
     EXPECT_EQ(b.campo("txtAO"), "-15");
 }
 
-TEST(Affidabile, SenzaMemoriaIlQuadranteResta) {
+TEST(Affidabile, WithoutMemoryTheDialStays) {
     BancoFinestra b;
     b.spunta("chkOreAstronomiche");
     b.premi("cmdRun");
@@ -273,7 +273,7 @@ TEST(Affidabile, SenzaMemoriaIlQuadranteResta) {
     EXPECT_NE(b.dialoghi.avvisi[0].find("memoria"), std::string::npos);
 }
 
-TEST(Affidabile, ITestiComeStanno) {
+TEST(Affidabile, TextsAsTheyStand) {
     BancoFinestra b;
     const std::string marcato = "<img src='segreto.png'>x";
     b.s().stato("lblLatitudine").caption = marcato;
@@ -287,7 +287,7 @@ TEST(Affidabile, ITestiComeStanno) {
         }
 }
 
-TEST(Affidabile, INumeriNonSannoDiLocale) {
+TEST(Affidabile, NumbersKnowNoLocale) {
     BancoFinestra b;
     b.scrivi("txtLAT", "45.0703");
     b.f.ponte().premi("cmdData");
@@ -309,7 +309,7 @@ TEST(Affidabile, INumeriNonSannoDiLocale) {
     std::setlocale(LC_ALL, "C");
 }
 
-TEST(Affidabile, OgniPassoSiAnnullaESiRipete) {
+TEST(Affidabile, EveryStepIsUndoneAndRedone) {
     BancoFinestra b;
     b.scrivi("txtInc", "0");
     b.dialoghi.risposte = {"passi.omb"};

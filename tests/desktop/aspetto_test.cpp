@@ -48,7 +48,7 @@ double contrasto(const QColor &a, const QColor &b) {
     return (std::max(luce(a), luce(b)) + 0.05) / (std::min(luce(a), luce(b)) + 0.05);
 }
 
-TEST(Aspetto, UnQuadranteInteroSubito) {
+TEST(Aspetto, AWholeDialAtOnce) {
     BancoFinestra b;
     b.f.primoQuadrante();
     b.aspettaVivo();
@@ -68,7 +68,7 @@ TEST(Aspetto, UnQuadranteInteroSubito) {
     b.vivo()->setChecked(false);
 }
 
-TEST(Aspetto, NullaEsceDaUnaFinestraPiccola) {
+TEST(Aspetto, NothingLeavesASmallWindow) {
     for (const QSize misura : {QSize(1024, 700), QSize(1360, 900)}) {
         BancoFinestra b;
         b.f.resize(misura);
@@ -90,7 +90,7 @@ TEST(Aspetto, NullaEsceDaUnaFinestraPiccola) {
     }
 }
 
-TEST(Aspetto, LaLegendaLasciaLiberoIlFoglio) {
+TEST(Aspetto, TheLegendLeavesTheSheetFree) {
     for (const QSize misura : {QSize(900, 700), QSize(1024, 700), QSize(1360, 900)})
         for (const char *alta : {"-.8", "-.2", "-2.6"}) {
             BancoFinestra b;
@@ -109,7 +109,7 @@ TEST(Aspetto, LaLegendaLasciaLiberoIlFoglio) {
         }
 }
 
-TEST(Aspetto, TestiELineeRisaltano) {
+TEST(Aspetto, TextsAndLinesStandOut) {
     for (const bool scuro : {false, true}) {
         desktop::VestiApplicazione(*qApp, scuro ? desktop::Tema::Scuro : desktop::Tema::Chiaro);
         const desktop::StileFoglio stile = desktop::StileDi(scuro);
@@ -188,7 +188,7 @@ TEST(Aspetto, FamiliesAreToldApartByEveryEye) {
     }
 }
 
-TEST(Aspetto, IlFoglioDiceLeSueLinee) {
+TEST(Aspetto, TheSheetNamesItsLines) {
     BancoFinestra b;
     b.f.primoQuadrante();
     b.aspettaVivo();
@@ -239,7 +239,7 @@ TEST(Aspetto, IlFoglioDiceLeSueLinee) {
 }
 
 // With each key the live dial is the one of the angle as it stands, or the one before while it makes no sense yet.
-TEST(Aspetto, UnAngoloCheSiScriveNonFaUnAltroQuadrante) {
+TEST(Aspetto, AnAngleBeingTypedMakesNoOtherDial) {
     BancoFinestra b;
     b.spunta("chkOreAstronomiche");
     b.vivo()->setChecked(true);
@@ -271,7 +271,7 @@ TEST(Aspetto, UnAngoloCheSiScriveNonFaUnAltroQuadrante) {
     b.vivo()->setChecked(false);
 }
 
-TEST(Aspetto, ICampiLeggonoAngoliEDiconoIlCampo) {
+TEST(Aspetto, FieldsReadAnglesAndTellTheirRange) {
     BancoFinestra b;
     auto *lat = b.w<QLineEdit>("txtLAT");
     b.scrivi("txtLAT", "45°04'13 N");
@@ -308,7 +308,7 @@ TEST(Aspetto, ICampiLeggonoAngoliEDiconoIlCampo) {
     EXPECT_EQ(b.campo("txtMeridiano"), "-15");
 }
 
-TEST(Aspetto, IlLavoroDiUnaFinestraMortaSiOffre) {
+TEST(Aspetto, TheWorkOfADeadWindowIsOffered) {
     {
         BancoFinestra b;
         b.scrivi("txtDec", "6.5");
@@ -368,7 +368,7 @@ struct Impaziente {
     }
 };
 
-TEST(Aspetto, UnaCorsaLungaSiFerma) {
+TEST(Aspetto, ALongRunIsStopped) {
     struct Caso {
         const char *bottone, *densita;
         std::vector<std::string_view> caselle;
@@ -396,7 +396,7 @@ TEST(Aspetto, UnaCorsaLungaSiFerma) {
 }
 
 // So do files: nothing is written then, and the window can be closed meanwhile.
-TEST(Aspetto, UnFileLungoSiFerma) {
+TEST(Aspetto, ALongFileIsStopped) {
     BancoFinestra b;
     for (const std::string_view nome : {"chkOreAstronomiche", "ckAlt"}) b.spunta(nome);
     b.f.findChild<QAbstractButton *>(QStringLiteral("Adatta"))->click();
@@ -424,7 +424,7 @@ TEST(Aspetto, UnFileLungoSiFerma) {
 }
 
 // A dial that takes its time beside the window: the window answers, says so, and gives it up when told.
-TEST(Aspetto, UnQuadranteVivoLungoSiDiceESiFerma) {
+TEST(Aspetto, ALongLiveDialIsToldAndStopped) {
     BancoFinestra b;
     for (const std::string_view nome : {"chkOreAstronomiche", "Ck_DayLightCurves", "ckAlt"}) b.spunta(nome);
     b.vivo()->setChecked(true);
@@ -487,7 +487,7 @@ std::set<QString> testi(BancoFinestra &b) {
     return t;
 }
 
-TEST(Aspetto, NessunTestoRestaItaliano) {
+TEST(Aspetto, NoTextStaysItalian) {
     std::set<QString> italiani;
     {
         BancoFinestra b;

@@ -48,7 +48,7 @@ struct BancoMacchina : BancoFinestra {
     }
 };
 
-TEST(PerMacchina, MostraIPercorsiPrimaDiSalvarli) {
+TEST(PerMacchina, ShowsThePathsBeforeTheyAreSaved) {
     BancoMacchina b;
     b.apri();
     ASSERT_TRUE(b.d->disegno());
@@ -83,7 +83,7 @@ TEST(PerMacchina, MostraIPercorsiPrimaDiSalvarli) {
     EXPECT_TRUE(b.dialoghi.avvisi.empty());
 }
 
-TEST(PerMacchina, DicePercheNonCENullaDaSalvare) {
+TEST(PerMacchina, TellsWhyThereIsNothingToSave) {
     BancoMacchina b;
     b.s().tavolo.Clear();
     b.apri();
@@ -116,7 +116,7 @@ struct BancoParete : BancoFinestra {
     }
 };
 
-TEST(LettureParete, MediaScartoELaLetturaCheStona) {
+TEST(LettureParete, MeanSpreadAndTheReadingThatIsOff) {
     BancoParete b("44.494", "-11.343", "-15");
     // The board's own answer, reading by reading: the wall's declination is the azimuth less the angle.
     const auto azimut = [&](int ore, int minuti) {
@@ -158,7 +158,7 @@ TEST(LettureParete, MediaScartoELaLetturaCheStona) {
     }
 }
 
-TEST(LettureParete, LaTavolaSiAnnulla) {
+TEST(LettureParete, TheTableIsUndone) {
     BancoParete b("44.494", "-11.343", "-15");
     const int aperta = b.f.passi().count();
     const std::string prima = b.campo("frmDeclin.txtLAT");
@@ -176,7 +176,7 @@ TEST(LettureParete, LaTavolaSiAnnulla) {
 }
 
 // They are part of the dial: kept with it, found again, taken back like any other step.
-TEST(LettureParete, StannoNelProgetto) {
+TEST(LettureParete, StandInTheProject) {
     const auto righe = [](BancoParete &b) {
         QStringList t;
         for (int r = 0; r < b.t->rowCount(); ++r)
@@ -217,7 +217,7 @@ TEST(LettureParete, StannoNelProgetto) {
 }
 
 // Zone and summer time of the day, by the rules of the place: known dates of its changes.
-TEST(LettureParete, IlQuadroHaLOraDelLuogo) {
+TEST(LettureParete, TheBoardHasThePlacesTime) {
     struct Caso {
         const char *lat, *lon, *meridiano;
         int giorno, mese, anno, ore;

@@ -25,7 +25,7 @@ using desktop::Finestra;
 
 using prova::BancoFinestra;
 
-TEST(Finestra, OgniRigaHaIlSuoControllo) {
+TEST(Finestra, EveryRowHasItsControl) {
     BancoFinestra b;
     std::size_t trovati = 0;
     for (const Controllo &c : TavolaControlli()) {
@@ -50,7 +50,7 @@ TEST(Finestra, OgniRigaHaIlSuoControllo) {
     EXPECT_GT(trovati, 150U);
 }
 
-TEST(Finestra, FinestraECopioneLoStessoDisegno) {
+TEST(Finestra, WindowAndScriptMakeTheSameDrawing) {
     struct Caso {
         const char *nome;
         std::vector<std::pair<std::string_view, const char *>> campi;
@@ -105,7 +105,7 @@ TEST(Finestra, FinestraECopioneLoStessoDisegno) {
     }
 }
 
-TEST(Finestra, ITastiPassanoIlFiltro) {
+TEST(Finestra, KeysPassTheFilter) {
     struct Caso {
         std::string_view campo;
         const char *tasti, *resta;
@@ -130,7 +130,7 @@ TEST(Finestra, ITastiPassanoIlFiltro) {
     }
 }
 
-TEST(Finestra, ICampiSeguonoLeRegole) {
+TEST(Finestra, FieldsFollowTheRules) {
     BancoFinestra b;
     EXPECT_FALSE(b.w("cmdEqui")->isEnabled());
     b.scrivi("txtInc", "0");
@@ -143,7 +143,7 @@ TEST(Finestra, ICampiSeguonoLeRegole) {
     EXPECT_EQ(b.w<QLineEdit>("txtInc")->text(), QStringLiteral("0"));
 }
 
-TEST(Finestra, OgniRapportoSiApreESiStampa) {
+TEST(Finestra, EveryReportOpensAndIsPrinted) {
     struct Caso {
         std::string_view comando, modulo, menu;
     };
@@ -171,7 +171,7 @@ TEST(Finestra, OgniRapportoSiApreESiStampa) {
     EXPECT_TRUE(b.f.moduli().modulo("Form5")->isVisible());
 }
 
-TEST(Finestra, IlQuadroPassaINumeri) {
+TEST(Finestra, TheBoardHandsItsNumbersOn) {
     BancoFinestra b;
     b.f.ponte().premi("mnuAusiliaria");
     QWidget *board = b.f.moduli().modulo("frmDeclin");
@@ -191,7 +191,7 @@ TEST(Finestra, IlQuadroPassaINumeri) {
     EXPECT_FALSE(board->isVisible());
 }
 
-TEST(Finestra, IlVivoELaCorsaDeiCampi) {
+TEST(Finestra, TheLiveDialIsTheFieldsRun) {
     BancoFinestra b;
     b.spunta("chkOreAstronomiche");
     b.spunta("Ck_DayLightCurves");
@@ -220,7 +220,7 @@ TEST(Finestra, IlVivoELaCorsaDeiCampi) {
     b.f.findChild<QAbstractButton *>(QStringLiteral("disegnaMentreScrivi"))->setChecked(false);
 }
 
-TEST(Finestra, UnaCorsaLungaSiFermaAlTasto) {
+TEST(Finestra, ALongRunStopsAtAKey) {
     BancoFinestra b;
     for (const std::string_view nome : {"chkOreAstronomiche", "Ck_DayLightCurves", "ckAlt", "ckAz"}) b.spunta(nome);
     b.f.findChild<QAbstractButton *>(QStringLiteral("disegnaMentreScrivi"))->setChecked(true);
@@ -236,7 +236,7 @@ TEST(Finestra, UnaCorsaLungaSiFermaAlTasto) {
     b.f.findChild<QAbstractButton *>(QStringLiteral("disegnaMentreScrivi"))->setChecked(false);
 }
 
-TEST(Finestra, IlFoglioSegueLaCornice) {
+TEST(Finestra, TheSheetFollowsTheFrame) {
     BancoFinestra b;
     auto *avviso = b.f.findChild<QLabel *>(QStringLiteral("avvisoCornice"));
     EXPECT_FALSE(avviso->text().isEmpty());
@@ -256,7 +256,7 @@ TEST(Finestra, IlFoglioSegueLaCornice) {
     EXPECT_EQ(b.lista(), una);
 }
 
-TEST(Finestra, UnClicSulFoglioLeggeESceglie) {
+TEST(Finestra, AClickOnTheSheetReadsAndChooses) {
     BancoFinestra b;
     b.f.findChild<QPushButton *>(QStringLiteral("Adatta"))->click();
     desktop::Foglio &foglio = b.f.quadro().foglio();
@@ -277,7 +277,7 @@ TEST(Finestra, UnClicSulFoglioLeggeESceglie) {
     EXPECT_FALSE(b.w("Tavolo1.picPrint")->isVisible());
 }
 
-TEST(Finestra, LePagineArrivanoAllaStampante) {
+TEST(Finestra, PagesReachThePrinter) {
     if (QStandardPaths::findExecutable(QStringLiteral("pdfinfo")).isEmpty()) GTEST_SKIP() << "needs poppler-utils";
     BancoFinestra b;
     b.spunta("chkOreAstronomiche");
@@ -319,7 +319,7 @@ TEST(Finestra, LePagineArrivanoAllaStampante) {
     EXPECT_EQ(b.dialoghi.avvisi[0], "Nessuna area selezionata");
 }
 
-TEST(Finestra, LaRotellaIngrandisceAlPuntatore) {
+TEST(Finestra, TheWheelEnlargesAtThePointer) {
     BancoFinestra b;
     b.f.findChild<QPushButton *>(QStringLiteral("Adatta"))->click();
     desktop::Foglio &foglio = b.f.quadro().foglio();
@@ -342,7 +342,7 @@ TEST(Finestra, LaRotellaIngrandisceAlPuntatore) {
     EXPECT_TRUE(QRectF(foglio.viewport()->rect()).contains(intero));
 }
 
-TEST(Finestra, UnProgettoSiSalvaSiApreSiChiede) {
+TEST(Finestra, AProjectIsSavedOpenedAskedFor) {
     BancoFinestra b;
     b.scrivi("txtDec", "7.25");
     EXPECT_TRUE(b.f.modificato());

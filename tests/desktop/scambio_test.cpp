@@ -8,7 +8,7 @@ namespace {
 
 using prova::BancoFinestra;
 
-TEST(Scambio, UnProgettoDellaPaginaSiApreETornaIndietro) {
+TEST(Scambio, AProjectOfThePageOpensAndGoesBack) {
     const QByteArray cartella = qgetenv("OMBRELIA_SCAMBIO");
     if (cartella.isEmpty()) GTEST_SKIP() << "run by tools/prova-pagina";
     BancoFinestra b;

@@ -34,7 +34,7 @@ constexpr Piano PIANI[] = {{"0", "0", "0"},         {"0", "30", "10"},    {"20",
                            {"45.7", "-20", "25.2"}, {"45", "110", "-30"}, {"60", "170", "5"},
                            {"80", "15", "60"},      {"51.5", "0", "90"},  {"35", "-135", "80"}};
 
-TEST(Diretta, LeRetteOrarieSonoRette) {
+TEST(Diretta, HourLinesAreStraight) {
     for (const Piano &p : PIANI) {
         Banco b({{"txtLAT", p.lat}, {"txtDec", p.dec}, {"txtInc", p.inc}, {"TxtFraz", "4"}}, {"chkOreAstronomiche"});
         allarga(b);
@@ -56,7 +56,7 @@ TEST(Diretta, LeRetteOrarieSonoRette) {
 }
 
 // On a plane that looks along the meridian the afternoon mirrors the morning.
-TEST(Diretta, MattinaSpecchioDelPomeriggio) {
+TEST(Diretta, MorningMirrorsAfternoon) {
     for (const Piano &p : {Piano{"45", "0", "0"}, Piano{"45", "0", "40"}, Piano{"30", "0", "90"}, Piano{"60", "0", "-20"}}) {
         Banco b({{"txtLAT", p.lat}, {"txtDec", p.dec}, {"txtInc", p.inc}, {"TxtFraz", "2"}},
                 {"chkOreAstronomiche", "Ck_DayLightCurves", "ckFunzione", "ck_Equinoziale"});
@@ -81,7 +81,7 @@ TEST(Diretta, MattinaSpecchioDelPomeriggio) {
     }
 }
 
-TEST(Diretta, LeAzimutaliUnaVoltaPerRichiesta) {
+TEST(Diretta, AzimuthLinesOnceARequest) {
     Banco b({}, {"ckAz"});
     b.esegui();
     EXPECT_EQ(b.s.in.ckAz, 0);
@@ -89,7 +89,7 @@ TEST(Diretta, LeAzimutaliUnaVoltaPerRichiesta) {
 }
 
 // Direction, zero and sign of the frame, each where a maker would notice.
-TEST(Diretta, VersiESegni) {
+TEST(Diretta, DirectionsAndSigns) {
     struct Caso {
         const char *che, *lat, *dec, *inc;
         double ora, delta;
@@ -117,7 +117,7 @@ TEST(Diretta, VersiESegni) {
 }
 
 // In polar night the half day arc faults: the line keeps the arc of the declination before and goes on.
-TEST(Diretta, GiornoPolareTieneLArcoDiPrima) {
+TEST(Diretta, APolarDayKeepsTheLastArc) {
     Banco b({{"txtLAT", "75"}, {"txtDec", "0"}, {"txtInc", "90"}, {"TxtStilo", ".01"}}, {"ckTemp"});
     allarga(b);
     b.esegui();
@@ -130,7 +130,7 @@ TEST(Diretta, GiornoPolareTieneLArcoDiPrima) {
     EXPECT_GT(sulMeridiano, 100);
 }
 
-TEST(Diretta, LaPrimaLetturaFissaIlQuadrante) {
+TEST(Diretta, TheFirstReadingFixesTheDial) {
     Banco b({{"txtLAT", "45"}, {"txtInc", "90"}, {"txtDec", "33"}});
     b.esegui();
     EXPECT_EQ(b.s.in.txtDec, "0") << "a horizontal dial has no declination";
@@ -145,7 +145,7 @@ TEST(Diretta, LaPrimaLetturaFissaIlQuadrante) {
     EXPECT_EQ(b.s.v.letture, 2);
 }
 
-TEST(Diretta, OrigineOrizzonteEDidascalia) {
+TEST(Diretta, OriginHorizonAndCaption) {
     Banco b({{"txtLAT", "45.74805"}, {"txtLonG", "-12.3456789"}, {"ck_Orizzonte", "1"}});
     b.foglio(2, 1.5, 0, 0);
     b.esegui();
@@ -167,7 +167,7 @@ TEST(Diretta, OrigineOrizzonteEDidascalia) {
     EXPECT_EQ(b.lista().Ordine.size() * 2, righe);
 }
 
-TEST(Diretta, MillimetriDannoLoStessoQuadrante) {
+TEST(Diretta, MillimetresGiveTheSameDial) {
     const auto punti = [](Banco &b) {
         b.esegui();
         return b.linee("hour");
@@ -185,7 +185,7 @@ TEST(Diretta, MillimetriDannoLoStessoQuadrante) {
     EXPECT_TRUE(mm.testo("ortostilo = 200 mm"));
 }
 
-TEST(Diretta, SitoAustrale) {
+TEST(Diretta, SouthernSite) {
     Banco b({{"txtLAT", "-33"}, {"txtInc", "0"}, {"txtDec", "0"}}, {"ck_Lemniscate"});
     b.esegui();
     EXPECT_EQ(b.s.in.txtLAT, "33");
@@ -201,7 +201,7 @@ TEST(Diretta, SitoAustrale) {
 }
 
 // A drawing that memory can't hold is refused before it starts where its fields tell, and ends as want of memory does where not.
-TEST(Diretta, UnDisegnoTroppoGrandeNonComincia) {
+TEST(Diretta, ADrawingTooLargeDoesNotBegin) {
     Banco b({{"TxtFraz", "4000"}}, {"ck_Italiche"});
     b.s.tavolo.recordMassimi = 1000000;
     b.esegui();
@@ -220,7 +220,7 @@ TEST(Diretta, UnDisegnoTroppoGrandeNonComincia) {
     }
 }
 
-TEST(Diretta, CampiAssurdiSonoRifiutatiOInnocui) {
+TEST(Diretta, AbsurdFieldsAreRefusedOrHarmless) {
     struct Caso {
         std::pair<std::string_view, std::string_view> campo;
         std::string_view box;  // empty: the run goes through

@@ -11,7 +11,7 @@
 namespace ombrelia {
 namespace {
 
-TEST(Pubblicati, PuntiDelPiano) {
+TEST(Pubblicati, PointsOfThePlane) {
     double peggiore = 0;
     int righe = 0;
     for (const auto &r : prova::Tabella("punti_pubblicati.txt")) {
@@ -29,7 +29,7 @@ TEST(Pubblicati, PuntiDelPiano) {
 }
 
 // From the drawn lines, not from the formula: the angle of each hour line of a horizontal dial with the noon line.
-TEST(Pubblicati, AngoliOrariOrizzontali) {
+TEST(Pubblicati, AnglesOfLevelHourLines) {
     prova::Banco banco({{"txtLAT", "54.8"},
                         {"txtInc", "90"},
                         {"TxtStilo", "1"},
@@ -81,7 +81,7 @@ prova::Banco piano(const std::string &lat, const std::string &lon, std::initiali
 }
 
 // The rule of three of the four schools: a shadow as long as its rod and the shadow of that noon together; in the afternoon.
-TEST(Pubblicati, RegolaDellAsr) {
+TEST(Pubblicati, RuleOfAsr) {
     for (const char *lat : {"10", "30", "41.9", "51.5"}) {
         prova::Banco b = piano(lat, "-15", {"ckAsr"});
         b.esegui();
@@ -97,7 +97,7 @@ TEST(Pubblicati, RegolaDellAsr) {
 }
 
 // Bearings that charts of the Qibla give: in the caption, and of the Sun whose shadow falls on the curve.
-TEST(Pubblicati, RilevamentoDellaQibla) {
+TEST(Pubblicati, BearingOfTheQibla) {
     int curve = 0;
     for (const auto &r : prova::Tabella("qibla_pubblicate.txt")) {
         prova::Banco b = piano(r.at(1), r.at(2), {"CkQibla"});
@@ -118,7 +118,7 @@ TEST(Pubblicati, RilevamentoDellaQibla) {
 }
 
 // The turning points of the equation of time, where the drawn figure of mean noon turns.
-TEST(Pubblicati, EstremiDellAnalemma) {
+TEST(Pubblicati, ExtremesOfTheAnalemma) {
     prova::Banco b = piano("45", "-15", {"ck_Lemniscate"});
     b.esegui();
     const ombra::PianoMontato livello({45 * ombra::RADIANTI, 0, std::numbers::pi / 2, 1});

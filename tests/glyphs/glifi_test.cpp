@@ -96,7 +96,7 @@ struct MuroDiCifre : Banco {
 };
 
 // On a southern dial that is mounted at once, what is seen in the sheet's mirror is what a northern one shows.
-TEST(Glifi, AlloSpecchioSiLeggono) {
+TEST(Glifi, ReadInTheMirror) {
     MuroDiCifre banco;
     struct Vertice2 {
         double x, y;
@@ -143,7 +143,7 @@ TEST(Glifi, AlloSpecchioSiLeggono) {
     }
 }
 
-TEST(Cifre, NellaCellaUniteEDiritte) {
+TEST(Cifre, InTheirCellJoinedAndUpright) {
     MuroDiCifre banco;
     for (const auto &r : Tabella("cifre.txt")) {
         const Linee &linee = banco.cifra(std::stoi(r[0]));
@@ -157,7 +157,7 @@ TEST(Cifre, NellaCellaUniteEDiritte) {
     EXPECT_TRUE(banco.cifra(10).empty() && banco.cifra(-1).empty());
 }
 
-TEST(Numeri, UnaCellaPerCifra) {
+TEST(Numeri, OneCellADigit) {
     MuroDiCifre banco;
     const auto fuori = [&v = banco.s.v](double x, double y) { return std::hypot(v.x1.numero() - x, v.y1.numero() - y); };
     for (const int n : {1, 5, 9, 10, 11, 12}) {
@@ -172,7 +172,7 @@ TEST(Numeri, UnaCellaPerCifra) {
     }
 }
 
-TEST(NumeriRomani, ScrivonoLeOre) {
+TEST(NumeriRomani, WriteTheHours) {
     MuroDiCifre banco;
     int ora = 0;
     for (const std::string attese : {"I", "II", "III", "IV", "V", "VI", "VII", "VIII", "IX", "X", "XI", "XII"}) {
@@ -198,7 +198,7 @@ TEST(NumeriRomani, ScrivonoLeOre) {
     EXPECT_TRUE(banco.romano(0).empty() && banco.romano(2000000000).empty());
 }
 
-TEST(NumeriSulleOre, SulleOreDellaDiurna) {
+TEST(NumeriSulleOre, OnTheHoursOfTheDayLine) {
     for (const auto &[lat, dec, delta] : {std::array{"45", "0", "-10"}, {"38", "-20", "23.445"}, {"60", "35", "0"}}) {
         MuroDiCifre banco({{"txtLAT", lat}, {"txtDec", dec}, {"txtDelta", delta}, {"txtNumbersize", ".0015"}}), campione;
         banco.s.in.ckRomani = 1, banco.romani();
@@ -218,7 +218,7 @@ TEST(NumeriSulleOre, SulleOreDellaDiurna) {
     }
 }
 
-TEST(NumeriSulleOre, AspettanoUnMuroEUnaCorsa) {
+TEST(NumeriSulleOre, WaitForAWallAndARun) {
     MuroDiCifre banco({{"txtLonG", "0"}});
     EXPECT_TRUE(banco.arabi() > 0 && banco.romani() == banco.arabi()) << "the box is clear: Arabic";
     EXPECT_TRUE(banco.s.v.deltaOpz.numero() == 23.445 && banco.s.v.angOraLong.numero() == 15) << "degrees";
@@ -229,7 +229,7 @@ TEST(NumeriSulleOre, AspettanoUnMuroEUnaCorsa) {
     EXPECT_EQ(banco.romani() + banco.arabi(), 0U) << "no run before";
 }
 
-TEST(Segni, NellaMisuraEDiritti) {
+TEST(Segni, OfTheirSizeAndUpright) {
     MuroDiCifre cielo;
     int n = 0;
     for (const auto &r : Tabella("segni.txt")) {
@@ -244,7 +244,7 @@ TEST(Segni, NellaMisuraEDiritti) {
     EXPECT_EQ(n, QUANTI_SEGNI);
 }
 
-TEST(Glifi, CresconoColCampoEConLUnita) {
+TEST(Glifi, GrowWithTheFieldAndTheUnit) {
     MuroDiCifre banco;
     const double alto = banco.segno(QUANTI_SEGNI - 1).altezza();
     banco.imposta({{"txtArabi", "30"}, {"txtNumbersize", "60"}, {"txtZodiacsize", "30"}});
@@ -262,7 +262,7 @@ TEST(Glifi, CresconoColCampoEConLUnita) {
     }
 }
 
-TEST(Zodiaco, SegueLaLongitudineSuOgniMuro) {
+TEST(Zodiaco, FollowsTheLongitudeOnEveryWall) {
     for (const char *lon : {"-9.2", "0", "-15", "-21"})
         for (const char *dec : {"-40", "0", "62"}) {
             MuroDiCifre cielo({{"txtLonG", lon}, {"txtDec", dec}, {"txtLAT", "41.9"}, {"txtZodiacsize", "0"}});
@@ -278,7 +278,7 @@ TEST(Zodiaco, SegueLaLongitudineSuOgniMuro) {
         }
 }
 
-TEST(Zodiaco, AlSudLAnnoSiVolta) {
+TEST(Zodiaco, InTheSouthTheYearTurns) {
     MuroDiCifre cielo({{"txtDec", "0"}, {"txtLAT", "30"}, {"txtZodiacsize", "0"}});
     cielo.s.v.segnoLat = -1;
     const Linee posti = cielo.posti();
@@ -286,7 +286,7 @@ TEST(Zodiaco, AlSudLAnnoSiVolta) {
         << "Capricorn a summer sign, below the equinoctial";
 }
 
-TEST(Zodiaco, IPuntiChiudonoLaFigura) {
+TEST(Zodiaco, PointsCloseTheFigure) {
     MuroDiCifre cielo({{"txtDec", "10"}, {"txtLAT", "45"}}), nord({{"txtDec", "180"}, {"txtLAT", "45"}});
     cielo.s.v.flagVerticale = 1, cielo.s.v.lonEq = -12;
     ChiudiZodiaco(cielo.s);

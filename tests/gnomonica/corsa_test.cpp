@@ -46,7 +46,7 @@ void perOgniEstremo(const Lista &lista, bool australe, Punto punto) {
     }
 }
 
-TEST(Corsa, LineeDiOgniZonaDoveCadeLOmbra) {
+TEST(Corsa, LinesOfEveryZoneWhereTheShadowFalls) {
     for (const auto &r : prova::Tabella("meridiani.txt"))
         for (const Motrice &m : MOTRICI)
             for (const bool zona : {true, false}) {
@@ -88,7 +88,7 @@ TEST(Corsa, LineeDiOgniZonaDoveCadeLOmbra) {
 }
 
 // The figure of mean noon is centred on the zone's noon, on a level plane where no part of it is cut.
-TEST(Corsa, AnalemmaDelMeridianoDellaZona) {
+TEST(Corsa, AnalemmaOfTheZonesMeridian) {
     for (const auto &r : prova::Tabella("meridiani.txt")) {
         const double lat = std::stod(r[1]);
         if (std::fabs(lat) > 60) continue;
@@ -132,14 +132,14 @@ std::string disegno(const Motrice &m, const std::vector<std::string_view> &altri
     return ListaTesto(b.lista());
 }
 
-TEST(Corsa, OriginaleFrescoCancellaLaCorsaPrima) {
+TEST(Corsa, AFreshOriginalWipesTheRunBefore) {
     const std::vector<std::vector<std::string_view>> tutti{{"txtLAT", "txtDec", "txtInc"}, {"txtLAT"}, {"txtDec"}, {"txtInc"}};
     for (const Motrice &m : MOTRICI)
         for (const auto &altri : tutti)
             EXPECT_TRUE(disegno(m, altri) == disegno(m, {})) << m.nome << " behind another " << altri[0];
 }
 
-TEST(Corsa, UnAltroDisegnaAlPostoDelMotore) {
+TEST(Corsa, AnotherDrawsInTheEnginesPlace) {
     for (const Motrice &m : MOTRICI) {
         Banco b({{"txtLAT", "45"}, {"txtDec", m.dec}, {"txtInc", m.inc}, {"txtX0", "-2"}, {"txtX1", "2"}, {"txtY1", "-2"}},
                 {"chkOreAstronomiche", "Ck_DayLightCurves", "ck_Equinoziale", "ck_Italiche", "ck_Lemniscate"});
@@ -170,7 +170,7 @@ TEST(Corsa, UnAltroDisegnaAlPostoDelMotore) {
     }
 }
 
-TEST(Corsa, RifiutataAlSudRestaAlSud) {
+TEST(Corsa, RefusedInTheSouthItStaysSouthern) {
     Banco b({{"txtLAT", "-33"}, {"TxtFraz", "1e9"}}, {"ckTemp"});
     b.premi("cmdRun");
     EXPECT_EQ(b.s.in.txtLAT, "-33");

@@ -10,7 +10,7 @@ namespace {
 
 using prova::Banco;
 
-TEST(Ricordo, UnQuadranteDopoAltriEQuelloDiPrima) {
+TEST(Ricordo, ADialAfterOthersIsTheOneOfBefore) {
     const struct {
         const char *lat, *dec, *inc, *fraz, *x1;
     } quadranti[] = {{"45", "18", "0", "2", "2"},  {"45", "-40", "0", "2", "2"}, {"45", "18", "0", "2", "0.3"},

@@ -125,7 +125,7 @@ std::map<std::string, TestoSorgente> TuttiITesti() {
     return tutti;
 }
 
-TEST(Dizionari, OgniTestoTradottoEOgniVoceUsata) {
+TEST(Dizionari, EveryTextTranslatedAndEveryEntryUsed) {
     const auto tutti = TuttiITesti();
     ASSERT_GT(tutti.size(), 150U);
     for (const auto &file : LINGUE) {
@@ -147,7 +147,7 @@ TEST(Dizionari, OgniTestoTradottoEOgniVoceUsata) {
 }
 
 // Captions are laid out, and numbers joined to labels, by the blanks around the texts.
-TEST(Dizionari, FileInteriConGliSpazi) {
+TEST(Dizionari, FilesWholeWithTheirBlanks) {
     std::vector<std::string> tutti;
     for (const auto &file : LINGUE) tutti.insert(tutti.end(), file.begin(), file.end());
     for (const std::string &lingua : tutti) {
@@ -168,7 +168,7 @@ TEST(Dizionari, FileInteriConGliSpazi) {
 }
 
 // A file that translates what is no literal has marked its literals, unless it only hands texts on.
-TEST(Dizionari, TestiTradottiPerVariabile) {
+TEST(Dizionari, TextsTranslatedByVariable) {
     const auto &[testi, variabili] = DelProgramma();
     const std::set<std::string> senzaTesti{"cli/disegno.cpp",        "lang/dizionario.h",   "lang/dizionario.cpp",
                                            "sessione/sessione.h",    "app/lingua.cpp",      "reports/tabulato.h",
@@ -181,7 +181,7 @@ TEST(Dizionari, TestiTradottiPerVariabile) {
     }
 }
 
-TEST(Dizionari, IlRaccoglitoreVedeQuelCheDeve) {
+TEST(Dizionari, TheGathererSeesWhatItShould) {
     Raccolta r;
     r.Leggi(R"(#include "no"
         // s.Traduci("no")

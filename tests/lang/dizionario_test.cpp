@@ -19,7 +19,7 @@ Dizionario Da(const std::string &file) {
 
 using Voci = std::vector<Dizionario::Lemma>;
 
-TEST(Dizionario, QuelCheUnFileTiene) {
+TEST(Dizionario, WhatAFileHolds) {
     for (const auto &r : prova::Tabella("dizionario.txt")) {
         Voci attese;
         for (std::size_t i = 1; i + 1 < r.size(); i += 2) attese.emplace_back(prova::Scritto(r[i]), prova::Scritto(r[i + 1]));
@@ -27,7 +27,7 @@ TEST(Dizionario, QuelCheUnFileTiene) {
     }
 }
 
-TEST(Dizionario, Ricerca) {
+TEST(Dizionario, Search) {
     const Dizionario d = Da("\"Latitudine:   |Latitude:   \r\ncittà è già più|CITY\r\nUno|first\r\nuno|second\r\nœuvre ÿ|work\"");
     const std::pair<const char *, const char *> casi[] = {{"Latitudine:   ", "Latitude:   "},
                                                           {"LATITUDINE:   ", "Latitude:   "},
@@ -43,7 +43,7 @@ TEST(Dizionario, Ricerca) {
     EXPECT_EQ(Dizionario().Traduci("Latitudine:   "), "Latitudine:   ");
 }
 
-TEST(Dizionario, MaiuscoleAccentate) {
+TEST(Dizionario, AccentedCapitals) {
     EXPECT_EQ(Maiuscolo("àèéìíîòóùúâêîôûëïüçœæÿ÷ß€ zA9"), "ÀÈÉÌÍÎÒÓÙÚÂÊÎÔÛËÏÜÇŒÆŸ÷ß€ ZA9");
     EXPECT_EQ(Maiuscolo("\xC3"), "\xC3") << "half a letter at the end";
 }
@@ -55,7 +55,7 @@ std::string Lineare(const Voci &voci, std::string_view testo) {
     return std::string(testo);
 }
 
-TEST(Dizionario, ComeLaRicercaLineare) {
+TEST(Dizionario, AsTheLinearSearchFinds) {
     std::mt19937 caso(20260621);
     const auto testo = [&caso] {
         constexpr const char *LETTERE[] = {"a", "A", "b", "è", "È", " ", "z", "|"};

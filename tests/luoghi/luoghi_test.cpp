@@ -25,7 +25,7 @@ const Atlante &atlante() {
     return a;
 }
 
-TEST(Luoghi, CittaNote) {
+TEST(Luoghi, KnownTowns) {
     double peggiore = 0;
     int righe = 0;
     for (const auto &r : prova::Tabella("luoghi_noti.txt")) {
@@ -41,7 +41,7 @@ TEST(Luoghi, CittaNote) {
     EXPECT_EQ(righe, 50);
 }
 
-TEST(Luoghi, OmonimiEQuasi) {
+TEST(Luoghi, NamesakesAndNearly) {
     EXPECT_TRUE(atlante().Scegli("Cambridge").omonimi);
     EXPECT_EQ(atlante().Scegli("Cambridge, MA").luogo->regione, "MA");
     EXPECT_EQ(atlante().Scegli("Cambridge", "gb").luogo->paese, "GB");
@@ -58,7 +58,7 @@ TEST(Luoghi, OmonimiEQuasi) {
 
 // By the map: a zone's meridian is said as it lies from its towns, also beyond the 180th; a degree of longitude is as long as the
 // cosine of the latitude.
-TEST(Luoghi, MeridianiEDistanze) {
+TEST(Luoghi, MeridiansAndDistances) {
     struct Riga {
         const char *longitudine;  // East, as the table has it
         int minuti;
@@ -73,7 +73,7 @@ TEST(Luoghi, MeridianiEDistanze) {
     }
 }
 
-TEST(Luoghi, RispondeAOgniTasto) {
+TEST(Luoghi, AnswersEveryKey) {
     for (const std::string_view nome : {"San Francisco", "zürich", "qwertyuiop", "Saint-Étienne", "new york"})
         for (std::size_t k = 1; k <= nome.size(); ++k)
             ASSERT_LE(atlante().Suggerisci(nome.substr(0, k)).size(), 12U) << nome.substr(0, k);
@@ -82,7 +82,7 @@ TEST(Luoghi, RispondeAOgniTasto) {
     EXPECT_EQ(atlante().Suggerisci("rom").front()->nome, "Rome");
 }
 
-TEST(Angoli, ComeSiScrivono) {
+TEST(Angoli, AsTheyAreWritten) {
     for (const auto &r : prova::Tabella("angoli_scritti.txt")) {
         const CampoAngolo *campo = TrovaCampoAngolo(r[0]);
         ASSERT_TRUE(campo) << r[0];
@@ -100,7 +100,7 @@ TEST(Angoli, ComeSiScrivono) {
 }
 
 // Any text at all: either a reason, or a number in range that the field's text gives again.
-TEST(Angoli, QualunqueTesto) {
+TEST(Angoli, AnyText) {
     std::mt19937 g(1);
     const std::string_view pezzi[] = {"4", "5", "0", "9", "60", "179", ".", ",", " ", "-", "+",   "°",    "'",    "\"", "''",
                                       "′", "N", "S", "E", "W",  "o",   "d", "m", "s", "e", "nan", "\xC2", "\xFF", "x"};
@@ -131,7 +131,7 @@ Orario orario(const std::string &t) {
     return o;
 }
 
-TEST(Fusi, Orologi) {
+TEST(Fusi, Clocks) {
     for (const auto &r : prova::Tabella("ore_civili.txt")) {
         const auto f = Fuso::Leggi(r[0]);
         if (!f) GTEST_SKIP() << "no zone data on this system";
@@ -145,7 +145,7 @@ TEST(Fusi, Orologi) {
     EXPECT_EQ(Fuso::LeggiOppure("Europe/Nowhere", 345).InUT(0).scarto, 345 * 60);
 }
 
-TEST(Fusi, ComeLaLibreriaDelC) {
+TEST(Fusi, AsTheCLibraryHasThem) {
     const char *prima = std::getenv("TZ");
     const std::string tz = prima ? prima : "";
     std::mt19937_64 g(7);
@@ -184,7 +184,7 @@ TEST(Fusi, ComeLaLibreriaDelC) {
 }
 
 // Rules alone, in every form that they have, hour by hour through leap years and common ones.
-TEST(Fusi, RegoleComeLaLibreriaDelC) {
+TEST(Fusi, RulesAsTheCLibraryHasThem) {
     const char *prima = std::getenv("TZ");
     const std::string tz = prima ? prima : "";
     for (const std::string regola : {"AAA-1BBB,J60/0,J300/3", "AAA5BBB,59/2,J300/1:30", "<+03>-3:30<+04>,M3.5.0,M10.1.6/5",
@@ -207,7 +207,7 @@ TEST(Fusi, RegoleComeLaLibreriaDelC) {
     ::tzset();
 }
 
-TEST(Fusi, FileRotti) {
+TEST(Fusi, BrokenFiles) {
     const auto file = LeggiFile("/usr/share/zoneinfo/Australia/Lord_Howe", 1U << 20);
     if (!file) GTEST_SKIP() << "no zone data on this system";
     std::mt19937 g(3);
@@ -239,7 +239,7 @@ int place(std::vector<std::string> a, std::string &uscita) {
     return esito;
 }
 
-TEST_F(ComandoPlace, ElenchiEStato) {
+TEST_F(ComandoPlace, ListsAndStatus) {
     scrivi("luoghi.csv", tabella());
     std::string t;
     EXPECT_EQ(place({"New", "York"}, t), 0);

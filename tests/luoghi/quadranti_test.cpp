@@ -64,7 +64,7 @@ double lontano(const prova::Banco &b, double ora, double x, double y) {
     return minima;
 }
 
-TEST(LontaniQuadranti, OreDelFusoEDelLuogo) {
+TEST(LontaniQuadranti, HoursOfTheZoneAndOfThePlace) {
     double peggiore = 0;
     int punti = 0;
     for (const auto &r : prova::Tabella("luoghi_quadranti.txt"))

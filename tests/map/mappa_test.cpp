@@ -58,7 +58,7 @@ std::vector<std::size_t> Lati(const Mondo &m, const F &lato) {
     return punti;
 }
 
-TEST(LeggiMondo, TrattiPaesiEQuelCheSiSalta) {
+TEST(LeggiMondo, StrokesCountriesAndWhatIsSkipped) {
     for (const auto &r : prova::Tabella("mondo_righe.txt")) {
         SCOPED_TRACE(r.at(0));
         const Mondo m = LeggiMondo(prova::Scritto(r.at(0)), 0);
@@ -78,7 +78,7 @@ TEST(LeggiMondo, TrattiPaesiEQuelCheSiSalta) {
 
 class CaricaMondoQui : public prova::InCartella {};
 
-TEST_F(CaricaMondoQui, SostituisceMostraIlFiltroECaricaUnaVolta) {
+TEST_F(CaricaMondoQui, ReplacesShowsTheFilterAndLoadsOnce) {
     using Nomi = std::vector<std::string>;
     BancoMappa b;
     EXPECT_FALSE(b.s.stato("lblFiltro").visibile || b.s.stato("Filtertxt").visibile);
@@ -125,7 +125,7 @@ std::array<double, 3> atteso(double lat, double lon, double sitoLat, double sito
     return {-gn * destra / normale, -gn * (alto * std::cos(i) - fronte * std::sin(i)) / normale, normale};
 }
 
-TEST(DisegnaMondo, ILuoghiDavantiDoveDiceIlGlobo) {
+TEST(DisegnaMondo, PlacesInFrontWhereTheGlobeSays) {
     // Off the sites' meridians: exactly on them a place north of the zenith has the azimuth 0, as the formula gives it.
     const double luoghi[][2] = {{10, 5},    {-25, -8},   {40, 60},  {64, -21.9}, {-33, 150}, {12, -71},
                                 {0, 1},     {45, 20},    {-40, 20}, {-46, 20},   {80, 30},   {50, -160},
@@ -156,7 +156,7 @@ TEST(DisegnaMondo, ILuoghiDavantiDoveDiceIlGlobo) {
     EXPECT_TRUE(confronti > 100 && notte > 100);
 }
 
-TEST(DisegnaMondo, FiltroCorniceEPaese) {
+TEST(DisegnaMondo, FilterFrameAndCountry) {
     for (const auto &r : prova::Tabella("mondo_filtri.txt")) {
         BancoMappa b;
         b.s.mondo = LeggiMondo("A1;44;11\nA1;45;12\nA1;46;13\nB1;45;11\nB1;46;11\nA2;43;12\nA2;43;13\n", -12);
@@ -170,7 +170,7 @@ TEST(DisegnaMondo, FiltroCorniceEPaese) {
     }
 }
 
-TEST(DisegnaMondo, UnLuogoDietroLasciaIlPosto) {
+TEST(DisegnaMondo, APlaceBehindLeavesTheSpot) {
     const std::string qui = "46;13\n", la = "47;14\n", notte = "-44;-160\n";
     BancoMappa b;
     // The first run starts in the dark: its chord comes from a slot never written. The third meets the first one's slot.
@@ -184,7 +184,7 @@ TEST(DisegnaMondo, UnLuogoDietroLasciaIlPosto) {
     EXPECT_EQ(b.l[2].X2, 0);
 }
 
-TEST(DisegnaMondo, TrattiLunghiECampiOstili) {
+TEST(DisegnaMondo, LongStrokesAndHostileFields) {
     BancoMappa lungo;
     std::string testo;
     for (int i = 0; i < 100010; ++i) testo += "A1;45;12\n";
@@ -214,7 +214,7 @@ double distanzaDaCorda(const Mondo &m, std::string_view paese, double X, double 
 }
 
 // The shipped file has whole rings and no edge longer than a degree; each city lies in its country.
-TEST(Citta, OgniLuogoNelSuoPaese) {
+TEST(Citta, EveryPlaceInItsCountry) {
     const Mondo m = LeggiMondo(LeggiFile(OMBRELIA_RADICE "/data/mondo.csv", 32u << 20).value_or(""), 0);
     EXPECT_TRUE(m.paesi.size() == 242 && m.punti.size() > 90000) << m.paesi.size() << ' ' << m.punti.size();
     double lato = 0;
@@ -245,7 +245,7 @@ TEST(Citta, OgniLuogoNelSuoPaese) {
     EXPECT_TRUE(tavola.empty()) << tavola.begin()->first;
 }
 
-TEST(DisegnaCitta, SoloLeRigheInVista) {
+TEST(DisegnaCitta, OnlyRowsInView) {
     for (const auto &r : prova::Tabella("citta_righe.txt")) {
         SCOPED_TRACE(r.at(0) + ' ' + r.at(1));
         BancoMappa b;
@@ -273,7 +273,7 @@ TEST(DisegnaCitta, SoloLeRigheInVista) {
     EXPECT_NEAR(b.lista.Figure.at(0).Y1, b.l.at(0).Y1, 1e-15);
 }
 
-TEST(PuntoOpzionale, UnaStellaSullOmbra) {
+TEST(PuntoOpzionale, AStarOnTheShadow) {
     // The circle's radius is not scaled, the star's is.
     for (const bool mm : {false, true}) {
         BancoMappa b;

@@ -37,7 +37,7 @@ struct Foglio200 : Tavolo {
 
 bool diCornice(const Cammino &c) { return c.genere == Genere::Cornice; }
 
-TEST(Officina, DaCordeAPercorsi) {
+TEST(Officina, FromChordsToPaths) {
     int righe = 0;
     for (const auto &r : prova::Tabella("taglio.txt")) {
         ++righe;
@@ -69,7 +69,7 @@ TEST(Officina, DaCordeAPercorsi) {
 
 // An arc of radius R within a tolerance t takes chords of 2 acos(1 - t/R) at the most; the fewest points are near that.
 // Of lines that coincide one is cut, and which they are is told; lines that cross, or are drawn twice, are none.
-TEST(Officina, LineeDiNomiDiversiCheCoincidonoSonoDette) {
+TEST(Officina, LinesOfOtherNamesThatCoincideAreTold) {
     Foglio200 f;
     const auto linea = [&](P2 a, P2 b, Specie specie, double valore) {
         const Lista &l = f.lista();
@@ -90,7 +90,7 @@ TEST(Officina, LineeDiNomiDiversiCheCoincidonoSonoDette) {
     EXPECT_NEAR((lunghe[std::minmax(Specie::Diurna, Specie::Temporaria)]), 50, 1);
 }
 
-TEST(Officina, CurveConPochiPunti) {
+TEST(Officina, CurvesWithFewPoints) {
     for (const double t : {0.1, 0.01, 0.002}) {
         Foglio200 f;
         const int n = 20000;
@@ -109,7 +109,7 @@ TEST(Officina, CurveConPochiPunti) {
     }
 }
 
-TEST(Officina, IPuntiSiUnisconoTenendoIVuoti) {
+TEST(Officina, DotsAreJoinedAndGapsKept) {
     Foglio200 f;
     // Two branches drawn in turn, one with a gap of ten steps, a lone point.
     for (int i = 0; i <= 100; ++i) {
@@ -129,7 +129,7 @@ TEST(Officina, IPuntiSiUnisconoTenendoIVuoti) {
 }
 
 // A glyph whose middle is inside stays whole, another goes whole.
-TEST(Officina, IGlifiNonSiTagliano) {
+TEST(Officina, GlyphsAreNotCut) {
     for (const double x : {98.0, 102.0}) {
         Foglio200 f;
         f.linea({x - 5, 0}, {x + 5, 0}, "");
@@ -140,7 +140,7 @@ TEST(Officina, IGlifiNonSiTagliano) {
     }
 }
 
-TEST(Officina, IGeneriHannoNomiPerTutti) {
+TEST(Officina, KindsHaveNamesForAll) {
     std::set<std::string_view> nomi;
     for (const RigaGenere &r : Generi()) {
         EXPECT_TRUE(nomi.insert(r.nome).second);
@@ -162,7 +162,7 @@ TEST(Officina, IGeneriHannoNomiPerTutti) {
 }
 
 // What any reader of the format must find: tags in pairs, sections in their order, units, extents that hold every vertex.
-TEST(Officina, IlDxfEIntero) {
+TEST(Officina, TheDxfIsWhole) {
     for (const Unita unita : {Unita::Millimetri, Unita::Pollici}) {
         Foglio200 f;
         f.linea({-30, 0}, {30, 25.4}, "hour");
@@ -207,7 +207,7 @@ TEST(Officina, IlDxfEIntero) {
 }
 
 // Pen moves of a plotter file give back the path's length, in fortieths of a millimetre.
-TEST(Officina, LHpglHaLaLunghezza) {
+TEST(Officina, TheHpglHasTheLength) {
     Foglio200 f;
     f.linea({-30, 0}, {30, 0}, "hour");
     const std::string t = Hpgl(f.pronto(), {});
@@ -228,7 +228,7 @@ TEST(Officina, LHpglHaLaLunghezza) {
     EXPECT_NEAR(giu / 40, 600 + 60, 0.1);
 }
 
-TEST(Officina, ITrattiHannoAccentiEGradi) {
+TEST(Officina, StrokesHaveAccentsAndDegrees) {
     if (!CiSonoTratti()) GTEST_SKIP() << "no alphabet here";
     EXPECT_TRUE(TrattiDi(" ", 5).empty());
     for (const char *c : {"à", "è", "é", "ì", "ò", "ù", "ç", "ü", "°", "♈", "♎", "♓"}) {
@@ -247,7 +247,7 @@ bool incrocia(P2 a, P2 b, P2 c, P2 d) {
 }
 
 // Labels cross nothing and stay inside, on a dial mounted the other way round too; without the box the list is what it was.
-TEST(Officina, LeEtichetteStannoLibere) {
+TEST(Officina, LabelsStandFree) {
     struct Caso {
         const char *lat, *dec;
         bool lungo, montato;
@@ -297,7 +297,7 @@ double chiuso(const Solido &s, const char *che) {
     return s.volume();
 }
 
-TEST(Officina, SolidiChiusiEDelLoroVolume) {
+TEST(Officina, SolidsAreClosedAndOfTheirVolume) {
     Foglio200 f;
     f.linea({-60, -30}, {60, 30}, "hour");
     f.linea({-60, 30}, {60, -30}, "hour");

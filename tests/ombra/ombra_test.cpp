@@ -24,7 +24,7 @@ struct Caso {
     }
 };
 
-TEST(Ombra, PuntiPubblicati) {
+TEST(Ombra, PublishedPoints) {
     for (const auto &r : prova::Tabella("punti_pubblicati.txt")) {
         const PianoMontato p({n(r[0]) * RADIANTI, n(r[1]) * RADIANTI, n(r[2]) * RADIANTI, 1});
         const Getto e = p.getta(n(r[3]) * RADIANTI, n(r[4]) * RADIANTI);
@@ -34,7 +34,7 @@ TEST(Ombra, PuntiPubblicati) {
     }
 }
 
-TEST(Ombra, IlRitornoDisfaLAndata) {
+TEST(Ombra, TheWayBackUndoesTheWayOut) {
     Caso c;
     double peggiore = 0, mirato = 0, derivata = 0;
     int lette = 0, notti = 0, dietro = 0;
@@ -74,7 +74,7 @@ TEST(Ombra, IlRitornoDisfaLAndata) {
 }
 
 // Points with no sunlight, and the lines that part them.
-TEST(Ombra, LineeDelPiano) {
+TEST(Ombra, LinesOfThePlane) {
     Caso c;
     for (int k = 0; k < 2000; ++k) {
         const QuadranteMontato q = c.piano();
@@ -108,7 +108,7 @@ TEST(Ombra, LineeDelPiano) {
     EXPECT_GT(mattino.x, 0.01);
 }
 
-TEST(Ombra, OreDelGiorno) {
+TEST(Ombra, HoursOfTheDay) {
     // Latitude 45, summer solstice: half of the day is arc cos(-tan 23.44) = 115.69419 degrees, 7.712946 hours.
     const double f = 45 * RADIANTI, d = 23.44 * RADIANTI;
     EXPECT_NEAR(*semiarco(f, d) * GRADI, 115.69419, 1e-5);
@@ -123,7 +123,7 @@ TEST(Ombra, OreDelGiorno) {
             EXPECT_FALSE(semiarco(polo * RADIANTI, delta * RADIANTI) || italica(polo * RADIANTI, 0, delta * RADIANTI));
 }
 
-TEST(SoleDiUnaData, ControGliAlmanacchi) {
+TEST(SoleDiUnaData, AgainstAlmanacs) {
     double delta = 0, tempo = 0;
     int righe = 0;
     for (const char *tavola : {"sole_efemeridi.txt", "sole_pubblicati.txt"}) {
@@ -145,7 +145,7 @@ TEST(SoleDiUnaData, ControGliAlmanacchi) {
     EXPECT_GE(righe, 35);
 }
 
-TEST(SoleDiUnaData, DateDiUnaDeclinazione) {
+TEST(SoleDiUnaData, DatesOfADeclination) {
     for (const int anno : {1900, 1999, 2024, 2026, 2099})
         for (int giorno = 3; giorno < 362; giorno += 7) {
             const double jd0 = giornoGiuliano({anno, 1, 1}) + giorno, t = (giorno % 90 - 45) * RADIANTI;

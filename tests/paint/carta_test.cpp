@@ -74,7 +74,7 @@ void foglio(Tavolo &t, double l, double h, double x, double y) {
     t.ShiftY(y);
 }
 
-TEST(Carta, LaPaginaEIlFoglio) {
+TEST(Carta, ThePageAndTheSheet) {
     if (!ceStrumento("pdfinfo")) GTEST_SKIP() << "needs poppler-utils";
     struct Caso {
         double l, h;
@@ -95,7 +95,7 @@ TEST(Carta, LaPaginaEIlFoglio) {
     }
 }
 
-TEST(Carta, CentoMillimetriAOgniScala) {
+TEST(Carta, HundredMillimetresAtEveryScale) {
     if (!ceStrumento("pdftoppm")) GTEST_SKIP() << "needs poppler-utils";
     for (const int scala : {1, 2, 5}) {
         Tavolo t;
@@ -166,7 +166,7 @@ void siIncontrano(const Carta &carta) {
     EXPECT_NEAR(righello[1] - righello[0], 100, ESATTO);
 }
 
-TEST(Carta, LePiastrelleSiIncontrano) {
+TEST(Carta, TilesMeet) {
     if (!ceStrumento("pdftoppm")) GTEST_SKIP() << "needs poppler-utils";
     for (const CartaNota &nota : CARTE_NOTE) {
         if (nota.carta.larga > 0.25) continue;  // both slants lie on its first tile
@@ -217,7 +217,7 @@ TEST(Carta, TheWholeSheetStandsInTheMiddleOfItsPaper) {
     }
 }
 
-TEST(Carta, FermateOVuoteNonLascianoNulla) {
+TEST(Carta, StoppedOrEmptyTheyLeaveNothing) {
     Tavolo t;
     EXPECT_TRUE(paint::PdfPiastrelle(t).isEmpty());
     t.xTrovaA4(0.1, 0.1);
@@ -236,7 +236,7 @@ TEST(Carta, FermateOVuoteNonLascianoNulla) {
     EXPECT_FALSE(errore.empty());
 }
 
-TEST(Carta, ImmaginiDellaMisuraDelFoglio) {
+TEST(Carta, PicturesOfTheSheetsSize) {
     Tavolo t;
     foglio(t, 0.6, 0.3, 0.1, 0.1);
     ASSERT_EQ(t.Scala(), 2);

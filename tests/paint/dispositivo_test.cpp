@@ -40,7 +40,7 @@ struct Schermo {
 
 constexpr int ACCESO = 100;
 
-TEST(Dispositivo, LeLineeSemplificateRestano) {
+TEST(Dispositivo, SimplifiedLinesStay) {
     using Linea = std::vector<QPointF>;
     std::vector<Linea> casi(5);
     constexpr int PASSI = 3000;
@@ -67,7 +67,7 @@ TEST(Dispositivo, LeLineeSemplificateRestano) {
     }
 }
 
-TEST(Dispositivo, CurveAlternateEPuntiCiSonoTutti) {
+TEST(Dispositivo, AlternateCurvesAndDotsAreAllThere) {
     Schermo s;
     paint::DispositivoQt d(s.pittore, Supporto::Schermo, s.posa);
     constexpr int CURVE = 9;  // more than are kept in hand
@@ -84,7 +84,7 @@ TEST(Dispositivo, CurveAlternateEPuntiCiSonoTutti) {
         }
 }
 
-TEST(Dispositivo, OgniColoreSiVedeSuiDueFondi) {
+TEST(Dispositivo, EveryColourIsSeenOnBothGrounds) {
     for (int n = 0; n < 16; ++n) {
         const auto distanza = [](const QColor &a, const QColor &b) {
             return std::abs(a.red() - b.red()) + std::abs(a.green() - b.green()) + std::abs(a.blue() - b.blue());
@@ -135,7 +135,7 @@ TEST(Dispositivo, ATextHasItsOwnColour) {
     }
 }
 
-TEST(Dispositivo, ArchiAntiorari) {
+TEST(Dispositivo, ArcsAnticlockwise) {
     Schermo s;
     paint::DispositivoQt d(s.pittore, Supporto::Schermo, s.posa);
     d.Cerchio(200, 200, 100, QB(10), -1, 0.2, 1.4, 1);

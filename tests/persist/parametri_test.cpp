@@ -15,7 +15,7 @@ namespace {
 
 using ParametriTest = prova::InCartella;
 
-TEST_F(ParametriTest, OgniScritturaTieneLeAltreRighe) {
+TEST_F(ParametriTest, EveryWriteKeepsTheOtherRows) {
     Parametri p;
     EXPECT_EQ(p.Leggi("LAT"), "");
     const std::pair<const char *, const char *> righe[] = {
@@ -29,14 +29,14 @@ TEST_F(ParametriTest, OgniScritturaTieneLeAltreRighe) {
     EXPECT_EQ(quanti(), 1U);
 }
 
-TEST_F(ParametriTest, QuelCheIFileTengono) {
+TEST_F(ParametriTest, WhatFilesHold) {
     for (const auto &r : prova::Tabella("parametri.txt")) {
         scrivi("Ombrelia.dat", prova::Scritto(r.at(0)));
         EXPECT_EQ(Parametri().Leggi("K"), prova::Scritto(r.at(1))) << r[0];
     }
 }
 
-TEST_F(ParametriTest, NessunFilePersoPerUnaScritturaImpossibile) {
+TEST_F(ParametriTest, NoFileIsLostToAnImpossibleWrite) {
     const std::string grande = "\"K\",\"" + std::string(FILE_MASSIMO, 'x') + "\"\r\n";
     scrivi("grande.dat", grande);
     const std::string pieno = "\"K\",\"" + std::string(FILE_MASSIMO - 20, 'x') + "\"\r\n";
@@ -56,7 +56,7 @@ TEST_F(ParametriTest, NessunFilePersoPerUnaScritturaImpossibile) {
 
 std::string Grande(char c) { return std::string(300000, c); }
 
-TEST_F(ParametriTest, UnArrestoLasciaIlVecchioOIlNuovo) {
+TEST_F(ParametriTest, AHaltLeavesTheOldOrTheNew) {
     ASSERT_EQ(Parametri().Scrivi("K", Grande('a')), std::nullopt);
     const std::string prima = leggi("Ombrelia.dat");
     bool scritto = false;
@@ -78,7 +78,7 @@ TEST_F(ParametriTest, UnArrestoLasciaIlVecchioOIlNuovo) {
     EXPECT_TRUE(scritto) << "no child came as far as one write";
 }
 
-TEST_F(ParametriTest, UnDiscoPienoLasciaIlVecchio) {
+TEST_F(ParametriTest, AFullDiskLeavesTheOld) {
     ASSERT_EQ(Parametri().Scrivi("K", "old"), std::nullopt);
     const std::string prima = leggi("Ombrelia.dat");
     const pid_t figlio = ::fork();

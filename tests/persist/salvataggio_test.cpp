@@ -8,7 +8,7 @@
 namespace ombrelia {
 namespace {
 
-TEST(Salvataggio, TagAllaPrimaOccorrenza) {
+TEST(Salvataggio, TagsAtTheirFirstOccurrence) {
     for (const auto &r : prova::Tabella("etichette.txt")) {
         const TestoProgetto t(r.at(0));
         EXPECT_EQ(t.EstraiTag(' ' + r.at(1)), r.at(2)) << r[0];
@@ -21,7 +21,7 @@ TEST(Salvataggio, TagAllaPrimaOccorrenza) {
 
 using SalvataggioTest = prova::InCartella;
 
-TEST_F(SalvataggioTest, QuelCheUnProgettoTiene) {
+TEST_F(SalvataggioTest, WhatAProjectHolds) {
     EXPECT_EQ(ProgettoDaTesto("<a>1</a>\r\n<_b>2</_b>"), "\"<a>1</a>\r\n<_b>2</_b>\"\r\n");
     const std::pair<std::string, std::optional<std::string>> casi[] = {
         {ProgettoDaTesto("uno\r\ndue, tre"), "uno\r\ndue, tre"},

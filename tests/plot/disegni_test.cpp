@@ -33,7 +33,7 @@ std::string dxf(const Tavolo &t) {
     return s;
 }
 
-TEST(Disegni, Attesi) {
+TEST(Disegni, Expected) {
     for (const auto &r : prova::Tabella("disegni.txt")) {
         Tavolo t;
         prova::Registratore d;
@@ -64,14 +64,14 @@ TEST(Disegni, Attesi) {
     }
 }
 
-TEST(Dxf, TavolaDeiColori) {
+TEST(Dxf, TableOfColours) {
     const int attesi[16] = {0, 5, 3, 4, 1, 6, 2, 7, 8, 5, 7, 4, 1, 6, 2, 0xFFFFFF};
     for (int n = 0; n < 16; ++n) EXPECT_EQ(DXF_QbColorConverter(QB(n)), attesi[n]) << n;
     EXPECT_EQ(DXF_QbColorConverter(0x0A0013BF), 7);
     EXPECT_EQ(DXF_QbColorConverter(33023), 33023);
 }
 
-TEST(Svg, NomiETestiSicuri) {
+TEST(Svg, SafeNamesAndTexts) {
     Tavolo t;
     prova::Disegna(t,
                    "F 0.4 0.2 0.2 0.1;K 10;L 0 0 1 1 0 a<b>&\"c\";L 0 0 1 0.9 0 a b;L 0 0 1 0.8 0 a_b;L 0 0 1 0.7 0;"

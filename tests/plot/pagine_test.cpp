@@ -19,7 +19,7 @@ constexpr double INFINITO = std::numeric_limits<double>::infinity();
 // Pages of 0.25 by 0.5 metres, exact in binary as far as the edges allow.
 Tavolo tavoloDiProva() { return Tavolo((0.25 + 0.013) * 56700, (0.5 + 0.015) * 56700); }
 
-TEST(Pagine, NumeroDellaPiastrella) {
+TEST(Pagine, NumberOfTheTile) {
     // Sheet in tiles; position in tiles; number, 0 for none.
     const double casi[][4] = {{2.04, 0.5, 0.5, 1},    {2.04, 1.5, 0.5, 2}, {2.04, 0.5, 1.5, 3}, {2.06, 0.5, 1.5, 4},
                               {2.06, 2.03, 2.5, 9},   {1, 0.5, 3.5, 4},    {2, -0.01, 0.5, 0},  {2, 0.5, -0.01, 0},
@@ -38,7 +38,7 @@ TEST(Pagine, NumeroDellaPiastrella) {
     }
 }
 
-TEST(Pagine, ContornoENumeroRegistrati) {
+TEST(Pagine, OutlineAndNumberAreRecorded) {
     Tavolo t = tavoloDiProva();
     prova::Disegna(t, "F 0.5 0.5 0.1 0.2");
     t.xTrovaA4(0.3, 0.1);
@@ -56,7 +56,7 @@ TEST(Pagine, ContornoENumeroRegistrati) {
     EXPECT_NEAR(t.lista().Testi[0].Y, 0.197, 1e-12);
 }
 
-TEST(Pagine, Griglia) {
+TEST(Pagine, Grid) {
     Tavolo t = tavoloDiProva();
     Registratore d;
     prova::Disegna(t, "F 0.6 0.7 0.1 0.2");
@@ -74,7 +74,7 @@ TEST(Pagine, Griglia) {
     EXPECT_EQ(d.atti.back(), "continua");
 }
 
-TEST(Pagine, MouseInMillimetri) {
+TEST(Pagine, MouseInMillimetres) {
     Tavolo t;
     t.Scala(10);
     t.MouseDown(1000, -1);
@@ -88,7 +88,7 @@ TEST(Pagine, MouseInMillimetri) {
     EXPECT_EQ(t.pannello.lblXYval, "-200 : 10");
 }
 
-TEST(Stampa, TuttoIlFoglio) {
+TEST(Stampa, TheWholeSheet) {
     Tavolo t;
     Registratore schermo, carta;
     t.dispositivo = &schermo;
@@ -113,7 +113,7 @@ TEST(Stampa, TuttoIlFoglio) {
 }
 
 // What a hand does with tiles: outside nothing, a second click takes back, the drawing around is as it was.
-TEST(Pagine, ScelteAVicenda) {
+TEST(Pagine, ChosenByTurns) {
     Tavolo t = tavoloDiProva();
     Registratore d;
     t.piastrelleAScelta = true;
@@ -147,7 +147,7 @@ TEST(Pagine, ScelteAVicenda) {
     EXPECT_EQ(t.lista().Testi.size(), 2U);
 }
 
-TEST(Pagine, PieneDelDisegno) {
+TEST(Pagine, FullOfTheDrawing) {
     // Tiles of 0.25 by 0.5 on a sheet of 0.6 by 1.1: three columns, three rows. Steps; numbers of the tiles.
     const std::pair<const char *, std::vector<int>> casi[] = {
         {"L 0.05 0.05 0.2 0.2 0 a", {1}},
@@ -170,7 +170,7 @@ TEST(Pagine, PieneDelDisegno) {
     }
 }
 
-TEST(Pagine, Carte) {
+TEST(Pagine, Papers) {
     Tavolo t;
     const double l = t.LarghezzaPagina();
     t.xTrovaA4(0.1, 0.1);

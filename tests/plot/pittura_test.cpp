@@ -7,7 +7,7 @@
 namespace ombrelia {
 namespace {
 
-TEST(Rette, IncontroEParallele) {
+TEST(Rette, MeetingAndParallel) {
     const auto q = IntersezioneDueRette(2, -7, 2, 9, -1, 3, 5, 6);
     ASSERT_TRUE(q);
     EXPECT_DOUBLE_EQ(q->x, 2);
@@ -17,7 +17,7 @@ TEST(Rette, IncontroEParallele) {
     EXPECT_FALSE(IntersezioneDueRette(0, 0, 1e200, 1, 0, 1, -1e200, 1e200));
 }
 
-TEST(Ritaglio, Casi) {
+TEST(Ritaglio, Cases) {
     Tavolo t;
     prova::Disegna(t, "F 0.4 0.2 0.2 0.1");
     for (const auto &r : prova::Tabella("ritaglio.txt")) {
@@ -29,7 +29,7 @@ TEST(Ritaglio, Casi) {
     }
 }
 
-TEST(Specchi, Pulsanti) {
+TEST(Specchi, Buttons) {
     Tavolo t;
     prova::Registratore d;
     prova::Disegna(t, "F 0.4 0.2 0.2 0.1;L 0 0 0.1 0.05 1 Ore");

@@ -17,7 +17,7 @@ namespace {
 constexpr double NAN_ = std::numeric_limits<double>::quiet_NaN();
 constexpr double INF = std::numeric_limits<double>::infinity();
 
-TEST(Tavolo, NasceComeUnaPaginaA4) {
+TEST(Tavolo, IsBornAsAPageOfA4) {
     const Tavolo t;
     EXPECT_DOUBLE_EQ(t.LarghezzaPagina(), 11906 / 56700.0 - 0.013);
     EXPECT_DOUBLE_EQ(t.AltezzaPagina(), 16838 / 56700.0 - 0.015);
@@ -32,7 +32,7 @@ TEST(Tavolo, NasceComeUnaPaginaA4) {
     EXPECT_EQ(Tavolo(NAN_, INF).AltezzaPagina(), t.AltezzaPagina());
 }
 
-TEST(Tavolo, UnPuntoDelBordoBassoResta) {
+TEST(Tavolo, APointOfTheLowerEdgeStays) {
     Tavolo t;
     prova::Disegna(t, "F 0.2 0.4 0.05 0.1");
     const double destra = 0.2 - 0.05, basso = 0.4 - 0.1;
@@ -53,7 +53,7 @@ TEST(Tavolo, UnPuntoDelBordoBassoResta) {
     }
 }
 
-TEST(Tavolo, ScalaMinimaDelFoglio) {
+TEST(Tavolo, LeastScaleOfTheSheet) {
     const std::pair<double, int> casi[] = {{-3, 1},     {0.5639, 1}, {0.564, 2},   {1.128, 3},    {1.693, 4}, {2.257, 5},
                                            {2.821, 10}, {5.643, 20}, {11.286, 20}, {11.287, 100}, {15, 100},  {20, 100}};
     for (const auto &[metri, n] : casi) {
@@ -66,7 +66,7 @@ TEST(Tavolo, ScalaMinimaDelFoglio) {
     }
 }
 
-TEST(Tavolo, FoglioEScala) {
+TEST(Tavolo, SheetAndScale) {
     Tavolo t;
     prova::Registratore d;
     t.dispositivo = &d;
@@ -101,7 +101,7 @@ TEST(Tavolo, FoglioEScala) {
     EXPECT_EQ(t.ShiftX(), 0.1234567);
 }
 
-TEST(Tavolo, PosizioneDelTesto) {
+TEST(Tavolo, PositionOfText) {
     Tavolo t;
     prova::Disegna(t, "F 0.2 0.28 0.1 0.2;D a;T 0.05 -0.1 b;D c");
     t.Dati("e", std::nullopt, 0.3);
@@ -119,7 +119,7 @@ TEST(Tavolo, PosizioneDelTesto) {
     EXPECT_DOUBLE_EQ(t.xCurrentY(), -0.2);
 }
 
-TEST(Tavolo, TestiDiCentoLettere) {
+TEST(Tavolo, TextsOfAHundredLetters) {
     std::string gradi;
     for (int i = 0; i < 120; ++i) gradi += "°";
     const std::string a(120, 'a');
@@ -140,7 +140,7 @@ TEST(Tavolo, TestiDiCentoLettere) {
     EXPECT_EQ(d.atti[1], "T 0 0 0 " + std::string(100, 'a'));
 }
 
-TEST(Tavolo, IlTestoDellaListaTieneUnRecordPerRiga) {
+TEST(Tavolo, TheListsTextHoldsARecordALine) {
     Tavolo a;
     a.Dati("uno\ndue\ttre\x7F", 0.0, 0.0);
     a.xLine(0, 0, 0.1, 0.1, 0, "strato\r\nL\t9");
@@ -162,7 +162,7 @@ struct Passeggiata {
     void figura(std::size_t k) { scrivi(lista.Figure[k].Tipo, lista.Figure[std::min(k + 1, lista.Figure.size() - 1)].X1); }
 };
 
-TEST(Percorso, OgniPrimitivaConLaSuaPretesa) {
+TEST(Percorso, EveryPrimitiveWithItsClaim) {
     Tavolo t;
     prova::Disegna(t, "F 1 1 0 0;L 0.1 0 0 0 1 a");
     const auto pretesa = [&](double valore, std::string_view passi) {
@@ -190,7 +190,7 @@ TEST(Percorso, OgniPrimitivaConLaSuaPretesa) {
     EXPECT_EQ(v.detto, "<> L0.1 <5> L0.2 P0.3 <5> V0.4" + prima.substr(prima.find(" <6>")) + dopo);
 }
 
-TEST(Tavolo, ClearTieneIlFoglio) {
+TEST(Tavolo, ClearKeepsTheSheet) {
     Tavolo t;
     const IdNome id = t.nome("Ore");
     t.ShiftX(0.1);

@@ -59,7 +59,7 @@ double LontananzaRetta(const std::vector<RecLinea> &rette, const Coordinate &p) 
 constexpr double QUATTRO_CIFRE = 0.5e-4 * 1.4143 + 1e-6;  // rounded in both coordinates
 constexpr double TAGLIO = 1e-4 * 1.4143 + 1e-6;           // cut in both
 
-TEST(Concordanza, LaSfericaSuOreEDiurne) {
+TEST(Concordanza, SphericalTablesLieOnHourAndDayLines) {
     int confrontati = 0;
     for (const Quadrante &q : Quadranti()) {
         Disegnato b(q, "chkOreAstronomiche;Ck_DayLightCurves", "TxtInizio=6;TxtFine=18");
@@ -78,7 +78,7 @@ TEST(Concordanza, LaSfericaSuOreEDiurne) {
 }
 
 // The two roots of a row are the two days' points, in an order that depends on the hour.
-TEST(Concordanza, LAnaliticaRipeteLaSferica) {
+TEST(Concordanza, TheAnalyticTableRepeatsTheSpherical) {
     int confrontati = 0;
     for (const Quadrante &q : Quadranti()) {
         if (q.inc != 0 || q.lat == 0 || !q.versoSud()) continue;
@@ -105,7 +105,7 @@ TEST(Concordanza, LAnaliticaRipeteLaSferica) {
     EXPECT_EQ(confrontati, 5 * 3 * 23);
 }
 
-TEST(Concordanza, LeDiurneSonoQuelleDelMotore) {
+TEST(Concordanza, DayLinesAreTheEngines) {
     int confrontati = 0;
     for (const std::string q : {"txtLAT=45;txtDec=35", "txtLAT=52;txtDec=-70", "txtLAT=45;txtDec=0"})
         for (const std::string delta : {"23.445", "-17", "5"}) {
@@ -125,7 +125,7 @@ TEST(Concordanza, LeDiurneSonoQuelleDelMotore) {
 }
 
 // The intercepts of the true hours lie on the drawn hour lines, drawn on to the chosen line.
-TEST(Concordanza, LeOreVereSulleRetteScelte) {
+TEST(Concordanza, TrueHoursOnTheChosenLines) {
     int confrontati = 0;
     for (const Quadrante &q : Quadranti())
         for (const char *fuso : {"chkOreAstronomiche", "ck_Etna;chkOreAstronomiche"}) {
@@ -150,7 +150,7 @@ TEST(Concordanza, LeOreVereSulleRetteScelte) {
     EXPECT_GT(confrontati, 300);
 }
 
-TEST(Concordanza, ItalicheEBabilonicheSulleLoroLinee) {
+TEST(Concordanza, ItalicAndBabylonianHoursOnTheirLines) {
     int confrontati = 0;
     for (const Quadrante &q : Quadranti())
         for (const bool italiche : {true, false}) {

@@ -11,7 +11,7 @@ constexpr double G = 3.14159265358979324 / 180;
 // The number behind a label.
 double Dietro(const Rapporto &r, std::string_view etichetta) { return Numero(RigaCon(r, etichetta).substr(etichetta.size())); }
 
-TEST(Tabelle, CelleERigheDiQuadrantiSpeciali) {
+TEST(Tabelle, CellsAndRowsOfSpecialDials) {
     for (const auto &t : Tabella("celle_rapporti.txt")) {
         BancoRapporti b(t[0]);
         const std::string luogo = t[0] + " " + t[1] + " " + t[2] + " " + t[3] + " " + t[4], atteso = Scritto(t[5]);
@@ -34,7 +34,7 @@ TEST(Tabelle, CelleERigheDiQuadrantiSpeciali) {
     }
 }
 
-TEST(DatiFondamentali, EtichetteInOrdine) {
+TEST(DatiFondamentali, LabelsInOrder) {
     BancoRapporti b("txtInc=0;txtDec=30;ChCentimetro;TxtStilo=200");
     const auto righe = Righe(b.apri("cmdData"));
     const auto inizi = Tabella("dati_fondamentali.txt");
@@ -47,7 +47,7 @@ TEST(DatiFondamentali, EtichetteInOrdine) {
 }
 
 // A wall's triangle by the textbook: elevation asin(cos lat cos dec), substyle atan(sin dec / tan lat), lengths from them.
-TEST(DatiFondamentali, LoStiloDiUnMuro) {
+TEST(DatiFondamentali, TheStyleOfAWall) {
     for (const double lat : {30.0, 45.0, 60.0})
         for (const double dec : {-70.0, -20.0, 10.0, 50.0}) {
             BancoRapporti b("txtInc=0;txtLAT=" + TestoNumero(lat) + ";txtDec=" + TestoNumero(dec));
@@ -62,7 +62,7 @@ TEST(DatiFondamentali, LoStiloDiUnMuro) {
         }
 }
 
-TEST(DatiFondamentali, EquatoreOrizzontaleEQuelCheResta) {
+TEST(DatiFondamentali, EquatorLevelPlaneAndWhatIsLeft) {
     BancoRapporti equatore("txtLAT=0;txtInc=0"), piano("txtInc=90;txtDec=0;TxtFraz=4"), sud("txtLAT=-45");
     for (const std::string &riga : Righe(equatore.apri("cmdData"))) EXPECT_EQ(riga.find("inf"), std::string::npos) << riga;
     EXPECT_EQ(equatore.s.v.latR.numero(), 1e-07);
@@ -75,7 +75,7 @@ TEST(DatiFondamentali, EquatoreOrizzontaleEQuelCheResta) {
     EXPECT_NE(sud.s.v.deltaOpz.numero(), 23.445) << "a discriminant stays in the optional declination";
 }
 
-TEST(OreVere, TesteAlloSpazio) {
+TEST(OreVere, HeadsToTheBlank) {
     for (const auto &t : Tabella("teste_ore.txt")) {
         BancoRapporti b(t[0]);
         const std::string schermo = Scritto(t[1]), inizio = schermo.substr(0, 5);
@@ -85,7 +85,7 @@ TEST(OreVere, TesteAlloSpazio) {
 }
 
 // Shadow lengths from the centre by the law of sines in the triangle of style and ray, for a direct south wall at noon.
-TEST(OreVere, LunghezzeDOmbraAMezzogiorno) {
+TEST(OreVere, LengthsOfShadowAtNoon) {
     BancoRapporti b("txtLAT=45;txtDec=0;txtInc=0;txtLonG=-15;TxtInizio=12;TxtFine=12");
     const auto riga = RigheTabella(b.apri("optHorae"), 0);
     ASSERT_EQ(riga.size(), 1U) << "equal hours give one row";
@@ -100,14 +100,14 @@ TEST(OreVere, LunghezzeDOmbraAMezzogiorno) {
 }
 
 // A declination on a horizontal plane means nothing on the screen; on paper it is still computed with.
-TEST(OreVere, OrizzontaleASchermoESuCarta) {
+TEST(OreVere, LevelPlaneOnScreenAndPaper) {
     BancoRapporti b("txtInc=90;txtDec=20"), senza("txtInc=90;txtDec=0");
     const auto schermo = RigheTabella(b.apri("optHorae"), 0), giusto = RigheTabella(senza.apri("optHorae"), 0);
     for (std::size_t i = 0; i < schermo.size(); ++i) EXPECT_EQ(schermo[i][5], giusto.at(i)[5]);
     EXPECT_NE(RigaCon(b.stampa(), "sigma ="), RigaCon(b.s.rapporti.aperto, "sigma ="));
 }
 
-TEST(Intersezioni, LaQuintaELaTerzaColNomeDiUnAltra) {
+TEST(Intersezioni, TheFifthAndTheThirdUnderAnothersName) {
     BancoRapporti b("txtDelta=7;TxtFraz=1");
     const Rapporto &r = b.apri("OptInter");
     auto terza = RigheTabella(r, 2), quinta = RigheTabella(r, 4);
@@ -118,7 +118,7 @@ TEST(Intersezioni, LaQuintaELaTerzaColNomeDiUnAltra) {
     for (const auto &riga : RigheTabella(r, 3)) EXPECT_EQ(riga[2] + riga[3], riga[4] + riga[5]) << "the equinox has one line";
 }
 
-TEST(DatiEquivalente, IlPianoELaSuaSustilare) {
+TEST(DatiEquivalente, ThePlaneAndItsSubstyle) {
     BancoRapporti b("cmdTrasforma"), originale, piano("txtInc=90;txtLAT=45;txtDec=0;cmdTrasforma");
     const Rapporto &r = b.apri("cmdData");
     ASSERT_EQ(r.modulo, "Form10");

@@ -28,7 +28,7 @@ std::string Riga(std::initializer_list<Elemento> voci) {
     return righe.empty() ? "(none)" : righe[0];
 }
 
-TEST(Tabulato, ZoneSpaziNumeriEGuasti) {
+TEST(Tabulato, ZonesBlanksNumbersAndFaults) {
     using reports::Numero;
     EXPECT_EQ(Riga({"a", Zona(), "b"}), "a             b");
     EXPECT_EQ(Riga({"12345678901234", Zona(), "b"}), "12345678901234              b")
@@ -53,7 +53,7 @@ TEST(Tabulato, ZoneSpaziNumeriEGuasti) {
     EXPECT_EQ(Fmt(-0.12345, ".0000").testo, "-.1235");
 }
 
-TEST(Tabulato, LeColonneSeguonoIlDizionario) {
+TEST(Tabulato, ColumnsFollowTheDictionary) {
     Banco b;
     const reports::Trilingue teste{"ora   x y   z ", " heure      abscisse", "hour "};
     using Nomi = std::vector<std::string>;
@@ -62,7 +62,7 @@ TEST(Tabulato, LeColonneSeguonoIlDizionario) {
     EXPECT_EQ(reports::Colonne(b.s, teste), (Nomi{"hour", "abscisse", "z"}));
 }
 
-TEST(Rapporti, CsvEHtmlTengonoIlTesto) {
+TEST(Rapporti, CsvAndHtmlHoldTheText) {
     BancoRapporti b("txtInc=0;txtDec=10");
     const Rapporto &r = b.apri("optHorae");
     const std::string csv = reports::RapportoCsv(r), html = reports::RapportoHtml(r);
@@ -94,7 +94,7 @@ TEST(Rapporti, CsvEHtmlTengonoIlTesto) {
 
 constexpr std::string_view FIRMA = "Lia Berna frazione Colle 7 00100 Borgo    06-21-2026     m,d,y";
 
-TEST(Rapporti, QuelCheSiApreSiRifiutaSiStampa) {
+TEST(Rapporti, WhatOpensIsRefusedIsPrinted) {
     for (const auto &t : Tabella("rapporti_aperti.txt")) {
         BancoRapporti b(t[0]);
         const std::string caso = t[0] + " " + t[1];
@@ -116,7 +116,7 @@ TEST(Rapporti, QuelCheSiApreSiRifiutaSiStampa) {
     }
 }
 
-TEST(Rapporti, LaSecondaAperturaCancellaLaPrima) {
+TEST(Rapporti, TheSecondOpeningWipesTheFirst) {
     BancoRapporti b("TxtInizio=6;TxtFine=18"), nuovo("TxtInizio=14;TxtFine=15");
     const std::string prima = reports::RapportoTesto(b.apri("OptIta"));
     b.scrivi("TxtInizio=14;TxtFine=15");
@@ -130,7 +130,7 @@ TEST(Rapporti, LaSecondaAperturaCancellaLaPrima) {
 
 using RapportiBatch = InCartella;
 
-TEST_F(RapportiBatch, AzioniReportEPrint) {
+TEST_F(RapportiBatch, ActionsReportAndPrint) {
     EXPECT_EQ(cli::EseguiAzioni("click optHorae\nreport a.txt\nprint b.txt\nclick Form2.mnuPrinta", "prova"), 0);
     EXPECT_TRUE(leggi("a.txt").starts_with("  ora      ascissa"));
     EXPECT_TRUE(leggi("b.txt").starts_with("  ora   ascissa"));

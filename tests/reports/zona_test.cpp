@@ -10,7 +10,7 @@ constexpr double GRADO = 3.14159265358979324 / 180;
 
 // On a south wall the style meets it gn * tan lat above the foot, and the line of the hour angle H goes from there
 // cos lat * tan H to the right a unit down.
-TEST(Zona, OreDiUnaPareteAlMeridianoDelLuogo) {
+TEST(Zona, HoursOfAWallAtThePlacesMeridian) {
     constexpr struct {
         const char *controllo, *casella;
         std::size_t x1, y1, x2, y2;
@@ -42,7 +42,7 @@ TEST(Zona, OreDiUnaPareteAlMeridianoDelLuogo) {
 }
 
 // A place as far from its meridian as another from the start's has the other's tables.
-TEST(Zona, TabelleDelloStessoScarto) {
+TEST(Zona, TablesOfTheSameOffset) {
     for (const char *piano : {"txtLAT=40;txtInc=25;txtDec=30", "txtLAT=0;txtInc=0;txtDec=20", "txtLAT=0;txtInc=10;txtDec=20"})
         for (const char *controllo : {"cmdData", "optHorae"})
             for (const char *fuso : {"", ";ck_Etna"}) {
@@ -57,7 +57,7 @@ TEST(Zona, TabelleDelloStessoScarto) {
             }
 }
 
-TEST(Zona, CostanteNominaIlMeridiano) {
+TEST(Zona, TheConstantNamesTheMeridian) {
     BancoRapporti b("txtLAT=40.7128;txtLonG=74.006;txtMeridiano=75"), qui("txtLAT=45;txtLonG=-7");
     const std::string costante = RigaCon(b.apri("cmdData"), "Costante locale = ");
     EXPECT_NEAR(Numero(costante.substr(18)), -3.976, 1e-9) << costante;
@@ -66,7 +66,7 @@ TEST(Zona, CostanteNominaIlMeridiano) {
 }
 
 // Hours of the zones by an atlas, West positive.
-TEST(Zona, LaSchedaDelSoleApreColFuso) {
+TEST(Zona, TheSunsBoardOpensWithTheZone) {
     for (const auto &[meridiano, fuso] :
          {std::pair{"75", "5"}, {"-82.5", "-5.5"}, {"-86.25", "-5.75"}, {"52.5", "3.5"}, {"-15", "2"}}) {
         BancoRapporti b(std::string("txtMeridiano=") + meridiano);
@@ -76,7 +76,7 @@ TEST(Zona, LaSchedaDelSoleApreColFuso) {
     }
 }
 
-TEST(Originale, UnRapportoEDeiCampi) {
+TEST(Originale, AReportIsOfTheFields) {
     for (const char *controllo : {"OptIta", "OptBab", "OptTEMP", "optHorae"}) {
         BancoRapporti nuovo("txtLAT=47;txtInc=0;txtDec=10"), altro("txtLAT=30;txtInc=0;txtDec=40"),
             vecchio("txtLAT=30;txtInc=0;txtDec=40");

@@ -18,7 +18,7 @@ DatiDeclinazione Torino() {
         .lat = 45.07, .lon = -7.68, .giorno = 21, .mese = 6, .anno = 2026, .ore = 9, .minuti = 40, .angolo = 12.5, .fuso = -1};
 }
 
-TEST(Declinazione, RapportiAllUltimaCifra) {
+TEST(Declinazione, ReportsToTheLastDigit) {
     const auto etichette = prova::Tabella("sole_etichette.txt");
     int righe = 0, notti = 0, giorni = 0;
     for (const auto &r : prova::Tabella("sole_rapporti.txt")) {
@@ -45,7 +45,7 @@ TEST(Declinazione, RapportiAllUltimaCifra) {
     EXPECT_TRUE(righe >= 100 && notti >= 3 && giorni >= 3);
 }
 
-TEST(Declinazione, LeEtichettePassanoPerIlDizionario) {
+TEST(Declinazione, LabelsPassThroughTheDictionary) {
     Dizionario d;
     d.Interpreta("\"Azimut del Sole:  |Azimuth of the Sun:  \r\nwest|ovest\r\nIl sole tramonta:   |Sunset:   \r\n\"\r\n");
     DatiDeclinazione dati = Torino();
@@ -56,7 +56,7 @@ TEST(Declinazione, LeEtichettePassanoPerIlDizionario) {
 }
 
 // A fault ends the calculation where it stands; what was written before it stays written.
-TEST(Declinazione, IGuastiLaFermano) {
+TEST(Declinazione, FaultsStopIt) {
     const Valore no = Valore::nessuno();
     using D = DatiDeclinazione;
     const std::tuple<Valore D::*, Valore, bool> casi[] = {
@@ -85,7 +85,7 @@ protected:
     }
 };
 
-TEST_F(Strumenti, AprendoPrendeSitoEOrologio) {
+TEST_F(Strumenti, OnOpeningTakesSiteAndClock) {
     b.imposta({{"txtLAT", "-45.5"}, {"txtLonG", "7.25"}});
     const std::time_t prima = std::time(nullptr);
     EXPECT_EQ(b.premi("mnuAusiliaria"), app::Esito::Fatto);
@@ -101,7 +101,7 @@ TEST_F(Strumenti, AprendoPrendeSitoEOrologio) {
     EXPECT_TRUE(prima <= mostrata && mostrata <= std::time(nullptr));
 }
 
-TEST_F(Strumenti, CaselleSegniEModi) {
+TEST_F(Strumenti, BoxesSignsAndModes) {
     b.premi("mnuAusiliaria");
     for (const auto &r : prova::Tabella("strumenti.txt")) {
         EXPECT_EQ(r.at(1).empty() ? premi(r.at(0)) : scrivi(r.at(0), r.at(1)), app::Esito::Fatto) << r.at(0);
@@ -126,7 +126,7 @@ TEST_F(Strumenti, CaselleSegniEModi) {
     EXPECT_EQ(scrivi("txtLAT", "1"), app::Esito::Disabilitato);
 }
 
-TEST_F(Strumenti, UnaCorsaScriveEUnGuastoLascia) {
+TEST_F(Strumenti, ARunWritesAndAFaultLeaves) {
     b.premi("mnuAusiliaria");
     for (const std::string &c : prova::Divisi("LAT=45.07|LON=-7.68|Day=21|Month=6|Year=2026|HH=9|MM=40|SS=0|Angle=12.5", '|'))
         EXPECT_EQ(scrivi("txt" + c.substr(0, c.find('=')), c.substr(c.find('=') + 1)), app::Esito::Fatto) << c;

@@ -15,7 +15,7 @@
 namespace ombrelia::sun {
 namespace {
 
-TEST(Letture, RigheCommentiDivisoriEErrori) {
+TEST(Letture, RowsRemarksSeparatorsAndErrors) {
     for (const auto &r : prova::Tabella("letture.txt")) {
         std::string errore, lette;
         for (const LetturaParete &l : LeggiLetture(prova::Scritto(r.at(0)), {.lat = 45}, errore)) {
@@ -32,7 +32,7 @@ TEST(Letture, RigheCommentiDivisoriEErrori) {
 
 // Grubbs' critical values for one reading in twenty, both sides, as in the usual tables: the verdict turns
 // there. The other readings lie evenly on both sides of their mean.
-TEST(Letture, LaLetturaCheStona) {
+TEST(Letture, TheReadingThatIsOff) {
     const double casi[][2] = {{3, 1.1543}, {4, 1.4812}, {5, 1.7150},  {6, 1.8871},
                               {7, 2.0200}, {8, 2.1266}, {10, 2.2900}, {20, 2.7082}};
     for (const auto &[n, critico] : casi) {
@@ -53,7 +53,7 @@ TEST(Letture, LaLetturaCheStona) {
     }
 }
 
-TEST(Letture, MediaEScartoSulCerchio) {
+TEST(Letture, MeanAndSpreadOnTheCircle) {
     for (const auto &c : prova::Tabella("letture_statistiche.txt")) {
         std::vector<double> gradi;
         for (const std::string &g : prova::Divisi(c.at(0), ' ')) gradi.push_back(std::stod(g));
@@ -84,7 +84,7 @@ protected:
     }
 };
 
-TEST_F(ComandoSun, GliErroriNominanoLOpzione) {
+TEST_F(ComandoSun, ErrorsNameTheOption) {
     for (const auto &r : prova::Tabella("sun_errori.txt")) {
         comando(r.at(0));
         EXPECT_TRUE(stato == 2 && detto.empty()) << r.at(0);
@@ -97,7 +97,7 @@ TEST_F(ComandoSun, GliErroriNominanoLOpzione) {
     EXPECT_EQ(detto.find('\r'), std::string::npos);
 }
 
-TEST_F(ComandoSun, LeLettureDiconoRigaELontana) {
+TEST_F(ComandoSun, ReadingsTellTheRowAndTheOneFarOff) {
     // The Sun's azimuth less the declination of a wall of 20 degrees West, the last but one half an hour late.
     std::string testo = "# muro\n";
     for (const std::string ora : {"9:00", "9:30", "10:00", "10:30", "11:00"}) {

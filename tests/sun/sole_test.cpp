@@ -14,7 +14,7 @@
 namespace ombrelia::sun {
 namespace {
 
-TEST(EqTempo, DateTestiENumeri) {
+TEST(EqTempo, DatesTextsAndNumbers) {
     for (const auto &r : prova::Tabella("sole_date.txt")) {
         std::string mese = r.at(1), giorno = r.at(2);
         SoleDelPannello sole;
@@ -27,7 +27,7 @@ TEST(EqTempo, DateTestiENumeri) {
     }
 }
 
-TEST(Sole, ValoriStampatiETeoriaDal1900Al2100) {
+TEST(Sole, PrintedValuesAndTheoryFrom1900To2100) {
     int righe = 0;
     for (const char *tavola : {"sole_pubblicati.txt", "sole_efemeridi.txt"}) {
         for (const auto &r : prova::Tabella(tavola)) {
@@ -50,7 +50,7 @@ TEST(Sole, ValoriStampatiETeoriaDal1900Al2100) {
     EXPECT_GE(righe, 24 + 48);
 }
 
-TEST(Conversioni, DecimaliESessagesimali) {
+TEST(Conversioni, DecimalAndSexagesimal) {
     for (const auto &r : prova::Tabella("sole_gradi.txt")) {
         const Valore valore = Val(r.at(0)), segno = valore < 0 ? -1 : 1;
         const Sessagesimale s = GradiDecToSex(valore);

@@ -23,7 +23,7 @@ struct DoppioMuro : prova::QuadroProvato {
     }
 };
 
-TEST(VerticaleEDiretta, LoStessoMuro) {
+TEST(VerticaleEDiretta, TheSameWall) {
     // Where the constants of the two differ the line is compared by a day of the user's choice: the direct engine moves
     // that by a factor of 1.0001.
     const struct {
@@ -58,7 +58,7 @@ TEST(VerticaleEDiretta, LoStessoMuro) {
 
 // The other way round on a wall that looks South, where no night hour falls on the plane. Sunset and sunrise themselves
 // lie on the horizon, where the tenth digit of PI decides what is drawn; they are left out.
-TEST(VerticaleEDiretta, NienteDiPiuNellaDiretta) {
+TEST(VerticaleEDiretta, NothingMoreInTheDirect) {
     const DoppioMuro v("txtLAT=45.7 txtDec=-20", true), d("txtLAT=45.7 txtDec=-20", false);
     for (const auto &[diretta, verticale, passo] : {std::tuple{"hour", "Astro", 7U}, {"Ita", "Ita", 23U}, {"Bab", "Bab", 23U}}) {
         const auto di = d.linee(diretta), su = v.linee(verticale);

@@ -41,14 +41,14 @@ const std::string TUTTO =
     "ckAssi chkOreAstronomiche Ck_DayLightCurves ck_Italiche ck_babiloniche ckTemp ck_Equinoziale ck_Orizzonte ck_Lemniscate "
     "ck_Sustilare ck_Triangolo CkQibla ckAlt ckAz ckAsr";
 
-TEST(Piana, LAsrPerUltimoELeAzimutaliRestano) {
+TEST(Piana, AsrComesLastAndAzimuthLinesStay) {
     Muro b("txtLAT=42 txtDec=15", TUTTO);
     b.premuto();
     EXPECT_EQ(b.lista().Punti.back().colore, Rgb(0, 193, 97));
     EXPECT_EQ(b.s.in.ckAz, 1) << "unlike the direct engine the box stays";
 }
 
-TEST(Piana, EtichetteTestiEOrdine) {
+TEST(Piana, LabelsTextsAndOrder) {
     for (const auto &r : prova::Tabella("piana_etichette.txt")) {
         Muro b("txtDec=" + r.at(0), r.at(1));
         b.s.tavolo.ForeColor = QB(5);
@@ -62,7 +62,7 @@ TEST(Piana, EtichetteTestiEOrdine) {
     }
 }
 
-TEST(Piana, DidascaliaNelSuoOrdine) {
+TEST(Piana, CaptionInItsOrder) {
     std::vector<std::string> attesi{"-6", "6", "6", "-6", ""};
     for (const auto &r : prova::Tabella("piana_didascalia.txt")) attesi.push_back(r.at(0));
     EXPECT_EQ(Muro("txtLAT=40 txtDec=25 txtLonG=-12.3456789", "").premuto().testi(), attesi);
@@ -70,7 +70,7 @@ TEST(Piana, DidascaliaNelSuoOrdine) {
     EXPECT_TRUE(mm.premuto().testo("ortostilo = 200 mm") && mm.testo("assostilo = 288.07151 mm"));
 }
 
-TEST(Piana, FrazioniEMezzore) {
+TEST(Piana, FractionsAndHalfHours) {
     // Half hours from 2 on, quarters at 4 alone; at 0 the division faults, so the spacing stays: 0 in a new session.
     const struct {
         const char *prima, *frazione;
@@ -104,7 +104,7 @@ bool Contenuti(const std::vector<RecLinea> &pochi, const std::vector<RecLinea> &
     });
 }
 
-TEST(Piana, OraDelFusoEdEffettiDellaLongitudine) {
+TEST(Piana, HoursOfTheZoneAndEffectsOfLongitude) {
     const auto ore = [](const std::string &lon, const char *fuso) {
         return Muro("txtDec=0 txtLonG=" + lon, std::string("chkOreAstronomiche") + fuso).premuto().linee("Astro");
     };
@@ -118,7 +118,7 @@ TEST(Piana, OraDelFusoEdEffettiDellaLongitudine) {
     EXPECT_FALSE(Contenuti(ore("-11.25", " ck_Etna"), locali)) << "a quarter of an hour off, none does";
 }
 
-TEST(Piana, CkFunzione) {
+TEST(Piana, CkFunction) {
     const std::string caselle = "Ck_DayLightCurves ck_Italiche ck_Lemniscate ck_Triangolo";
     Muro senza("txtDec=20 TxtFraz=2", caselle), con("txtDec=20", caselle + " ckFunzione");
     const auto tutti = senza.premuto().strati(), pochi = con.premuto().strati();
@@ -143,7 +143,7 @@ TEST(Piana, CkFunzione) {
     EXPECT_EQ(con.anonime(12), 2) << "the limit lines alone";
 }
 
-TEST(Piana, OgniMuroSenzaSorprese) {
+TEST(Piana, EveryWallWithoutSurprise) {
     // Over the range of walls: finite numbers, newer ends inside the frame, hours below the horizon at both ends, and
     // millimetres that draw what metres draw.
     for (const std::string lat : {"0", "23.45", "45", "66.55", "80"})
@@ -168,7 +168,7 @@ TEST(Piana, OgniMuroSenzaSorprese) {
         }
 }
 
-TEST(Piana, TroppoFittoPrimaDiDisegnare) {
+TEST(Piana, TooDenseBeforeAnythingIsDrawn) {
     for (const auto &r : prova::Tabella("piana_fitto.txt")) {
         Muro b("txtDec=" + r.at(1) + " " + r.at(2) + "=" + r.at(3), r[0]);
         b.premuto();
@@ -179,7 +179,7 @@ TEST(Piana, TroppoFittoPrimaDiDisegnare) {
     }
 }
 
-TEST(Piana, PressioniInUnaSessione) {
+TEST(Piana, PressesInOneSession) {
     Muro b("txtDec=20", TUTTO);
     const std::size_t una = b.premuto().lista().Ordine.size(), linee = b.lista().Linee.size(), testi = b.lista().Testi.size();
     EXPECT_EQ(b.premuto().lista().Ordine.size(), 2 * una) << "presses add up, and the second draws the same";
@@ -210,7 +210,7 @@ TEST(Piana, PressioniInUnaSessione) {
     EXPECT_EQ(c.anonime(2), 1);
 }
 
-TEST(Piana, QualeMotore) {
+TEST(Piana, WhichEngine) {
     for (const auto &[dove, universali, verticale] : {std::tuple{"txtLAT=45", 1, true},
                                                       {"txtLAT=0", 1, true},
                                                       {"txtLAT=45", 0, false},
@@ -225,7 +225,7 @@ TEST(Piana, QualeMotore) {
 
 // A point behind the wall is counted but not kept, so the chord after the gap comes from what stands in its place: in a
 // line that nothing preceded, the foot of the ortostilo.
-TEST(Piana, CordeDopoUnVuoto) {
+TEST(Piana, ChordsBehindAGap) {
     Muro b("txtDec=60", "ck_babiloniche ck_Italiche");
     b.premuto();
     for (const char *strato : {"Ita", "Bab"}) {
@@ -241,7 +241,7 @@ TEST(Piana, CordeDopoUnVuoto) {
     }
 }
 
-TEST(Piana, CasiLimite) {
+TEST(Piana, LimitCases) {
     // The equinoctial of a plane of declination 0 has the other sign and is refused North of the equator.
     Muro sud("txtDec=0", "ck_Equinoziale Ck_DayLightCurves");
     EXPECT_TRUE(sud.premuto().punti(9).empty() && !sud.strati().contains("21 III or 23 IX Eq"));
@@ -262,7 +262,7 @@ TEST(Piana, CasiLimite) {
     EXPECT_TRUE(std::ranges::any_of(volte, [](const auto &p) { return p.second == 2; }));
 }
 
-TEST(Piana, TriangoloAllungato) {
+TEST(Piana, LengthenedTriangle) {
     Muro corto("txtDec=20", "ck_Triangolo"), lungo("txtDec=20 txtSUBSTYLE=.1", "ck_Triangolo");
     corto.premuto();
     lungo.premuto();
@@ -280,7 +280,7 @@ TEST(Piana, TriangoloAllungato) {
     EXPECT_EQ(corto.linee("Mezzogiorno").at(0).Y2, -2 * corto.s.tavolo.ShiftY());
 }
 
-TEST(Piana, NumeriEZodiaco) {
+TEST(Piana, NumeralsAndZodiac) {
     const auto segni = [](const std::string &caselle) {
         Muro b("txtDec=0 txtDelta=10 txtNumbersize=.03", caselle);
         b.premuto();
@@ -307,7 +307,7 @@ TEST(Piana, NumeriEZodiaco) {
 }
 
 // Ten, eleven and twelve take two cells beside one another; the hours before and after one.
-TEST(Piana, CifreDelleOre) {
+TEST(Piana, DigitsOfTheHours) {
     constexpr double ALTEZZA = .002, CELLA = ALTEZZA * 110 / 150;
     const auto cifre = [](const std::string &altezza) {
         auto linee = Muro("txtDec=0 txtDelta=0 txtArabi=" + altezza, "chkOreAstronomiche ckArabi").premuto().linee("");

@@ -17,7 +17,7 @@ std::string Chiama(Pagina &p, std::string_view nome, std::string_view argomento 
     return {};
 }
 
-TEST(Json, QualunqueByteDaJsonValido) {
+TEST(Json, AnyBytesGiveValidJson) {
     EXPECT_EQ(std::move(Json()
                             .apri('{')
                             .nome("a\"")
@@ -33,7 +33,7 @@ TEST(Json, QualunqueByteDaJsonValido) {
               "{\"a\\\"\":\"\\\\\\u000a\\u0001à\",\"b\":[0.5,null,true]}");
 }
 
-TEST(Pagina, IlCollegamentoPortaIlQuadrante) {
+TEST(Pagina, TheLinkCarriesTheDial) {
     Pagina p, q;
     Chiama(p, "premi", "ck_Italiche");  // sets the hours' range
     for (const char *campo : {"txtLAT\t-33,87", "txtDec\t<b>1&2</b>", "txtX1\t1.5"}) Chiama(p, "scrivi", campo);
@@ -48,7 +48,7 @@ TEST(Pagina, IlCollegamentoPortaIlQuadrante) {
     EXPECT_EQ(Chiama(q, "disegna"), Chiama(p, "disegna"));
 }
 
-TEST(Pagina, ViaggianoSoloGliStratiCambiati) {
+TEST(Pagina, OnlyChangedLayersTravel) {
     Pagina p;
     for (const char *casella : {"chkOreAstronomiche", "ck_Equinoziale"}) Chiama(p, "premi", casella);
     const std::string prima = Chiama(p, "disegna"), stesso = Chiama(p, "disegna");
@@ -59,7 +59,7 @@ TEST(Pagina, ViaggianoSoloGliStratiCambiati) {
 }
 
 // A page draws on a copy: what a script meets is the program as it starts.
-TEST(Pagina, IDisegniNonToccanoLoScript) {
+TEST(Pagina, DrawingsDoNotTouchTheScript) {
     Pagina p, q;
     Chiama(p, "disegna");
     Chiama(p, "rapporto", "cmdData");
@@ -71,7 +71,7 @@ TEST(Pagina, IDisegniNonToccanoLoScript) {
 }
 
 // Another dial after one, and a fresh start after another engine: as a page that draws it first.
-TEST(Pagina, UnQuadranteDopoUnAltro) {
+TEST(Pagina, OneDialAfterAnother) {
     const auto disegnato = [](Pagina &p, const char *lat) {
         p.Scrivi("txtInc", "0");
         p.Scrivi("txtLAT", lat);
@@ -89,7 +89,7 @@ TEST(Pagina, UnQuadranteDopoUnAltro) {
     EXPECT_TRUE(disegnato(p, "30") == disegnato(q, "30"));
 }
 
-TEST(Pagina, LaTavolaNellaSuaLingua) {
+TEST(Pagina, TheTableInItsLanguage) {
     const auto prima = std::filesystem::current_path();
     std::filesystem::current_path(OMBRELIA_RADICE "/data");
     Pagina p, q;
@@ -102,7 +102,7 @@ TEST(Pagina, LaTavolaNellaSuaLingua) {
 }
 
 // What a screen tells apart, and a nearer one: bends stay, points that touch are a line, a gap stays a gap.
-TEST(Snello, CioCheSiVede) {
+TEST(Snello, WhatIsSeen) {
     Tavolo t;
     t.QuadranteL(1);
     t.QuadranteH(1);
@@ -124,14 +124,14 @@ TEST(Snello, CioCheSiVede) {
 }
 
 // Steps of an angle as people write it; what the field holds are degrees.
-TEST(Pagina, GliAngoliComeSiScrivono) {
+TEST(Pagina, AnglesAsTheyAreWritten) {
     Pagina p;
     EXPECT_EQ(Chiama(p, "scrivi", "txtLAT\t45°30' S"), "45°30' S");
     EXPECT_EQ(p.sessione().in.txtLAT, "-45.5");
 }
 
 // The shadow at a moment is read back at that moment, on either side of the equator and on a mirrored sheet.
-TEST(Pagina, LOmbraSiRilegge) {
+TEST(Pagina, TheShadowIsReadBack) {
     for (const char *latitudine : {"45.07", "-33.87"}) {
         Pagina p;
         Chiama(p, "scrivi", "txtLAT\t" + std::string(latitudine));

@@ -95,7 +95,7 @@ void PuntoConReale(benchmark::State &stato) {
     v.incR = 0.44;
     v.gn = 0.195;
     v.unita = 1;
-    const Proiezione proietta(v);
+    const Proiezione proietta{Piano(v)};
     const SenCos t(0.5);
     Reale x, y;
     double D = -0.4;

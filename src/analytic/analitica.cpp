@@ -76,7 +76,7 @@ void lasciaFoglio(Corsa &c) {
 }  // namespace
 
 void EseguiGraficaAnalitica(Sessione &s) {
-    Corsa c(s);
+    Corsa c(s, Lettura(s.in));
     s.Messaggio("Piede Esegui: algoritmo che usa prevalentemente la Geometria Analitica ");
     if (Sgn(c.letto.lat) == -1) {
         s.Messaggio("Grafica Analitica non è abilitata a lavorare a latitudini australi ");
@@ -88,15 +88,17 @@ void EseguiGraficaAnalitica(Sessione &s) {
     lasciaFoglio(c);
     TracciaAssi(s);
     CalcolaAngoliAnalitici(s, c.letto);
+    c.rifaiPiano();
     PercorriCaratteristiche(c, Motore::Analitica, CARATTERISTICHE);
     TracciaCornice(s, c.letto);
     s.utente.Puntatore(false);
 }
 
-Centro CalcolaCentroAnalitico(const Variabili &v) {
+Centro CalcolaCentroAnalitico(const Corsa &c) {
+    const Variabili &v = c.v;
     Reale CG = v.segStiloSus;  // stands where the style is square to the plane
-    CG = v.gn / tan(v.altStilo);
-    return {-CG * sin(v.angSustilare), CG * cos(v.angSustilare), CG};
+    CG = v.gn / c.stilo().te;
+    return {-CG * c.stilo().ss, CG * c.stilo().cs, CG};
 }
 // Foot and centre, of which triangle, horizontal and captions are made; a wall that looks due north has its substyle upright.
 void LasciaCentro(Corsa &c) {
@@ -104,8 +106,9 @@ void LasciaCentro(Corsa &c) {
     v.xCentroNeg = 0;
     v.yCentroNeg = 0;
     if (v.dec == 180) v.angSustilare = 0;
+    c.rifaiPiano();
     if (Abs(v.dec) == 90) return;
-    const Centro centro = CalcolaCentroAnalitico(v);
+    const Centro centro = CalcolaCentroAnalitico(c);
     v.segStiloSus = centro.sottostilo;
     v.xCentro = centro.x;
     v.yCentro = centro.y;

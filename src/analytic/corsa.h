@@ -3,18 +3,28 @@
 
 #include "analytic/analitica.h"
 #include "gnomonica/caratteristiche.h"
+#include "gnomonica/corsa.h"
 #include "gnomonica/longitudine.h"
-#include "gnomonica/stilo.h"
 
 namespace ombrelia::analytic {
 
-struct Corsa {
-    explicit Corsa(Sessione &sessione) : s(sessione), v(sessione.v), letto(sessione.in), cornice(CorniceDi(letto)) {}
+struct Corsa : CorsaBase {
+    Corsa(Sessione &sessione, const Lettura &lettura) : CorsaBase(sessione, lettura), stilo_(v) {}
 
-    Sessione &s;         // what lines are drawn on
-    const Variabili &v;  // as they stand; what a routine leaves there it leaves in a function Lascia...
-    const Lettura letto;
-    const Cornice cornice;
+    // Style and substyle of the shared variables, of which conics and straight lines are made: with the plane, made anew by
+    // whoever changes them there.
+    [[nodiscard]] const Stilo &stilo() const { return stilo_; }
+    void rifaiPiano() {
+        CorsaBase::rifaiPiano();
+        stilo_ = Stilo(v);
+    }
+    void verifica() const {
+        CorsaBase::verifica();
+        Certo(stilo_.di(v), "the style of a run is not that of its variables");
+    }
+
+private:
+    Stilo stilo_;
 };
 
 // What each feature leaves in the shared variables whoever draws it (Lascia...), its lines (Linee...: counter, claim, layer,
@@ -36,7 +46,7 @@ struct Centro {
     Valore x, y;
     Valore sottostilo;  // its distance from the foot
 };
-[[nodiscard]] Centro CalcolaCentroAnalitico(const Variabili &v);
+[[nodiscard]] Centro CalcolaCentroAnalitico(const Corsa &c);
 void LasciaCentro(Corsa &c);
 void LineeCentro(const Corsa &c, LineeAttese &linee);
 void TracciaCentro(Corsa &c, const LineeAttese &linee);

@@ -15,8 +15,7 @@ namespace {
 // of a wall that looks to the equator lies on the winter's side, of one that looks away on the summer's.
 class Lato {
 public:
-    Lato(const Variabili &v, double delta)
-        : delta_(std::fabs(delta)), ss_(sin(v.angSustilare)), cs_(cos(v.angSustilare)), y0_(v.y0) {}
+    Lato(const Corsa &c, double delta) : delta_(std::fabs(delta)), ss_(c.stilo().ss), cs_(c.stilo().cs), y0_(c.v.y0) {}
     // The claim of a point of the dial's frame, y upward: recorded while it lives.
     [[nodiscard]] Pretendi operator()(Tavolo &t, Valore x, Valore y) const {
         if (delta_ == 0) return Pretendi(t, Specie::Equinoziale);
@@ -35,8 +34,8 @@ struct Diurna {
     Lato lato;
     Reale meno, piu;
 
-    Diurna(const Variabili &v, Valore m, double delta, Colore colore_)
-        : ordinate(conica(v, m), v.angSustilare, v.y0), colore(colore_), lato(v, delta) {}
+    Diurna(const Corsa &c, Valore m, double delta, Colore colore_)
+        : ordinate(conica(c, m), c.stilo(), c.v.y0), colore(colore_), lato(c, delta) {}
     void punto(Tavolo &t, double x) {
         const Radici y = ordinate(x);
         if (!y.reali) return;
@@ -49,9 +48,9 @@ struct Diurna {
     }
 
 private:
-    static Conica conica(const Variabili &v, Valore m) {
+    static Conica conica(const Corsa &c, Valore m) {
         Conica k;
-        k.calcola(m, v.altStilo, v.gn);
+        k.calcola(m, c.stilo(), c.v.gn);
         return k;
     }
 };
@@ -64,7 +63,7 @@ struct DiurnaEquatore {
     Lato lato;
     Reale y;
 
-    DiurnaEquatore(const Variabili &v, Valore m_, double delta, Colore colore_) : m(m_), colore(colore_), lato(v, delta) {}
+    DiurnaEquatore(const Corsa &c, Valore m_, double delta, Colore colore_) : m(m_), colore(colore_), lato(c, delta) {}
     void punti(Tavolo &t, double x) const {
         const Pretendi pretendi = lato(t, -x, y);
         t.TracciaPunto(-x, y, colore, SENZA_STRATO);
@@ -74,8 +73,8 @@ struct DiurnaEquatore {
 
 class Equatore {
 public:
-    explicit Equatore(const Variabili &v)
-        : sd_(sin(v.decR)), cd_(cos(v.decR)), gc_(v.gn * cd_), gs_(v.gn * sd_), gst_(gs_ * tan(v.decR)), gsec_(v.gn / cd_) {}
+    explicit Equatore(const Piano &p)
+        : sd_(p.sg), cd_(p.cg), gc_(p.gn * cd_), gs_(p.gn * sd_), gst_(gs_ * p.tg), gsec_(p.gn / cd_) {}
     // Whether the line has a point at x. The test and the ordinate are written in two ways, which agree but for rounding.
     [[nodiscard]] bool esiste(DiurnaEquatore &l, double x) const {
         const Valore xs = x * sd_, b = x * cd_ - gs_;
@@ -95,7 +94,7 @@ bool paralleloAlPolo(const Variabili &v) { return v.dec == 0 || Abs(v.dec) == 18
 }  // namespace
 
 // Where the equinoctial lies, in the unit of gn, which the conics' frame begins at.
-void LasciaDiurne(Corsa &c) { c.s.v.y0 = DistanzaEquinoziale(c.v.gn, c.v.altStilo); }
+void LasciaDiurne(Corsa &c) { c.s.v.y0 = DistanzaEquinoziale(c.v.gn, c.stilo()); }
 
 // One conic holds a declination and its opposite.
 void LineaScelta(const Corsa &c, LineeAttese &linee) {
@@ -108,11 +107,11 @@ void TracciaLineaDiurnaScelta(Corsa &c, const LineeAttese &) {
     Reale m;  // stays 0 on the equinox, whose cotangent faults
     m = QuadratoCotangente(v.deltaOpz);
     if (v.lat != 0) {
-        Diurna linea(v, m, v.deltaOpz.numero(), BLU);
+        Diurna linea(c, m, v.deltaOpz.numero(), BLU);
         for (const double x : Conteggio(-1, 1, v.passo)) linea.punto(tavolo, x);
     } else if (!paralleloAlPolo(v)) {
-        const Equatore equatore(v);
-        DiurnaEquatore linea(v, m, v.deltaOpz.numero(), BLU);
+        const Equatore equatore(c.piano());
+        DiurnaEquatore linea(c, m, v.deltaOpz.numero(), BLU);
         for (const double x : Equatore::ascisse())
             if (equatore.esiste(linea, x)) linea.punti(tavolo, x);
     }
@@ -130,14 +129,14 @@ void TracciaLineeDiurneAnalitiche(Corsa &c, const LineeAttese &) {
     const Valore m2345 = QuadratoCotangente(OBLIQUITA_2345), m20 = QuadratoCotangente(DELTA_SEGNI),
                  m115 = QuadratoCotangente(DELTA_SEGNI_VICINI);
     if (v.lat != 0) {
-        std::array linee{Diurna(v, m2345, OBLIQUITA, BIANCO), Diurna(v, m20, DELTA_SEGNI, GIALLO),
-                         Diurna(v, m115, DELTA_SEGNI_VICINI, MAGENTA)};
+        std::array linee{Diurna(c, m2345, OBLIQUITA, BIANCO), Diurna(c, m20, DELTA_SEGNI, GIALLO),
+                         Diurna(c, m115, DELTA_SEGNI_VICINI, MAGENTA)};
         for (const double x : Conteggio(-1, 1, v.passo))
             for (Diurna &linea : linee) linea.punto(tavolo, x);
     } else if (!paralleloAlPolo(v)) {
-        const Equatore equatore(v);
-        DiurnaEquatore d2345(v, m2345, OBLIQUITA, VERDE_SCURO), d20(v, m20, DELTA_SEGNI, ACQUA),
-            d115(v, m115, DELTA_SEGNI_VICINI, ROSSO_SCURO);
+        const Equatore equatore(c.piano());
+        DiurnaEquatore d2345(c, m2345, OBLIQUITA, VERDE_SCURO), d20(c, m20, DELTA_SEGNI, ACQUA),
+            d115(c, m115, DELTA_SEGNI_VICINI, ROSSO_SCURO);
         for (const double x : Equatore::ascisse()) {
             // Each line only where those nearer the equinox exist; the innermost is drawn first.
             if (!equatore.esiste(d115, x)) continue;
@@ -153,17 +152,19 @@ void TracciaLineeDiurneAnalitiche(Corsa &c, const LineeAttese &) {
 namespace {
 
 // The wall's angles once more, at the equator the hour angle of the substyle with this run's sign; where the equinoctial lies.
-void lasciaSolstizi(Variabili &v) {
-    LasciaStiloParete(v);
+void lasciaSolstizi(Corsa &c) {
+    Variabili &v = c.s.v;
+    LasciaStiloParete(v, c.piano());
+    c.rifaiPiano();
     if (v.lat == 0) v.angoloOra = (PI / 2) * v.segnoDec;
-    if (!(v.lat == 0 && v.dec == 0)) v.y0 = DistanzaEquinoziale(v.gn, v.altStilo);
+    if (!(v.lat == 0 && v.dec == 0)) v.y0 = DistanzaEquinoziale(v.gn, c.stilo());
 }
 
 }  // namespace
 
 void CalcolaSolstiziOrizzonte(Corsa &c, const LineeAttese &) {
     Sessione &s = c.s;
-    lasciaSolstizi(s.v);
+    lasciaSolstizi(c);
     const Variabili &v = c.v;
     const Reale L = c.letto.oriz;  // as typed, unscaled: meant
     Reale xa, xb;
@@ -172,8 +173,8 @@ void CalcolaSolstiziOrizzonte(Corsa &c, const LineeAttese &) {
         xb = -v.gn / tan(Radianti(OBLIQUITA));
     } else {
         Conica k;
-        k.calcola(QuadratoCotangente(OBLIQUITA), v.altStilo, v.gn);
-        const Radici x = AscisseConica(k, v.angSustilare, v.y0, L);
+        k.calcola(QuadratoCotangente(OBLIQUITA), c.stilo(), v.gn);
+        const Radici x = AscisseConica(k, c.stilo().sigma, v.y0, L);
         if (x.reali) {
             xa = x.piu;
             xb = x.meno;

@@ -54,10 +54,11 @@ void LasciaOre(Corsa &c) {
     Variabili &v = c.s.v;
     LeggiParametri(c.s, c.letto);
     v.gn = v.gn * v.unita;
+    c.rifaiPiano();
     LasciaDalMeridiano(v);
     v.corrLong = CorrezioneFuso(v);
     v.segnoDec = SegnoDeclinazione(v.dec, v.decR);
-    v.y0 = DistanzaEquinoziale(v.gn, v.altStilo);
+    v.y0 = DistanzaEquinoziale(v.gn, c.stilo());
 }
 
 void LineeOre(const Corsa &c, LineeAttese &linee) {
@@ -68,14 +69,15 @@ void LineeOre(const Corsa &c, LineeAttese &linee) {
 void TracciaOreAstronomiche(Corsa &c, const LineeAttese &linee) {
     const Variabili &v = c.v;
     const IdNome strato = c.s.tavolo.nome("Ore_astro");
-    const Valore r = -v.angSustilare, cr = cos(r), sr = sin(r);
-    const Valore sinE = sin(v.altStilo), obliqua = v.gn / cos(v.altStilo), t0 = v.angoloOra - v.corrLong;
+    const Stilo &stilo = c.stilo();
+    const Valore cr = stilo.cs, sr = -stilo.ss;
+    const Valore obliqua = v.gn / stilo.ce, t0 = v.angoloOra - v.corrLong;
     Estremo primo{v.x1, v.y1};
     Reale a, b, k, m, x2;
     for (const LineaAttesa &l : linee) {
         const Pretendi pretendi(c.s.tavolo, Specie::Ora, l.valore);
         const Valore tanT = tan(t0 + l.parametro * PI / 180);
-        a = sinE * tanT;
+        a = stilo.se * tanT;
         b = obliqua * tanT;
         k = (b - v.y0 * a) / (cr + sr * a);  // abscissa at y = 0
         m = (a * cr - sr) / (cr + a * sr);   // -dx/dy
@@ -89,9 +91,8 @@ void TracciaOreAstronomiche(Corsa &c, const LineeAttese &linee) {
 }
 
 void TracciaSustilareAnalitica(Corsa &c, const LineeAttese &linee) {
-    const Variabili &v = c.v;
-    if (v.angSustilare == 0) return;
-    const Valore t = tan(v.angSustilare);
+    if (c.stilo().sigma == 0) return;
+    const Valore t = c.stilo().ts;
     const Pretendi pretendi(c.s.tavolo, Specie::Sustilare);
     FilaDiPunti fila(c.s.tavolo, SENZA_STRATO);
     for (const double i : Conteggio(-1, 1, 0.002)) fila.punto(i, (-i / t).v, linee[0].colore);
@@ -102,7 +103,7 @@ void TracciaEquinozialeAnalitica(Corsa &c, const LineeAttese &linee) {
     const Variabili &v = c.v;
     const Pretendi pretendi(c.s.tavolo, Specie::Equinoziale);
     if (v.lat > 0) {
-        const Valore t = tan(v.angSustilare), q = v.y0 / cos(v.angSustilare);
+        const Valore t = c.stilo().ts, q = v.y0 / c.stilo().cs;
         FilaDiPunti fila(c.s.tavolo, SENZA_STRATO);
         Reale y;
         for (const double x : Conteggio(-3, 3, 0.001)) {
@@ -111,8 +112,8 @@ void TracciaEquinozialeAnalitica(Corsa &c, const LineeAttese &linee) {
         }
         fila.fine();
     }
-    if (v.lat == 0 && sin(v.angSustilare) != 0) {
-        const Valore x = v.y0 / sin(v.angSustilare);
+    if (v.lat == 0 && c.stilo().ss != 0) {
+        const Valore x = v.y0 / c.stilo().ss;
         c.s.tavolo.TracciaLinea(x, PIEDE, x, -1, linee[0].colore);  // one unit long: meant
     }
 }
@@ -122,7 +123,7 @@ void TracciaTriangoloAnalitico(Corsa &c, const LineeAttese &linee) {
     Tavolo &tavolo = c.s.tavolo;
     // T, the tip laid flat: on the line from C at altStilo from the substyle, and square to the substyle at G.
     Reale xT, yT;
-    const Valore a = tan(v.altStilo - v.angSustilare), t = tan(v.angSustilare);
+    const Valore a = tan(v.altStilo - v.angSustilare), t = c.stilo().ts;
     xT = (v.yCentroNeg - v.yCentro - t * v.xCentroNeg) / (1 / a - t) + v.xCentro / (1 - a * t);
     yT = (xT - v.xCentro) / a + v.yCentro;
     const Pretendi pretendi(tavolo, Specie::Stilo);

@@ -10,7 +10,7 @@ namespace ombrelia::analytic {
 void LasciaLemniscata(Corsa &c) {
     Variabili &v = c.s.v;
     if (v.flagVerticale == 1) v.lon = v.lonEq;
-    v.y0 = DistanzaEquinoziale(v.gn, v.altStilo);
+    v.y0 = DistanzaEquinoziale(v.gn, c.stilo());
     LasciaDalMeridiano(v);
     v.corrLong = CorrezioneLongitudine(v);
 }
@@ -32,10 +32,10 @@ void TracciaLemniscataAnalitica(Corsa &c, const LineeAttese &linee) {
         return;
     }
 
-    const Valore se = sin(v.altStilo), ce = cos(v.altStilo), ss = sin(v.angSustilare), cs = cos(v.angSustilare);
+    const auto &[epsilon, sigma, se, ce, te, ss, cs, ts] = c.stilo();
     // angoloOra misses half a turn where the plane looks away from the equator's Sun, and at the equator. The sign of
     // altStilo would not do: at the pole it is that of a rounding.
-    const double verso = v.lat == 0 || cos(v.decR) < 0 ? -1 : 1;
+    const double verso = v.lat == 0 || c.piano().cg < 0 ? -1 : 1;
     const Valore t0 = v.angoloOra - v.corrLong, obliqua = v.gn / ce;
     Conica k;
     Reale m, r, h, p2, p1, p0, x, y, z;
@@ -44,7 +44,7 @@ void TracciaLemniscataAnalitica(Corsa &c, const LineeAttese &linee) {
         const Valore tanD = mezzodi.tanD, hh = t0 + mezzodi.Et;
         m = 1 / (tanD * tanD);
         h = obliqua * tan(hh);
-        k.calcola(m, v.altStilo, v.gn);
+        k.calcola(m, c.stilo(), v.gn);
         const Valore Rhh = k.R * (h * h);
         p2 = r * r + Rhh;
         p1 = (k.Q * r - 2 * Rhh) * r;

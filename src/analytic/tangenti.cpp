@@ -20,14 +20,14 @@ void traccia(Corsa &c, const LineeAttese &linee, Specie specie, double verso) {
     const Variabili &v = c.v;
     Tavolo &tavolo = c.s.tavolo;
     if (linee.empty()) return;
-    const Valore seno = sin(v.latR);
+    const Valore seno = c.piano().sphi;
     Reale phi;  // stays 0 at the pole, whose arc sine faults
     phi = Atn(seno / Sqr(1 - seno * seno));
     const Valore T = tan(phi);
     Conica k;
-    k.calcola(T * T, v.altStilo, v.gn);
+    k.calcola(T * T, c.stilo(), v.gn);
     const Valore R = k.R, Q = k.Q, P = k.P;
-    const RiferimentoSustilare dial(v.angSustilare, v.y0);
+    const RiferimentoSustilare dial(c.stilo(), v.y0);
     FilaDiPunti fila(tavolo, SENZA_STRATO);
     const auto punto = [&](Valore u, Valore w, Colore colore) { fila.punto(dial.x(u, w).v, dial.y(u, w).v, colore); };
 
@@ -42,7 +42,7 @@ void traccia(Corsa &c, const LineeAttese &linee, Specie specie, double verso) {
     }
     fila.fine();
 
-    const Valore obliqua = v.gn / cos(v.altStilo), t0 = v.angoloOra + v.diffLong;
+    const Valore obliqua = v.gn / c.stilo().ce, t0 = v.angoloOra + v.diffLong;
     std::vector<double> ascisse;  // abscissas, which all lines are swept by
     for (const double u : Conteggio(-1, 1, v.passo / 10)) ascisse.push_back(u);
     Reale h, g;
@@ -66,7 +66,8 @@ void LasciaTangenti(Corsa &c) {
     Variabili &v = c.s.v;
     if (v.lat_o == 0) return;
     v.latR = v.lat_o;
-    v.y0 = DistanzaEquinoziale(v.gn, v.altStilo);
+    c.rifaiPiano();
+    v.y0 = DistanzaEquinoziale(v.gn, c.stilo());
 }
 void LineeItaliche(const Corsa &c, LineeAttese &linee) { conta(c, 18, linee); }
 void LineeBabiloniche(const Corsa &c, LineeAttese &linee) { conta(c, 6, linee); }

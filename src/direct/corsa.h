@@ -6,8 +6,8 @@
 
 #include "gnomonica/caratteristiche.h"
 #include "gnomonica/catena.h"
+#include "gnomonica/corsa.h"
 #include "gnomonica/spazzate.h"
-#include "gnomonica/stilo.h"
 
 namespace ombrelia::direct {
 
@@ -23,19 +23,16 @@ private:
     std::vector<double> prima_, poi_;  // poi_ only where it differs
 };
 
-struct Corsa {
-    explicit Corsa(Sessione &sessione) : s(sessione), v(sessione.v), letto(sessione.in), cornice(CorniceDi(letto)) {}
+struct Corsa : CorsaBase {
+    using CorsaBase::CorsaBase;
 
-    Sessione &s;         // what lines are drawn on
-    const Variabili &v;  // as they stand; what a routine leaves there it leaves in a function Lascia...
-    Lettura letto;
-    Cornice cornice;
-    bool orizzontale = false;    // the original dial lies level
-    std::optional<Piano> piano;  // of the shared variables, made anew by whatever changes them
+    bool orizzontale = false;  // the original dial lies level
     GiornoDiOre giorno;
     std::optional<SemiArchi> archi;  // when a line first asks
 
-    void rifaiPiano() { piano.emplace(v); }
+    // The declination as typed; a level plane has none. Gives: degrees, 0 for a level plane. Given: the run. Source: by
+    // definition. Faults: no value where the field has none.
+    [[nodiscard]] Valore dec() const { return orizzontale ? Valore(0) : letto.dec; }
     [[nodiscard]] const SemiArchi &semiArchi() { return archi ? *archi : archi.emplace(v.lat_o); }
 };
 

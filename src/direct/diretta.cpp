@@ -13,12 +13,12 @@ namespace ombrelia::direct {
 
 namespace {
 
-void didascalia(Corsa &c, Valore seno, Valore q) {
+void didascalia(const Corsa &c, Valore seno, Valore q) {
     Sessione &s = c.s;
     const Variabili &v = c.v;
     const std::string_view misura = TestoUnita(s);
-    const Reale estate = AltezzaSolstizio(v.latR, 1);
-    const Reale inverno = AltezzaSolstizio(v.latR, -1);
+    const Reale estate = AltezzaSolstizio(c.piano(), 1);
+    const Reale inverno = AltezzaSolstizio(c.piano(), -1);
     const struct {
         std::string_view etichetta;
         Valore valore;
@@ -71,11 +71,6 @@ void zodiaco(Corsa &c, const LineeAttese &) {
     c.rifaiPiano();
 }
 
-void almucantarat(Corsa &c, const LineeAttese &linee) {
-    TracciaAlmucantarat(c.s, c.letto, c.cornice, linee);
-    c.rifaiPiano();
-}
-
 using In = DialInputs;
 using Riga = Caratteristica<Corsa>;
 
@@ -107,7 +102,7 @@ constexpr Riga CARATTERISTICHE[] = {
      TracciaVerticaleCentro},
     {&In::ckZodiac, Specie::Nessuna, "signs of the zodiac", nullptr, zodiaco},
     {&In::ckAlt, Specie::Almucantarat, "equal altitudes", [](const Corsa &c, LineeAttese &l) { LineeAlmucantarat(c.letto, l); },
-     almucantarat},
+     [](Corsa &c, const LineeAttese &l) { TracciaAlmucantarat(c, l); }},
     {&In::ck_Lemniscate, Specie::Analemma, "mean noon of the zone", LineeLemniscata, TracciaLemniscata, nullptr,
      LasciaLemniscata},
     {&In::ckAsr, Specie::Asr, "afternoon prayer",
@@ -155,13 +150,14 @@ void leggiParametri(Corsa &c) {
     v.unita = c.letto.unita;
     LeggiParametri(c.s, c.letto);
     v.segnoLat2 = SegnoLatitudine(v.latR);
+    c.rifaiPiano();
 }
 
-// A level plane has no declination: in the variables, in the field and for the rest of the run.
+// A level plane has no declination: in the variables, in the field and for the rest of the run (Corsa::dec).
 void lasciaOrizzontale(Corsa &c) {
     c.s.v.decR = 0;
     c.s.Scrivi(&DialInputs::txtDec, "0");
-    c.letto.dec = 0;
+    c.rifaiPiano();
 }
 
 // The place of the origin on a sheet that has none yet, and the shift that holds; metres.
@@ -204,7 +200,7 @@ void rileggiPiano(Corsa &c) {
 // The dial's centre, in the unit of the fields; untouched where the style lies in the plane.
 void lasciaCentro(Corsa &c) {
     Variabili &v = c.s.v;
-    const Piano &p = *c.piano;
+    const Piano &p = c.piano();
     const Reale polo = p.senStilo();
     if (polo == 0) return;
     v.xCentro = (v.gn / polo) * p.cphi * p.sg;
@@ -237,7 +233,7 @@ void I_Graf_diretta(Sessione &s) {
         return;
     }
     s.Messaggio("I_Graf_diretta per ogni tipo di os comunque orientato ");
-    Corsa c(s);
+    Corsa c(s, Lettura(s.in));
     if (Sgn(c.letto.lat) == -1) return;
     if (TroppoFitta(s, c.letto)) return;
 
@@ -247,8 +243,7 @@ void I_Graf_diretta(Sessione &s) {
     // The original dial answers here and below, not the fields as they now stand.
     c.orizzontale = Abs(c.v.iz_o) == PI / 2.0;
     if (c.orizzontale) lasciaOrizzontale(c);
-    c.rifaiPiano();
-    const Reale seno = c.piano->senStilo();
+    const Reale seno = c.piano().senStilo();
     lasciaOrigine(s);
     TracciaAssi(s);
     lasciaOrizzonte(s);

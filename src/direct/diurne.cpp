@@ -38,7 +38,7 @@ void LineeDiurne(const Corsa &c, LineeAttese &linee) {
 void TracciaLineeDiurne(Corsa &c, const LineeAttese &linee) {
     Sessione &s = c.s;
     const Variabili &v = c.v;
-    const Piano &p = *c.piano;
+    const Piano &p = c.piano();
     // The half-plane beyond the equinoctial, to tell the branches of the conics: the substyle's angle S, the elevation
     // Hs of the style, and (a, b) where the substyle meets the equinoctial.
     const Reale E = p.divisoreSustilare();
@@ -49,7 +49,7 @@ void TracciaLineeDiurne(Corsa &c, const LineeAttese &linee) {
     const Reale b = v.gn * tan(Hs) * cos(S) * v.unita;
 
     const Sbarramento passa(c.cornice, v);
-    const Proiezione proietta(v);
+    const Proiezione proietta(c.piano());
     const std::vector<SenCos> &ore = c.giorno.con(v.diffLong);
     Reale x, y;
     Reale gradi = v.deltaOpz;  // a declination of choice without a value takes that of the line before
@@ -77,7 +77,7 @@ void TracciaLineeDiurne(Corsa &c, const LineeAttese &linee) {
 
 void TracciaEquinoziale(Corsa &c, const LineeAttese &linee) {
     const Sbarramento passa(c.cornice, c.v);
-    const Proiezione proietta(c.v);
+    const Proiezione proietta(c.piano());
     for (const LineaAttesa &l : linee) {
         const Pretendi pretendi(c.s.tavolo, Specie::Equinoziale);
         Catena catena(c.s.tavolo, l.strato);

@@ -30,7 +30,7 @@ void TracciaStiloPolare(Corsa &c, const LineeAttese &linee) {
     lasciaSegni(c.s.v);
     const Variabili &v = c.v;
     Tavolo &t = c.s.tavolo;
-    const Piano &p = *c.piano;
+    const Piano &p = c.piano();
     // No quadrant correction: the substyle is read in the right half-circle of the arc tangent.
     Reale S;
     if (v.latR == 0 && v.incR == 0) S = (PI / 2.0) * v.segnoDec;
@@ -50,16 +50,16 @@ void TracciaStiloPolare(Corsa &c, const LineeAttese &linee) {
 
 void TracciaVerticaleCentro(Corsa &c, const LineeAttese &linee) {
     Tavolo &t = c.s.tavolo;
-    const Reale xc = centro(*c.piano).x;
+    const Reale xc = centro(c.piano()).x;
     const Pretendi pretendi(t, Specie::Mezzogiorno);
     t.TracciaLinea(xc, t.ShiftY(), xc, -2 * t.ShiftY(), linee[0].colore);
 }
 
 void TracciaSustilare(Corsa &c, const LineeAttese &linee) {
     const Conteggio anno(-50, 50, 0.05);  // past the solstices, so as to reach the centre
-    const Reale t = c.piano->oraSustilare();
+    const Reale t = c.piano().oraSustilare();
     const SenCos angolo(t);
-    const Proiezione proietta(c.v);
+    const Proiezione proietta(c.piano());
     const Pretendi pretendi(c.s.tavolo, Specie::OraSustilare);
     Catena catena(c.s.tavolo, linee[0].strato);
     Reale x, y;
@@ -82,15 +82,18 @@ namespace {
 bool rileggiPianoAzimut(Corsa &c) {
     Variabili &v = c.s.v;
     v.latR = PI * c.letto.lat / 180.0;
-    Reale G = c.letto.dec;
+    Reale G = c.dec();
     if (v.latR < 0) G = -(180 + G);
     v.decR = PI * G / 180;
     v.gn = c.letto.gn;
-    if (v.incR != PI / 2.0) return false;
-    v.decR = PI;
-    v.latR = (PI / 2.0) - v.latR;
-    v.incR = 0;
-    return true;
+    const bool orizzontale = v.incR == PI / 2.0;
+    if (orizzontale) {
+        v.decR = PI;
+        v.latR = (PI / 2.0) - v.latR;
+        v.incR = 0;
+    }
+    c.rifaiPiano();
+    return orizzontale;
 }
 
 }  // namespace
@@ -98,17 +101,16 @@ bool rileggiPianoAzimut(Corsa &c) {
 void TracciaRetteAzimutali(Corsa &c, const LineeAttese &linee) {
     Sessione &s = c.s;
     const bool orizzontale = rileggiPianoAzimut(c);
-    const Variabili &v = c.v;
-    const Reale limite = orizzontale ? Valore(10) : v.gn * tan(v.incR);  // unscaled, as meant
-    const Proiezione proietta(v);
-    const Valore tanLat = tan(v.latR), senLat = sin(v.latR);
+    const Piano &p = c.piano();
+    const Reale limite = orizzontale ? Valore(10) : p.gn * p.ti;  // unscaled, as meant
+    const Proiezione proietta(p);
     Reale t, x, y;
     for (const LineaAttesa &l : linee) {
         const Pretendi pretendi(s.tavolo, Specie::Azimut, l.valore);
-        const Reale B = Atn(senLat * tan(PI * l.parametro / 180));
+        const Reale B = Atn(p.sphi * tan(PI * l.parametro / 180));
         const Valore senB = sin(B);
         for (const Declinazione &d : Anno()) {
-            const Reale r = d.tanD * senB / tanLat;
+            const Reale r = d.tanD * senB / p.tphi;
             t = B - ArcSin(r);
             proietta(SenCos(t), d.tanD, x, y);
             if (y <= limite && c.cornice.contiene(x, y)) s.tavolo.TracciaPunto(x, y, l.colore);

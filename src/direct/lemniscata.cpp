@@ -10,7 +10,7 @@ namespace ombrelia::direct {
 void LasciaLemniscata(Corsa &c) {
     Variabili &v = c.s.v;
     if (v.flagVerticale == 1 && v.flagTrasformato != 1) v.lon = v.lonEq;
-    LasciaStiloParete(v);
+    LasciaStiloParete(v, c.piano());
     v.y0 = DistanzaEquinoziale(v.gn, v.altStilo);
     LasciaDalMeridiano(v);
     v.corrLong = v.segnoLat == -1 ? -PI * v.lonPiu15 / 180 : CorrezioneLongitudine(v);
@@ -29,7 +29,7 @@ void TracciaLemniscata(Corsa &c, const LineeAttese &linee) {
     // Not the chord test of the other lines: beyond the horizontal the frame alone decides, in the South always.
     const bool conOrizzonte = !sud && v.incR < PI / 2.0;
     const Valore scarto = sud ? Valore(v.corrLong) : -v.corrLong * v.segnoLat2;
-    const Proiezione proietta(v);
+    const Proiezione proietta(c.piano());
     for (const LineaAttesa &l : linee) {
         const Pretendi pretendi(c.s.tavolo, Specie::Analemma, l.valore);
         Catena catena(c.s.tavolo, l.strato);

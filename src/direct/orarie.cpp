@@ -35,7 +35,7 @@ void TracciaRetteOrarie(Corsa &c, const LineeAttese &linee) {
     const Variabili &v = c.v;
     const Reale scarto = CorrezioneFuso(v);
     const Sbarramento passa(c.cornice, v);
-    const Proiezione proietta(v);
+    const Proiezione proietta(c.piano());
     Reale x, y;
     for (const LineaAttesa &l : linee) {
         Catena catena(s.tavolo, l.strato);
@@ -84,7 +84,7 @@ void tracciaOre(Corsa &c, const LineeAttese &linee, Specie specie, std::string_v
     Sessione &s = c.s;
     const Variabili &v = c.v;
     const Sbarramento passa(c.cornice, v);
-    const Proiezione proietta(v);
+    const Proiezione proietta(c.piano());
     const SemiArchi &archi = c.semiArchi();
     Catena catena(s.tavolo, strato);
     static thread_local SenCosRicordati seni;

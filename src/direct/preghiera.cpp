@@ -1,5 +1,6 @@
 // Islamic prayer on the dial: the Asr curve, the bearing of the Qibla and its curve.
 #include "direct/corsa.h"
+#include "gnomonica/qibla.h"
 
 namespace ombrelia::direct {
 
@@ -7,8 +8,8 @@ void TracciaAsr(Corsa &c, const LineeAttese &linee) {
     Sessione &s = c.s;
     const Variabili &v = c.v;
     const Sbarramento passa(c.cornice, v);
-    const Proiezione proietta(v);
-    const Valore senLat = sin(v.latR), cosLat = cos(v.latR);
+    const Proiezione proietta(c.piano());
+    const Piano &p = c.piano();
     const Colore colore = linee[0].colore;
     const Pretendi pretendi(s.tavolo, Specie::Asr, linee[0].valore);
     Reale h, cosT, t, x, y;
@@ -16,7 +17,7 @@ void TracciaAsr(Corsa &c, const LineeAttese &linee) {
         const SenCos &D = AnnoSenCos()[i];
         // Altitude at which a rod's shadow is its length plus its noon shadow. No Abs around the difference: meant.
         h = Atn(1.0 / (1 * tan(v.latR - PI * Anno()[i].d / 180) + 1.0));
-        cosT = (sin(h) - senLat * D.sen) / (cosLat * D.cos);
+        cosT = (sin(h) - p.sphi * D.sen) / (p.cphi * D.cos);
         t = (PI / 2.0) - Atn(cosT / Sqr(-cosT * cosT + 1));
         proietta(SenCos(t), Anno()[i].tanD, x, y);
         if (passa(x, y)) s.tavolo.TracciaPunto(x, y, colore);
@@ -30,27 +31,27 @@ Qibla CalcolaQibla(const Corsa &c) {
     const Variabili &v = c.v;
     const Reale F = PI * c.letto.qLat / 180;
     const Reale L = PI * (c.letto.qLon - v.lonCopia) / 180;
-    const Reale T = sin(L) / (sin(v.latR) * cos(L) - cos(v.latR) * tan(F));
+    const Reale T = TangenteQibla(c.piano(), F, L);
     Qibla qibla;
     qibla.q = Atn(T) * 180.0 / PI;
-    qibla.B = Atn(sin(v.latR) * T);
+    qibla.B = Atn(c.piano().sphi * T);
     return qibla;
 }
 
 void TracciaQibla(Corsa &c, Valore B) {
     Sessione &s = c.s;
-    const Variabili &v = c.v;
-    const Proiezione proietta(v);
+    const Piano &p = c.piano();
+    const Proiezione proietta(p);
     const bool piana = c.letto.inc == 90;
-    const bool nord = v.latR >= 0;
-    const Reale limite = v.gn * tan(v.incR);  // unscaled by unita, as meant
-    const Valore senB = sin(B), tanLat = tan(v.latR);
+    const bool nord = p.phi >= 0;
+    const Reale limite = p.gn * p.ti;  // unscaled by unita, as meant
+    const Valore senB = sin(B);
     const Pretendi pretendi(s.tavolo, Specie::Qibla);
     Catena catena(s.tavolo, "Quibla");
     Reale t, x, y;
     LasciaFine(s.v, AnnoFitto());
     for (const auto &[d, tanD] : AnnoFitto()) {
-        const Valore r = tanD * senB / tanLat;
+        const Valore r = tanD * senB / p.tphi;
         if (!(Abs(r) < 1)) continue;
         t = B - ArcSin(r);
         proietta(SenCos(t), tanD, x, y);

@@ -9,27 +9,28 @@ namespace {
 
 // What conics, hour lines and reports are worked out from.
 void lasciaAngoli(Variabili &v) {
+    const Piano p(v);
     if (v.lat == 0) {
         v.angSustilare = (PI / 2) * SegnoDeclinazione(v.decR, v.decR);
         v.altStilo = StiloMuroEquatore(v.decR);
         v.angoloOra = (PI / 2) * v.segnoDec;  // the sign that the run before left: meant
     } else {
-        v.angSustilare = SustilareMuro(v.latR, v.decR);
-        v.altStilo = StiloMuro(v.latR, v.decR);
+        v.angSustilare = SustilareMuro(p);
+        v.altStilo = StiloMuro(p);
         v.angoloOra = -Atn(tan(v.angSustilare) / sin(v.altStilo));
     }
 }
 
 }  // namespace
 
-void LasciaStiloParete(Variabili &v) {
+void LasciaStiloParete(Variabili &v, const Piano &p) {
     v.segnoDec = SegnoDeclinazione(v.dec, v.decR);
     if (v.lat == 0) {
         v.angSustilare = (PI / 2) * v.segnoDec;
         v.altStilo = StiloMuroEquatore(v.decR);
     } else {
-        v.angSustilare = SustilareMuro(v.latR, v.decR);
-        v.altStilo = StiloMuroQuadrati(v.latR, v.decR);
+        v.angSustilare = SustilareMuro(p);
+        v.altStilo = StiloMuroQuadrati(p);
     }
 }
 

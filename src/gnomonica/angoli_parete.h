@@ -1,6 +1,7 @@
 // The fundamental angles of a wall, for analytic geometry.
 #pragma once
 
+#include "gnomonica/stilo.h"
 #include "sessione/sessione.h"
 
 namespace ombrelia {
@@ -12,8 +13,9 @@ namespace ombrelia {
 void CalcolaAngoliAnalitici(Sessione &s, const Lettura &letto);
 
 // The same substyle and elevation, this by the squares of its factors, and the sign of the declination: as the analemma of the
-// direct engine and the solstices of the analytic one leave them, radians. Given: lat, dec in degrees, latR, decR. Source and
+// direct engine and the solstices of the analytic one leave them, radians. Given: the plane, and lat, dec of
+// the variables, degrees. Source and
 // faults: as above.
-void LasciaStiloParete(Variabili &v);
+void LasciaStiloParete(Variabili &v, const Piano &p);
 
 }  // namespace ombrelia

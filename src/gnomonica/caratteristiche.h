@@ -9,7 +9,7 @@ namespace ombrelia {
 
 using LineeAttese = std::vector<LineaAttesa>;
 
-// Corsa is an engine's run: it has the session as s, and what was read and computed for the run.
+// Corsa is an engine's run, a CorsaBase.
 template <typename Corsa>
 struct Caratteristica {
     int DialInputs::*casella;      // its box; none: in every run
@@ -34,6 +34,7 @@ void PercorriCaratteristiche(Corsa &c, Motore motore, const Caratteristica<Corsa
         if (r.contorno) r.contorno(c);
         linee.clear();
         if (r.linee) r.linee(c, linee);
+        c.verifica();
         if (!s.corretta({motore, r.specie, r.di, linee})) r.traccia(c, linee);
     }
 }

@@ -2,7 +2,7 @@
 // plane. Its constants, its points and the two frames they live in; nothing here draws.
 #pragma once
 
-#include "core/angoli.h"
+#include "gnomonica/stilo.h"
 
 namespace ombrelia {
 
@@ -35,12 +35,13 @@ struct Quadratica {
 inline Radici RisolviQuadratica(Valore a, Valore b, Valore c) { return Quadratica{a, b, c}.radici(); }
 
 // Frame (u, v): origin P where substyle and equinoctial meet, u along the equinoctial, v along the substyle towards the
-// centre. Frame (x, y) of the dial: origin at the foot of the ortostilo, x to the right, y upward. Given: sigma, the substyle's
-// angle from the vertical, radians; y0, the distance from foot to P. Gives: x, y in the unit of y0. Source: plane geometry, a
+// centre. Frame (x, y) of the dial: origin at the foot of the ortostilo, x to the right, y upward. Given: style and
+// substyle; y0, the distance from foot to P. Gives: x, y in the unit of y0. Source: plane geometry, a
 // turn and a shift. Faults: none.
 class RiferimentoSustilare {
 public:
-    RiferimentoSustilare(Valore sigma, Valore y0) : cs_(cos(sigma)), ss_(sin(sigma)), y0_(y0) {}
+    RiferimentoSustilare(Valore sigma, Valore y0) : RiferimentoSustilare(Stilo(0, sigma), y0) {}
+    RiferimentoSustilare(const Stilo &stilo, Valore y0) : cs_(stilo.cs), ss_(stilo.ss), y0_(y0) {}
     [[nodiscard]] Valore x(Valore u, Valore v) const { return u * cs_ - (v - y0_) * ss_; }
     [[nodiscard]] Valore y(Valore u, Valore v) const { return u * ss_ + (v - y0_) * cs_; }
 
@@ -55,11 +56,12 @@ struct Conica {
     Reale A, R, Q, P;
 
     // m is 1 / tan² of the declination, epsilon the elevation of the style over the plane, radians; gn in any unit.
-    void calcola(Valore m, Valore epsilon, Valore gn) {
-        const Valore se = sin(epsilon), ce = cos(epsilon), obliqua = gn / ce;
-        A = se * se - m * (ce * ce);
+    void calcola(Valore m, Valore epsilon, Valore gn) { calcola(m, Stilo(epsilon, 0), gn); }
+    void calcola(Valore m, const Stilo &s, Valore gn) {
+        const Valore obliqua = gn / s.ce;
+        A = s.se * s.se - m * (s.ce * s.ce);
         R = 1 / A;
-        Q = -2 * gn * tan(epsilon) / A;
+        Q = -2 * gn * s.te / A;
         P = obliqua * obliqua / A;
     }
 };
@@ -68,7 +70,8 @@ struct Conica {
 // y upward. Source: Conica turned by sigma. Faults: as RisolviQuadratica.
 class OrdinateConica {
 public:
-    OrdinateConica(const Conica &k, Valore sigma, Valore y0) : R_(k.R), Q_(k.Q), P_(k.P), cr_(cos(-sigma)), sr_(sin(-sigma)) {
+    OrdinateConica(const Conica &k, Valore sigma, Valore y0) : OrdinateConica(k, Stilo(0, sigma), y0) {}
+    OrdinateConica(const Conica &k, const Stilo &stilo, Valore y0) : R_(k.R), Q_(k.Q), P_(k.P), cr_(stilo.cs), sr_(-stilo.ss) {
         a_ = cr_ * cr_ + R_ * (sr_ * sr_);
         b0_ = 2 * y0 * cr_;
         b2_ = 2 * R_ * sr_;

@@ -2,8 +2,7 @@
 // curves. Engines sweep them; nothing here draws.
 #pragma once
 
-#include "core/angoli.h"
-#include "core/variabili.h"
+#include "gnomonica/stilo.h"
 
 namespace ombrelia {
 
@@ -23,15 +22,11 @@ class Proiezione {
 public:
     // The plane: latitude phi and declination g, inclination i from the vertical, radians; lengths as typed and their unit.
     static Proiezione delPiano(Valore phi, Valore g, Valore i, Valore gn, Valore unita) {
-        return {phi, g, PI / 2.0 - i, gn, unita};
+        return Proiezione(Piano(phi, g, i, gn, unita));
     }
-    // The plane of the shared variables, as they stand.
-    explicit Proiezione(const Variabili &v) : Proiezione(v.latR, v.decR, PI / 2.0 - v.incR, v.gn, v.unita) {}
-    // The same with the complement z of the inclination.
-    Proiezione(Valore phi, Valore g, Valore z, Valore gn, Valore unita)
-        : sphi_(std::sin(phi.v)), cphi_(std::cos(phi.v)), sg_(std::sin(g.v)), cg_(std::cos(g.v)), gn_(gn.v), unita_(unita.v) {
-        const double sz = std::sin(z.v);
-        const double cz = std::cos(z.v);
+    explicit Proiezione(const Piano &p)
+        : sphi_(p.sphi.v), cphi_(p.cphi.v), sg_(p.sg.v), cg_(p.cg.v), gn_(p.gn.v), unita_(p.unita.v) {
+        const double sz = p.sz.v, cz = p.cz.v;
         c1_ = sphi_ * cz - cphi_ * sz * cg_;
         sgsz_ = sg_ * sz;
         b_ = cphi_ * cz + sphi_ * sz * cg_;

@@ -1,4 +1,5 @@
 // What a dial of the vertical engine carries beyond hours and days: substyle, horizon, azimuth lines, prayer curves.
+#include "gnomonica/qibla.h"
 #include "gnomonica/spazzate.h"
 #include "vertical/corsa.h"
 
@@ -14,14 +15,14 @@ void RileggiPiano(Corsa &c) {
     v.incR = PI * v.inc / 180;
     v.gn = c.letto.gn;
     v.decGradi = PiegaDeclinazione(v.latR, v.decGradi);
+    c.rifaiPiano();
 }
 
 void TracciaSustilare(Corsa &c, const LineeAttese &linee) {
-    const Variabili &v = c.v;
-    const Conteggio anno(-OBLIQUITA, OBLIQUITA, 0.999 * v.passo);
-    const Reale ps = OraSustilareMuro(v.latR, v.decR);
+    const Conteggio anno(-OBLIQUITA, OBLIQUITA, 0.999 * c.v.passo);
+    const Reale ps = OraSustilareMuro(c.piano());
     const AngoloOrario ora(ps);
-    const Sfera sfera(v);
+    const Sfera sfera = c.sfera();
     const Pretendi pretendi(c.s.tavolo, Specie::OraSustilare);
     Direzione sole;
     Reale x, y;
@@ -54,18 +55,17 @@ void LineeAzimutali(const Corsa &c, LineeAttese &linee) {
 }
 void TracciaAzimutali(Corsa &c, const LineeAttese &linee) {
     Sessione &s = c.s;
-    const Variabili &v = c.v;
-    if (v.latR == 0) return;
-    const Reale limite = tan(v.incR) * v.gn;  // unscaled, as meant
-    const Proiezione proietta(v);
-    const Valore senLat = sin(v.latR), tanLat = tan(v.latR);
+    const Piano &p = c.piano();
+    if (p.phi == 0) return;
+    const Reale limite = p.ti * p.gn;  // unscaled, as meant
+    const Proiezione proietta(p);
     Reale beta, ht, Hr, x, y;
     for (const LineaAttesa &l : linee) {
-        beta = Atn(senLat * tan(PI * l.parametro / 180));
+        beta = Atn(p.sphi * tan(PI * l.parametro / 180));
         const Valore senBeta = sin(beta);
         const Pretendi pretendi(s.tavolo, Specie::Azimut, l.valore);
         for (const Declinazione &d : Anno()) {
-            ht = ArcSin(d.tanD * senBeta / tanLat);
+            ht = ArcSin(d.tanD * senBeta / p.tphi);
             Hr = beta - ht;
             proietta.perParete(SenCos(Hr), d.tanD, x, y);
             if (!(y > limite) && c.cornice.contiene(x, y)) s.tavolo.TracciaPunto(x, y, l.colore);
@@ -78,23 +78,23 @@ namespace {
 
 // What the curve is measured against and the reports after a run find: the gnomon's tip seen from above in x0 and y0, the horizon
 // of the plane as just read, both in the unit of the fields.
-void lasciaAsr(Variabili &v) {
-    v.x0 = -v.gn * sin(v.decR) * cos(v.incR);
-    v.y0 = -v.gn * cos(v.decR) * cos(v.incR);
-    v.yOriz = v.gn * sin(v.incR) / cos(v.incR);  // unscaled, as meant
+void lasciaAsr(Variabili &v, const Piano &p) {
+    v.x0 = -p.gn * p.sg * p.ci;
+    v.y0 = -p.gn * p.cg * p.ci;
+    v.yOriz = p.gn * p.si / p.ci;  // unscaled, as meant
 }
 
 }  // namespace
 
 void TracciaAsr(Corsa &c, const LineeAttese &linee) {
     Sessione &s = c.s;
-    lasciaAsr(s.v);
+    const Piano &p = c.piano();
+    lasciaAsr(s.v, p);
     const Variabili &v = c.v;
     const Conteggio anno(-OBLIQUITA_2345, OBLIQUITA_2345, 0.05);
     const Valore segno = SegnoLatitudine(v.latR);
     const bool nord = v.latR >= 0, orientale = Abs(v.decGradi) == 90;
-    const Proiezione proietta(v);
-    const Valore senLat = sin(v.latR), cosLat = cos(v.latR);
+    const Proiezione proietta(p);
     const Colore colore = linee[0].colore;
     const Pretendi pretendi(s.tavolo, Specie::Asr, linee[0].valore);
     Reale hA, Hr, x, y;
@@ -102,7 +102,7 @@ void TracciaAsr(Corsa &c, const LineeAttese &linee) {
         const double dr = PI * d / 180;
         // Altitude at which a shadow is as long as its rod and the noon shadow together.
         hA = Atn(1 / (1 + tan(segno * (v.latR - dr))));
-        Hr = segno * ArcCos((sin(hA) - senLat * std::sin(dr)) / (cosLat * std::cos(dr)));
+        Hr = segno * ArcCos((sin(hA) - p.sphi * std::sin(dr)) / (p.cphi * std::cos(dr)));
         proietta.perParete(SenCos(Hr), std::tan(dr), x, y);
         const bool dentro = c.cornice.contiene(x, y);
         if (nord && y <= v.yOriz && dentro) s.tavolo.TracciaPunto(x, y, colore);
@@ -127,18 +127,19 @@ void TracciaQibla(Corsa &c, const LineeAttese &) {
     Sessione &s = c.s;
     lasciaQibla(s.v, c.letto.lon);
     const Variabili &v = c.v;
+    const Piano &p = c.piano();
     const Valore qLat = PI * c.letto.qLat / 180;
     const Valore qd = PI * (c.letto.qLon - v.lonCopia) / 180;
-    const Reale tq = sin(qd) / (sin(v.latR) * cos(qd) - cos(v.latR) * tan(qLat));
-    const Reale beta = Atn(sin(v.latR) * tq);
-    const Reale limite = tan(v.incR) * v.gn;  // unscaled, as meant
+    const Reale tq = TangenteQibla(p, qLat, qd);
+    const Reale beta = Atn(p.sphi * tq);
+    const Reale limite = p.ti * p.gn;  // unscaled, as meant
     const bool nord = v.latR >= 0, orientale = Abs(v.decGradi) == 90, equatore = v.latR == 0;
-    const Proiezione proietta(v);
-    const Valore senBeta = sin(beta), tanLat = tan(v.latR);
+    const Proiezione proietta(p);
+    const Valore senBeta = sin(beta);
     const Pretendi pretendi(s.tavolo, Specie::Qibla);
     Reale seno, ht, Hr, x, y;
     for (const auto &[d, tanD] : AnnoFitto()) {
-        seno = equatore ? Valore(tanD) : tanD * senBeta / tanLat;
+        seno = equatore ? Valore(tanD) : tanD * senBeta / p.tphi;
         // A Sun that never stands on this azimuth leaves the hour angle of the day before, and its point is plotted.
         if (!(Abs(seno) > 1)) {
             ht = ArcSin(seno);

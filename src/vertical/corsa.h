@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "gnomonica/caratteristiche.h"
+#include "gnomonica/corsa.h"
 #include "vertical/sfera.h"
 
 namespace ombrelia::vertical {
@@ -13,13 +14,11 @@ struct Giornata : Sfera::Giorno {
     double H0;
 };
 
-struct Corsa {
-    explicit Corsa(Sessione &sessione) : s(sessione), v(sessione.v), letto(sessione.in), cornice(CorniceDi(letto)) {}
+struct Corsa : CorsaBase {
+    using CorsaBase::CorsaBase;
 
-    Sessione &s;         // what lines are drawn on
-    const Variabili &v;  // the plane as it stands; what a routine leaves there it leaves in a function Lascia...
-    const Lettura letto;
-    const Cornice cornice;
+    // Of the plane as it stands.
+    [[nodiscard]] Sfera sfera() const { return Sfera(piano()); }
     // The year of the seasonal hours, when a line first asks; the wall is the same for the three of them.
     std::vector<Giornata> anno;
     double ultima = 0;  // its last declination, degrees

@@ -45,12 +45,13 @@ struct Limiti {
     Reale primo, secondo;
     Reale altStilo, pPiede;
 };
-Limiti limitiDelGiorno(const Variabili &v, Valore delta) {
+Limiti limitiDelGiorno(const Corsa &c, Valore delta) {
+    const Variabili &v = c.v;
     const Valore dr = PI * delta / 180;
     Limiti l;
-    const Reale sustilare = SustilareMuroIntera(v.latR, v.decR);
+    const Reale sustilare = SustilareMuroIntera(c.piano());
     l.altStilo = v.altStilo;  // stands where the wall's own faults
-    l.altStilo = StiloMuro(v.latR, v.decR);
+    l.altStilo = StiloMuro(c.piano());
     Reale semiArco;
     Reale &pPiede = l.pPiede;
     pPiede = Atn(tan(sustilare) / sin(l.altStilo));
@@ -94,11 +95,11 @@ void traccia(Corsa &c, const Diurna &d, const LineaAttesa &l) {
     const Variabili &v = c.v;
     Reale delta = v.deltaOpz;  // a declination of choice without a value leaves that of the line before
     delta = l.parametro;
-    const Limiti limiti = limitiDelGiorno(v, delta);
+    const Limiti limiti = limitiDelGiorno(c, delta);
     lascia(s.v, d, delta, limiti);
     const double da = Int(limiti.primo).v, a = Int(limiti.secondo).v;
 
-    const Sfera sfera(v);
+    const Sfera sfera = c.sfera();
     const Sfera::Giorno giorno = sfera.giorno(delta.numero());
     const Orizzonte orizzonte(v);
     const Pretendi pretendi(s.tavolo, Specie::Diurna, l.valore);
@@ -141,7 +142,7 @@ void LasciaEquinoziale(Corsa &c) {
 void TracciaEquinoziale(Corsa &c, const LineeAttese &linee) {
     const Variabili &v = c.v;
     LasciaDeclinazione(c.s.v, 0);
-    const Sfera sfera(v);
+    const Sfera sfera = c.sfera();
     const Sfera::Giorno giorno = sfera.giorno(0);
     const Orizzonte orizzonte(v);
     const Pretendi pretendi(c.s.tavolo, Specie::Equinoziale);
@@ -164,9 +165,9 @@ void TracciaEquinoziale(Corsa &c, const LineeAttese &linee) {
 
 void PuntiEquinozialeDecZero(Corsa &c, const LineeAttese &linee) {
     const Variabili &v = c.v;
-    const Sfera sfera(v);
+    const Piano &p = c.piano();
+    const Sfera sfera = c.sfera();
     const Sfera::Giorno giorno = sfera.giorno(0);
-    const Valore cosLat = cos(v.latR);
     const bool equatore = v.latR == 0;
     const Pretendi pretendi(c.s.tavolo, Specie::Equinoziale);
     Direzione sole;
@@ -178,7 +179,7 @@ void PuntiEquinozialeDecZero(Corsa &c, const LineeAttese &linee) {
             sole.h = PI / 2 - std::fabs(ora.Hr);
         } else {
             sfera.azimutMuro(sole, ora, giorno);
-            sole.h = ArcSin(ora.cos * cosLat);
+            sole.h = ArcSin(ora.cos * p.cphi);
         }
         // The ordinate has the other sign than on every other line, so a northern wall shows no point: meant.
         const Valore A = sole.A - v.decR;

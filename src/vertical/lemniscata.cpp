@@ -40,15 +40,16 @@ void TracciaLemniscata(Corsa &c, const LineeAttese &linee) {
     constexpr int GIORNI = 440;
     std::array<Reale, GIORNI + 1> x, y;
     const IdNome strato = c.s.tavolo.nome(linee[0].strato);
-    const Valore cosLat = cos(v.latR), senLatA = sin(v.latR * segno), senLat = segno * sin(v.latR);
-    const Sfera sfera(v);
+    const Piano &p = c.piano();
+    const Valore senLat = segno * p.sphi;
+    const Sfera sfera = c.sfera();
     Direzione sole;
     const Pretendi pretendi(c.s.tavolo, Specie::Analemma, linee[0].valore);
     for (const Mezzodi &m : AnnoMedioGiorni()) {
         const AngoloOrario ora(m.Et - v.corrLong);
-        sole.A = Atn(Valore(segno * ora.sen) / (senLatA * ora.cos - cosLat * m.tanD));
+        sole.A = Atn(Valore(segno * ora.sen) / (senLat * ora.cos - p.cphi * m.tanD));
         if (Sfera::quadranteErrato(sole, ora)) sfera.mendaMuro(sole);
-        sole.h = ArcSin(cosLat * m.cosD * ora.cos + senLat * m.senD);
+        sole.h = ArcSin(p.cphi * m.cosD * ora.cos + senLat * m.senD);
         // The day, a half to the even one: where two samples share it the later stands.
         const auto k = static_cast<std::size_t>(std::nearbyint(m.gradi + 80));
         sfera.punto(sole, x[k], y[k]);
@@ -62,7 +63,7 @@ void LineeTacche(const Corsa &, LineeAttese &linee) {
 }
 void TracciaTacche(Corsa &c, const LineeAttese &linee) {
     const Variabili &v = c.v;
-    const Sfera sfera(v);
+    const Sfera sfera = c.sfera();
     for (std::size_t n = 0; n < linee.size(); ++n) {
         const Tacche &t = TACCHE[n];
         const Valore HrMax = t.Emax * 15 * PI / (60.0 * 180) - v.corrLong;
@@ -113,7 +114,7 @@ void lasciaMezzogiorno(Variabili &v, Valore x1, Valore y1) {
 void RettaMezzogiorno(Corsa &c, const LineeAttese &linee) {
     const Variabili &v = c.v;
     const AngoloOrario ora(PI * (v.oraFuso * 180 * v.angOraLong / PI) / 180);
-    const Sfera sfera(v);
+    const Sfera sfera = c.sfera();
     Direzione sole;
     Reale x1 = v.x1, y1 = v.y1, x2, y2;  // the frame's corner stands where the summer end faults
     sfera.puntoMuro(sole, ora, sfera.giorno(OBLIQUITA), x1, y1);

@@ -12,7 +12,7 @@ void LasciaOre(Corsa &c) {
     v.yOriz = OrdinataOrizzonte(v, Sgn(v.latR));
     v.oraFuso = c.letto.fuso ? 1 : 0;
     v.lon = c.letto.lon;
-    v.segnoDecPiana = v.decR == 0 ? Valore(1) : Sgn(v.decR);
+    v.segnoDecPiana = SegnoDeclinazione(v.decR, v.decR);
 }
 
 void LineeOre(const Corsa &c, LineeAttese &linee) {
@@ -43,7 +43,7 @@ void LineeOre(const Corsa &c, LineeAttese &linee) {
 void TracciaOreAstro(Corsa &c, const LineeAttese &linee) {
     Sessione &s = c.s;
     const Variabili &v = c.v;
-    const Sfera sfera(v);
+    const Sfera sfera = c.sfera();
     // By degrees up to 23.55, which the count meets to the last bit and which becomes the solstice.
     std::vector<Sfera::Giorno> anno;
     double ultima = 0;
@@ -83,7 +83,7 @@ void LineeNumeri(const Corsa &, LineeAttese &linee) {
 void PosizionaNumeriOrari(Corsa &c, const LineeAttese &linee) {
     Sessione &s = c.s;
     const Variabili &v = c.v;
-    const Sfera sfera(v);
+    const Sfera sfera = c.sfera();
     const Sfera::Giorno giorno = sfera.giorno(v.deltaOpz.numero());
     Direzione sole;
     Reale x, y;

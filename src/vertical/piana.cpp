@@ -13,11 +13,12 @@ namespace ombrelia::vertical {
 namespace {
 
 // c2 is the sine of the style's elevation.
-void didascalia(Sessione &s, Valore c2) {
-    const Variabili &v = s.v;
+void didascalia(const Corsa &c, Valore c2) {
+    Sessione &s = c.s;
+    const Variabili &v = c.v;
     const std::string_view misura = TestoUnita(s);
-    const Reale hEstate = AltezzaSolstizio(v.latR, 1);
-    const Reale hInverno = AltezzaSolstizio(v.latR, -1);
+    const Reale hEstate = AltezzaSolstizio(c.piano(), 1);
+    const Reale hInverno = AltezzaSolstizio(c.piano(), -1);
     const struct {
         std::string_view etichetta;
         Valore valore;
@@ -73,6 +74,7 @@ void leggiParametriPiana(Corsa &c) {
     v.gradiPasso = 15 / letto.fraz;
     v.passo = letto.passo;
     v.gn = letto.gn;
+    c.rifaiPiano();
 }
 
 // The style's elevation from its sine, radians; the sheet's middle, metres, for lines that cross it.
@@ -87,13 +89,14 @@ struct Centro {
     Valore x, y;
 };
 // The dial's centre, metres, y upward; no value where the plane has none.
-Centro calcolaCentroPiana(const Variabili &v) {
-    const Valore c = -cos(v.latR) * cos(v.decR);
-    return {v.unita * sin(v.decR) * cos(v.latR) * v.gn / c, v.unita * sin(v.latR) * -v.gn / c};
+Centro calcolaCentroPiana(const Piano &p) {
+    const Valore c = -p.cphi * p.cg;
+    return {p.unita * p.sg * p.cphi * p.gn / c, p.unita * p.sphi * -p.gn / c};
 }
 // The same as the caption tells it, in the unit of the fields, by the elevation that the lines left.
-Centro centroDidascalia(const Variabili &v) {
-    const Reale sustilare = SustilareMuroIntera(v.latR, v.decR);
+Centro centroDidascalia(const Corsa &c) {
+    const Variabili &v = c.v;
+    const Reale sustilare = SustilareMuroIntera(c.piano());
     return {sin(sustilare) * v.gn / tan(v.altStilo), cos(sustilare) * -v.gn / tan(v.altStilo)};
 }
 // First the one, then the other; where a plane has no centre, that of the dial before stays.
@@ -150,14 +153,18 @@ constexpr Riga CARATTERISTICHE[] = {
     {&In::ck_Lemniscate, Specie::Tacca, "day marks across it", LineeTacche, TracciaTacche, piena},
     // ckZodiac has no step of its own: the signs come with the lemniscate.
     {&In::ck_Lemniscate, Specie::Nessuna, "signs of the zodiac", nullptr,
-     [](Corsa &c, const LineeAttese &) { DisegnaZodiaco(c.s); }, [](const Corsa &c) { return piena(c) && c.s.in.ckZodiac == 1; }},
+     [](Corsa &c, const LineeAttese &) {
+         DisegnaZodiaco(c.s);
+         c.rifaiPiano();
+     },
+     [](const Corsa &c) { return piena(c) && c.s.in.ckZodiac == 1; }},
     {&In::ck_Lemniscate, Specie::Mezzogiorno, "the noon line", UnaLinea<ROSSO>, RettaMezzogiorno, piena, LasciaMezzogiorno},
     {&In::ck_Sustilare, Specie::OraSustilare, "hour line of the substyle", UnaLinea<BLU>, TracciaSustilare},
     {&In::ck_Triangolo, Specie::Stilo, "triangle of the polar style", LineeTriangolo, TracciaTriangoloStilo},
     {&In::ck_Triangolo, Specie::Nessuna, "its measures", nullptr, TestiTriangolo},
     {&In::CkQibla, Specie::Qibla, "bearing of the Qibla", UnaLinea<ROSSO>, TracciaQibla, nullptr, RileggiPiano},
     {&In::ckAlt, Specie::Almucantarat, "equal altitudes", [](const Corsa &c, LineeAttese &l) { LineeAlmucantarat(c.letto, l); },
-     [](Corsa &c, const LineeAttese &l) { TracciaAlmucantarat(c.s, c.letto, c.cornice, l); }},
+     [](Corsa &c, const LineeAttese &l) { TracciaAlmucantarat(c, l); }},
     {&In::ckAz, Specie::Azimut, "equal azimuths", LineeAzimutali, TracciaAzimutali, nullptr, RileggiPiano},
 };
 
@@ -204,17 +211,17 @@ bool TroppoFitta(Sessione &s, const Lettura &letto) {
 }
 
 void Piana_Esegui(Sessione &s) {
-    Corsa c(s);
+    Corsa c(s, Lettura(s.in));
     const Variabili &v = c.v;
     if (TroppoFitta(s, c.letto)) return;
     RinfrescaOriginale(s, c.letto);
     s.utente.Puntatore(true);
     s.Messaggio("Piana _Esegui: Vertical dial by spherical trigonometry ");
     leggiParametriPiana(c);
-    const Reale c2 = cos(v.decR) * cos(v.latR);
+    const Reale c2 = c.piano().cg * c.piano().cphi;
     lasciaStilo(c, c2);
     TracciaAssi(s);
-    lasciaCentro(s.v, calcolaCentroPiana(v));
+    lasciaCentro(s.v, calcolaCentroPiana(c.piano()));
 
     PercorriCaratteristiche(c, Motore::Verticale, CARATTERISTICHE);
     PercorriCaratteristiche(c, Motore::Verticale, ORIZZONTE_DI_NUOVO);
@@ -222,8 +229,8 @@ void Piana_Esegui(Sessione &s) {
     TracciaLimiti(s, c.letto, c.cornice);
     s.utente.Puntatore(false);
 
-    lasciaCentro(s.v, centroDidascalia(v));
-    didascalia(s, c2);
+    lasciaCentro(s.v, centroDidascalia(c));
+    didascalia(c, c2);
     PercorriCaratteristiche(c, Motore::Verticale, ULTIME);
 }
 

@@ -37,13 +37,8 @@ public:
         double cosTan, senSen, cosCos;
     };
 
-    // The wall of the shared variables as they stand: latR with its sign, decR, gn and unita.
-    explicit Sfera(const Variabili &v)
-        : senLat_(std::sin(Valore(v.latR).v)),
-          cosLat_(std::cos(Valore(v.latR).v)),
-          decR_(v.decR.numero()),
-          gn_(v.gn.numero()),
-          unita_(v.unita.numero()) {}
+    // A wall, its latitude with its sign.
+    explicit Sfera(const Piano &p) : senLat_(p.sphi.v), cosLat_(p.cphi.v), decR_(p.g.v), gn_(p.gn.v), unita_(p.unita.v) {}
 
     // Degrees.
     [[nodiscard]] Giorno giorno(double delta) const {

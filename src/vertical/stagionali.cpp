@@ -9,7 +9,7 @@ namespace ombrelia::vertical {
 namespace {
 
 // Cosine of the half day arc; there is no sunrise where it is not below 1.
-Valore cosenoArco(Valore latR, double tanD) { return -tan(latR) * tanD; }
+Valore cosenoArco(const Piano &p, double tanD) { return -p.tphi * tanD; }
 Valore semiArco(Valore c) { return PI / 2 - Atn(c / Sqr(1 - c * c)); }
 
 // The year by steps of 10 * passo degrees, as far as a line has room. Its last declination is left; a step that takes none
@@ -21,7 +21,7 @@ const std::vector<Giornata> &annoDi(Corsa &c, const Sfera &sfera) {
             c.ultima = d;
             if (c.anno.size() == PUNTI_LINEA) continue;
             const double dr = PI * d / 180, tanD = std::tan(dr);
-            const Valore cosH0 = cosenoArco(v.latR, tanD);
+            const Valore cosH0 = cosenoArco(c.piano(), tanD);
             if (Abs(cosH0) < 1) c.anno.push_back({sfera.giorno(tanD, std::sin(dr), std::cos(dr)), semiArco(cosH0).v});
         }
         if (c.anno.empty() && c.ultima == 0) return c.anno;
@@ -91,7 +91,7 @@ void tracciaOre(Corsa &c, const LineeAttese &linee, Specie specie, std::string_v
     const Cornice &cornice = c.cornice;
     const IdNome id = s.tavolo.nome(strato);
     if (linee.empty()) return;
-    const Sfera sfera(c.v);
+    const Sfera sfera = c.sfera();
     Direzione sole;
     const std::vector<Giornata> &giorni = annoDi(c, sfera);
     std::vector<PuntoTemporaria> posti(giorni.size() + 1);
@@ -164,9 +164,9 @@ void etichette(Corsa &c, const LineeAttese &linee, Angolo angolo) {
     const Colore prima = s.tavolo.ForeColor;
     s.tavolo.ForeColor = linee[0].colore;
     LasciaDeclinazione(s.v, OBLIQUITA);
-    const Sfera sfera(c.v);
+    const Sfera sfera = c.sfera();
     const Sfera::Giorno giorno = sfera.giorno(OBLIQUITA);
-    const Valore cosH0 = cosenoArco(c.v.latR, tan(PI * Valore(OBLIQUITA) / 180).v);
+    const Valore cosH0 = cosenoArco(c.piano(), tan(PI * Valore(OBLIQUITA) / 180).v);
     if (Abs(cosH0) < 1) {
         const Valore H0 = semiArco(cosH0);
         Direzione sole;

@@ -23,15 +23,16 @@ struct Triangolo {
 
 Triangolo calcola(const Corsa &c) {
     const Variabili &v = c.v;
-    const Valore segnoDecLocale = v.decR == 0 ? Valore(1) : Sgn(v.decR);
-    const Valore segnoLatLocale = SegnoLatitudine(v.latR);
+    const Piano &p = c.piano();
+    const Valore segnoDecLocale = SegnoDeclinazione(p.g, p.g);
+    const Valore segnoLatLocale = SegnoLatitudine(p.phi);
     const Reale allungo = v.unita * c.letto.allungo;
-    const Reale sust = SustilareMuroIntera(v.latR, v.decR);
+    const Reale sust = SustilareMuroIntera(p);
     Triangolo t;
     t.altStilo = v.altStilo;  // what faults keeps the run's
     t.sottostilo = v.segStiloSus;
     const Reale &g = t.altStilo;
-    t.altStilo = ArcSin(-cos(v.latR) * cos(v.decR));
+    t.altStilo = ArcSin(-p.cphi * p.cg);
     t.sottostilo = v.unita * Abs(v.gn / tan(g));
 
     t.lunghezza = allungo + t.sottostilo;
@@ -40,8 +41,8 @@ Triangolo calcola(const Corsa &c) {
     t.P.y = cos(sust) * -allungo;
     t.Q.x = t.P.x + cos(sust) * tan(g) * t.lunghezza * segnoDecLocale;
     t.Q.y = t.P.y + sin(sust) * tan(g) * t.lunghezza * segnoDecLocale;
-    t.F.x = segnoLatLocale * v.unita * tan(v.decR) * -v.gn;
-    t.F.y = segnoLatLocale * v.unita * tan(v.latR) * v.gn / cos(v.decR);
+    t.F.x = segnoLatLocale * v.unita * p.tg * -v.gn;
+    t.F.y = segnoLatLocale * v.unita * p.tphi * v.gn / p.cg;
     const Valore gnVerso = v.gn * -segnoDecLocale;
     t.G.x = segnoLatLocale * v.unita * cos(sust) * gnVerso;
     t.G.y = segnoLatLocale * v.unita * sin(sust) * gnVerso;

@@ -202,7 +202,7 @@ TEST(NumeriSulleOre, OnTheHoursOfTheDayLine) {
     for (const auto &[lat, dec, delta] : {std::array{"45", "0", "-10"}, {"38", "-20", "23.445"}, {"60", "35", "0"}}) {
         MuroDiCifre banco({{"txtLAT", lat}, {"txtDec", dec}, {"txtDelta", delta}, {"txtNumbersize", ".0015"}}), campione;
         banco.s.in.ckRomani = 1, banco.romani();
-        const Proiezione proietta(banco.s.v);
+        const Proiezione proietta{Piano(banco.s.v)};
         auto primo = banco.lista().Linee.begin(), fine = banco.lista().Linee.end();
         for (int V = -90; V <= 90; V += 15) {
             const std::ptrdiff_t n = std::ssize(campione.romano((12 + V / 15 + 11) % 12 + 1));
@@ -268,7 +268,7 @@ TEST(Zodiaco, FollowsTheLongitudeOnEveryWall) {
             MuroDiCifre cielo({{"txtLonG", lon}, {"txtDec", dec}, {"txtLAT", "41.9"}, {"txtZodiacsize", "0"}});
             const Linee posti = cielo.posti();
             ASSERT_EQ(posti.size(), 11U);
-            const Proiezione proietta(cielo.s.v);
+            const Proiezione proietta{Piano(cielo.s.v)};
             for (const auto &r : Tabella("posti_segni.txt")) {
                 const RecLinea &posto = posti.at(std::stoul(r[0]));
                 Reale x, y;  // a mended azimuth carries the error of the ten-digit PI, up to some 1e-8 m at these slopes

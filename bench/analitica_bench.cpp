@@ -34,7 +34,7 @@ void analitica(benchmark::State &stato) {
     prepara(s, static_cast<double>(stato.range(0)));
     for (auto _ : stato) {
         s.tavolo.Clear();
-        analytic::EseguiGraficaAnalitica(s);
+        analytic::EseguiGraficaAnalitica(s, Lettura(s.in));
     }
     stato.counters["punti"] = static_cast<double>(s.tavolo.lista().Punti.size());
 }
@@ -46,7 +46,7 @@ void fondo(benchmark::State &stato) {
     Sessione s(utente);
     prepara(s, static_cast<double>(stato.range(0)));
     Tavolo &t = s.tavolo;
-    analytic::EseguiGraficaAnalitica(s);
+    analytic::EseguiGraficaAnalitica(s, Lettura(s.in));
     const double e = s.v.altStilo.numero(), sigma = s.v.angSustilare.numero(), gn = s.v.gn.numero(), y0 = s.v.y0.numero();
     const double ss = std::sin(sigma), cs = std::cos(sigma), se = std::sin(e), ce = std::cos(e);
     for (auto _ : stato) {

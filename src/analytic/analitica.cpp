@@ -3,8 +3,8 @@
 
 #include "analytic/corsa.h"
 #include "gnomonica/angoli_parete.h"
+#include "gnomonica/centro.h"
 #include "gnomonica/contorno.h"
-#include "gnomonica/originale.h"
 #include "sessione/limiti.h"
 
 namespace ombrelia::analytic {
@@ -38,6 +38,9 @@ bool conCentro(const Corsa &c) {
     return c.s.in.ckCorretta == 1 || !((v.lat == 0 && v.dec == 0) || Abs(v.dec) == 90);
 }
 
+constexpr LineaAttesa TRIANGOLO[] = {{0, 0, "", BLU}, {0, 0, "", ROSSO}};
+constexpr LineaAttesa LEMNISCATA[] = {{0, 12, "", ROSSO}};
+
 constexpr Riga CARATTERISTICHE[] = {
     // The hour lines alone scale gn: without them a dial in millimetres is drawn with gn as typed. Meant.
     {&In::chkOreAstronomiche, Specie::Ora, "true hours and their parts", LineeOre, TracciaOreAstronomiche, nullptr, LasciaOre},
@@ -47,22 +50,15 @@ constexpr Riga CARATTERISTICHE[] = {
      LasciaDiurne},
     {&In::ck_Sustilare, Specie::Sustilare, "the substyle", UnaLinea<GIALLO>, TracciaSustilareAnalitica},
     {&In::ck_Equinoziale, Specie::Equinoziale, "the equinoctial", UnaLinea<VERDE>, TracciaEquinozialeAnalitica},
-    {nullptr, Specie::Stilo, "triangle of the style, laid flat",
-     [](const Corsa &, LineeAttese &l) {
-         l.push_back({0, 0, "", BLU});
-         l.push_back({0, 0, "", ROSSO});
-     },
-     TracciaTriangoloAnalitico, conCentro},
+    {nullptr, Specie::Stilo, "triangle of the style, laid flat", LineeFisse<TRIANGOLO>, TracciaTriangoloAnalitico, conCentro},
     {nullptr, Specie::Orizzonte, "horizontal through the foot", UnaLinea<GIALLO>, TracciaOrizzontale, conCentro},
     {nullptr, Specie::Nessuna, "solstices on the horizon, as text", nullptr, CalcolaSolstiziOrizzonte},
     {&In::ck_Italiche, Specie::Italica, "hours from sunset", LineeItaliche, TracciaItalicheAnalitiche, nullptr, LasciaTangenti},
     {&In::ck_babiloniche, Specie::Babilonica, "hours from sunrise", LineeBabiloniche, TracciaBabilonicheAnalitiche, nullptr,
      LasciaTangenti},
     {&In::ck_Lemniscate, Specie::Analemma, "mean noon of the zone",
-     [](const Corsa &, LineeAttese &l) {
-         l.push_back({0, 12, "", ROSSO});
-     },
-     TracciaLemniscataAnalitica, nullptr, LasciaLemniscata},
+     // Due south its points have a colour of their own.
+     LineeFisse<LEMNISCATA>, TracciaLemniscataAnalitica, nullptr, LasciaLemniscata},
 };
 
 // The sheet's middle, metres, for the lines that cross it; the unit of the fields.
@@ -75,31 +71,24 @@ void lasciaFoglio(Corsa &c) {
 
 }  // namespace
 
-void EseguiGraficaAnalitica(Sessione &s) {
-    Corsa c(s, Lettura(s.in));
+void EseguiGraficaAnalitica(Sessione &s, const Lettura &letto) {
+    Corsa c(s, letto);
     s.Messaggio("Piede Esegui: algoritmo che usa prevalentemente la Geometria Analitica ");
-    if (Sgn(c.letto.lat) == -1) {
+    if (Sgn(letto.lat) == -1) {
         s.Messaggio("Grafica Analitica non è abilitata a lavorare a latitudini australi ");
         return;
     }
-    RinfrescaOriginale(s, c.letto);
-    if (troppoFitto(s, c.letto)) return;
+    if (troppoFitto(s, letto)) return;
     s.utente.Puntatore(true);
     lasciaFoglio(c);
     TracciaAssi(s);
-    CalcolaAngoliAnalitici(s, c.letto);
+    CalcolaAngoliAnalitici(s, letto);
     c.rifaiPiano();
     PercorriCaratteristiche(c, Motore::Analitica, CARATTERISTICHE);
-    TracciaCornice(s, c.letto);
+    TracciaCornice(s, letto);
     s.utente.Puntatore(false);
 }
 
-Centro CalcolaCentroAnalitico(const Corsa &c) {
-    const Variabili &v = c.v;
-    Reale CG = v.segStiloSus;  // stands where the style is square to the plane
-    CG = v.gn / c.stilo().te;
-    return {-CG * c.stilo().ss, CG * c.stilo().cs, CG};
-}
 // Foot and centre, of which triangle, horizontal and captions are made; a wall that looks due north has its substyle upright.
 void LasciaCentro(Corsa &c) {
     Variabili &v = c.s.v;
@@ -108,8 +97,8 @@ void LasciaCentro(Corsa &c) {
     if (v.dec == 180) v.angSustilare = 0;
     c.rifaiPiano();
     if (Abs(v.dec) == 90) return;
-    const Centro centro = CalcolaCentroAnalitico(c);
-    v.segStiloSus = centro.sottostilo;
+    v.segStiloSus = v.gn / c.stilo().te;  // stands where the style is square to the plane
+    const PostoCentro centro = CentroDaSustilare(v.segStiloSus, c.stilo().sigma);
     v.xCentro = centro.x;
     v.yCentro = centro.y;
 }

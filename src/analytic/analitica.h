@@ -6,8 +6,9 @@
 
 namespace ombrelia::analytic {
 
-// Draws the whole dial onto what is there. Refuses, with a message, southern latitudes and loops too long.
-void EseguiGraficaAnalitica(Sessione &s);
+// Draws the whole dial of the fields as read onto what is there; the original dial is refreshed by now. Refuses, with a message,
+// southern latitudes and loops too long.
+void EseguiGraficaAnalitica(Sessione &s, const Lettura &letto);
 
 // Points and lines of this engine have no layer, but for the hour lines.
 inline constexpr IdNome SENZA_STRATO = 0;

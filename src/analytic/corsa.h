@@ -42,11 +42,6 @@ void LineeOre(const Corsa &c, LineeAttese &linee);
 void TracciaOreAstronomiche(Corsa &c, const LineeAttese &linee);
 // Centre of the dial, and the vertical through it. Gives: the unit of gn. Source: elementary geometry of the style's triangle.
 // Faults: where |dec| is 90 the centre stays what it was.
-struct Centro {
-    Valore x, y;
-    Valore sottostilo;  // its distance from the foot
-};
-[[nodiscard]] Centro CalcolaCentroAnalitico(const Corsa &c);
 void LasciaCentro(Corsa &c);
 void LineeCentro(const Corsa &c, LineeAttese &linee);
 void TracciaCentro(Corsa &c, const LineeAttese &linee);

@@ -101,42 +101,60 @@ void LineaScelta(const Corsa &c, LineeAttese &linee) {
     const double delta = c.v.deltaOpz.numero();
     for (const double d : {delta, -delta}) linee.push_back({d, d, "", BLU});
 }
-void TracciaLineaDiurnaScelta(Corsa &c, const LineeAttese &) {
+void TracciaLineaDiurnaScelta(Corsa &c, const LineeAttese &linee) {
     const Variabili &v = c.v;
     Tavolo &tavolo = c.s.tavolo;
+    const LineaAttesa &l = linee[0];
     Reale m;  // stays 0 on the equinox, whose cotangent faults
-    m = QuadratoCotangente(v.deltaOpz);
+    m = QuadratoCotangente(l.parametro);
     if (v.lat != 0) {
-        Diurna linea(c, m, v.deltaOpz.numero(), BLU);
+        Diurna linea(c, m, l.parametro, l.colore);
         for (const double x : Conteggio(-1, 1, v.passo)) linea.punto(tavolo, x);
     } else if (!paralleloAlPolo(v)) {
         const Equatore equatore(c.piano());
-        DiurnaEquatore linea(c, m, v.deltaOpz.numero(), BLU);
+        DiurnaEquatore linea(c, m, l.parametro, l.colore);
         for (const double x : Equatore::ascisse())
             if (equatore.esiste(linea, x)) linea.punti(tavolo, x);
     }
 }
 
+namespace {
+
+// A declination and its opposite, which are one conic; at the equator their points have a colour of their own.
+struct CoppiaDiurna {
+    double delta, daConica;
+    Colore colore, alEquatore;
+};
+constexpr CoppiaDiurna COPPIE[] = {
+    {OBLIQUITA, OBLIQUITA_2345, BIANCO, VERDE_SCURO},  // not the 23.445 of the horizon: meant
+    {DELTA_SEGNI, DELTA_SEGNI, GIALLO, ACQUA},
+    {DELTA_SEGNI_VICINI, DELTA_SEGNI_VICINI, MAGENTA, ROSSO_SCURO},
+};
+
+}  // namespace
+
 void LineeDiurne(const Corsa &, LineeAttese &linee) {
-    const std::pair<double, Colore> coppie[] = {{OBLIQUITA, BIANCO}, {DELTA_SEGNI, GIALLO}, {DELTA_SEGNI_VICINI, MAGENTA}};
-    for (const auto &[delta, colore] : coppie)
-        for (const double d : {delta, -delta}) linee.push_back({d, d, "", colore});
+    for (const CoppiaDiurna &p : COPPIE)
+        for (const double d : {p.delta, -p.delta}) linee.push_back({d, d, "", p.colore});
 }
-void TracciaLineeDiurneAnalitiche(Corsa &c, const LineeAttese &) {
+void TracciaLineeDiurneAnalitiche(Corsa &c, const LineeAttese &linee) {
     const Variabili &v = c.v;
     Tavolo &tavolo = c.s.tavolo;
-    // Not the 23.445 of the horizon: meant.
-    const Valore m2345 = QuadratoCotangente(OBLIQUITA_2345), m20 = QuadratoCotangente(DELTA_SEGNI),
-                 m115 = QuadratoCotangente(DELTA_SEGNI_VICINI);
     if (v.lat != 0) {
-        std::array linee{Diurna(c, m2345, OBLIQUITA, BIANCO), Diurna(c, m20, DELTA_SEGNI, GIALLO),
-                         Diurna(c, m115, DELTA_SEGNI_VICINI, MAGENTA)};
+        const auto diurna = [&](std::size_t n) {
+            const LineaAttesa &l = linee[2 * n];
+            return Diurna(c, QuadratoCotangente(COPPIE[n].daConica), l.parametro, l.colore);
+        };
+        std::array tre{diurna(0), diurna(1), diurna(2)};
         for (const double x : Conteggio(-1, 1, v.passo))
-            for (Diurna &linea : linee) linea.punto(tavolo, x);
+            for (Diurna &linea : tre) linea.punto(tavolo, x);
     } else if (!paralleloAlPolo(v)) {
         const Equatore equatore(c.piano());
-        DiurnaEquatore d2345(c, m2345, OBLIQUITA, VERDE_SCURO), d20(c, m20, DELTA_SEGNI, ACQUA),
-            d115(c, m115, DELTA_SEGNI_VICINI, ROSSO_SCURO);
+        const auto diurna = [&](std::size_t n) {
+            const CoppiaDiurna &p = COPPIE[n];
+            return DiurnaEquatore(c, QuadratoCotangente(p.daConica), p.delta, p.alEquatore);
+        };
+        DiurnaEquatore d2345 = diurna(0), d20 = diurna(1), d115 = diurna(2);
         for (const double x : Equatore::ascisse()) {
             // Each line only where those nearer the equinox exist; the innermost is drawn first.
             if (!equatore.esiste(d115, x)) continue;
@@ -200,7 +218,7 @@ void CalcolaSolstiziOrizzonte(Corsa &c, const LineeAttese &) {
     }
     if (v.inc_o == 90) return;
     Reale ore12;
-    if (v.lat_o != 0) ore12 = Round(v.gn * tan(v.iz_o), 4) / v.unita;
+    if (v.lat_o != 0) ore12 = Round(OrdinataOrizzonte(v.gn, v.iz_o), 4) / v.unita;
     s.Dati(s.Traduci(" ordinata ore 12 itabab"), 0.31, 0.35);
     s.Dati(Frase() << ore12, 0.1, 0.35);
 }

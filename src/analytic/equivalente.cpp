@@ -43,11 +43,14 @@ void lasciaEquivalente(Variabili &v, const PareteEquivalente &e, Valore E) {
     v.segnoTrasf = Sgn(e.f1);
     v.altStilo = E;
     const Reale x = SenOraSustilare(v.decR, v.incR, v.altStilo);
-    v.angoloOra = Atn(x / Sqr(1 - x * x));
+    v.angoloOra = ArcSin(x);
 }
 
-// The equivalent dial's longitude, degrees.
-void lasciaLongitudine(Variabili &v) { v.lonEq = v.lonCopia - v.diffLong * 180 / PI; }
+// The equivalent dial's longitude, degrees, and the box of the zone's time, in which it is to be drawn.
+void lasciaLongitudine(Sessione &s) {
+    s.v.lonEq = s.v.lonCopia - s.v.diffLong * 180 / PI;
+    s.in.ck_Etna = 1;
+}
 
 }  // namespace
 
@@ -81,12 +84,11 @@ void TrasformaInVerticaleEquivalente(Sessione &s) {
         s.Scrivi(&DialInputs::txtLonG, TestoNumero(v.lonCopia.numero()));
         return;
     }
-    const Reale orizzonte = Tronca5(v.gn * tan(v.incR2));
+    const Reale orizzonte = Tronca5(OrdinataOrizzonte(v.gn, v.incR2));
     scriviPiano(s, gradi5(segno * f1), gradi5(d1), TestoNumero(orizzonte.numero()));
     const Reale longitudine = (s.in.ck_Etna == 0 ? v.meridiano : v.lonCopia) - v.diffLong * 180 / PI;
     s.Scrivi(&DialInputs::txtLonG, TestoNumero(longitudine.numero()));
-    lasciaLongitudine(s.v);
-    s.in.ck_Etna = 1;
+    lasciaLongitudine(s);
 }
 
 }  // namespace ombrelia::analytic

@@ -34,11 +34,11 @@ void CkUNI_Click(Sessione &s, int) { s.Scrivi(&DialInputs::txtInc, "0"); }
 void txtInc_Change(Sessione &s, int) { AbilitaPerInclinazione(s); }
 
 // The latitude as typed, for captions, and its sign, 1 at the equator; and the dial that the run is of.
-void leggiLatitudine(Sessione &s) {
+void leggiLatitudine(Sessione &s, const Lettura &letto) {
     Variabili &v = s.v;
-    v.latGradi = Val(s.in.txtLAT);
-    v.segnoLat = v.latGradi == 0 ? Valore(1) : Sgn(v.latGradi);
-    RinfrescaOriginale(s, Lettura(s.in));
+    v.latGradi = letto.lat;
+    v.segnoLat = SegnoLatitudine(v.latGradi);
+    RinfrescaOriginale(s, letto);
 }
 
 // Shows a drawing as it is mounted: a southern one mirrored, which is said, a northern one behind it as it was before.
@@ -52,13 +52,14 @@ void monta(Sessione &s, bool eraAustrale) {
 void cmdEqui_Click(Sessione &s, int) {
     Tavolo &t = s.tavolo;
     const bool eraAustrale = s.v.segnoLat == -1;
-    leggiLatitudine(s);
+    const Lettura letto(s.in);
+    leggiLatitudine(s, letto);
     if (t.ShiftX() == 0 && t.ShiftY() == 0) {
         t.ShiftX(t.QuadranteL() / 2.0);
         t.ShiftY(t.QuadranteH() / 3.33333);
     }
-    if (Val(s.in.txtInc) == 0) {
-        analytic::EseguiGraficaAnalitica(s);
+    if (letto.inc == 0) {
+        analytic::EseguiGraficaAnalitica(s, letto);
         if (s.v.segnoLat != -1) monta(s, eraAustrale);  // the South is refused
         TracciaEtichette(s);
     }
@@ -101,23 +102,26 @@ void AbilitaPerInclinazione(Sessione &s) {
 
 void cmdRun(Sessione &s) {
     const bool eraAustrale = s.v.segnoLat == -1;
-    leggiLatitudine(s);
-    const Reale lat = Val(s.in.txtLAT);
-    if (lat < 0) {
+    const Lettura letto(s.in);
+    leggiLatitudine(s, letto);
+    if (letto.lat < 0) {
         // A run that is refused leaves the South as it is typed.
-        if (direct::TroppoFitta(s, Lettura(s.in))) return;
+        if (direct::TroppoFitta(s, letto)) return;
         // A southern dial is the northern one of the mirrored latitude. The drawing is mirrored by the user, or at once; then the
         // field keeps the latitude that the dial has.
         const std::string scritta = s.in.txtLAT;
         if (!s.australeMontato) s.utente.Box(s.Traduci("A grafico ottenuto usare il tasto InvertX"));
-        s.Scrivi(&DialInputs::txtLAT, TestoNumero((-lat).v));
-        direct::I_Graf_diretta(s);
+        s.Scrivi(&DialInputs::txtLAT, TestoNumero((-letto.lat).v));
+        // Read again: the field may say fewer digits than the number had.
+        const Lettura specchiata(s.in);
+        RinfrescaOriginale(s, specchiata);
+        direct::I_Graf_diretta(s, specchiata);
         // The next press of a corrected dial is the same dial too.
         if (s.australeMontato || s.in.ckCorretta == 1) s.Scrivi(&DialInputs::txtLAT, scritta);
-    } else if (Val(s.in.txtInc) == 0 && s.in.CkUNI == 1) {
-        vertical::Piana_Esegui(s);
+    } else if (letto.inc == 0 && s.in.CkUNI == 1) {
+        vertical::Piana_Esegui(s, letto);
     } else {
-        direct::I_Graf_diretta(s);
+        direct::I_Graf_diretta(s, letto);
     }
     monta(s, eraAustrale);
     TracciaEtichette(s);

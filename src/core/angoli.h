@@ -22,6 +22,9 @@ inline Valore ArcSin(Valore x) { return Atn(x / Sqr(-x * x + 1)); }
 // Arc cosine. Given: x. Gives: radians, 0..PI. Source: elementary geometry, the complement of ArcSin. Faults: where that does.
 inline Valore ArcCos(Valore x) { return (PI / 2.0) - ArcSin(x); }
 
+// Sign of a latitude, 1 on the equator. Given: in any unit. Gives: 1 or -1. Source: by definition. Faults: none.
+constexpr Valore SegnoLatitudine(Valore lat) { return lat == 0 ? Valore(1) : Sgn(lat); }
+
 // Direction of a point. Given: ordinate, abscissa. Gives: radians from the abscissas, 0..CERCHIO. Source: elementary geometry.
 // Faults: no value at x = 0; there is no branch for a vertical direction, callers that can meet one test first.
 inline Valore Arco2(Valore y, Valore x) {

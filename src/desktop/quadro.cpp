@@ -269,7 +269,7 @@ void Quadro::showEvent(QShowEvent *e) {
 bool Quadro::corniceFuori() const {
     const DialInputs &in = ponte_.sessione().in;
     const Tavolo &t = ponte_.sessione().tavolo;
-    const double u = in.ChCentimetro == 1 ? 0.001 : 1;
+    const double u = UnitaDi(in);
     const Valore x0 = Val(in.txtX0) * u, x1 = Val(in.txtX1) * u, y0 = Val(in.txtY0) * u, y1 = Val(in.txtY1) * u;
     if (!(x0.esiste() && x1.esiste() && y0.esiste() && y1.esiste())) return false;
     constexpr double NULLA = 1e-9;

@@ -4,9 +4,9 @@
 #include "direct/corsa.h"
 #include "glyphs/zodiaco.h"
 #include "gnomonica/almucantarat.h"
+#include "gnomonica/centro.h"
 #include "gnomonica/contorno.h"
 #include "gnomonica/longitudine.h"
-#include "gnomonica/originale.h"
 #include "sessione/limiti.h"
 
 namespace ombrelia::direct {
@@ -32,7 +32,7 @@ void didascalia(const Corsa &c, Valore seno, Valore q) {
         {"assostilo = "_it, Abs(Tronca5(v.gn / seno)), misura},
         {"ascissa centro = "_it, Tronca5(v.xCentro), misura},
         {"ordinata centro = "_it, Tronca5(v.yCentro), misura},
-        {"ordinata orizzonte = "_it, Tronca5(v.gn * tan(v.iz_o)), misura},
+        {"ordinata orizzonte = "_it, Tronca5(OrdinataOrizzonte(v.gn, v.iz_o)), misura},
         {"Quibla = "_it, Tronca5(q), " °"},
         {"Altezza del sole alle 12 d'estate = "_it, Tronca5(estate), " °"},
         {"Altezza del sole alle 12 d'inverno = "_it, Tronca5(inverno), " °"},
@@ -74,30 +74,21 @@ void zodiaco(Corsa &c, const LineeAttese &) {
 using In = DialInputs;
 using Riga = Caratteristica<Corsa>;
 
+constexpr LineaAttesa EQUINOZIALE[] = {{0, 0, "equinox", BLU}};
+constexpr LineaAttesa SUSTILARE[] = {{0, 0, "substyle hour", BLU}};
+constexpr LineaAttesa STILO[] = {{0, 0, "polar style", BLU}, {0, 0, "pillar", MAGENTA}, {0, 0, "substyle", GIALLO}};
+constexpr LineaAttesa ASR[] = {{0, 1, "", ARGENTO}};
+
 constexpr Riga CARATTERISTICHE[] = {
     {&In::chkOreAstronomiche, Specie::Ora, "true hours, halves and quarters", LineeOrarie, TracciaRetteOrarie, nullptr, cornice},
     {&In::Ck_DayLightCurves, Specie::Diurna, "days of solstice, signs and choice", LineeDiurne, TracciaLineeDiurne, nullptr,
      cornice},
-    {&In::ck_Equinoziale, Specie::Equinoziale, "the equinoctial",
-     [](const Corsa &, LineeAttese &l) {
-         l.push_back({0, 0, "equinox", BLU});
-     },
-     TracciaEquinoziale},
+    {&In::ck_Equinoziale, Specie::Equinoziale, "the equinoctial", LineeFisse<EQUINOZIALE>, TracciaEquinoziale},
     {&In::ck_Italiche, Specie::Italica, "hours from sunset", LineeItaliche, TracciaOreItaliche},
     {&In::ck_babiloniche, Specie::Babilonica, "hours from sunrise", LineeBabiloniche, TracciaOreBabiloniche},
     {&In::ckTemp, Specie::Temporaria, "twelfths of the day", LineeTemporarie, TracciaOreTemporarie},
-    {&In::ck_Sustilare, Specie::OraSustilare, "hour line of the substyle",
-     [](const Corsa &, LineeAttese &l) {
-         l.push_back({0, 0, "substyle hour", BLU});
-     },
-     TracciaSustilare},
-    {&In::ck_Triangolo, Specie::Stilo, "triangle of the polar style",
-     [](const Corsa &, LineeAttese &l) {
-         l.push_back({0, 0, "polar style", BLU});
-         l.push_back({0, 0, "pillar", MAGENTA});
-         l.push_back({0, 0, "substyle", GIALLO});
-     },
-     TracciaStiloPolare},
+    {&In::ck_Sustilare, Specie::OraSustilare, "hour line of the substyle", LineeFisse<SUSTILARE>, TracciaSustilare},
+    {&In::ck_Triangolo, Specie::Stilo, "triangle of the polar style", LineeFisse<STILO>, TracciaStiloPolare},
     {&In::ck_Triangolo, Specie::Mezzogiorno, "line of greatest slope through the centre", UnaLinea<GRIGIO>,
      TracciaVerticaleCentro},
     {&In::ckZodiac, Specie::Nessuna, "signs of the zodiac", nullptr, zodiaco},
@@ -105,11 +96,7 @@ constexpr Riga CARATTERISTICHE[] = {
      [](Corsa &c, const LineeAttese &l) { TracciaAlmucantarat(c, l); }},
     {&In::ck_Lemniscate, Specie::Analemma, "mean noon of the zone", LineeLemniscata, TracciaLemniscata, nullptr,
      LasciaLemniscata},
-    {&In::ckAsr, Specie::Asr, "afternoon prayer",
-     [](const Corsa &, LineeAttese &l) {
-         l.push_back({0, 1, "", ARGENTO});
-     },
-     TracciaAsr},
+    {&In::ckAsr, Specie::Asr, "afternoon prayer", LineeFisse<ASR>, TracciaAsr},
 };
 
 // After the Qibla and the centre.
@@ -122,10 +109,13 @@ constexpr Riga ORIZZONTE_DI_NUOVO[] = {
     {&In::ck_Orizzonte, Specie::Orizzonte, "the horizon again", UnaLinea<GIALLO>, rettaOrizzonte,
      [](const Corsa &c) { return c.s.in.ckCorretta != 1; }},
 };
-// Behind the frame; the lines appear once a request.
+// The lines appear once a request: their box clears itself.
+void lasciaRichiesta(Corsa &c) { c.s.in.ckAz = 0; }
+
+// Behind the frame.
 constexpr Riga ULTIME[] = {
     {&In::ckAz, Specie::Azimut, "equal azimuths", LineeAzimutali, TracciaRetteAzimutali,
-     [](const Corsa &c) { return c.v.latR != 0 || c.s.in.ckCorretta == 1; }, [](Corsa &c) { c.s.in.ckAz = 0; }},
+     [](const Corsa &c) { return c.v.latR != 0 || c.s.in.ckCorretta == 1; }, lasciaRichiesta},
 };
 
 // Bearing in every run; curve and texts with CkQibla set, the curve only off the equator. Gives the caption's bearing.
@@ -181,7 +171,7 @@ void lasciaOrizzonte(Sessione &s) {
         v.yOriz = -1;
         return;
     }
-    v.yOriz = v.gn * tan(v.iz_o);
+    v.yOriz = OrdinataOrizzonte(v.gn, v.iz_o);
     s.Scrivi(&DialInputs::txtOriz, TestoNumero(v.yOriz.numero()));
     v.yOriz = v.yOriz * v.unita;
 }
@@ -203,8 +193,9 @@ void lasciaCentro(Corsa &c) {
     const Piano &p = c.piano();
     const Reale polo = p.senStilo();
     if (polo == 0) return;
-    v.xCentro = (v.gn / polo) * p.cphi * p.sg;
-    v.yCentro = (-v.gn / polo) * p.ordinataCentro();
+    const PostoCentro centro = CentroConComplemento(p, polo);
+    v.xCentro = centro.x;
+    v.yCentro = centro.y;
 }
 
 // The frame's upper left corner, metres.
@@ -227,17 +218,16 @@ bool TroppoFitta(Sessione &s, const Lettura &letto) {
     return in.ckAlt == 1 && TroppoFitto(s, {{"txtDensity", in.txtDensity, anno, 22}});
 }
 
-void I_Graf_diretta(Sessione &s) {
+void I_Graf_diretta(Sessione &s, const Lettura &letto) {
     if (s.v.flagVerticale == 1 && Abs(s.v.inc_o) == 90) {
         s.utente.Box(s.Traduci("Funzione disabilitata"));
         return;
     }
     s.Messaggio("I_Graf_diretta per ogni tipo di os comunque orientato ");
-    Corsa c(s, Lettura(s.in));
-    if (Sgn(c.letto.lat) == -1) return;
-    if (TroppoFitta(s, c.letto)) return;
+    Corsa c(s, letto);
+    if (Sgn(letto.lat) == -1) return;
+    if (TroppoFitta(s, letto)) return;
 
-    RinfrescaOriginale(s, c.letto);
     leggiParametri(c);
     s.utente.Puntatore(true);
     // The original dial answers here and below, not the fields as they now stand.

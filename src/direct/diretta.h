@@ -6,9 +6,9 @@
 
 namespace ombrelia::direct {
 
-// Draws the whole dial onto what is there. Refuses, with a message, a transformed horizontal dial and loops too long;
-// ends in silence at a southern latitude, which cmdRun makes positive first.
-void I_Graf_diretta(Sessione &s);
+// Draws the whole dial of the fields as read onto what is there; the original dial is refreshed by now. Refuses, with a message,
+// a transformed horizontal dial and loops too long; ends in silence at a southern latitude, which cmdRun makes positive first.
+void I_Graf_diretta(Sessione &s, const Lettura &letto);
 
 // Whether I_Graf_diretta would refuse for loops too long; tells the user which field.
 [[nodiscard]] bool TroppoFitta(Sessione &s, const Lettura &letto);

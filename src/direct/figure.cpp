@@ -1,20 +1,8 @@
 // The fixed figures of the dial: triangle of the style, hour line of the substyle, azimuth lines.
 #include "direct/corsa.h"
+#include "gnomonica/centro.h"
 
 namespace ombrelia::direct {
-
-namespace {
-
-// The dial's centre as the triangle puts it; the caption's differs in the order of its factors.
-struct Centro {
-    Reale x, y;
-};
-Centro centro(const Piano &p) {
-    const Valore polo = p.senStilo();
-    return {p.gn * p.sg * p.cphi / polo * p.unita, p.gn * -p.ordinataCentro() / polo * p.unita};
-}
-
-}  // namespace
 
 namespace {
 
@@ -36,7 +24,8 @@ void TracciaStiloPolare(Corsa &c, const LineeAttese &linee) {
     if (v.latR == 0 && v.incR == 0) S = (PI / 2.0) * v.segnoDec;
     else S = Atn(p.tanSustilare());
     // The tip of the gnomon folded into the plane.
-    const auto [xc, yc] = centro(p);
+    const PostoCentro centro = CentroScalato(p);
+    const Reale xc = centro.x, yc = centro.y;
     const Reale px = v.gn * cos(-S) * v.unita;
     const Reale py = v.gn * sin(-S) * v.unita;
 
@@ -50,7 +39,7 @@ void TracciaStiloPolare(Corsa &c, const LineeAttese &linee) {
 
 void TracciaVerticaleCentro(Corsa &c, const LineeAttese &linee) {
     Tavolo &t = c.s.tavolo;
-    const Reale xc = centro(c.piano()).x;
+    const Reale xc = CentroScalato(c.piano()).x;
     const Pretendi pretendi(t, Specie::Mezzogiorno);
     t.TracciaLinea(xc, t.ShiftY(), xc, -2 * t.ShiftY(), linee[0].colore);
 }

@@ -13,7 +13,7 @@ void LasciaLemniscata(Corsa &c) {
     LasciaStiloParete(v, c.piano());
     v.y0 = DistanzaEquinoziale(v.gn, v.altStilo);
     LasciaDalMeridiano(v);
-    v.corrLong = v.segnoLat == -1 ? -PI * v.lonPiu15 / 180 : CorrezioneLongitudine(v);
+    v.corrLong = v.segnoLat == -1 ? -CorrezioneLongitudine(v) : CorrezioneLongitudine(v);
 }
 
 void LineeLemniscata(const Corsa &c, LineeAttese &linee) {

@@ -11,13 +11,13 @@ namespace {
 void lasciaAngoli(Variabili &v) {
     const Piano p(v);
     if (v.lat == 0) {
-        v.angSustilare = (PI / 2) * SegnoDeclinazione(v.decR, v.decR);
+        v.angSustilare = (PI / 2) * SegnoDeclinazione(v.decR);
         v.altStilo = StiloMuroEquatore(v.decR);
         v.angoloOra = (PI / 2) * v.segnoDec;  // the sign that the run before left: meant
     } else {
         v.angSustilare = SustilareMuro(p);
         v.altStilo = StiloMuro(p);
-        v.angoloOra = -Atn(tan(v.angSustilare) / sin(v.altStilo));
+        v.angoloOra = -OraDaSustilare(v.angSustilare, v.altStilo);
     }
 }
 

@@ -1,6 +1,7 @@
 // The table of features: a run of an engine is the walk of one. A new line is a routine and a row.
 #pragma once
 
+#include <iterator>
 #include <vector>
 
 #include "sessione/sessione.h"
@@ -37,6 +38,12 @@ void PercorriCaratteristiche(Corsa &c, Motore motore, const Caratteristica<Corsa
         c.verifica();
         if (!s.corretta({motore, r.specie, r.di, linee})) r.traccia(c, linee);
     }
+}
+
+// Lists the lines of a row that are the same on every dial.
+template <const auto &righe, class Corsa>
+void LineeFisse(const Corsa &, LineeAttese &linee) {
+    linee.insert(linee.end(), std::begin(righe), std::end(righe));
 }
 
 // Lists the one line of a row that has no more to say of it than its colour.

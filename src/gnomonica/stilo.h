@@ -14,8 +14,9 @@ namespace ombrelia {
 // 1 for a plane that declines to the West or not at all, else -1. Given: dec as typed, which is tested against 0; decR, whose
 // sign is taken. Gives: 1, -1, or 0 for a decR of 0 beside another dec. Source: by definition. Faults: none.
 inline Valore SegnoDeclinazione(Valore dec, Valore decR) { return dec == 0 ? Valore(1) : Sgn(decR); }
-// Sign of a latitude, 1 on the equator. Given: in any unit. Gives: 1 or -1. Source, faults: as above.
-inline Valore SegnoLatitudine(Valore lat) { return lat == 0 ? Valore(1) : Sgn(lat); }
+// The same where the declination in radians alone is asked: vertical engine, hours' report. Given, gives, source, faults: as
+// above.
+inline Valore SegnoDeclinazione(Valore decR) { return SegnoDeclinazione(decR, decR); }
 
 // A plane as sines, cosines and tangents, computed once.
 //
@@ -122,7 +123,8 @@ inline Piano Muro(Valore phi, Valore g) { return {phi, g, 0, 1, 1}; }
 // Elevation of the style over a wall. Gives: radians, negative over a wall that looks away from the equator. Source: sin e = cos
 // phi cos g (Rohr, Sundials; Waugh, Sundials, declining dials). Faults: no value at +-1, so on a wall that looks due south at the
 // equator.
-inline Valore StiloMuro(const Piano &p) { return ArcSin(p.cphi * p.cg); }
+inline Valore SenStiloMuro(const Piano &p) { return p.cphi * p.cg; }
+inline Valore StiloMuro(const Piano &p) { return ArcSin(SenStiloMuro(p)); }
 // The same by squares of the factors: analemma of the direct engine, solstices of the analytic one, reports; and its tangent.
 // Gives, source: as above. Faults: no value where the sine is 1.
 inline Valore TanStiloMuro(const Piano &p) { return p.cphi * p.cg / Sqr(1.0 - p.cphi * p.cphi * (p.cg * p.cg)); }
@@ -144,10 +146,20 @@ inline Valore OraSustilareMuro(const Piano &p) { return p.phi == 0 ? Valore(PI /
 // The same, known but for half a turn: hours' report. Given, source: as above. Gives: radians. Faults: no value at phi = 0.
 inline Valore OraSustilareMuroMezza(Valore phi, Valore g) { return Atn(tan(g) / sin(phi)); }
 
+// By the angles of substyle and style, known but for half a turn: vertical and analytic engine. Given: sigma, epsilon, radians.
+// Gives: radians. Source: Napier's rule in the triangle above. Faults: no value for a style in the wall.
+inline Valore OraDaSustilare(Valore sigma, Valore epsilon) { return Atn(tan(sigma) / sin(epsilon)); }
+
 // Sine of the hour angle of a plane's substyle. Given: declination, inclination and the style's elevation, radians. Gives: with
 // the sign of the declination. Source: the right spherical triangle of zenith, pole and substyle. Faults: no value for a style
 // square to the plane.
 inline Valore SenOraSustilare(Valore g, Valore i, Valore stilo) { return sin(g) * cos(i) / cos(stilo); }
+
+// Ordinate of the horizon of a plane. Given: ortostilo, inclination in radians. Gives: the unit of gn, y upward. Source:
+// elementary geometry. Faults: overflow alone.
+inline Valore OrdinataOrizzonte(Valore gn, Valore i) { return gn * tan(i); }
+// The same scaled and with a sign, 1 or -1: vertical engine. Given: besides unita. Gives: metres. Source, faults: as above.
+inline Valore OrdinataOrizzonte(Valore segno, Valore unita, Valore i, Valore gn) { return segno * unita * tan(i) * gn; }
 
 // Distance from the foot of the ortostilo to the equinoctial along the substyle. Given: ortostilo, style's elevation in radians.
 // Gives: the unit of gn. Source: elementary geometry of the style's triangle. Faults: no value for an endless one.

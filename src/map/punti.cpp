@@ -51,7 +51,7 @@ void PuntoOpzionale(Sessione &s) {
     s.in.punto = 0;
 
     Reale x, y;
-    Proiezione(Piano::conComplemento(v.latR, v.decR, zr, v.gn, v.unita))(H, D, x, y);
+    Proiezione(v.latR, v.decR, zr, v.gn, v.unita)(H, D, x, y);
     if (!s.ombraVera(H, D, x, y)) return;
     // The circle's radius is not scaled by unita, the star's is: meant.
     s.tavolo.TracciaCerchio(x, y, (v.gn / 20) * std::sin(18 * PI / 180) / std::sin(126 * PI / 180), GIALLO, BLU, 1, -CERCHIO, 0);

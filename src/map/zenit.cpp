@@ -26,7 +26,7 @@ double LeggiPiano(Sessione &s, const Lettura &letto, Valore gn) {
 Zenit::Zenit(const Sessione &s, const Lettura &letto, double zr)
     : senPhi_(std::sin(s.v.latR.numero())),
       cosPhi_(std::cos(s.v.latR.numero())),
-      proiezione_(Piano::conComplemento(s.v.latR, s.v.decR, zr, s.v.gn, 1)),
+      proiezione_(s.v.latR, s.v.decR, zr, s.v.gn, 1),
       fattore_((s.in.ck_inv == 1 || s.in.ckCorretta == 1) && !Specchiato(s) ? -1 : 1),
       orizzontale_(letto.inc == 90),
       tanDec_(std::tan(s.v.decR.numero())),

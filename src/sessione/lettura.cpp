@@ -31,7 +31,7 @@ Lettura::Lettura(const DialInputs &in)
       qLat(Val(in.txtQlat)),
       qLon(Val(in.txtQlon)),
       allungo(Val(in.txtSUBSTYLE)),
-      unita(in.ChCentimetro == 1 ? 0.001 : 1.0),
+      unita(UnitaDi(in)),
       fuso(in.ck_Etna == 1) {}
 
 }  // namespace ombrelia

@@ -7,6 +7,9 @@
 
 namespace ombrelia {
 
+// Metres in a unit of length of the fields. Given: ChCentimetro. Gives: 1 or 0.001. Source: by definition. Faults: none.
+inline double UnitaDi(const DialInputs &in) { return in.ChCentimetro == 1 ? 0.001 : 1.0; }
+
 // Degrees and lengths as typed; longitudes West positive.
 struct Lettura {
     explicit Lettura(const DialInputs &in);

@@ -69,7 +69,7 @@ void LeggiParametri(Sessione &s, const Lettura &letto) {
     v.passo = letto.passo;
     v.limMin = letto.limMin;
     v.limMax = letto.limMax;
-    v.oraFuso = letto.fuso ? 1 : 0;
+    LasciaFuso(v, letto);
     v.meridiano = letto.meridiano;
     v.letture = v.letture + 1;
     if (v.letture == 1) FissaOriginale(v);
@@ -94,7 +94,7 @@ Cornice CorniceDi(const Lettura &letto) {
     return c;
 }
 
-void LeggiUnita(Sessione &s) { s.v.unita = s.in.ChCentimetro == 1 ? 0.001 : 1.0; }
+void LeggiUnita(Sessione &s) { s.v.unita = UnitaDi(s.in); }
 
 void TracciaCornice(Sessione &s, const Lettura &letto) {
     Variabili &v = s.v;

@@ -123,6 +123,8 @@ struct Cornice {
 };
 [[nodiscard]] Cornice CorniceDi(const Lettura &letto);
 [[nodiscard]] inline Cornice LeggiCornice(const Sessione &s) { return CorniceDi(Lettura(s.in)); }
+// Leaves oraFuso as its box says.
+inline void LasciaFuso(Variabili &v, const Lettura &letto) { v.oraFuso = letto.fuso ? 1 : 0; }
 // Leaves unita as ChCentimetro says.
 void LeggiUnita(Sessione &s);
 // The frame, drawn by the unit in force; leaves its corner in x1 and y1.

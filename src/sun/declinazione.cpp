@@ -114,7 +114,7 @@ std::string componi(const DatiDeclinazione &d, const EsitoDeclinazione &e, Valor
 void calcola(const DatiDeclinazione &d, const Dizionario &dizionario, EsitoDeclinazione &e) {
     constexpr std::string_view SERIE = "la data porta le serie del Sole fuori dai numeri."_it;
     leggi(d);
-    const Valore segnoLat = d.lat == 0 ? Valore(1) : Sgn(d.lat);
+    const Valore segnoLat = SegnoLatitudine(d.lat);
     const Valore c = preteso(d.ore + d.minuti / 60 + d.secondi / 3600, SERIE);
 
     std::string mese = TestoNumero(d.mese.v), giorno = TestoNumero(d.giorno.v);

@@ -39,7 +39,7 @@ void TracciaSustilare(Corsa &c, const LineeAttese &linee) {
 // The ordinate, metres; a plane that leans away or lies level keeps that of the line before. Its field shows it.
 void LasciaOrizzonte(Corsa &c) {
     Variabili &v = c.s.v;
-    if (v.iz_o < PI / 2) v.yOriz = OrdinataOrizzonte(v, Sgn(v.latR));
+    if (v.iz_o < PI / 2) v.yOriz = OrizzonteOriginale(v, Sgn(v.latR));
     c.s.Scrivi(&DialInputs::txtOriz, TestoNumero(v.yOriz.numero()));
 }
 void TracciaOrizzonte(Corsa &c, const LineeAttese &linee) {
@@ -123,7 +123,7 @@ void lasciaQibla(Variabili &v, Valore lon) {
 
 }  // namespace
 
-void TracciaQibla(Corsa &c, const LineeAttese &) {
+void TracciaQibla(Corsa &c, const LineeAttese &linee) {
     Sessione &s = c.s;
     lasciaQibla(s.v, c.letto.lon);
     const Variabili &v = c.v;
@@ -148,7 +148,7 @@ void TracciaQibla(Corsa &c, const LineeAttese &) {
         proietta.perParete(SenCos(Hr), tanD, x, y);
         if (!c.cornice.contiene(x, y)) continue;
         if (orientale) s.tavolo.TracciaPunto(x, y, VERDE);
-        if (nord && y <= limite) s.tavolo.TracciaPunto(x, y, ROSSO);
+        if (nord && y <= limite) s.tavolo.TracciaPunto(x, y, linee[0].colore);
         if (!nord && y >= limite) s.tavolo.TracciaPunto(-x, -y, MAGENTA);
     }
 }

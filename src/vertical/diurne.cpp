@@ -54,7 +54,7 @@ Limiti limitiDelGiorno(const Corsa &c, Valore delta) {
     l.altStilo = StiloMuro(c.piano());
     Reale semiArco;
     Reale &pPiede = l.pPiede;
-    pPiede = Atn(tan(sustilare) / sin(l.altStilo));
+    pPiede = OraDaSustilare(sustilare, l.altStilo);
     pPiede = DalLatoDi(sustilare, pPiede);
     // The program's quarter turn has a negative tangent: at the equinox the arc would be turned round and the line lost.
     if (dr == 0) semiArco = Sgn(sin(l.altStilo)) * PI / 2;
@@ -82,7 +82,7 @@ Limiti limitiDelGiorno(const Corsa &c, Valore delta) {
 // elevation, which the caption takes, and the hour angle of the substyle, radians.
 void lascia(Variabili &v, const Diurna &d, Valore delta, const Limiti &l) {
     v.deltaOpz = delta;
-    v.yOriz = OrdinataOrizzonte(v, d.conSegno ? Sgn(v.latR) : 1);
+    v.yOriz = OrizzonteOriginale(v, d.conSegno ? Sgn(v.latR) : 1);
     v.altStilo = l.altStilo;
     v.angoloOra = l.pPiede;
 }
@@ -136,7 +136,7 @@ void TracciaDiurne(Corsa &c, const LineeAttese &linee) {
 // The horizon's ordinate, metres, that the points of either kind are held against.
 void LasciaEquinoziale(Corsa &c) {
     Variabili &v = c.s.v;
-    v.yOriz = OrdinataOrizzonte(v, Sgn(v.latR));
+    v.yOriz = OrizzonteOriginale(v, Sgn(v.latR));
 }
 
 void TracciaEquinoziale(Corsa &c, const LineeAttese &linee) {

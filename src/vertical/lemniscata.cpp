@@ -27,7 +27,7 @@ constexpr Tacche TACCHE[] = {
 // time; the distance to the equinoctial, in the unit of gn, that the reports of an analytic dial begin with.
 void LasciaLemniscata(Corsa &c) {
     Variabili &v = c.s.v;
-    v.yOriz = OrdinataOrizzonte(v, segnoPiano(v));
+    v.yOriz = OrizzonteOriginale(v, segnoPiano(v));
     if (v.flagTrasformato != 1 && v.flagVerticale == 1) v.lon = v.lonEq;
     LasciaDalMeridiano(v);
     v.corrLong = CorrezioneLongitudine(v);  // whatever oraFuso says
@@ -95,8 +95,8 @@ void TracciaTacche(Corsa &c, const LineeAttese &linee) {
 void LasciaMezzogiorno(Corsa &c) {
     Variabili &v = c.s.v;
     const Reale L0 = v.unita * c.letto.gn;
-    v.oraFuso = c.letto.fuso ? 1 : 0;
-    v.yOriz = segnoPiano(v) * v.unita * tan(v.iz_o) * L0;  // unita twice: meant
+    LasciaFuso(v, c.letto);
+    v.yOriz = OrdinataOrizzonte(segnoPiano(v), v.unita, v.iz_o, L0);  // unita twice: meant
     v.lon = c.letto.lon;
 }
 

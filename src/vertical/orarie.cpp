@@ -9,10 +9,10 @@ namespace ombrelia::vertical {
 // Horizon's ordinate, metres; the box of the zone's time and the longitude, as typed; the side that the count of hours begins on.
 void LasciaOre(Corsa &c) {
     Variabili &v = c.s.v;
-    v.yOriz = OrdinataOrizzonte(v, Sgn(v.latR));
-    v.oraFuso = c.letto.fuso ? 1 : 0;
+    v.yOriz = OrizzonteOriginale(v, Sgn(v.latR));
+    LasciaFuso(v, c.letto);
     v.lon = c.letto.lon;
-    v.segnoDecPiana = SegnoDeclinazione(v.decR, v.decR);
+    v.segnoDecPiana = SegnoDeclinazione(v.decR);
 }
 
 void LineeOre(const Corsa &c, LineeAttese &linee) {
@@ -44,11 +44,12 @@ void TracciaOreAstro(Corsa &c, const LineeAttese &linee) {
     Sessione &s = c.s;
     const Variabili &v = c.v;
     const Sfera sfera = c.sfera();
-    // By degrees up to 23.55, which the count meets to the last bit and which becomes the solstice.
+    // By degrees up to one that the count meets to the last bit and that becomes the solstice.
+    constexpr double OLTRE = 23.55;
     std::vector<Sfera::Giorno> anno;
     double ultima = 0;
-    for (const double d : Conteggio(-OBLIQUITA_2345, 23.55, 1)) {
-        ultima = d == 23.55 ? OBLIQUITA_2345 : d;
+    for (const double d : Conteggio(-OBLIQUITA_2345, OLTRE, 1)) {
+        ultima = d == OLTRE ? OBLIQUITA_2345 : d;
         anno.push_back(sfera.giorno(ultima));
     }
     LasciaDeclinazione(s.v, ultima);
@@ -69,7 +70,7 @@ void TracciaOreAstro(Corsa &c, const LineeAttese &linee) {
 // The box of the zone's time, the longitude and the day of choice, as typed; the declination that the caption tells.
 void LasciaNumeri(Corsa &c) {
     Variabili &v = c.s.v;
-    v.oraFuso = c.letto.fuso ? 1 : 0;
+    LasciaFuso(v, c.letto);
     v.decGradi = c.letto.dec;
     v.decGradi = PiegaDeclinazione(v.latR, v.decGradi);
     v.lon = c.letto.lon;

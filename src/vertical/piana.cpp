@@ -3,8 +3,8 @@
 
 #include "glyphs/zodiaco.h"
 #include "gnomonica/almucantarat.h"
+#include "gnomonica/centro.h"
 #include "gnomonica/contorno.h"
-#include "gnomonica/originale.h"
 #include "sessione/limiti.h"
 #include "vertical/corsa.h"
 
@@ -33,7 +33,7 @@ void didascalia(const Corsa &c, Valore c2) {
         {"sottostilo = "_it, Abs(Tronca5(v.gn / tan(v.altStilo))), misura},
         {"ascissa centro = "_it, Tronca5(v.xCentro), misura},
         {"ordinata centro = "_it, Tronca5(v.yCentro), misura},
-        {"ordinata orizzonte = "_it, Tronca5(tan(v.iz_o) * v.gn), misura},
+        {"ordinata orizzonte = "_it, Tronca5(OrdinataOrizzonte(v.gn, v.iz_o)), misura},
         {"Altezza del sole alle 12 d'estate = "_it, Tronca5(hEstate), " °"},
         {"Altezza del sole alle 12 d'inverno = "_it, Tronca5(hInverno), " °"},
     };
@@ -85,22 +85,13 @@ void lasciaStilo(Corsa &c, Valore seno) {
     v.semiH = c.s.tavolo.ShiftY();
 }
 
-struct Centro {
-    Valore x, y;
-};
-// The dial's centre, metres, y upward; no value where the plane has none.
-Centro calcolaCentroPiana(const Piano &p) {
-    const Valore c = -p.cphi * p.cg;
-    return {p.unita * p.sg * p.cphi * p.gn / c, p.unita * p.sphi * -p.gn / c};
-}
-// The same as the caption tells it, in the unit of the fields, by the elevation that the lines left.
-Centro centroDidascalia(const Corsa &c) {
-    const Variabili &v = c.v;
+// The centre as the caption tells it, by the elevation that the lines left.
+PostoCentro centroDidascalia(const Corsa &c) {
     const Reale sustilare = SustilareMuroIntera(c.piano());
-    return {sin(sustilare) * v.gn / tan(v.altStilo), cos(sustilare) * -v.gn / tan(v.altStilo)};
+    return CentroDaStiloIntero(c.v.gn, sustilare, c.v.altStilo);
 }
 // First the one, then the other; where a plane has no centre, that of the dial before stays.
-void lasciaCentro(Variabili &v, const Centro &c) {
+void lasciaCentro(Variabili &v, const PostoCentro &c) {
     v.xCentro = c.x;
     v.yCentro = c.y;
 }
@@ -116,6 +107,9 @@ bool senzaCifre(const Corsa &c) { return !conRomani(c) && !conArabi(c); }
 bool nonOrizzontale(const Corsa &c) { return !(c.v.inc_o == 90); }
 bool conEtichette(const Corsa &c) { return nonOrizzontale(c) && !conRomani(c); }
 bool piena(const Corsa &c) { return c.s.in.ckFunzione == 1; }
+
+constexpr LineaAttesa EQUINOZIALE[] = {{0, 0, "21 III or 23 IX Eq", BLU}};
+constexpr LineaAttesa LEMNISCATA[] = {{0, 12, "Lemniscata", MAGENTA}};
 
 constexpr Riga CARATTERISTICHE[] = {
     {&In::chkOreAstronomiche, Specie::Ora, "true hours, halves and quarters", LineeOre, TracciaOreAstro, nullptr, LasciaOre},
@@ -137,19 +131,13 @@ constexpr Riga CARATTERISTICHE[] = {
     {&In::ckTemp, Specie::Etichetta, "their numbers", NumeriTemporarie, EtichetteTemporarie,
      [](const Corsa &c) { return c.s.in.ck_Italiche != 1 && c.s.in.ck_babiloniche != 1 && !conRomani(c); }, nullptr,
      Specie::Temporaria},
-    {&In::ck_Equinoziale, Specie::Equinoziale, "the equinoctial of a wall that declines",
-     [](const Corsa &, LineeAttese &l) {
-         l.push_back({0, 0, "21 III or 23 IX Eq", BLU});
-     },
+    {&In::ck_Equinoziale, Specie::Equinoziale, "the equinoctial of a wall that declines", LineeFisse<EQUINOZIALE>,
      TracciaEquinoziale, [](const Corsa &c) { return !(c.v.declinSessag == 0); }, LasciaEquinoziale},
     {&In::ck_Equinoziale, Specie::Equinoziale, "the equinoctial of one that does not", UnaLinea<BLU>, PuntiEquinozialeDecZero,
      [](const Corsa &c) { return c.v.declinSessag == 0; }, LasciaEquinoziale},
     {&In::ck_Orizzonte, Specie::Orizzonte, "the horizon", UnaLinea<VERDE_SCURO>, TracciaOrizzonte, nullptr, LasciaOrizzonte},
-    {&In::ck_Lemniscate, Specie::Analemma, "mean noon of the zone",
-     [](const Corsa &, LineeAttese &l) {
-         l.push_back({0, 12, "Lemniscata", MAGENTA});
-     },
-     TracciaLemniscata, nullptr, LasciaLemniscata},
+    {&In::ck_Lemniscate, Specie::Analemma, "mean noon of the zone", LineeFisse<LEMNISCATA>, TracciaLemniscata, nullptr,
+     LasciaLemniscata},
     {&In::ck_Lemniscate, Specie::Tacca, "day marks across it", LineeTacche, TracciaTacche, piena},
     // ckZodiac has no step of its own: the signs come with the lemniscate.
     {&In::ck_Lemniscate, Specie::Nessuna, "signs of the zodiac", nullptr,
@@ -162,6 +150,7 @@ constexpr Riga CARATTERISTICHE[] = {
     {&In::ck_Sustilare, Specie::OraSustilare, "hour line of the substyle", UnaLinea<BLU>, TracciaSustilare},
     {&In::ck_Triangolo, Specie::Stilo, "triangle of the polar style", LineeTriangolo, TracciaTriangoloStilo},
     {&In::ck_Triangolo, Specie::Nessuna, "its measures", nullptr, TestiTriangolo},
+    // In the colour of the list on a northern plane; a southern one and walls that look due east or west have their own.
     {&In::CkQibla, Specie::Qibla, "bearing of the Qibla", UnaLinea<ROSSO>, TracciaQibla, nullptr, RileggiPiano},
     {&In::ckAlt, Specie::Almucantarat, "equal altitudes", [](const Corsa &c, LineeAttese &l) { LineeAlmucantarat(c.letto, l); },
      [](Corsa &c, const LineeAttese &l) { TracciaAlmucantarat(c, l); }},
@@ -179,12 +168,9 @@ constexpr Riga ORIZZONTE_DI_NUOVO[] = {
 };
 
 // After the caption.
+constexpr LineaAttesa ASR[] = {{0, 1, "", SMERALDO}};
 constexpr Riga ULTIME[] = {
-    {&In::ckAsr, Specie::Asr, "afternoon prayer",
-     [](const Corsa &, LineeAttese &l) {
-         l.push_back({0, 1, "", SMERALDO});
-     },
-     TracciaAsr, nullptr, RileggiPiano},
+    {&In::ckAsr, Specie::Asr, "afternoon prayer", LineeFisse<ASR>, TracciaAsr, nullptr, RileggiPiano},
 };
 
 }  // namespace
@@ -210,23 +196,22 @@ bool TroppoFitta(Sessione &s, const Lettura &letto) {
            (in.ckAlt == 1 && denso({-OBLIQUITA_2345, OBLIQUITA_2345, letto.passo * 10}, 22));
 }
 
-void Piana_Esegui(Sessione &s) {
-    Corsa c(s, Lettura(s.in));
+void Piana_Esegui(Sessione &s, const Lettura &letto) {
+    Corsa c(s, letto);
     const Variabili &v = c.v;
-    if (TroppoFitta(s, c.letto)) return;
-    RinfrescaOriginale(s, c.letto);
+    if (TroppoFitta(s, letto)) return;
     s.utente.Puntatore(true);
     s.Messaggio("Piana _Esegui: Vertical dial by spherical trigonometry ");
     leggiParametriPiana(c);
-    const Reale c2 = c.piano().cg * c.piano().cphi;
+    const Reale c2 = SenStiloMuro(c.piano());
     lasciaStilo(c, c2);
     TracciaAssi(s);
-    lasciaCentro(s.v, calcolaCentroPiana(c.piano()));
+    lasciaCentro(s.v, CentroMuro(c.piano()));
 
     PercorriCaratteristiche(c, Motore::Verticale, CARATTERISTICHE);
     PercorriCaratteristiche(c, Motore::Verticale, ORIZZONTE_DI_NUOVO);
     if (s.in.ck_Orizzonte == 1) s.Scrivi(&DialInputs::txtOriz, TestoNumero(v.yOriz.numero()));
-    TracciaLimiti(s, c.letto, c.cornice);
+    TracciaLimiti(s, letto, c.cornice);
     s.utente.Puntatore(false);
 
     lasciaCentro(s.v, centroDidascalia(c));

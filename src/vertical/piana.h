@@ -6,8 +6,9 @@
 
 namespace ombrelia::vertical {
 
-// Draws the whole dial onto what is there. Refuses, with a message, loops too long.
-void Piana_Esegui(Sessione &s);
+// Draws the whole dial of the fields as read onto what is there; the original dial is refreshed by now. Refuses, with a message,
+// loops too long.
+void Piana_Esegui(Sessione &s, const Lettura &letto);
 
 // Whether Piana_Esegui would refuse for loops too long; tells the user which field.
 [[nodiscard]] bool TroppoFitta(Sessione &s, const Lettura &letto);

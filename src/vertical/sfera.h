@@ -116,8 +116,8 @@ private:
 };
 
 // Ordinate of the horizon of the original plane. Given: iz_o, radians, gn, unita; segno, 1 or -1. Gives: metres, y upward.
-// Source: elementary geometry. Faults: overflow alone.
-inline Valore OrdinataOrizzonte(const Variabili &v, Valore segno) { return segno * v.unita * tan(v.iz_o) * v.gn; }
+// Source, faults: as in stilo.h.
+inline Valore OrizzonteOriginale(const Variabili &v, Valore segno) { return OrdinataOrizzonte(segno, v.unita, v.iz_o, v.gn); }
 
 // The chord test against it: both ends.
 class Orizzonte {

@@ -241,7 +241,7 @@ void TracciaTemporarie(Corsa &c, const LineeAttese &linee) {
 // The horizon's ordinate, metres: no number is held against it, the last horizon is drawn at it.
 void LasciaEtichette(Corsa &c) {
     Variabili &v = c.s.v;
-    v.yOriz = OrdinataOrizzonte(v, v.iz_o < PI / 2 ? 1 : -1);
+    v.yOriz = OrizzonteOriginale(v, v.iz_o < PI / 2 ? 1 : -1);
 }
 
 void NumeriItaliche(const Corsa &c, LineeAttese &linee) { numeri(ITALICHE, c.s.tavolo.ForeColor, linee); }

@@ -2,6 +2,7 @@
 // triangle under it, and the measures as text.
 #include <optional>
 
+#include "gnomonica/centro.h"
 #include "vertical/corsa.h"
 
 namespace ombrelia::vertical {
@@ -24,7 +25,7 @@ struct Triangolo {
 Triangolo calcola(const Corsa &c) {
     const Variabili &v = c.v;
     const Piano &p = c.piano();
-    const Valore segnoDecLocale = SegnoDeclinazione(p.g, p.g);
+    const Valore segnoDecLocale = SegnoDeclinazione(p.g);
     const Valore segnoLatLocale = SegnoLatitudine(p.phi);
     const Reale allungo = v.unita * c.letto.allungo;
     const Reale sust = SustilareMuroIntera(p);
@@ -32,7 +33,7 @@ Triangolo calcola(const Corsa &c) {
     t.altStilo = v.altStilo;  // what faults keeps the run's
     t.sottostilo = v.segStiloSus;
     const Reale &g = t.altStilo;
-    t.altStilo = ArcSin(-p.cphi * p.cg);
+    t.altStilo = -StiloMuro(p);
     t.sottostilo = v.unita * Abs(v.gn / tan(g));
 
     t.lunghezza = allungo + t.sottostilo;
@@ -41,8 +42,9 @@ Triangolo calcola(const Corsa &c) {
     t.P.y = cos(sust) * -allungo;
     t.Q.x = t.P.x + cos(sust) * tan(g) * t.lunghezza * segnoDecLocale;
     t.Q.y = t.P.y + sin(sust) * tan(g) * t.lunghezza * segnoDecLocale;
-    t.F.x = segnoLatLocale * v.unita * p.tg * -v.gn;
-    t.F.y = segnoLatLocale * v.unita * p.tphi * v.gn / p.cg;
+    const PostoCentro centro = CentroDaMezzogiorno(p, segnoLatLocale);
+    t.F.x = centro.x;
+    t.F.y = centro.y;
     const Valore gnVerso = v.gn * -segnoDecLocale;
     t.G.x = segnoLatLocale * v.unita * cos(sust) * gnVerso;
     t.G.y = segnoLatLocale * v.unita * sin(sust) * gnVerso;

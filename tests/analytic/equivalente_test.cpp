@@ -31,7 +31,7 @@ TEST(Equivalente, TheSameHourLines) {
 
         // By the vertical engine, against the lines as the plane had them.
         b.premi("Tavolo1.cmdPulisci");
-        vertical::Piana_Esegui(b.s);
+        vertical::Piana_Esegui(b.s, Lettura(b.s.in));
         const auto v = prova::Confronta(prova::Rette(originale, 0.03), prova::Rette(b.linee("Astro"), 0.03), false);
         EXPECT_LT(v.peggiore, 1e-6) << r[0] << " drawn by the vertical engine";
         EXPECT_GT(v.punti, 4) << r[0];

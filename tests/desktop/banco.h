@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QAction>
 #include <QApplication>
 #include <QLineEdit>
 #include <QTest>
@@ -36,6 +37,14 @@ struct BancoFinestra {
     void premi(std::string_view nome) { QTest::mouseClick(w(nome), Qt::LeftButton); }
     // A box is pressed where its mark is.
     void spunta(std::string_view nome) { w<QAbstractButton>(nome)->click(); }
+    // An entry of the menus, by its name in the table of commands.
+    void comando(const char *nome) {
+        auto *a = f.findChild<QAction *>(QStringLiteral("comando.") + QLatin1String(nome));
+        if (!a) a = f.findChild<QAction *>(QLatin1String(nome));
+        ASSERT_NE(a, nullptr) << nome;
+        a->trigger();
+    }
+    void adatta() { f.findChild<QAbstractButton *>(QStringLiteral("Adatta"))->click(); }
     QAbstractButton *vivo() { return f.findChild<QAbstractButton *>(QStringLiteral("disegnaMentreScrivi")); }
     void aspettaVivo() {
         ASSERT_TRUE(QTest::qWaitFor([this] { return !f.vivo().attivo(); }, 20000));

@@ -12,8 +12,8 @@ namespace ombrelia::prova {
 
 class DialoghiDiProva final : public desktop::Dialoghi {
 public:
-    std::vector<std::string> avvisi, domande, stampe;
-    std::deque<std::string> risposte;  // of file and input boxes
+    std::vector<std::string> avvisi, domande, stampe, proposti;  // proposti: files' names
+    std::deque<std::string> risposte;                            // of file and input boxes
     desktop::Salvataggio prima = desktop::Salvataggio::Scarta;
     bool si = true;
     int beepSentiti = 0;
@@ -29,7 +29,8 @@ public:
         const auto r = risposta();
         return r ? QString::fromStdString(*r) : proposta;
     }
-    std::optional<QString> file(QWidget *, bool, const QString &, const QString &, const QString &) override {
+    std::optional<QString> file(QWidget *, bool, const QString &, const QString &, const QString &proposto) override {
+        proposti.push_back(proposto.toStdString());
         const auto r = risposta();
         return r ? std::optional(QString::fromStdString(*r)) : std::nullopt;
     }

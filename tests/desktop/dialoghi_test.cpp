@@ -1,15 +1,20 @@
 // The window's dialogs: files for machines, readings of the wall and the clock of its zone.
+#include <QCalendarWidget>
 #include <QComboBox>
 #include <QDialog>
+#include <QDoubleSpinBox>
 #include <QFile>
 #include <QLabel>
+#include <QMenu>
 #include <QPushButton>
 #include <QSettings>
 #include <QTableWidget>
+#include <QToolButton>
 #include <cmath>
 #include <fstream>
 
 #include "app/progetto.h"
+#include "core/file.h"
 #include "desktop/banco.h"
 #include "desktop/letture_parete.h"
 #include "desktop/note_campi.h"
@@ -81,6 +86,27 @@ TEST(PerMacchina, ShowsThePathsBeforeTheyAreSaved) {
     EXPECT_FALSE(b.d->isVisible());
     EXPECT_NE(b.campo("Tavolo1.p_mess").find("taglio.plt"), std::string::npos);
     EXPECT_TRUE(b.dialoghi.avvisi.empty());
+}
+
+// $INSUNITS: 4 millimetres, 1 inches; 25.4 of the ones are one of the others.
+TEST(PerMacchina, ADxfHasTheUnitThatWasChosen) {
+    double larga[2] = {};
+    for (const int pollici : {0, 1}) {
+        BancoMacchina b;
+        b.apri();
+        b.dentro<QComboBox>("unita")->setCurrentIndex(pollici);
+        ASSERT_TRUE(QTest::qWaitFor([&] { return b.dentro<QPushButton>("salva")->isEnabled(); }, 20000));
+        b.dialoghi.risposte = {"unita.dxf"};
+        b.dentro<QPushButton>("salva")->click();
+        const QStringList righe =
+            desktop::Q(*LeggiFile("unita.dxf", 1U << 28)).remove(QLatin1Char('\r')).split(QLatin1Char('\n'));
+        const auto dopo = [&](const char *nome, int quante) {
+            return righe.value(righe.indexOf(QLatin1String(nome)) + quante).trimmed();
+        };
+        EXPECT_EQ(dopo("$INSUNITS", 2), QString::number(pollici ? 1 : 4));
+        larga[pollici] = dopo("$EXTMAX", 2).toDouble() - dopo("$EXTMIN", 2).toDouble();
+    }
+    EXPECT_NEAR(larga[0], 25.4 * larga[1], 0.01);
 }
 
 TEST(PerMacchina, TellsWhyThereIsNothingToSave) {
@@ -156,6 +182,20 @@ TEST(LettureParete, MeanSpreadAndTheReadingThatIsOff) {
         EXPECT_FALSE(b.t->item(4, colonna)->toolTip().isEmpty()) << giorno << ora << angolo;
         EXPECT_TRUE(b.t->item(4, 3)->text().isEmpty()) << giorno << ora << angolo;
     }
+}
+
+// A wall that looks West has a declination above zero, as the field's caption says.
+TEST(LettureParete, TheMeanSaysItsSideAndTheCalendarItsDay) {
+    BancoParete b("44.494", "-11.343", "-15");
+    const auto *detto = b.f.moduli().letture().findChild<QLabel *>(QStringLiteral("detto"));
+    for (const auto &[angolo, verso] : {std::pair{"-60", "Ovest"}, {"60", "Est"}}) {
+        b.scriviRiga(0, "03/05/2026", "11:06", angolo);  // the Sun is within a degree or two of South
+        EXPECT_TRUE(detto->text().contains(QString::fromUtf8(verso))) << detto->text().toStdString();
+    }
+    auto *menu = b.f.findChild<QToolButton *>(QStringLiteral("calendario"))->menu();
+    emit menu->aboutToShow();
+    emit menu->findChild<QCalendarWidget *>()->clicked(QDate(2026, 7, 4));
+    EXPECT_EQ(b.campo("frmDeclin.txtDay") + '/' + b.campo("frmDeclin.txtMonth") + '/' + b.campo("frmDeclin.txtYear"), "4/7/2026");
 }
 
 TEST(LettureParete, TheTableIsUndone) {
@@ -303,6 +343,44 @@ TEST(PagineCarta, PrintOffersThePagesThatHoldLines) {
     b.dialoghi.risposte = {"scelte.pdf"};
     d->findChild<QPushButton *>(QStringLiteral("salva"))->click();
     EXPECT_EQ(pagineDelPdf("scelte.pdf"), 2);
+}
+
+TEST(PagineCarta, PagesAreTurnedAndChosenByKeysAndPointer) {
+    QSettings().remove(QStringLiteral("pagine"));
+    BancoFinestra b;
+    b.spunta("chkOreAstronomiche");
+    b.adatta();
+    b.premi("cmdRun");
+    // A sheet that a page holds one way only is larger than a page.
+    b.s().tavolo.QuadranteL(0.5);
+    b.s().tavolo.QuadranteH(0.2);
+    b.premi("Tavolo1.cmdStampa");
+    EXPECT_TRUE(b.dialoghi.stampe.empty());
+    b.s().tavolo.QuadranteH(0.9);
+    delete b.f.findChild<QDialog *>(QStringLiteral("pagineCarta"));
+    b.comando("impagina");
+    auto *d = dynamic_cast<desktop::PagineCarta *>(b.f.findChild<QDialog *>(QStringLiteral("pagineCarta")));
+    ASSERT_TRUE(d);
+    desktop::AnteprimaPagine &a = d->anteprima();
+    // A4 with margins of 7.5 mm.
+    EXPECT_NEAR(a.pagine()[0].larga, 0.195, 1e-9);
+    d->findChild<QComboBox *>(QStringLiteral("verso"))->setCurrentIndex(1);
+    EXPECT_NEAR(a.pagine()[0].larga, 0.282, 1e-9);
+    EXPECT_NEAR(a.pagine()[0].alta, 0.195, 1e-9);
+    d->findChild<QComboBox *>(QStringLiteral("verso"))->setCurrentIndex(0);
+    ASSERT_EQ(a.pagine().back().colonna, 2);
+    a.scegli({});
+    for (const auto tasto : {Qt::Key_Right, Qt::Key_Down, Qt::Key_Space}) QTest::keyClick(&a, tasto);
+    EXPECT_EQ(a.scelte(), std::set<int>{5}) << "second row, second column, of three";
+    // Where two pages show the same place the press is for the nearer.
+    d->findChild<QDoubleSpinBox *>(QStringLiteral("sovrapposizione"))->setValue(80);
+    const double passo = a.mezzo(2).x() - a.mezzo(1).x();
+    for (const int quale : {1, 2}) {
+        a.scegli({});
+        const double verso = quale == 1 ? 0.45 : 0.55;
+        QTest::mouseClick(&a, Qt::LeftButton, Qt::NoModifier, (a.mezzo(1) + QPointF(verso * passo, 0)).toPoint());
+        EXPECT_EQ(a.scelte(), std::set<int>{quale});
+    }
 }
 
 // --- fields ------------------------------------------------------------------------------------------------------------------

@@ -1,17 +1,26 @@
 // Guards of the window that a maker would miss when they are gone: files that fail, the live dial, what a dial was turned into.
 #include <QCheckBox>
+#include <QClipboard>
 #include <QDateEdit>
 #include <QDir>
 #include <QDockWidget>
 #include <QLabel>
+#include <QMenu>
+#include <QPushButton>
 #include <QRegularExpression>
+#include <QSettings>
 #include <QSlider>
 #include <QTimeEdit>
+#include <QTimer>
 #include <map>
 #include <set>
 
+#include "controlli/lingue.h"
+#include "core/file.h"
 #include "desktop/banco.h"
 #include "desktop/disegno_di.h"
+#include "desktop/ripresa.h"
+#include "formati/formati.h"
 
 namespace ombrelia {
 namespace {
@@ -36,6 +45,107 @@ TEST(Guardie, WhatWasNotWrittenStaysUnsavedAndWhatWasNotReadUnopened) {
     EXPECT_TRUE(b.f.modificato());
     EXPECT_EQ(b.f.percorso(), prima);
     EXPECT_EQ(b.campo("txtDec"), "6");
+}
+
+QStringList recenti(BancoFinestra &b) {
+    QStringList nomi;
+    for (auto *m : b.f.findChildren<QMenu *>())
+        if (m->title() == QStringLiteral("Aperti di recente")) {
+            for (int volta = 0; volta < 2; ++volta) emit m->aboutToShow();  // opened again it has no more of them
+            for (const QAction *a : m->actions()) nomi << a->text();
+        }
+    return nomi;
+}
+
+TEST(Guardie, RecentFilesStandOnceTheLastOneFirst) {
+    QSettings().remove(QStringLiteral("recenti"));
+    BancoFinestra b;
+    const auto salva = [&](const std::string &nome) {
+        b.dialoghi.risposte = {nome};
+        b.comando("salvaConNome");
+    };
+    salva("alfa.omb");
+    salva("beta.omb");
+    b.f.apri(QStringLiteral("alfa.omb"));
+    EXPECT_EQ(recenti(b), (QStringList{QStringLiteral("alfa.omb"), QStringLiteral("beta.omb")}));
+    for (int n = 1; n <= 8; ++n) salva(std::to_string(n) + ".omb");
+    EXPECT_EQ(recenti(b).size(), 8);
+    EXPECT_EQ(recenti(b).value(0), QStringLiteral("8.omb"));
+}
+
+// Work that has no name yet lies in the program's own folder, then beside its file, and nowhere once it is saved.
+TEST(Guardie, EachMinuteKeepsUnsavedWork) {
+    BancoFinestra b;
+    QTimer *minuto = nullptr;
+    for (auto *t : b.f.findChildren<QTimer *>())
+        if (t->interval() == 60000) minuto = t;
+    ASSERT_TRUE(minuto);
+    const auto passa = [&] {
+        bool passato = false;
+        const auto chi = QObject::connect(minuto, &QTimer::timeout, [&] { passato = true; });
+        minuto->start(0);
+        (void)QTest::qWaitFor([&] { return passato; }, 10000);
+        minuto->start(60000);
+        QObject::disconnect(chi);
+    };
+    const auto tenuto = [](const QString &progetto) {
+        return LeggiFile(desktop::Ripresa::fileDi(progetto).toStdString(), 1U << 20).value_or("");
+    };
+    b.scrivi("txtDec", "6");
+    passa();
+    EXPECT_NE(tenuto({}).find(">6</txtDec>"), std::string::npos);
+    b.dialoghi.risposte = {"minuto.omb"};
+    b.comando("salvaConNome");
+    b.scrivi("txtDec", "7");
+    passa();
+    EXPECT_EQ(tenuto({}), "");
+    EXPECT_NE(tenuto(b.f.percorso()).find(">7</txtDec>"), std::string::npos);
+    b.f.ponte().premi("mnuSalva");
+    passa();
+    EXPECT_EQ(tenuto(b.f.percorso()), "");
+}
+
+// A project's name keeps its points; what goes out has the looks of the list of layers, file and clipboard alike.
+TEST(Guardie, WhatIsExportedIsWhatIsSeenUnderTheNameOfTheProject) {
+    BancoFinestra b;
+    for (const char *c : {"chkOreAstronomiche", "Ck_DayLightCurves"}) b.spunta(c);
+    b.adatta();
+    b.premi("cmdRun");
+    b.dialoghi.risposte = {"casa.v2.omb"};
+    b.comando("salvaConNome");
+    b.comando("impagina");
+    b.f.findChild<QPushButton *>(QStringLiteral("intero"))->click();
+    EXPECT_TRUE(QString::fromStdString(b.dialoghi.proposti.back()).endsWith(QStringLiteral("/casa.v2.pdf")))
+        << b.dialoghi.proposti.back();
+    const auto svg = [&] {
+        b.dialoghi.risposte = {"casa.v2.svg"};
+        b.comando("esporta");
+        return LeggiFile("casa.v2.svg", 1U << 28).value_or("");
+    };
+    const std::string intero = svg();
+    std::string errore;
+    EXPECT_TRUE(intero == FormatoDi("svg")->scrivi(b.s().tavolo, errore));
+    b.comando("copiaSvg");
+    EXPECT_TRUE(QGuiApplication::clipboard()->text().toStdString() == intero);
+    desktop::StileFoglio stile = b.f.quadro().foglio().stile();
+    stile.strati[desktop::Strato(Specie::Ora)].nascosto = true;
+    b.f.quadro().foglio().stile(stile);
+    EXPECT_LT(svg().size(), intero.size());
+    EXPECT_TRUE(b.dialoghi.avvisi.empty());
+}
+
+TEST(Guardie, TheWindowSpeaksTheLanguageThatItWasTold) {
+    const QString file = QString::fromStdString(FileDi(LinguaDi("en"))[0]);
+    ASSERT_TRUE(QFile::copy(QStringLiteral(OMBRELIA_RADICE "/data/") + file, file));
+    {
+        BancoFinestra b;
+        EXPECT_EQ(b.w<QLabel>("lblLatitudine")->text(), QStringLiteral("Latitudine"));
+        b.f.ponte().premi("mnuInglese");
+        QFile::remove(QStringLiteral("DBC2008.txt"));  // what is left beside the program goes by the program
+    }
+    EXPECT_EQ(BancoFinestra().w<QLabel>("lblLatitudine")->text(), QStringLiteral("Latitude"));
+    QFile::remove(file);
+    QSettings().remove(QStringLiteral("lingua"));
 }
 
 TEST(Guardie, TheLiveDialIsOfItsFieldsAndShownAsItIsMounted) {

@@ -1,11 +1,14 @@
 // What the window puts on paper, read back by another program.
 #include <QFile>
+#include <QPlainTextEdit>
 #include <QProcess>
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QSet>
 #include <QStandardPaths>
 #include <QToolButton>
+#include <set>
+#include <tuple>
 
 #include "app/rapporti.h"
 #include "desktop/banco.h"
@@ -92,6 +95,72 @@ TEST(Stampe, CertificateAndReportsHaveEachRowOnOneLine) {
         ciSonoTutte(righeDellHtml(letto(nome + ".HTML")), desktop::Q(nome + ".PDF"), nome);
         b.f.moduli().modulo(r.modulo)->close();
     }
+}
+
+// Widths and heights of a PDF's pages, points.
+std::vector<std::pair<double, double>> pagineDelPdf(const std::string &file) {
+    std::vector<std::pair<double, double>> pagine;
+    static const QRegularExpression scatola(QStringLiteral("/MediaBox \\[ ?([-0-9.]+) ([-0-9.]+) ([-0-9.]+) ([-0-9.]+)"));
+    for (auto i = scatola.globalMatch(QString::fromLatin1(QByteArray::fromStdString(letto(file)))); i.hasNext();) {
+        const auto m = i.next();
+        pagine.emplace_back(m.captured(3).toDouble() - m.captured(1).toDouble(),
+                            m.captured(4).toDouble() - m.captured(2).toDouble());
+    }
+    return pagine;
+}
+
+TEST(Stampe, ChosenTilesGoOutAloneAndThoseOfAnotherPaperAreChosenAnew) {
+    BancoFinestra b;
+    b.spunta("chkOreAstronomiche");
+    b.adatta();
+    b.premi("cmdRun");
+    const auto pdf = [&] {
+        b.dialoghi.risposte = {"piastrelle.pdf"};
+        b.comando("esportaPdf");
+        return pagineDelPdf("piastrelle.pdf").size();
+    };
+    EXPECT_EQ(pdf(), 1U);
+    EXPECT_TRUE(b.dialoghi.domande.empty()) << "no tile is chosen";
+    b.comando("scegliPagine");
+    const std::size_t scelte = b.s().tavolo.lista().Aree.size();
+    ASSERT_GT(scelte, 2U);
+    EXPECT_EQ(pdf(), scelte);
+    b.dialoghi.si = false;
+    EXPECT_EQ(pdf(), 1U);
+    EXPECT_EQ(b.dialoghi.domande.size(), 2U);
+    // A printer that takes A5 alone: its own tiles, and a word about it.
+    b.premi("Tavolo1.cmdStampa");
+    b.w<QAbstractButton>("Tavolo1.optSelected")->click();
+    b.dialoghi.stampaSu = QStringLiteral("altra.pdf");
+    b.dialoghi.cartaSua = QPageSize::A5;
+    b.premi("Tavolo1.cmdPOk");
+    QCoreApplication::processEvents();
+    ASSERT_EQ(b.dialoghi.avvisi.size(), 1U);
+    EXPECT_NE(b.dialoghi.avvisi[0].find("148"), std::string::npos) << b.dialoghi.avvisi[0];
+    EXPECT_GT(b.s().tavolo.lista().Aree.size(), scelte);
+    EXPECT_EQ(pagineDelPdf("altra.pdf").size(), b.s().tavolo.lista().Aree.size());
+}
+
+// An upright A4 holds 113 letters of 7.5 points between its margins; longer rows want it on its side.
+TEST(Stampe, AReportTurnsThePageAsItsRowsNeedIt) {
+    BancoFinestra b;
+    b.scrivi("txtInc", "0");
+    std::set<bool> visti;
+    for (const auto &[comando, modulo, menu] : {std::tuple{"cmdData", "Form1", "menuFond"}, {"OptInter", "Form6", "mnu_Print"}}) {
+        b.f.ponte().premi(comando);
+        QWidget *w = b.f.moduli().modulo(modulo);
+        qsizetype lunga = 0;
+        for (const QString &riga :
+             w->findChild<QPlainTextEdit *>(QStringLiteral("testo"))->toPlainText().split(QLatin1Char('\n')))
+            lunga = std::max(lunga, riga.size());
+        b.dialoghi.stampaSu = QStringLiteral("rapporto.pdf");
+        w->findChild<QAction *>(QLatin1String(menu))->trigger();
+        ASSERT_FALSE(pagineDelPdf("rapporto.pdf").empty());
+        const auto [larga, alta] = pagineDelPdf("rapporto.pdf")[0];
+        EXPECT_EQ(larga > alta, lunga > 113) << modulo << ' ' << lunga;
+        visti.insert(larga > alta);
+    }
+    EXPECT_EQ(visti.size(), 2U);
 }
 
 }  // namespace

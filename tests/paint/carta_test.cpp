@@ -298,6 +298,9 @@ TEST(Carta, PagesCoverTheSheetAndShareWhatTheyShould) {
         const double attesa = 175 - 1000 * pagine[static_cast<std::size_t>(p - 1)].x + 7.5 - 8;
         for (const double q : x) vicina = std::fabs(q - attesa) < std::fabs(vicina - attesa) ? q : vicina;
         EXPECT_NEAR(vicina, attesa, ESATTO) << p;
+        const QString numero = QString::number(p),
+                      detta = QString::fromUtf8(chiama("pdftotext", {"-f", numero, "-l", numero, "unite.pdf", "-"}));
+        EXPECT_EQ(detta.trimmed().section(QRegularExpression(QStringLiteral("\\s")), 0, 0), numero);
     }
 }
 
@@ -341,6 +344,8 @@ TEST(Carta, RowsOfTablesStandOnOneLine) {
         EXPECT_EQ(letto.count(QRegularExpression(QStringLiteral("numero0\\b"))), pagine) << "the table's head on each page";
         EXPECT_EQ(letto.count(QStringLiteral("Ore vere")), pagine - 1) << "the first page has the document's own title";
         EXPECT_TRUE(letto.contains(QStringLiteral("%1/%1").arg(pagine)));
+        EXPECT_TRUE(
+            letto.section(QLatin1Char('\f'), 0, 0).contains(QRegularExpression(QStringLiteral("\\s1/%1\\s").arg(pagine))));
     }
 }
 

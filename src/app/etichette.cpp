@@ -49,9 +49,20 @@ public:
             case Specie::Almucantarat:
             case Specie::Azimut:
                 return TestoNumero(std::round(valore * 100) / 100) + "°";
-            default:
-                return {};
+            case Specie::Asr:
+            case Specie::Qibla:
+            case Specie::Analemma:
+            case Specie::Mezzogiorno:
+            case Specie::OraSustilare:
+            case Specie::Sustilare:
+            case Specie::Orizzonte:
+            case Specie::Stilo:
+            case Specie::Tacca:
+            case Specie::Etichetta:
+            case Specie::Nessuna:
+                break;
         }
+        return {};
     }
 
 private:

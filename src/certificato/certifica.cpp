@@ -5,6 +5,7 @@
 #include "certificato/certificato.h"
 #include "certificato/cielo.h"
 #include "plot/percorso.h"
+#include "plot/specie.h"
 
 namespace ombrelia {
 
@@ -91,9 +92,7 @@ public:
         r.mancanti = std::max(r.mancanti, 0.0);
         r.medio = lette_ > 0 ? somma_ / static_cast<double>(lette_) : 0;
         // The worst one as time or angle.
-        r.tempo = r.specie == Specie::Ora || r.specie == Specie::Italica || r.specie == Specie::Babilonica ||
-                  r.specie == Specie::Temporaria || r.specie == Specie::Analemma || r.specie == Specie::Mezzogiorno ||
-                  r.specie == Specie::OraSustilare;
+        r.tempo = DellaSpecie(r.specie).ore;
         if (r.massimo > 1e-6) {
             const ombra::PianoMontato piano(dati_.posa.quadrante);
             const ombra::SoleLetto l = piano.leggi(Punto{r.xPeggiore / MM, r.yPeggiore / MM});
@@ -218,8 +217,6 @@ std::optional<QuadranteOriginale> altroOriginale(const Sessione &s) {
     return o;
 }
 
-bool giudicabile(Specie s) { return s != Specie::Etichetta && s != Specie::Nessuna; }
-
 double campo(const std::string &testo) {
     const Valore v = Val(testo);
     return v.esiste() ? v.v : 0;
@@ -257,7 +254,7 @@ Certificato Certifica(const DatiCertificato &dati, const Lista &lista, double to
     std::size_t giudicati = 0;
     const double verso = dati.posa.verso();
     for (const Pretesa &p : lista.pretese) {
-        if (!giudicabile(p.specie)) continue;
+        if (!Giudicabile(p.specie)) continue;
         const auto [posto, nuovo] = quale.try_emplace({p.specie, std::lround(p.valore * 1e5)}, giudici.size());
         if (nuovo) giudici.emplace_back(dati, p.specie, p.valore, tolleranza);
         VisitaGiudice visita{giudici[posto->second], lista.nomi, verso, nuovo};
@@ -311,7 +308,7 @@ std::optional<LineaVicina> TrovaLinea(const DatiCertificato &dati, const Lista &
     };
     for (std::size_t k = 0; k < lista.pretese.size(); ++k) {
         const Pretesa &q = lista.pretese[k];
-        if (!giudicabile(q.specie)) continue;
+        if (!Giudicabile(q.specie)) continue;
         const auto linea = [&](const RecLinea &l) {
             const double dx = l.X2 - l.X1, dy = l.Y2 - l.Y1, l2 = dx * dx + dy * dy;
             const double f = l2 > 0 ? std::clamp(((x - l.X1) * dx + (y - l.Y1) * dy) / l2, 0.0, 1.0) : 0;

@@ -384,9 +384,17 @@ bool aPunti(const Sessione &s, const Attesa &a) {
         case Specie::Analemma:
         case Specie::Sustilare:
             return a.motore == Motore::Analitica;
-        default:
-            return false;
+        case Specie::Ora:
+        case Specie::Temporaria:
+        case Specie::Mezzogiorno:
+        case Specie::Orizzonte:
+        case Specie::Stilo:
+        case Specie::Tacca:
+        case Specie::Etichetta:
+        case Specie::Nessuna:
+            break;
     }
+    return false;
 }
 
 }  // namespace
@@ -451,7 +459,8 @@ bool TracciaVera(Sessione &s, const Attesa &attesa) {
         case Specie::Etichetta:
             etichette(d);
             break;
-        default:
+        case Specie::Qibla:
+        case Specie::Nessuna:
             return false;
     }
     return true;

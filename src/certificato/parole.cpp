@@ -1,62 +1,31 @@
 // What lines and verdicts are called: for files in English, for people through the dictionary.
 #include <algorithm>
-#include <array>
 #include <cmath>
 
 #include "certificato/certificato.h"
 #include "certificato/istante.h"
 #include "core/testo.h"
+#include "plot/specie.h"
 
 namespace ombrelia {
 
 namespace {
 
-struct Nome {
-    Specie specie;
-    std::string_view italiano, inglese;
-    bool conValore;
-};
-constexpr std::array<Nome, 17> NOMI{{
-    {Specie::Ora, "ora vera "_it, "hour ", true},
-    {Specie::Diurna, "linea diurna "_it, "declination ", true},
-    {Specie::Tacca, "segno della declinazione "_it, "mark of declination ", true},
-    {Specie::Equinoziale, "linea equinoziale"_it, "equinoctial", false},
-    {Specie::Italica, "ora italica "_it, "Italic ", true},
-    {Specie::Babilonica, "ora babilonica "_it, "Babylonian ", true},
-    {Specie::Temporaria, "ora temporaria "_it, "temporary ", true},
-    {Specie::Almucantarat, "altezza del Sole "_it, "altitude ", true},
-    {Specie::Azimut, "azimut del Sole "_it, "azimuth ", true},
-    {Specie::Asr, "linea dell'Asr"_it, "Asr", false},
-    {Specie::Qibla, "linea della Qibla"_it, "Qibla", false},
-    {Specie::Analemma, "lemniscata delle ore "_it, "analemma ", true},
-    {Specie::Mezzogiorno, "linea meridiana"_it, "noon line", false},
-    {Specie::OraSustilare, "ora sustilare"_it, "substyle hour", false},
-    {Specie::Sustilare, "linea sustilare"_it, "substyle", false},
-    {Specie::Orizzonte, "linea dell'orizzonte"_it, "horizon", false},
-    {Specie::Stilo, "triangolo dello stilo polare"_it, "style", false},
-}};
-
-const Nome *nome(Specie s) {
-    for (const Nome &n : NOMI)
-        if (n.specie == s) return &n;
-    return nullptr;
-}
-
-std::string conValore(std::string testo, const Nome &n, double valore) {
-    if (!n.conValore) return testo;
-    return testo + TestoNumero(std::round(valore * 1e5) / 1e5) + (n.specie == Specie::Analemma ? " h" : "");
+std::string conValore(std::string testo, const RigaSpecie &r, double valore) {
+    if (r.valore == ValoreDi::Niente) return testo;
+    return testo + TestoNumero(std::round(valore * 1e5) / 1e5) + std::string(r.unitaEstesa);
 }
 
 }  // namespace
 
 std::string TestoPretesa(Specie specie, double valore) {
-    const Nome *n = nome(specie);
-    return n ? conValore(std::string(n->inglese), *n, valore) : "";
+    const RigaSpecie &r = DellaSpecie(specie);
+    return conValore(std::string(r.inglese), r, valore);
 }
 
 std::string TestoPretesa(const Dizionario &d, Specie specie, double valore) {
-    const Nome *n = nome(specie);
-    return n ? conValore(d.Traduci(n->italiano), *n, valore) : "";
+    const RigaSpecie &r = DellaSpecie(specie);
+    return Giudicabile(specie) ? conValore(d.Traduci(r.distesa), r, valore) : "";
 }
 
 namespace {

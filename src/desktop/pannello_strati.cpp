@@ -121,7 +121,7 @@ void PannelloStrati::showEvent(QShowEvent *) {
 void PannelloStrati::mostraLegenda() {
     std::set<std::size_t> presenti;
     for (const Pretesa &p : ponte_.sessione().tavolo.lista().pretese)
-        if (p.specie != Specie::Nessuna && p.specie != Specie::Etichetta) presenti.insert(Strato(p.specie));
+        if (Giudicabile(p.specie)) presenti.insert(Strato(p.specie));
     std::vector<std::pair<QString, QColor>> voci;
     for (const std::size_t i : presenti)
         if (!foglio_.stile().strati[i].nascosto)

@@ -13,36 +13,6 @@ namespace ombrelia::desktop {
 
 namespace {
 
-struct RigaStrato {
-    std::string_view nome, linea;  // of the layer; of one of its lines, before its value
-    std::uint32_t chiaro, scuro;   // RGB
-    std::uint8_t trattini;         // on paper, where families are told apart by them
-};
-// Any two of hour lines, day lines, equinoctial, Italic, Babylonian and temporary hours, altitudes, azimuths, prayer, analemma
-// and horizon are told apart by eyes that lack one kind of cone, too.
-constexpr RigaStrato TAVOLA[] = {
-    {"Ore"_it, "Ora"_it, 0x002141, 0x93add0, 0},
-    {"Linee diurne"_it, "Linea diurna"_it, 0xc56a12, 0xf0b15b, 1},
-    {"Equinoziale"_it, "Equinoziale"_it, 0x3e9087, 0x3cbbaf, 2},
-    {"Ore italiche"_it, "Ora italica"_it, 0x652bd8, 0x9d82c9, 3},
-    {"Ore babiloniche"_it, "Ora babilonica"_it, 0xc60f64, 0xd77891, 4},
-    {"Ore temporarie"_it, "Ora temporaria"_it, 0x11742b, 0xdaed88, 5},
-    {"Almucantarat"_it, "Altezza"_it, 0x58738f, 0xc0cddc, 6},
-    {"Azimut"_it, "Azimut"_it, 0x565855, 0xac9c78, 7},
-    {"Asr"_it, "Asr"_it, 0x074e15, 0x8adc9e, 8},
-    {"Qibla"_it, "Qibla"_it, 0x074e15, 0x8adc9e, 8},
-    {"Lemniscata"_it, "Lemniscata"_it, 0xa21fad, 0xce97fb, 0},
-    {"Mezzogiorno"_it, "Mezzogiorno"_it, 0x002141, 0x93add0, 0},
-    {"Ora della sustilare"_it, "Ora della sustilare"_it, 0x57534e, 0xb8afa6, 9},
-    {"Sustilare"_it, "Sustilare"_it, 0x57534e, 0xb8afa6, 2},
-    {"Orizzonte"_it, "Orizzonte"_it, 0x3d4978, 0x80d9ff, 9},
-    {"Stilo"_it, "Stilo"_it, 0x1c1917, 0xe7e5e4, 0},
-    {"Segni di data"_it, "Segno di data"_it, 0xc56a12, 0xf0b15b, 0},
-    {"Etichette"_it, "Etichetta"_it, 0x1f2937, 0xd6dce2, 0},
-    {"Cornice e segni"_it, "Cornice"_it, 0x4b5563, 0xaab3bd, 0},
-};
-static_assert(std::size(TAVOLA) == STRATI);
-
 constexpr Colore coloreDi(std::uint32_t rgb) {
     return static_cast<Colore>(((rgb & 0xFF) << 16) | (rgb & 0xFF00) | ((rgb >> 16) & 0xFF));
 }
@@ -84,14 +54,14 @@ QString oreMinuti(double ore) {
 
 }  // namespace
 
-std::uint8_t TrattiniDi(std::size_t strato) { return TAVOLA[strato].trattini; }
+std::uint8_t TrattiniDi(std::size_t strato) { return SPECIE[strato].trattini; }
 
 QColor TintaDi(Colore c) { return {c & 0xFF, (c >> 8) & 0xFF, (c >> 16) & 0xFF}; }
 
 StileFoglio StileDi(bool scuro) {
     StileFoglio s;
     s.scuro = scuro;
-    for (std::size_t i = 0; i < STRATI; ++i) s.strati[i].colore = coloreDi(scuro ? TAVOLA[i].scuro : TAVOLA[i].chiaro);
+    for (std::size_t i = 0; i < STRATI; ++i) s.strati[i].colore = coloreDi(scuro ? SPECIE[i].scuro : SPECIE[i].chiaro);
     return s;
 }
 
@@ -215,26 +185,21 @@ std::optional<Linea> LineaSotto(const Tavolo &t, const StileFoglio &stile, const
     return Linea{chi->first, chi->second, 0, {}};
 }
 
-QString NomeStrato(const Sessione &s, std::size_t strato) { return Q(s.Traduci(TAVOLA[strato].nome)); }
+QString NomeStrato(const Sessione &s, std::size_t strato) { return Q(s.Traduci(SPECIE[strato].famiglia)); }
 
 QString NomeLinea(const Sessione &s, std::size_t strato, double valore) {
-    const QString nome = Q(s.Traduci(TAVOLA[strato].linea));
-    switch (static_cast<Specie>(strato)) {
-        case Specie::Ora:
-        case Specie::Italica:
-        case Specie::Babilonica:
-        case Specie::Analemma:
+    const QString nome = Q(s.Traduci(SPECIE[strato].una));
+    switch (SPECIE[strato].valore) {
+        case ValoreDi::Niente:
+            break;
+        case ValoreDi::Orologio:
             return nome + QLatin1Char(' ') + oreMinuti(valore);
-        case Specie::Temporaria:
+        case ValoreDi::Ore:
             return nome + QLatin1Char(' ') + QString::number(valore);
-        case Specie::Diurna:
-        case Specie::Tacca:
-        case Specie::Almucantarat:
-        case Specie::Azimut:
+        case ValoreDi::Gradi:
             return nome + QLatin1Char(' ') + gradi(valore);
-        default:
-            return nome;
     }
+    return nome;
 }
 
 QString LetturaDi(const Sessione &s, const QPointF &punto) {

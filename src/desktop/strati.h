@@ -12,11 +12,12 @@
 #include <set>
 #include <vector>
 
+#include "plot/specie.h"
 #include "sessione/sessione.h"
 
 namespace ombrelia::desktop {
 
-inline constexpr std::size_t STRATI = static_cast<std::size_t>(Specie::Nessuna) + 1;
+inline constexpr std::size_t STRATI = std::size(SPECIE);
 [[nodiscard]] constexpr std::size_t Strato(Specie s) { return static_cast<std::size_t>(s); }
 
 // How the sheet looks: paper-white or dark, the colour of each layer, what is hidden, what is chosen.

@@ -4,6 +4,7 @@
 #include <map>
 
 #include "officina/passi.h"
+#include "plot/specie.h"
 
 namespace ombrelia::officina {
 
@@ -31,7 +32,7 @@ std::vector<Coincidenza> Coincidenti(const std::vector<Cammino> &prima, const st
     };
     std::map<int, LineaNominata> nomi;
     for (const Cammino &c : prima) {
-        if (!retta(c) || c.specie == Specie::Nessuna || c.specie == Specie::Etichetta) continue;
+        if (!retta(c) || !Giudicabile(c.specie)) continue;
         LineaNominata &n = nomi.try_emplace(c.linea, LineaNominata{c.specie, c.valore}).first->second;
         n.persa += c.lunghezza();
         n.sue.push_back(&c);

@@ -9,6 +9,7 @@
 #include "officina/griglia.h"
 #include "officina/passi.h"
 #include "officina/tratti.h"
+#include "plot/specie.h"
 
 namespace ombrelia::officina {
 
@@ -121,7 +122,7 @@ public:
             if (specie != Specie::Nessuna) Riduci(c, campo_, FITTO, r);
             for (const Cammino &k : c)
                 for (std::size_t i = 1; i < k.punti.size(); ++i) griglia_->aggiungi(k.punti[i - 1], k.punti[i]);
-            if (specie == Specie::Nessuna || specie == Specie::Etichetta) continue;
+            if (!Giudicabile(specie)) continue;
             linee_.push_back({specie, valore, {}});
             for (Cammino &k : c) linee_.back().pezzi.push_back(std::move(k.punti));
         }
@@ -133,8 +134,11 @@ public:
         EsitoEtichette esito;
         const IdNome strato = tavolo_.nome("Etichette");
         for (const auto &[specie, linee] : famiglie) {
-            const bool curve = specie == Specie::Diurna || specie == Specie::Equinoziale || specie == Specie::Almucantarat;
-            const std::optional<P2> centro = curve ? std::nullopt : specie == Specie::Azimut ? std::optional(P2{}) : fuoco(linee);
+            const CapoScritto capo = DellaSpecie(specie).capo;
+            const bool curve = capo == CapoScritto::Destro;
+            const std::optional<P2> centro = curve                           ? std::nullopt
+                                             : capo == CapoScritto::DalPiede ? std::optional(P2{})
+                                                                             : fuoco(linee);
             for (const LineaDaScrivere *l : linee) {
                 const std::string testo = s_.testo(l->specie, l->valore);
                 if (testo.empty()) continue;

@@ -1,7 +1,11 @@
 // The table of kinds.
 #include "officina/genere.h"
 
+#include <algorithm>
+#include <array>
 #include <cmath>
+
+#include "plot/specie.h"
 
 namespace ombrelia::officina {
 
@@ -36,44 +40,28 @@ constexpr RigaGenere GENERI[] = {
     {Altro, "ALTRO", 252, 0x808080, 0.25, "anything else"},
 };
 
-// Beginnings of layer names; the first that fits. Day lines of the vertical engine are named by their dates.
-struct Inizio {
+// Layers of records that claim no line, and of labels and title block, which claim to be labels.
+struct StratoNoto {
     std::string_view nome;
     Genere genere;
 };
-constexpr Inizio INIZI[] = {
+constexpr StratoNoto STRATI[] = {
     {"Cornice", Cornice},
-    {"hour", Ore},
-    {"Astro", Ore},
-    {"Ore_astro", Ore},
-    {"half", MezzeOre},
-    {"quarter", Quarti},
-    {"equinox", Equinoziale},
-    {"21 III", Equinoziale},
-    {"delta", Diurne},
-    {"Delta", Diurne},
-    {"Diurna", Diurne},
-    {"Solstizio", Diurne},
-    {"20 ", Diurne},
-    {"Ita", Italiche},
-    {"Bab", Babiloniche},
-    {"Temp", Temporarie},
-    {"Analemma", Analemma},
-    {"Lemniscata", Analemma},
-    {"Mezzogiorno", Mezzogiorno},
-    {"substyle", Sustilare},
-    {"polar style", Stilo},
-    {"pillar", Stilo},
-    {"Ortostilo", Stilo},
-    {"Ipotenusa", Stilo},
-    {"IPOTENUSA", Stilo},
-    {"FALSO", Stilo},
-    {"Cateto", Stilo},
-    {"CATETO", Stilo},
     {"Etichette", Etichette},
     {"Cartiglio", Cartiglio},
     {"AssiXY", Ausiliarie},
 };
+
+// Of each kind of line, the layer that its row names; a name that is none of these does not compile.
+constexpr auto DELLE_SPECIE = [] {
+    std::array<Genere, std::size(SPECIE)> generi{};
+    for (std::size_t i = 0; i < generi.size(); ++i) {
+        const RigaGenere *r =
+            std::find_if(std::begin(GENERI), std::end(GENERI), [&](const RigaGenere &g) { return g.nome == SPECIE[i].macchina; });
+        generi[i] = SPECIE[i].macchina.empty() ? Altro : r == std::end(GENERI) ? throw "no such layer" : r->genere;
+    }
+    return generi;
+}();
 
 }  // namespace
 
@@ -82,53 +70,18 @@ std::span<const RigaGenere> Generi() { return GENERI; }
 const RigaGenere &Riga(Genere g) { return GENERI[static_cast<std::size_t>(g)]; }
 
 Genere GenereDi(Specie specie, double valore) {
-    switch (specie) {
-        case Specie::Ora: {
-            const double minuti = std::fabs(valore * 60 - std::round(valore) * 60);
-            return minuti < 0.5 ? Ore : std::fabs(minuti - 30) < 0.5 ? MezzeOre : Quarti;
-        }
-        case Specie::Diurna:
-        case Specie::Tacca:
-            return valore == 0 ? Equinoziale : Diurne;
-        case Specie::Equinoziale:
-            return Equinoziale;
-        case Specie::Italica:
-            return Italiche;
-        case Specie::Babilonica:
-            return Babiloniche;
-        case Specie::Temporaria:
-            return Temporarie;
-        case Specie::Almucantarat:
-            return Almucantarat;
-        case Specie::Azimut:
-            return Azimutali;
-        case Specie::Asr:
-            return Asr;
-        case Specie::Qibla:
-            return Qibla;
-        case Specie::Analemma:
-            return Analemma;
-        case Specie::Mezzogiorno:
-            return Mezzogiorno;
-        case Specie::OraSustilare:
-        case Specie::Sustilare:
-            return Sustilare;
-        case Specie::Orizzonte:
-            return Orizzonte;
-        case Specie::Stilo:
-            return Stilo;
-        case Specie::Etichetta:
-            return Etichette;
-        case Specie::Nessuna:
-            break;
+    if (specie == Specie::Ora) {
+        const double minuti = std::fabs(valore * 60 - std::round(valore) * 60);
+        return minuti < 0.5 ? Ore : std::fabs(minuti - 30) < 0.5 ? MezzeOre : Quarti;
     }
-    return Altro;
+    const Genere g = DELLE_SPECIE[static_cast<std::size_t>(specie)];
+    return g == Diurne && valore == 0 ? Equinoziale : g;
 }
 
 Genere GenereDi(std::string_view strato) {
     if (strato.empty()) return Figure;
-    for (const Inizio &i : INIZI)
-        if (strato.starts_with(i.nome)) return i.genere;
+    for (const StratoNoto &s : STRATI)
+        if (strato == s.nome) return s.genere;
     return Altro;
 }
 

@@ -49,7 +49,8 @@ struct RigaGenere {
 [[nodiscard]] std::span<const RigaGenere> Generi();
 [[nodiscard]] const RigaGenere &Riga(Genere g);
 
-// The kind of a claimed line.
+// The kind of a claimed line, as its row in plot/specie.h says; hours by their parts, and the day line of declination 0 is the
+// equinoctial.
 [[nodiscard]] Genere GenereDi(Specie specie, double valore);
 // The kind of a record without a claim, by its layer's name; Altro for a name that is not known, Figure for none.
 [[nodiscard]] Genere GenereDi(std::string_view strato);

@@ -148,16 +148,18 @@ TEST(Officina, KindsHaveNamesForAll) {
         EXPECT_EQ(r.nome.find_first_not_of("ABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789_"), std::string_view::npos) << r.nome;
         EXPECT_EQ(&Riga(r.genere), &r) << "the table stands in the order of the kinds";
     }
-    const std::pair<std::string_view, std::string_view> strati[] = {{"hour", "ORE"},
-                                                                    {"half", "MEZZE_ORE"},
-                                                                    {"quarter", "QUARTI"},
-                                                                    {"Astro", "ORE"},
-                                                                    {"equinox", "EQUINOZIALE"},
-                                                                    {"Ita", "ITALICHE"},
-                                                                    {"Bab", "BABILONICHE"},
-                                                                    {"Temp", "TEMPORARIE"},
-                                                                    {"delta 20°", "DIURNE"},
-                                                                    {"21 III or 23 IX Eq", "EQUINOZIALE"}};
+    const struct {
+        Specie specie;
+        double valore;
+        std::string_view nome;
+    } linee[] = {{Specie::Ora, 9, "ORE"},          {Specie::Ora, 9.5, "MEZZE_ORE"},
+                 {Specie::Ora, 9.25, "QUARTI"},    {Specie::Ora, 16.0 + 1.0 / 3, "QUARTI"},
+                 {Specie::Diurna, 20, "DIURNE"},   {Specie::Diurna, 0, "EQUINOZIALE"},
+                 {Specie::Tacca, -11.5, "DIURNE"}, {Specie::OraSustilare, 0, "SUSTILARE"},
+                 {Specie::Qibla, 0, "QIBLA"}};
+    for (const auto &[specie, valore, nome] : linee) EXPECT_EQ(Riga(GenereDi(specie, valore)).nome, nome) << valore;
+    const std::pair<std::string_view, std::string_view> strati[] = {
+        {"Cornice", "CORNICE"}, {"AssiXY", "AUSILIARIE"}, {"Cartiglio", "CARTIGLIO"}, {"hour", "ALTRO"}, {"", "FIGURE"}};
     for (const auto &[strato, nome] : strati) EXPECT_EQ(Riga(GenereDi(strato)).nome, nome) << strato;
 }
 

@@ -45,7 +45,7 @@ constexpr VoceRapporto ELENCO[] = {
      {},
      1},
     {"daylines", "day lines by abscissa, walls only", "Form8", reports::TabellaDiurne, "Option1", parete},
-    {"notice", "what the program does and does not promise", "Form5", reports::Avviso, "mnuAvviso"},
+    {"notice", "what the program does and does not promise", "Form5", reports::Avviso, "mnuAvviso", nullptr, false, {}, -1, ""},
 };
 
 }  // namespace

@@ -21,8 +21,9 @@ struct VoceRapporto {
     // Southern latitudes have none: its option is cleared and nothing opens. At the equator it is cleared too, and the report
     // opens.
     bool soloNord = false;
-    NomeControllo prima{};  // a button to press before
-    int ckFunzione = -1;    // its value when the report depends on it, else -1
+    NomeControllo prima{};                 // a button to press before
+    int ckFunzione = -1;                   // its value when the report depends on it, else -1
+    std::string_view manuale = "tabelle";  // the manual's place that speaks of it; empty: none does
 };
 
 [[nodiscard]] std::span<const VoceRapporto> ElencoRapporti();

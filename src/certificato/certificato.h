@@ -77,16 +77,6 @@ struct LineaVicina {
 // "vero entro 0.03 mm", "3 linee non sono vere", "nessuna linea da certificare".
 [[nodiscard]] std::string Verdetto(const Dizionario &d, const Certificato &c);
 [[nodiscard]] std::string VerdettoInglese(const Certificato &c);
-// The pieces of what the hover says of a point.
-struct PezziDelPunto {
-    LetturaPunto lettura;
-    std::vector<double> oreCivili;  // of the zone's mean time, one a date of lettura
-    std::optional<LineaVicina> linea;
-};
-[[nodiscard]] PezziDelPunto LeggiPezzi(const DatiCertificato &dati, const Lista &lista, const ombra::Punto &p, double entro);
-// Joined, in the dictionary's language: "10:24 vere, 10:51 il giorno 2026-05-03 o ..., Sole alto 47°, linea: ora vera 10.5".
-[[nodiscard]] std::string FraseDelPunto(const Dizionario &d, const DatiCertificato &dati, const Lista &lista,
-                                        const ombra::Punto &p, double entro);
 
 // --- forms ----------------------------------------------------------------------------------------------------------
 [[nodiscard]] std::string CertificatoTesto(const DatiCertificato &dati, const Certificato &c);

@@ -3,7 +3,6 @@
 #include <cmath>
 
 #include "certificato/certificato.h"
-#include "certificato/istante.h"
 #include "core/testo.h"
 #include "plot/specie.h"
 
@@ -67,37 +66,6 @@ std::string Verdetto(const Dizionario &d, const Certificato &c) {
     if (!c.esaminate()) return d.Traduci("nessuna linea da certificare");
     if (c.vero()) return d.Traduci("vero entro ") + millimetri(c.peggiore) + " mm";
     return std::to_string(c.false_) + (c.false_ == 1 ? d.Traduci(" linea non è vera") : d.Traduci(" linee non sono vere"));
-}
-
-PezziDelPunto LeggiPezzi(const DatiCertificato &dati, const Lista &lista, const ombra::Punto &p, double entro) {
-    PezziDelPunto r;
-    r.lettura = LeggiPunto(dati.posa, p, dati.anno);
-    for (const ombra::Data &g : r.lettura.date) {
-        // The moment of that civil date: the day of universal time that holds it may be the one before or after.
-        const double civile = ombra::giornoGiuliano(g), fuso = dati.posa.fuso() / 24;
-        double jd = ombra::momento(civile, r.lettura.sole.t, dati.posa.longitudine);
-        jd += std::round(civile + 0.5 - jd - fuso);
-        r.oreCivili.push_back((jd + fuso - civile) * 24);
-    }
-    r.linea = TrovaLinea(dati, lista, p, entro);
-    return r;
-}
-
-std::string FraseDelPunto(const Dizionario &d, const DatiCertificato &dati, const Lista &lista, const ombra::Punto &p,
-                          double entro) {
-    const PezziDelPunto r = LeggiPezzi(dati, lista, p, entro);
-    std::string t;
-    if (r.lettura.sole.luce == ombra::Luce::Notte) t = d.Traduci("qui mai ombra: Sole sotto l'orizzonte");
-    else if (r.lettura.sole.luce != ombra::Luce::Si) t = d.Traduci("qui mai ombra: nessun Sole ha questa declinazione");
-    else {
-        t = Orologio(r.lettura.oraVera) + d.Traduci(" vere, ");
-        for (std::size_t i = 0; i < r.oreCivili.size(); ++i)
-            t += (i > 0 ? d.Traduci(" o ") : "") + Orologio(r.oreCivili[i]) + d.Traduci(" il giorno ") +
-                 testoData(r.lettura.date[i]);
-        t += d.Traduci(", Sole alto ") + std::to_string(std::lround(r.lettura.sole.altezza * ombra::GRADI)) + "\xC2\xB0";
-    }
-    if (r.linea) t += d.Traduci(", linea: ") + TestoPretesa(d, r.linea->specie, r.linea->valore);
-    return t;
 }
 
 }  // namespace ombrelia

@@ -1,9 +1,16 @@
-// Help texts.
+// The table of commands, and their help texts.
 #include "cli/aiuto.h"
 
 #include <algorithm>
 
+#include "cli/batch.h"
+#include "cli/certify.h"
+#include "cli/cut.h"
+#include "cli/draw.h"
+#include "cli/ombre.h"
+#include "cli/place.h"
 #include "cli/report.h"
+#include "cli/sun.h"
 #include "formati/formati.h"
 #include "officina/scrittori.h"
 #include "reports/rapporti.h"
@@ -16,18 +23,9 @@ constexpr std::string_view GENERALE = R"(Ombrelia designs sundials and draws the
 
 usage: ombrelia COMMAND ...
 
-  gui       the window, also without any command where there is a display: ombrelia gui [--run] [PROJECT]
-  draw      a dial from fields to files
-  cut       a dial as paths for a plotter, laser or mill
-  solid     the style, the gnomon's socket and the plate as solids to print or mill
-  report    the numbers of a dial as text, CSV or HTML
-  certify   holds every drawn line against the shadow: is it true, is any missing, is any too much
-  read      what a point of the dial says: hours, dates, the Sun that casts its shadow there
-  shadow    where the shadow falls at a moment, or through a day
-  place     towns by name: latitude, longitude, meridian of the zone
-  sun       the Sun over a place, and the declination of a wall from one reading or several
-  batch     performs an action script: a user's actions, one a line
+)";
 
+constexpr std::string_view GENERALE_FINE = R"(
 ombrelia COMMAND --help tells more; ombrelia --version tells the version.
 
 A declining wall in one line:
@@ -273,35 +271,51 @@ void riga(std::string &t, std::string_view nome, std::string_view cosa) {
     t.append("  ").append(nome).append(13 - std::min<std::size_t>(nome.size(), 12), ' ').append(cosa).append("\n");
 }
 
+void formeDisegno(std::string &t) {
+    for (const FormatoDisegno &f : Formati()) riga(t, "." + std::string(f.estensione), f.descrizione);
+}
+void formeMacchina(std::string &t) {
+    for (const auto &f : officina::FormatiMacchina()) riga(t, "." + std::string(f.estensione), f.descrizione);
+}
+void azioniDisegno(std::string &t) {
+    for (const FormatoDisegno &f : Formati()) riga(t, f.azione, f.descrizione);
+}
+void rapporti(std::string &t) {
+    t += NomiRapporti() + "\nforms:\n";
+    for (const auto &f : reports::FormeRapporto()) riga(t, f.opzione, f.descrizione);
+}
+
+// In the order of the overview.
+constexpr Sottocomando COMANDI[] = {
+    {"gui", "the window, also without any command where there is a display: ombrelia gui [--run] [PROJECT]", GUI, nullptr},
+    {"draw", "a dial from fields to files", DRAW, Draw, formeDisegno},
+    {"cut", "a dial as paths for a plotter, laser or mill", CUT, Cut, formeMacchina},
+    {"solid", "the style, the gnomon's socket and the plate as solids to print or mill", SOLID, Solid},
+    {"report", "the numbers of a dial as text, CSV or HTML", REPORT, Report, rapporti},
+    {"certify", "holds every drawn line against the shadow: is it true, is any missing, is any too much", CERTIFY, Certify},
+    {"read", "what a point of the dial says: hours, dates, the Sun that casts its shadow there", READ, Read},
+    {"shadow", "where the shadow falls at a moment, or through a day", SHADOW, Shadow},
+    {"place", "towns by name: latitude, longitude, meridian of the zone", PLACE, Place},
+    {"sun", "the Sun over a place, and the declination of a wall from one reading or several", SUN, Sun},
+    {"batch", "performs an action script: a user's actions, one a line", BATCH, Batch, azioniDisegno},
+};
+
 }  // namespace
 
+std::span<const Sottocomando> Sottocomandi() { return COMANDI; }
+
 std::string Aiuto(std::string_view comando) {
-    if (comando == "gui") return std::string(GUI);
-    if (comando == "batch") {
-        std::string t(BATCH);
-        for (const FormatoDisegno &f : Formati()) riga(t, f.azione, f.descrizione);
+    std::string t;
+    for (const Sottocomando &c : COMANDI) {
+        if (c.nome != comando) continue;
+        t = c.aiuto;
+        if (c.coda) c.coda(t);
         return t;
     }
-    if (comando == "report") {
-        std::string t = std::string(REPORT) + NomiRapporti() + "\nforms:\n";
-        for (const auto &f : reports::FormeRapporto()) riga(t, f.opzione, f.descrizione);
-        return t;
-    }
-    if (comando == "certify") return std::string(CERTIFY);
-    if (comando == "read") return std::string(READ);
-    if (comando == "shadow") return std::string(SHADOW);
-    if (comando == "sun") return std::string(SUN);
-    if (comando == "solid") return std::string(SOLID);
-    if (comando == "cut") {
-        std::string t(CUT);
-        for (const auto &f : officina::FormatiMacchina()) riga(t, "." + std::string(f.estensione), f.descrizione);
-        return t;
-    }
-    if (comando == "place") return std::string(PLACE);
-    if (comando != "draw") return std::string(GENERALE);
-    std::string t(DRAW);
-    for (const FormatoDisegno &f : Formati()) riga(t, "." + std::string(f.estensione), f.descrizione);
-    return t;
+    t = GENERALE;
+    for (const Sottocomando &c : COMANDI)
+        t.append("  ").append(c.nome).append(10 - c.nome.size(), ' ').append(c.che).append("\n");
+    return t.append(GENERALE_FINE);
 }
 
 }  // namespace ombrelia::cli

@@ -11,30 +11,11 @@
 #include <string_view>
 
 #include "cli/aiuto.h"
-#include "cli/batch.h"
-#include "cli/certify.h"
-#include "cli/cut.h"
-#include "cli/draw.h"
-#include "cli/ombre.h"
-#include "cli/place.h"
-#include "cli/report.h"
-#include "cli/sun.h"
 #ifdef OMBRELIA_CON_QT
 #include "desktop/avvio.h"
 #endif
 
 namespace {
-
-struct Sottocomando {
-    std::string_view nome;
-    int (*esegui)(int argc, char **argv);
-};
-constexpr Sottocomando COMANDI[] = {
-    {"batch", ombrelia::cli::Batch},   {"certify", ombrelia::cli::Certify}, {"cut", ombrelia::cli::Cut},
-    {"draw", ombrelia::cli::Draw},     {"place", ombrelia::cli::Place},     {"read", ombrelia::cli::Read},
-    {"report", ombrelia::cli::Report}, {"shadow", ombrelia::cli::Shadow},   {"solid", ombrelia::cli::Solid},
-    {"sun", ombrelia::cli::Sun},
-};
 
 // The window, when this build has one: by name, or with no command where there is a display.
 bool apreFinestra(std::string_view primo, int argc, char **argv, int &esito) {
@@ -81,8 +62,8 @@ int esegui(int argc, char **argv) {
         std::fputs(ombrelia::cli::Aiuto(argc > 2 ? argv[2] : "").c_str(), stdout);
         return primo.empty() ? 2 : 0;
     }
-    for (const Sottocomando &c : COMANDI) {
-        if (c.nome != primo) continue;
+    for (const ombrelia::cli::Sottocomando &c : ombrelia::cli::Sottocomandi()) {
+        if (c.nome != primo || !c.esegui) continue;
         for (int i = 2; i < argc; ++i)
             if (std::string_view(argv[i]) == "--help" || std::string_view(argv[i]) == "-h") {
                 std::fputs(ombrelia::cli::Aiuto(primo).c_str(), stdout);

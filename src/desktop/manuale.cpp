@@ -13,6 +13,7 @@
 #include <QVBoxLayout>
 #include <filesystem>
 
+#include "app/rapporti.h"
 #include "core/percorsi.h"
 #include "desktop/dialoghi.h"
 #include "desktop/lingua_finestra.h"
@@ -44,15 +45,6 @@ constexpr ParteManuale PARTI[] = {
     {"frmInfoDec", "declinazione"},
     {"pagineCarta", "pagine"},
     {"perMacchina", "macchina"},
-    {"Form1", "tabelle"},
-    {"Form2", "tabelle"},
-    {"Form3", "tabelle"},
-    {"Form4", "tabelle"},
-    {"Form6", "tabelle"},
-    {"Form7", "tabelle"},
-    {"Form8", "tabelle"},
-    {"Form9", "tabelle"},
-    {"Form10", "tabelle"},
 };
 
 // Beside the sources' data, and where it is installed.
@@ -70,11 +62,19 @@ void vai(QTextBrowser &testo, const QString &titolo) {
 
 }  // namespace
 
-std::span<const ParteManuale> PartiManuale() { return PARTI; }
+const std::vector<ParteManuale> &PartiManuale() {
+    static const std::vector<ParteManuale> tutte = [] {
+        std::vector<ParteManuale> parti(std::begin(PARTI), std::end(PARTI));
+        for (const app::VoceRapporto &r : app::ElencoRapporti())
+            if (!r.manuale.empty()) parti.push_back({r.modulo, r.manuale});
+        return parti;
+    }();
+    return tutte;
+}
 
 QString AncoraDi(const QWidget *w) {
     for (; w; w = w->parentWidget())
-        for (const ParteManuale &p : PARTI)
+        for (const ParteManuale &p : PartiManuale())
             if (const QString chi = Q(p.chi); w->objectName() == chi || w->property("gruppo").toString() == chi)
                 return Q(p.ancora);
     return QStringLiteral("finestra");

@@ -2,8 +2,8 @@
 #pragma once
 
 #include <QHash>
-#include <span>
 #include <string_view>
+#include <vector>
 
 #include "desktop/ponte.h"
 
@@ -13,7 +13,8 @@ namespace ombrelia::desktop {
 struct ParteManuale {
     std::string_view chi, ancora;
 };
-[[nodiscard]] std::span<const ParteManuale> PartiManuale();
+// Those of the window and of each report's form.
+[[nodiscard]] const std::vector<ParteManuale> &PartiManuale();
 // Of a widget, or of the nearest around it that has a part; the manual's beginning for others.
 [[nodiscard]] QString AncoraDi(const QWidget *w);
 

@@ -30,16 +30,6 @@ namespace {
 
 constexpr double MINIMA = 1e-4, MASSIMA = 1000;  // mm
 
-// How shops call the formats; one that is not named here goes by its ending.
-constexpr std::pair<std::string_view, const char *> NOMI[] = {
-    {"dxf", "DXF R12"}, {"svg", "SVG"}, {"plt", "HPGL"}, {"pdf", "PDF"}};
-
-QString nomeFormato(std::string_view estensione) {
-    for (const auto &[quale, nome] : NOMI)
-        if (quale == estensione) return QString::fromLatin1(nome) + QStringLiteral(" (.") + Q(estensione) + QLatin1Char(')');
-    return Q(estensione).toUpper();
-}
-
 QString lungo(double mm) {
     return mm < 99.95 ? QString::number(mm, 'f', 2) + QStringLiteral(" mm")
                       : QString::number(mm / 1000, 'f', 2) + QStringLiteral(" m");
@@ -178,7 +168,8 @@ QWidget *PerMacchina::scelte() {
         return c;
     };
     QStringList formati;
-    for (const officina::FormatoMacchina &f : officina::FormatiMacchina()) formati << nomeFormato(f.estensione);
+    for (const officina::FormatoMacchina &f : officina::FormatiMacchina())
+        formati << Q(f.nome) + QStringLiteral(" (.") + Q(f.estensione) + QLatin1Char(')');
     formato_ =
         elenco(ponte_.Traduci("Formato"), "formato", formati, 0,
                ponte_.Traduci("DXF per i programmi CAD e il taglio, SVG per il laser, HPGL per il plotter, PDF per la stampa"));

@@ -82,9 +82,12 @@ TavoleRapporto::TavoleRapporto(Ponte &ponte, Dialoghi &dialoghi, QWidget *testo,
         fila->addWidget(b);
     };
     bottone(ponte_.Traduci("Copia"), ponte_.Traduci("Le righe scelte, o tutte, negli appunti (Ctrl+C)"), [this] { copia(); });
-    for (const char *forma : {"csv", "html", "pdf"})
-        bottone(QString::fromLatin1(forma).toUpper(), ponte_.Traduci("Scrive il rapporto intero in un file"),
-                [this, forma] { salva(QString::fromLatin1(forma)); });
+    // Of forms with one ending the first; a page for paper is the window's own.
+    QStringList forme;
+    for (const reports::FormaRapporto &f : reports::FormeRapporto())
+        if (f.tavole && &f == &reports::FormaRapportoDi(f.estensione)) forme << Q(f.estensione);
+    for (const QString &forma : forme << QStringLiteral("pdf"))
+        bottone(forma.toUpper(), ponte_.Traduci("Scrive il rapporto intero in un file"), [this, forma] { salva(forma); });
 
     modello_ = new QStandardItemModel(this);
     filtro_ = new QSortFilterProxyModel(this);

@@ -24,12 +24,14 @@ std::string pagine(Tavolo &t, std::string &errore) {
     t.PrintMultiColor = colori;
     return file;
 }
+constexpr bool CON_QT = true;
 constexpr auto pdf = paint::Pdf, png = paint::Png, bmp = paint::Bmp;
 #else
 std::string pdf(Tavolo &, std::string &errore) {
     errore = "this build has no Qt: pdf, png and bmp are absent; dxf and svg are there";
     return {};
 }
+constexpr bool CON_QT = false;
 constexpr auto png = pdf, bmp = pdf, pagine = pdf;
 #endif
 
@@ -38,9 +40,9 @@ constexpr FormatoDisegno FORMATI[] = {
     {"svg", "svg", "drawing at true scale, one group a layer", [](Tavolo &t, std::string &) { return SVG_Generate(t); }},
     {"txt", "list", "the display list as text", [](Tavolo &t, std::string &) { return ListaTesto(t.lista()); }, true, false,
      false},
-    {"pdf", "pdf", "one page at true scale; with --paper in pages", pdf, true, false, true, pagine},
-    {"png", "png", "picture at the sheet's scale, 150 dots an inch", png, true, true},
-    {"bmp", "bmp", "the same picture without compression", bmp, true, true},
+    {"pdf", "pdf", "one page at true scale; with --paper in pages", pdf, true, false, true, pagine, CON_QT},
+    {"png", "png", "picture at the sheet's scale, 150 dots an inch", png, true, true, true, nullptr, CON_QT},
+    {"bmp", "bmp", "the same picture without compression", bmp, true, true, true, nullptr, CON_QT},
 };
 
 }  // namespace

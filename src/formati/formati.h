@@ -20,6 +20,7 @@ struct FormatoDisegno {
     bool disegno = true;    // a drawing, offered where one is saved; else the records of one
     // The same in pages of the sheet's paper, those that hold lines; null where there are none.
     std::string (*aPagine)(Tavolo &t, std::string &errore) = nullptr;
+    bool qui = true;  // this build writes it; else scrivi says why not
 };
 
 [[nodiscard]] std::span<const FormatoDisegno> Formati();

@@ -219,16 +219,4 @@ Scelta Atlante::Scegli(std::string_view nome, std::string_view paese) const {
     return s;
 }
 
-const Luogo *Atlante::Presso(double latitudine, double longitudine, double entro) const {
-    const Luogo *vicino = nullptr;
-    for (const Luogo &l : luoghi_) {
-        if (std::abs(l.latitudine - latitudine) > entro) continue;
-        const double d = Distanza(l, latitudine, longitudine);
-        if (d > entro) continue;
-        entro = d;
-        vicino = &l;
-    }
-    return vicino;
-}
-
 }  // namespace ombrelia::luoghi

@@ -64,9 +64,6 @@ public:
     // namesakes within a quarter of a degree are parts of it and don't count.
     [[nodiscard]] Scelta Scegli(std::string_view nome, std::string_view paese = {}) const;
 
-    // The place nearest to a point within so many degrees of arc; null when there is none.
-    [[nodiscard]] const Luogo *Presso(double latitudine, double longitudine, double entro = 0.5) const;
-
 private:
     struct ChiaveNome {
         std::uint32_t da, lunga, luogo;

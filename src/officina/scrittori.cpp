@@ -11,10 +11,10 @@ namespace ombrelia::officina {
 namespace {
 
 constexpr FormatoMacchina FORMATI[] = {
-    {"dxf", "DXF R12 whole: units, extents, layers, polylines, circles, arcs, points, texts", Dxf12},
-    {"svg", "layers, millimetres, hairlines by colour", SvgMacchina},
-    {"plt", "HPGL, one pen a colour, 0.025 mm a step", Hpgl},
-    {"pdf", "one page at true scale, one layer a kind", PdfStrati},
+    {"dxf", "DXF R12", "DXF R12 whole: units, extents, layers, polylines, circles, arcs, points, texts", Dxf12},
+    {"svg", "SVG", "layers, millimetres, hairlines by colour", SvgMacchina},
+    {"plt", "HPGL", "HPGL, one pen a colour, 0.025 mm a step", Hpgl},
+    {"pdf", "PDF", "one page at true scale, one layer a kind", PdfStrati},
 };
 
 }  // namespace

@@ -23,7 +23,7 @@ struct Intestazione {
 [[nodiscard]] std::string PdfStrati(const Disegno &d, const Intestazione &f);
 
 struct FormatoMacchina {
-    std::string_view estensione, descrizione;
+    std::string_view estensione, nome, descrizione;  // nome: as shops call it
     std::string (*scrivi)(const Disegno &, const Intestazione &);
 };
 [[nodiscard]] std::span<const FormatoMacchina> FormatiMacchina();

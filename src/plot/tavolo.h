@@ -68,7 +68,8 @@ public:
                         Valore Start = 0, Valore End = 0, std::string_view Id = {});
     void Scritta(std::string_view testo, Valore x, Valore y) { scrivi(testo, x, y); }
 
-    // The same in the sheet's frame, y downward, as action scripts read and write it.
+    // The same in the sheet's frame, y downward, as action scripts read and write it: the surface's whole set, polylines too.
+    // Engines draw by the routines above and need no polyline; every reader of the list knows what one is.
     template <class... T>
     void xLine(Valore X1, Valore Y1, Valore X2, Valore Y2, Colore colore, const T &...altro) {
         TracciaLinea(X1, Capovolta(Y1), X2, Capovolta(Y2), colore, altro...);
@@ -134,7 +135,6 @@ public:
     // n of the scale 1:n; without effect below ScalaMinima, which counts as 0 on a printer.
     void Scala(int n);
     [[nodiscard]] int ScalaMinima() const;
-    [[nodiscard]] double ScalaCorrente() const { return scalaCorrente_; }
     // A tile: what a page can hold; and the page itself. Metres.
     [[nodiscard]] double LarghezzaPagina() const { return larghezzaPagina_; }
     [[nodiscard]] double AltezzaPagina() const { return altezzaPagina_; }

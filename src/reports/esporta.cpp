@@ -268,7 +268,7 @@ std::string RapportoHtml(const Rapporto &r) {
 namespace {
 
 constexpr FormaRapporto FORME[] = {
-    {"txt", "--text", "lines in print zones of 14 columns, as on the form (without a choice)", RapportoTesto},
+    {"txt", "--text", "lines in print zones of 14 columns, as on the form (without a choice)", RapportoTesto, false},
     {"csv", "--csv", "labelled values, then one block a table: numbers with all their digits", RapportoCsv},
     {"csv", "--csv-it", "the same with ; and decimal commas, for Italian spreadsheets", RapportoCsvItaliano},
     {"html", "--html", "a page with tables", RapportoHtml},

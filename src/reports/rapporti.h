@@ -71,6 +71,7 @@ struct Blocco {
 struct FormaRapporto {
     std::string_view estensione, opzione, descrizione;  // of a file; of the command, with what its help says
     std::string (*scrivi)(const Rapporto &);
+    bool tavole = true;  // keeps tables as tables
 };
 [[nodiscard]] std::span<const FormaRapporto> FormeRapporto();
 // The first of an ending ("csv") without regard to case; the text for one that is unknown.

@@ -1,7 +1,9 @@
 // The table of controls as the page builds itself from it.
 #include "app/gruppi.h"
 #include "app/rapporti.h"
+#include "formati/formati.h"
 #include "officina/scrittori.h"
+#include "reports/rapporti.h"
 #include "web/json.h"
 #include "web/pagina.h"
 #include "web/testi.h"
@@ -75,9 +77,15 @@ std::string Pagina::Tavola() const {
         for (const app::Gruppo &g : *gruppi) gruppo(j, d, g);
     j.chiudi(']').nome("comandi").apri('[');
     for (const NomeControllo nome : COMANDI) controllo(j, d, nome);
-    // Forms for machines, by their endings.
+    // Forms of a drawing, for machines and of a report, by their endings.
+    j.chiudi(']').nome("formati").apri('[');
+    for (const FormatoDisegno &f : Formati())
+        if (f.disegno && f.qui) j.testo(f.estensione);
     j.chiudi(']').nome("macchina").apri('[');
     for (const officina::FormatoMacchina &f : officina::FormatiMacchina()) j.testo(f.estensione);
+    j.chiudi(']').nome("rapporti").apri('[');
+    for (const reports::FormaRapporto &f : reports::FormeRapporto())
+        if (&f == &reports::FormaRapportoDi(f.estensione)) j.testo(f.estensione);
     j.chiudi(']').nome("testi").apri('{');
     for (const TestoPagina &t : TestiPagina()) j.nome(t.chiave).testo(d.Traduci(t.testo));
     return std::move(j.chiudi('}').chiudi('}')).fine();

@@ -262,7 +262,7 @@ TEST(Finestra, AClickOnTheSheetReadsAndChooses) {
     desktop::Foglio &foglio = b.f.quadro().foglio();
     const Tavolo &t = b.f.sessione().tavolo;
     // A point of the second column of tiles, 30 mm to the right of its edge and 20 mm below the sheet's top.
-    const double x = (t.LarghezzaPagina() + 0.03) * t.ScalaCorrente(), y = 0.02 * t.ScalaCorrente();
+    const double scala = Tavolo::ScalaBase / t.Scala(), x = (t.LarghezzaPagina() + 0.03) * scala, y = 0.02 * scala;
     const QPointF punto = QPointF(x, y) * foglio.vista().fattore + foglio.vista().origine;
     QTest::mouseClick(foglio.viewport(), Qt::LeftButton, Qt::NoModifier, punto.toPoint());
     ASSERT_EQ(t.lista().Aree.size(), 1U);

@@ -62,7 +62,7 @@ TEST(Tavolo, LeastScaleOfTheSheet) {
         EXPECT_EQ(t.ScalaMinima(), n) << metri;
         EXPECT_EQ(t.Scala(), n) << metri;
         EXPECT_EQ(t.cmbScala().front(), n);
-        EXPECT_DOUBLE_EQ(t.ScalaCorrente(), 56700.0 / n);
+        EXPECT_DOUBLE_EQ(t.LarghezzaImmagine(), t.QuadranteL() * 56700 / n);
     }
 }
 

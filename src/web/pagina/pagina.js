@@ -304,7 +304,7 @@
 
   // --- the table of controls ------------------------------------------------------------------------------------------
 
-  let tavola = { gruppi: [], comandi: [], macchina: [] };
+  let tavola = { gruppi: [], comandi: [], formati: [], macchina: [], rapporti: [] };
   const etichettaDi = (c) => liscio(c.caption) || liscio(c.tip);
 
   function campo(c, caption) {
@@ -428,7 +428,8 @@
       ...esempi.map((n) => crea('option', { value: n, textContent: grande(leggibile(n)) })));
     cerca('esempi').setAttribute('aria-label', testi.esempi);
     cerca('scarica').firstElementChild.textContent = testi.scarica;
-    const forme = [['omb', testi.progetto], ['svg', 'SVG'], ['dxf', 'DXF', testi.perCad],
+    const forme = [['omb', testi.progetto],
+      ...tavola.formati.map((coda) => [coda, coda.toUpperCase(), coda === 'dxf' ? testi.perCad : '']),
       ...tavola.macchina.map((coda) => [`macchina.${coda}`, coda.toUpperCase(), testi.perMacchina]), ['csv', testi.tabella]];
     cerca('scarica').lastElementChild.replaceChildren(...forme.map(([forma, nome, nota = '']) => crea('button', {
       type: 'button', onclick: () => prova(() => scarica(forma)),
@@ -596,7 +597,7 @@
         righe.append(crea('tr', {}, ...celle.map((c) => crea('td', { textContent: c }))));
       }
     }
-    const forme = ['csv', 'txt'].map((forma) => crea('button', {
+    const forme = tavola.rapporti.map((forma) => crea('button', {
       type: 'button', textContent: forma.toUpperCase(), onclick: () => salva(`${nome}.${forma}`, modulo.FS.readFile(chiama('salvaRapporto', forma)), 'text/plain'),
     }));
     return mostraFoglietto(r.titolo, corpo, forme);

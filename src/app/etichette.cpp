@@ -36,30 +36,14 @@ public:
     explicit Scritte(const Sessione &s) : in_(s.in), posa_(PosaDelDisegno(s)), piano_(posa_.quadrante) {}
 
     [[nodiscard]] std::string operator()(Specie specie, double valore) const {
-        switch (specie) {
-            case Specie::Ora:
-            case Specie::Italica:
-            case Specie::Babilonica:
-            case Specie::Temporaria:
+        switch (DellaSpecie(specie).scritto) {
+            case ScrittoDi::Ora:
                 return ora(specie, valore);
-            case Specie::Diurna:
+            case ScrittoDi::Giorno:
                 return giorno(valore);
-            case Specie::Equinoziale:
-                return giorno(0);
-            case Specie::Almucantarat:
-            case Specie::Azimut:
+            case ScrittoDi::Gradi:
                 return TestoNumero(std::round(valore * 100) / 100) + "°";
-            case Specie::Asr:
-            case Specie::Qibla:
-            case Specie::Analemma:
-            case Specie::Mezzogiorno:
-            case Specie::OraSustilare:
-            case Specie::Sustilare:
-            case Specie::Orizzonte:
-            case Specie::Stilo:
-            case Specie::Tacca:
-            case Specie::Etichetta:
-            case Specie::Nessuna:
+            case ScrittoDi::Niente:
                 break;
         }
         return {};

@@ -20,7 +20,7 @@ enum class Motore : std::uint8_t { Diretta, Verticale, Analitica };
 // One line that an engine is about to draw.
 struct LineaAttesa {
     double parametro;         // the engine's own counter: hour angle in degrees, hour, declination, altitude, azimuth
-    double valore;            // what the line claims, as in plot/pretesa.h
+    double valore;            // what the line claims, as in plot/specie.h
     std::string_view strato;  // layer; of a label its text
     Colore colore;
 };

@@ -94,6 +94,17 @@ TEST(Pubblicati, RuleOfAsr) {
             ASSERT_GT(l.t, 0) << lat;
         }
     }
+    for (const auto &r : prova::Tabella("asr_definizione.txt")) {
+        prova::Banco b = piano(r.at(0), "-15", {"ckAsr"});
+        b.esegui();
+        const double delta = Val(r.at(1)).v * ombra::RADIANTI;
+        const auto punti = lette(b, ombra::PianoMontato({Val(r[0]).v * ombra::RADIANTI, 0, std::numbers::pi / 2, 1}), QB(7));
+        double t = 1e9;  // between the neighbours, a twentieth of a degree apart
+        for (std::size_t i = 1; i < punti.size(); ++i)
+            if (const auto &p = punti[i - 1], &q = punti[i]; (p.delta <= delta + 1e-9) != (q.delta <= delta + 1e-9))
+                t = std::lerp(p.t, q.t, (delta - p.delta) / (q.delta - p.delta));
+        EXPECT_NEAR(t * ombra::GRADI, Val(r.at(2)).v, 1e-4) << r[0] << " " << r[1];
+    }
 }
 
 // Bearings that charts of the Qibla give: in the caption, and of the Sun whose shadow falls on the curve.

@@ -71,6 +71,8 @@ void lasciaFoglio(Corsa &c) {
 
 }  // namespace
 
+std::vector<SignificatoCasella> Significati() { return SignificatiDi(CARATTERISTICHE); }
+
 void EseguiGraficaAnalitica(Sessione &s, const Lettura &letto) {
     Corsa c(s, letto);
     s.Messaggio("Piede Esegui: algoritmo che usa prevalentemente la Geometria Analitica ");

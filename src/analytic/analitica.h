@@ -2,7 +2,7 @@
 // upward, and so it is drawn. Its formulas hold no inclination.
 #pragma once
 
-#include "sessione/sessione.h"
+#include "gnomonica/caratteristiche.h"
 
 namespace ombrelia::analytic {
 
@@ -12,5 +12,8 @@ void EseguiGraficaAnalitica(Sessione &s, const Lettura &letto);
 
 // Points and lines of this engine have no layer, but for the hour lines.
 inline constexpr IdNome SENZA_STRATO = 0;
+
+// What its boxes draw.
+[[nodiscard]] std::vector<SignificatoCasella> Significati();
 
 }  // namespace ombrelia::analytic

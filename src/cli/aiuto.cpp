@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "app/significati.h"
 #include "cli/batch.h"
 #include "cli/certify.h"
 #include "cli/cut.h"
@@ -273,6 +274,13 @@ void riga(std::string &t, std::string_view nome, std::string_view cosa) {
 
 void formeDisegno(std::string &t) {
     for (const FormatoDisegno &f : Formati()) riga(t, "." + std::string(f.estensione), f.descrizione);
+    t += "\nboxes of --check, and what they draw:\n";
+    constexpr std::size_t LARGO = 20;
+    for (const app::CasellaSpiegata &c : app::CaselleSpiegate())
+        for (const std::string_view cosa : c.significati) {
+            const std::string_view nome = cosa == c.significati.front() ? c.nome : std::string_view();
+            t.append("  ").append(nome).append(LARGO - nome.size(), ' ').append(cosa).append("\n");
+        }
 }
 void formeMacchina(std::string &t) {
     for (const auto &f : officina::FormatiMacchina()) riga(t, "." + std::string(f.estensione), f.descrizione);

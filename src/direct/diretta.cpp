@@ -206,6 +206,8 @@ void lasciaCornice(Corsa &c) {
 
 }  // namespace
 
+std::vector<SignificatoCasella> Significati() { return SignificatiDi(CARATTERISTICHE, ORIZZONTE, ULTIME); }
+
 bool TroppoFitta(Sessione &s, const Lettura &letto) {
     const DialInputs &in = s.in;
     const Valore frazione = letto.fraz == 0 ? Valore(1) : letto.fraz;

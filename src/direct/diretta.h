@@ -2,7 +2,7 @@
 // Sun's direction. Origin at the foot of the ortostilo, x to the right, y upward, and so it is drawn.
 #pragma once
 
-#include "sessione/sessione.h"
+#include "gnomonica/caratteristiche.h"
 
 namespace ombrelia::direct {
 
@@ -12,5 +12,8 @@ void I_Graf_diretta(Sessione &s, const Lettura &letto);
 
 // Whether I_Graf_diretta would refuse for loops too long; tells the user which field.
 [[nodiscard]] bool TroppoFitta(Sessione &s, const Lettura &letto);
+
+// What its boxes draw.
+[[nodiscard]] std::vector<SignificatoCasella> Significati();
 
 }  // namespace ombrelia::direct

@@ -15,7 +15,7 @@ template <typename Corsa>
 struct Caratteristica {
     int DialInputs::*casella;      // its box; none: in every run
     Specie specie;                 // what its lines claim
-    std::string_view significato;  // what it shows
+    std::string_view significato;  // what it shows: the help of commands tells it
     // Its lines, as counter, claim, layer and colour, in the order of drawing; null where one pass draws none that counts.
     void (*linee)(const Corsa &, LineeAttese &);
     // Draws them. Each line claims as its row of linee says.
@@ -38,6 +38,23 @@ void PercorriCaratteristiche(Corsa &c, Motore motore, const Caratteristica<Corsa
         c.verifica();
         if (!s.corretta({motore, r.specie, r.di, linee})) r.traccia(c, linee);
     }
+}
+
+// What a box draws, as rows say it.
+struct SignificatoCasella {
+    int DialInputs::*casella;
+    std::string_view significato;
+};
+// Those of tables, in their order; rows of every run have no box.
+template <typename... Tavole>
+[[nodiscard]] std::vector<SignificatoCasella> SignificatiDi(const Tavole &...tavole) {
+    std::vector<SignificatoCasella> tutti;
+    const auto prendi = [&](const auto &tavola) {
+        for (const auto &r : tavola)
+            if (r.casella) tutti.push_back({r.casella, r.significato});
+    };
+    (prendi(tavole), ...);
+    return tutti;
 }
 
 // Lists the lines of a row that are the same on every dial.

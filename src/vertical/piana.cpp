@@ -175,6 +175,8 @@ constexpr Riga ULTIME[] = {
 
 }  // namespace
 
+std::vector<SignificatoCasella> Significati() { return SignificatiDi(CARATTERISTICHE, ULTIME); }
+
 bool TroppoFitta(Sessione &s, const Lettura &letto) {
     const DialInputs &in = s.in;
     Reale passo = s.v.passo, fraz = s.v.fraz;

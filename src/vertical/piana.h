@@ -2,7 +2,7 @@
 // Origin at the foot of the ortostilo, x to the right, y upward, and so it is drawn. The latitude keeps its sign.
 #pragma once
 
-#include "sessione/sessione.h"
+#include "gnomonica/caratteristiche.h"
 
 namespace ombrelia::vertical {
 
@@ -12,5 +12,8 @@ void Piana_Esegui(Sessione &s, const Lettura &letto);
 
 // Whether Piana_Esegui would refuse for loops too long; tells the user which field.
 [[nodiscard]] bool TroppoFitta(Sessione &s, const Lettura &letto);
+
+// What its boxes draw.
+[[nodiscard]] std::vector<SignificatoCasella> Significati();
 
 }  // namespace ombrelia::vertical

@@ -33,6 +33,8 @@ struct Parete {
     Reale segnoTrasf;  // sign of f1
 };
 
+// Given: the original plane. Gives: see Parete. Source: see EquivalenteDi. Faults: an angle without a value is 0, a difference of
+// longitude that of the dial before.
 Parete pareteDi(const Variabili &v, const Piano &piano) {
     const PareteEquivalente e = EquivalenteDi(piano, v.dec);
     Parete p(v);
@@ -104,6 +106,8 @@ struct StiloSolstizi {
     Reale disc;  // discriminant of the ordinates on x = 0
 };
 
+// Given: the plane, the wall. Gives: see StiloSolstizi, disc as it stood. Source: as at each form; departure: at latitude 0 the
+// substyle lies level. Faults: what has no value is that of the dial before.
 StiloSolstizi stiloDeiSolstizi(const Variabili &v, const Piano &piano, const Parete &p) {
     StiloSolstizi r(v);
     Reale d1 = p.d1;
@@ -120,8 +124,9 @@ StiloSolstizi stiloDeiSolstizi(const Variabili &v, const Piano &piano, const Par
     return r;
 }
 
-// Where the solstices meet the horizon and the line x = 0 on the wall; gives its style and substyle, and the discriminant of the
-// ordinates, one that overflows being the declination of choice.
+// Where the solstices meet the horizon and the line x = 0 on the wall. Given: the plane, the wall. Gives: rows in the unit of gn, y
+// upward; the wall's style and substyle and the discriminant of the ordinates. Source: see Conica. Faults: an abscissa without a
+// value is 0; a discriminant that overflows is what stands in the declination of choice.
 StiloSolstizi solstizi(const Variabili &v, const Lettura &letto, const Piano &piano, Tabulato &f, const Parete &p) {
     StiloSolstizi r = stiloDeiSolstizi(v, piano, p);
     const Reale yo = letto.oriz;  // one that overflows is 0
@@ -154,7 +159,8 @@ StiloSolstizi solstizi(const Variabili &v, const Lettura &letto, const Piano &pi
     return r;
 }
 
-// The original plane's substyle, radians: its hour angle and its angle.
+// The original plane's substyle: its hour angle and its angle. Given: the plane. Gives: radians. Source: as stiloDi of the data
+// report. Faults: an angle without a value is 0.
 struct SustilareOriginale {
     Reale angoloOra, sigma;
 };

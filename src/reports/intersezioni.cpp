@@ -37,12 +37,14 @@ std::vector<std::string> colonne(const Sessione &s) {
 
 Elemento quattro(Valore x) { return Fmt(x, "0.0000"); }
 
+// Hour angles of the rows, degrees. The spherical table counts them positive after noon, the analytic one before: meant.
+Conteggio angoli(const Lettura &letto, Valore fraz) { return {180 - 15 * letto.fine, 180 - 15 * letto.inizio, 15 / fraz}; }
+
 }  // namespace
 
 void IntersezioniSferiche(Sessione &s, Uscita uscita) {
     const Lettura letto(s.in);
-    const Valore inizio = letto.inizio, fine = letto.fine;
-    if (TroppeRighe(s, inizio, fine, letto.fraz, 5)) return;
+    if (TroppeRighe(s, letto.inizio, letto.fine, letto.fraz, 5)) return;
     LeggiParametri(s, letto);
     LeggiUnita(s);
     const Variabili &v = s.v;
@@ -76,7 +78,7 @@ void IntersezioniSferiche(Sessione &s, Uscita uscita) {
             tabella(t.scritta);
         }
         prima = false;
-        for (const double V : Conteggio(180 - 15 * fine, 180 - 15 * inizio, 15 / v.fraz)) {
+        for (const double V : angoli(letto, v.fraz)) {
             const Valore a = (V - cL) * PI / 180;
             proietta(a, Radianti(-t.delta), xa, ya);
             proietta(a, Radianti(t.delta), xb, yb);
@@ -93,7 +95,7 @@ namespace {
 struct SustilareAnalitica {
     explicit SustilareAnalitica(const Variabili &v) : angoloOra(v.angoloOra), y0(v.y0) {
         const Reale seno = SenOraSustilare(v.decR, v.incR, v.altStilo);
-        angoloOra = ArcSin(seno) + (DalMeridiano(v.lonCopia, v.meridiano) * PI / 180) * v.oraFuso;
+        angoloOra = ArcSin(seno) + CorrezioneFuso(DalMeridiano(v.lonCopia, v.meridiano), v.oraFuso);
         y0 = DistanzaEquinoziale(v.gn, v.altStilo);
     }
     Reale angoloOra;  // hour angle of the substyle with the longitude in it, radians
@@ -119,8 +121,7 @@ Quadratica incontri(const Conica &k, Valore h, Valore q, bool equinozio) {
 
 void IntersezioniAnalitiche(Sessione &s, Uscita uscita) {
     const Lettura letto(s.in);
-    const Valore inizio = letto.inizio, fine = letto.fine;
-    if (TroppeRighe(s, inizio, fine, letto.fraz, 4)) return;
+    if (TroppeRighe(s, letto.inizio, letto.fine, letto.fraz, 4)) return;
     CalcolaAngoliAnalitici(s, letto);
     const Variabili &v = s.v;
     const SustilareAnalitica sustilare(v);
@@ -144,7 +145,7 @@ void IntersezioniAnalitiche(Sessione &s, Uscita uscita) {
         prima = false;
         m = QuadratoCotangente(delta);
         k.calcola(m, v.altStilo, v.gn);
-        for (const double V : Conteggio(180 - 15 * fine, 180 - 15 * inizio, 15 / v.fraz)) {
+        for (const double V : angoli(letto, v.fraz)) {
             const Valore t = V * PI / 180;
             h = (v.gn / cos(v.altStilo)) * tan(sustilare.angoloOra + t);
             q = sin(v.altStilo) * tan(sustilare.angoloOra + t);

@@ -32,6 +32,9 @@ ore::DatiOre::DatiOre(const Variabili &v, SpecieOreVere quale)
 
 namespace {
 
+// All angles. Given: the dial as it stood, d. Gives: d with them, radians, lengths in the unit of gn. Source: as at each form of
+// gnomonica. Faults: what has no value is that of the dial before.
+
 // A reclining plane, by the wall that has its lines: style and substyle are the plane's, latitude and declination the wall's.
 DatiOre angoliInclinato(const Variabili &v, DatiOre d, bool senzaFuso, bool schermo) {
     const Valore segno = SegnoDeclinazione(d.decR, d.decR);
@@ -96,7 +99,8 @@ DatiOre angoliLatZero(const Variabili &v, DatiOre d) {
     return d;
 }
 
-// Centre, lengths of the style's triangle, and the chosen lines against equinoctial and substyle.
+// Centre, lengths of the style's triangle, and the chosen lines against equinoctial and substyle. Given: a dial with its angles.
+// Gives: lengths in the unit of gn, signed, y upward. Source: the right triangles of style, foot and equinoctial. Faults: as above.
 DatiOre conPunti(const Variabili &v, DatiOre d) {
     TriangoloStilo &t = d.lati;
     const Valore ts = tan(d.angSustilare);
@@ -167,8 +171,7 @@ void lascia(Sessione &s, const DatiOre &d) {
     s.in.optHorae = 0;
 }
 
-void oreVere(Sessione &s, Uscita uscita, SpecieOreVere specie) {
-    const Lettura letto(s.in);
+void oreVere(Sessione &s, const Lettura &letto, Uscita uscita, SpecieOreVere specie) {
     if (TroppeRighe(s, letto.inizio, letto.fine, letto.fraz, 2)) return;
     LeggiParametri(s, letto);
     Tabulato f(s, "Form2", uscita);
@@ -188,9 +191,10 @@ void oreVere(Sessione &s, Uscita uscita, SpecieOreVere specie) {
 void OreVere(Sessione &s, Uscita uscita) {
     const bool stampa = uscita == Uscita::Stampa;
     if (stampa && s.v.lat < 0) return;
-    const bool equatore = (stampa ? Valore(s.v.lat) : Val(s.in.txtLAT)) == 0;
-    const bool parete = (stampa ? Valore(s.v.incR) : Val(s.in.txtInc)) == 0;
-    oreVere(s, uscita, equatore ? SpecieOreVere::LatZero : parete ? SpecieOreVere::Parete : SpecieOreVere::Inclinato);
+    const Lettura letto(s.in);
+    const bool equatore = (stampa ? Valore(s.v.lat) : letto.lat) == 0;
+    const bool parete = (stampa ? Valore(s.v.incR) : letto.inc) == 0;
+    oreVere(s, letto, uscita, equatore ? SpecieOreVere::LatZero : parete ? SpecieOreVere::Parete : SpecieOreVere::Inclinato);
 }
 
 }  // namespace ombrelia::reports

@@ -124,9 +124,9 @@ StiloSolstizi stiloDeiSolstizi(const Variabili &v, const Piano &piano, const Par
     return r;
 }
 
-// Where the solstices meet the horizon and the line x = 0 on the wall. Given: the plane, the wall. Gives: rows in the unit of gn, y
-// upward; the wall's style and substyle and the discriminant of the ordinates. Source: see Conica. Faults: an abscissa without a
-// value is 0; a discriminant that overflows is what stands in the declination of choice.
+// Where the solstices meet the horizon and the line x = 0 on the wall. Given: the plane, the wall. Gives: rows in the unit of gn,
+// y upward; the wall's style and substyle and the discriminant of the ordinates. Source: see Conica. Faults: an abscissa without
+// a value is 0; a discriminant that overflows is what stands in the declination of choice.
 StiloSolstizi solstizi(const Variabili &v, const Lettura &letto, const Piano &piano, Tabulato &f, const Parete &p) {
     StiloSolstizi r = stiloDeiSolstizi(v, piano, p);
     const Reale yo = letto.oriz;  // one that overflows is 0

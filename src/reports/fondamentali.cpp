@@ -61,8 +61,9 @@ struct StiloPiano {
     PostoCentro centro{0, 0};
 };
 
-// Given: the plane, its inclination in degrees as typed. Gives: see StiloPiano. Source: the right spherical triangle of pole, zenith
-// and plane, as at each form of Piano (Rohr, Sundials). Faults: an elevation without a value is that of the dial before, an angle 0.
+// Given: the plane, its inclination in degrees as typed. Gives: see StiloPiano. Source: the right spherical triangle of pole,
+// zenith and plane, as at each form of Piano (Rohr, Sundials). Faults: an elevation without a value is that of the dial before,
+// an angle 0.
 StiloPiano stiloDi(const Variabili &v, const CampiDati &d, const Piano &piano, Valore inc) {
     StiloPiano s(v);
     s.polo = piano.senStilo();
@@ -88,8 +89,8 @@ StiloPiano stiloDi(const Variabili &v, const CampiDati &d, const Piano &piano, V
     return s;
 }
 
-// Given: the fields, style and substyle. Gives: the unit of gn, all lengths positive. Source: the right triangles of style, foot and
-// equinoctial in the plane of the substyle. Faults: a length without a value is that of the dial before.
+// Given: the fields, style and substyle. Gives: the unit of gn, all lengths positive. Source: the right triangles of style, foot
+// and equinoctial in the plane of the substyle. Faults: a length without a value is that of the dial before.
 TriangoloStilo triangoloDi(const Variabili &v, const CampiDati &d, const StiloPiano &s) {
     TriangoloStilo t(v);
     t.assostiloLen = Abs(d.gn / sin(s.altStilo));
@@ -109,8 +110,8 @@ struct StiloParete {
     Reale y0;                      // from the foot to the equinoctial
 };
 
-// Given: the fields, and the plane's style, whose elevation stands where the wall's has no value. Gives: see StiloParete. Source: as at
-// each form. Faults: what has no value is that of the dial before.
+// Given: the fields, and the plane's style, whose elevation stands where the wall's has no value. Gives: see StiloParete. Source:
+// as at each form. Faults: what has no value is that of the dial before.
 StiloParete pareteDi(const Variabili &v, const CampiDati &d, const StiloPiano &s) {
     StiloParete p{v.angSustilare, s.altStilo, v.y0};
     p.angSustilare = SustilareMuro(d.latR, d.decR);
@@ -184,9 +185,10 @@ void lunghezze(const Sessione &s, Tabulato &f, const CampiDati &d, const StiloPi
     f.colore(BLU);
 }
 
-// Where the day lines of the solstices, then of txtDelta, meet the horizon and the line x = 0. Given: the fields, the wall. Gives: rows
-// in the unit of gn, y upward, and the discriminant of the last ordinates. Source: see Conica. Faults: a line that doesn't meet
-// prints the row before; a discriminant that overflows is that before, the first one's the declination of choice in its place.
+// Where the day lines of the solstices, then of txtDelta, meet the horizon and the line x = 0. Given: the fields, the wall.
+// Gives: rows in the unit of gn, y upward, and the discriminant of the last ordinates. Source: see Conica. Faults: a line that
+// doesn't meet prints the row before; a discriminant that overflows is that before, the first one's the declination of choice in
+// its place.
 Reale lineeDiurne(Tabulato &f, const Lettura &letto, const CampiDati &d, const StiloParete &p) {
     Reale disc = d.delta;
     Conica k;

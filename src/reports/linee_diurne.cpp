@@ -39,8 +39,8 @@ void testata(const Sessione &s, Tabulato &f, std::span<const Valore> declinazion
     f.intestazioni(teste);
 }
 
-// Rows: abscissa, then both ordinates of each line. Given: abscissas and conics in the unit of gn. Gives: the same unit, y upward.
-// Source: see OrdinateConica. Faults: an ordinate without a value is that of the row before.
+// Rows: abscissa, then both ordinates of each line. Given: abscissas and conics in the unit of gn. Gives: the same unit, y
+// upward. Source: see OrdinateConica. Faults: an ordinate without a value is that of the row before.
 void righe(Tabulato &f, const Conteggio &ascisse, const std::vector<OrdinateConica> &linee) {
     std::array<Reale, 4> estive, invernali;
     for (const double V : ascisse) {

@@ -100,7 +100,8 @@ DatiOre angoliLatZero(const Variabili &v, DatiOre d) {
 }
 
 // Centre, lengths of the style's triangle, and the chosen lines against equinoctial and substyle. Given: a dial with its angles.
-// Gives: lengths in the unit of gn, signed, y upward. Source: the right triangles of style, foot and equinoctial. Faults: as above.
+// Gives: lengths in the unit of gn, signed, y upward. Source: the right triangles of style, foot and equinoctial. Faults: as
+// above.
 DatiOre conPunti(const Variabili &v, DatiOre d) {
     TriangoloStilo &t = d.lati;
     const Valore ts = tan(d.angSustilare);

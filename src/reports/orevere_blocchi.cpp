@@ -7,8 +7,8 @@ namespace ombrelia::reports::ore {
 
 namespace {
 
-// The point P where substyle and equinoctial meet. Given: ortostilo, the dial. Gives: the unit of gn, y upward; departure: the foot
-// itself where the wall looks due east or west. Source: elementary geometry. Faults: 0.
+// The point P where substyle and equinoctial meet. Given: ortostilo, the dial. Gives: the unit of gn, y upward; departure: the
+// foot itself where the wall looks due east or west. Source: elementary geometry. Faults: 0.
 struct PuntoEquinoziale {
     Reale x, y;
 };
@@ -27,8 +27,8 @@ void coppie(const Variabili &v, const DatiOre &d, Tabulato &f) {
     const Valore ts = tan(d.angSustilare);
     const bool declina = d.decR != 0;
     const auto taglia = [](Valore x) { return Int(x * 10000) / 10000; };
-    // The equinoctial runs through P square to the substyle. Given: an abscissa, an ordinate. Gives: the other, those but the first
-    // cut to four decimals; not computed is 0.
+    // The equinoctial runs through P square to the substyle. Given: an abscissa, an ordinate. Gives: the other, those but the
+    // first cut to four decimals; not computed is 0.
     const auto equinoziale = [&](Valore a) { return Reale(declina ? ts * (a - P.x) + P.y : Valore(0)); };
     const auto equinozialeY = [&](Valore b) { return Reale(declina ? taglia((b - P.y) / ts + P.x) : Valore(0)); };
     const auto sustilare = [&](Valore a) { return Reale(taglia(-a / ts)); };

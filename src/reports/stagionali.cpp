@@ -142,8 +142,8 @@ void testata(Sessione &s, Tabulato &f, const std::array<std::string_view, 3> &ti
     f.intestazioni(trilingue(teste));
 }
 
-// The tables against (x0, y0) and (x1, y1). Given: the lines. Gives: the unit of gn, y upward. Source: the straight line through two
-// points. Faults: what has no value is that of the row before.
+// The tables against (x0, y0) and (x1, y1). Given: the lines. Gives: the unit of gn, y upward. Source: the straight line through
+// two points. Faults: what has no value is that of the row before.
 void tabelleRette(Sessione &s, Tabulato &f, const TestiStagionali &t, Linee &linee, const Conteggio &ore,
                   const std::function<Speciale(double)> &speciale) {
     const Variabili &v = s.v;

@@ -27,15 +27,15 @@ double scarto(const RecLinea &a, const RecLinea &b) {  // distance of a's first 
     return std::fabs((a.X1 - b.X1) * dy - (a.Y1 - b.Y1) * dx) / std::hypot(dx, dy);
 }
 
-struct Piano {
+struct PianoScritto {
     const char *lat, *dec, *inc;
 };
-constexpr Piano PIANI[] = {{"0", "0", "0"},         {"0", "30", "10"},    {"20", "-80", "0"},
-                           {"45.7", "-20", "25.2"}, {"45", "110", "-30"}, {"60", "170", "5"},
-                           {"80", "15", "60"},      {"51.5", "0", "90"},  {"35", "-135", "80"}};
+constexpr PianoScritto PIANI[] = {{"0", "0", "0"},         {"0", "30", "10"},    {"20", "-80", "0"},
+                                  {"45.7", "-20", "25.2"}, {"45", "110", "-30"}, {"60", "170", "5"},
+                                  {"80", "15", "60"},      {"51.5", "0", "90"},  {"35", "-135", "80"}};
 
 TEST(Diretta, HourLinesAreStraight) {
-    for (const Piano &p : PIANI) {
+    for (const PianoScritto &p : PIANI) {
         Banco b({{"txtLAT", p.lat}, {"txtDec", p.dec}, {"txtInc", p.inc}, {"TxtFraz", "4"}}, {"chkOreAstronomiche"});
         allarga(b);
         b.esegui();
@@ -57,7 +57,8 @@ TEST(Diretta, HourLinesAreStraight) {
 
 // On a plane that looks along the meridian the afternoon mirrors the morning.
 TEST(Diretta, MorningMirrorsAfternoon) {
-    for (const Piano &p : {Piano{"45", "0", "0"}, Piano{"45", "0", "40"}, Piano{"30", "0", "90"}, Piano{"60", "0", "-20"}}) {
+    for (const PianoScritto &p : {PianoScritto{"45", "0", "0"}, PianoScritto{"45", "0", "40"}, PianoScritto{"30", "0", "90"},
+                                  PianoScritto{"60", "0", "-20"}}) {
         Banco b({{"txtLAT", p.lat}, {"txtDec", p.dec}, {"txtInc", p.inc}, {"TxtFraz", "2"}},
                 {"chkOreAstronomiche", "Ck_DayLightCurves", "ckFunzione", "ck_Equinoziale"});
         allarga(b);

@@ -25,9 +25,9 @@ void vicini(const PostoCentro &a, const PostoCentro &b, double quanto) {
     EXPECT_NEAR(a.y.v, b.y.v, quanto);
 }
 
-// A Sun at the pole throws its shadow along the polar axis, so onto the centre, at whatever hour. The tangent of 1e9 is 1e-9 short
-// of the pole, and no centre of these is farther than 30 m.
-TEST(Forme, IlCentroEOmbraDelPolo) {
+// A Sun at the pole throws its shadow along the polar axis, so onto the centre, at whatever hour. The tangent of 1e9 is 1e-9
+// short of the pole, and no centre of these is farther than 30 m.
+TEST(Forms, TheCentreIsThePolesShadow) {
     perPiani([](const Piano &p, double dec) {
         const PostoCentro c = CentroDelPiano(p, p.senStilo());
         Reale x, y;
@@ -35,8 +35,8 @@ TEST(Forme, IlCentroEOmbraDelPolo) {
         vicini(c, {x, y}, 1e-6);
         if (!(p.i == 0)) return;
         const Valore stilo = StiloMuroQuadrati(p.phi, p.g), sustilare = SustilareMuro(p.phi, p.g);
-        // The arc tangents lie in the right half circle: a wall that looks away from the equator, or one in the South, has its centre
-        // on the other side.
+        // The arc tangents lie in the right half circle: a wall that looks away from the equator, or one in the South, has its
+        // centre on the other side.
         const double lato = (std::abs(dec) > 90 ? -1 : 1) * (p.phi < 0 ? -1 : 1) * (stilo < 0 ? -1 : 1);
         const PostoCentro m = CentroDaStilo(p.gn, sustilare, stilo);
         vicini({lato * m.x, lato * m.y}, c, 1e-9);
@@ -44,9 +44,9 @@ TEST(Forme, IlCentroEOmbraDelPolo) {
     });
 }
 
-// The equivalent wall is the same plane elsewhere: the polar axis stands as high over it, and the Sun that crosses the substyle is
-// the same one, half turns aside.
-TEST(Forme, LaPareteEquivalenteELoStessoPiano) {
+// The equivalent wall is the same plane elsewhere: the polar axis stands as high over it, and the Sun that crosses the substyle
+// is the same one, half turns aside.
+TEST(Forms, TheEquivalentWallIsTheSamePlane) {
     perPiani([](const Piano &p, double dec) {
         if (p.phi < 0) return;  // the engines have the latitude without its sign
         const Valore segno = Sgn(p.g);
@@ -60,7 +60,7 @@ TEST(Forme, LaPareteEquivalenteELoStessoPiano) {
     });
 }
 
-TEST(Forme, Quadratica) {
+TEST(Forms, Quadratic) {
     const Quadratica due{1, -5, 6};
     EXPECT_EQ(due.discriminante().v, 1);
     EXPECT_EQ(due.radici().meno.v, 2);
@@ -73,7 +73,7 @@ TEST(Forme, Quadratica) {
 }
 
 // The reports' ordinates at x = 0 are those of the conic there.
-TEST(Forme, OrdinateSulPiede) {
+TEST(Forms, OrdinatesOnTheFoot) {
     perPiani([](const Piano &p, double) {
         if (!(p.i == 0)) return;
         const Valore stilo = StiloMuroQuadrati(p.phi, p.g), sustilare = SustilareMuro(p.phi, p.g);

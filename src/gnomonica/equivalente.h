@@ -48,8 +48,8 @@ inline PareteEquivalente EquivalenteDi(const Piano &p, Valore dec) {
 
 // The same as the hours' report counts it. Given: the plane, its declination in degrees as typed, the sign of the wall's. Gives:
 // see PareteEquivalente, the declination with that sign. Source: as above; departures: a plane that looks due south is never
-// turned round, and where a cosine reaches 1 its angle is 0. Faults: a cosine of the longitude that overflows is 0, one of the
-// declination that of the longitude.
+// turned round, a wall of southern latitude is not counted by its mirror image, and where a cosine reaches 1 its angle is 0.
+// Faults: a cosine of the longitude that overflows is 0, one of the declination that of the longitude.
 inline PareteEquivalente EquivalenteDelleOre(const Piano &p, Valore dec, Valore segno) {
     PareteEquivalente e;
     e.f1 = ArcSin(p.senZenit());

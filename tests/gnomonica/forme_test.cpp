@@ -25,14 +25,14 @@ void vicini(const PostoCentro &a, const PostoCentro &b, double quanto) {
     EXPECT_NEAR(a.y.v, b.y.v, quanto);
 }
 
-// A Sun at the pole throws its shadow along the polar axis, so onto the centre, at whatever hour. The tangent of 1e9 is 1e-9
-// short of the pole, and no centre of these is farther than 30 m.
+// A Sun at the pole throws its shadow along the polar axis, so onto the centre, at whatever hour. One 1e-9 short of the pole is
+// that off at the tip, and r²/gn times as much on the plane, r being the length of the ray.
 TEST(Forms, TheCentreIsThePolesShadow) {
     perPiani([](const Piano &p, double dec) {
         const PostoCentro c = CentroDelPiano(p, p.senStilo());
         Reale x, y;
         Proiezione::delPiano(p.phi, p.g, p.i, p.gn, 1)(SenCos(Valore(0.4)), 1e9, x, y);
-        vicini(c, {x, y}, 1e-6);
+        vicini(c, {x, y}, 2e-9 * ((c.x * c.x + c.y * c.y + p.gn * p.gn) / p.gn).v);
         if (!(p.i == 0)) return;
         const Valore stilo = StiloMuroQuadrati(p.phi, p.g), sustilare = SustilareMuro(p.phi, p.g);
         // The arc tangents lie in the right half circle: a wall that looks away from the equator, or one in the South, has its
@@ -45,18 +45,18 @@ TEST(Forms, TheCentreIsThePolesShadow) {
 }
 
 // The equivalent wall is the same plane elsewhere: the polar axis stands as high over it, and the Sun that crosses the substyle
-// is the same one, half turns aside.
+// is the same one, half turns aside. The transformation counts a wall of southern latitude by its mirror image.
 TEST(Forms, TheEquivalentWallIsTheSamePlane) {
     perPiani([](const Piano &p, double dec) {
         if (p.phi < 0) return;  // the engines have the latitude without its sign
-        const Valore segno = Sgn(p.g);
-        const PareteEquivalente e = EquivalenteDi(p, dec), ore = EquivalenteDelleOre(p, dec, segno);
-        const Valore d1 = e.d1 * segno;
-        EXPECT_NEAR(Abs(cos(e.f1) * cos(d1)).v, Abs(p.senStilo()).v, 1e-9);
-        EXPECT_NEAR(sin((OraSustilareMuroMezza(e.f1, d1) - e.diffLong) - p.oraSustilareMezza()).v, 0, 1e-8);
-        EXPECT_NEAR(ore.f1.numero(), e.f1.numero(), 0);
-        EXPECT_NEAR(ore.diffLong.v, e.diffLong.v, 0);
-        EXPECT_NEAR(ore.d1.v, d1.v, p.i == 0 ? 1e-9 : 0);
+        const PareteEquivalente ore = EquivalenteDelleOre(p, dec, Sgn(p.g));
+        EXPECT_NEAR((-cos(ore.f1) * cos(ore.d1)).v, p.senStilo().v, 1e-9);
+        EXPECT_NEAR(sin((OraSustilareMuroMezza(ore.f1, ore.d1) - ore.diffLong) - p.oraSustilareMezza()).v, 0, 1e-7);
+        if (p.i == 0) return;  // a wall is not transformed
+        const PareteEquivalente e = EquivalenteDi(p, dec);
+        EXPECT_EQ(e.f1.numero(), ore.f1.numero());
+        EXPECT_EQ(e.diffLong.v, ore.diffLong.v);
+        EXPECT_NEAR((e.f1 < 0 ? PI - e.d1 : e.d1).v, Abs(ore.d1).v, 1e-8);
     });
 }
 

@@ -101,7 +101,9 @@ TEST(Finestra, WindowAndScriptMakeTheSameDrawing) {
         EXPECT_EQ(b.dialoghi.avvisi, utente.box) << c.nome;
         EXPECT_EQ(app::ScriviProgetto(b.f.sessione()), app::ScriviProgetto(s)) << c.nome;
         EXPECT_EQ(b.w<QLineEdit>("txtLAT")->text().toStdString(), s.in.txtLAT) << c.nome;
-        if (c.detto) EXPECT_EQ(b.w<QLabel>("Tavolo1.p_mess")->text(), QString::fromUtf8(c.detto));
+        if (c.detto) {
+            EXPECT_EQ(b.w<QLabel>("Tavolo1.p_mess")->text(), QString::fromUtf8(c.detto));
+        }
     }
 }
 

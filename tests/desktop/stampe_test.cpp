@@ -61,7 +61,7 @@ TEST(Stampe, CertificateAndReportsHaveEachRowOnOneLine) {
     BancoFinestra b;
     b.vivo()->setChecked(false);
     b.scrivi("txtInc", "0");
-    b.scrivi("TxtFraz", "4");
+    b.scrivi("TxtFraz", "2");
     for (const char *c : {"chkOreAstronomiche", "Ck_DayLightCurves", "ck_Lemniscate", "ck_Triangolo"})
         if (!b.w<QAbstractButton>(c)->isChecked()) b.spunta(c);
     b.premi("Tavolo1.cmdPulisci");

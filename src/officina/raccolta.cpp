@@ -289,6 +289,8 @@ private:
     void testi() {
         for (std::size_t i = 0; i < lista.Testi.size(); ++i) {
             const RecTesto &t = lista.Testi[i];
+            // The numbers of pages chosen for the printer are none of the drawing.
+            if (std::any_of(lista.Aree.begin(), lista.Aree.end(), [i](const RecArea &a) { return a.testo == i; })) continue;
             if (t.Testo.find_first_not_of(' ') == std::string::npos) continue;
             ++r.scritte;
             if (opzioni.testi == Testi::Niente) continue;

@@ -3,6 +3,7 @@
 
 #include "analytic/quadranti.h"
 #include "gnomonica/proiezione.h"
+#include "ombra/ombra.h"
 
 namespace ombrelia {
 namespace {
@@ -96,6 +97,22 @@ TEST(Analitica, ItalicAndBabylonianHoursAsTheProjectionHasThem) {
         std::ranges::copy(m.dir.linee("Bab"), std::back_inserter(corde));
         ASSERT_GT(corde.size(), 500U) << parete;
         EXPECT_LT(prova::Confronta(corde, tangenti, false).peggiore, 1e-6) << parete << italiche << babiloniche;
+        // What each claims is what the Sun reads on it, where it shines: beyond the tangent's point it is another hour.
+        const double lat = Val(m.ana.s.in.txtLAT).v, dec = Val(m.ana.s.in.txtDec).v;
+        const ombra::PianoMontato piano({lat * ombra::RADIANTI, dec * ombra::RADIANTI, 0, 0.2});
+        for (const Pretesa &p : m.ana.lista().pretese) {
+            if (p.specie != Specie::Italica && p.specie != Specie::Babilonica) continue;
+            int lette = 0, sue = 0;
+            for (std::size_t i = p.da, k = p.punto; i < p.a; ++i, ++k) {
+                const ombra::SoleLetto l = piano.leggi(ombra::Punto{m.ana.lista().Punti[k].X, m.ana.lista().Punti[k].Y});
+                if (l.luce != ombra::Luce::Si) continue;
+                const auto ora =
+                    (p.specie == Specie::Italica ? ombra::italica : ombra::babilonica)(lat * ombra::RADIANTI, l.t, l.delta);
+                ++lette;
+                sue += ora && std::fabs(std::remainder(*ora - p.valore, 24)) < 1e-5;
+            }
+            EXPECT_TRUE(lette < 20 || sue > 3) << parete << " claim " << p.valore;
+        }
     };
     for (const char *lat : {"30", "45", "60"})
         for (const bool italiche : {false, true}) confronta(Parete({lat, "0", "0", ""}), italiche, !italiche);

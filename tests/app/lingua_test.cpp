@@ -68,6 +68,11 @@ TEST_F(LinguaTest, Exports) {
     EXPECT_NE(t.find("\r\nShift Axes (metres)|\r\n"), std::string::npos);
     app::TraduciForm(b.s, "frmTavolo", "_DB");
     EXPECT_EQ(leggi("_DBfrmTavolo.txt"), "\"\"\r\n");
+    // Of the main window what the dictionaries always held: later controls have files of their own.
+    app::TraduciForm(b.s, "MDIForm1", "_DB");
+    const std::string finestra = leggi("_DBMDIForm1.txt");
+    EXPECT_NE(finestra.find("\r\nLatitudine|\r\n"), std::string::npos);
+    EXPECT_EQ(finestra.find("Geometria corretta"), std::string::npos);
 }
 
 TEST_F(LinguaTest, CommandsChangeTheFileOnce) {

@@ -15,6 +15,7 @@
 #include "comuni/prova.h"
 #include "core/file.h"
 #include "map/citta.h"
+#include "ombra/ombra.h"
 
 namespace ombrelia {
 namespace {
@@ -265,12 +266,19 @@ TEST(DisegnaCitta, OnlyRowsInView) {
         EXPECT_EQ(b.utente.box, r.at(3).empty() ? std::vector<std::string>{} : std::vector{r.at(3)});
     }
     // A city stands where an outline through it does: the two take the site's longitude away in different places.
-    BancoMappa b;
-    b.s.in.txtEAST = b.s.in.txtWest = "74";
-    b.luogo(-TavolaCitta()[73].Y, -TavolaCitta()[73].X);
-    DisegnaCitta(b.s);
-    EXPECT_NEAR(b.lista.Figure.at(0).X1, b.l.at(0).X1, 1e-15);
-    EXPECT_NEAR(b.lista.Figure.at(0).Y1, b.l.at(0).Y1, 1e-15);
+    // The first and the last row of the table too, on their own meridian.
+    for (const std::size_t riga : {std::size_t{74}, std::size_t{1}, TavolaCitta().size()}) {
+        const Citta &c = TavolaCitta()[riga - 1];
+        BancoMappa b;
+        if (riga != 74) b.s.in.txtLAT = "10", b.s.in.txtLonG = TestoNumero(c.X);
+        b.s.in.txtEAST = b.s.in.txtWest = std::to_string(riga);
+        b.luogo(-c.Y, -c.X);
+        DisegnaCitta(b.s);
+        ASSERT_EQ(b.lista.Figure.size(), 1U) << c.nome;
+        EXPECT_EQ(b.lista.Testi.at(0).Testo, c.nome);
+        EXPECT_NEAR(b.lista.Figure.at(0).X1, b.l.at(0).X1, 1e-15);
+        EXPECT_NEAR(b.lista.Figure.at(0).Y1, b.l.at(0).Y1, 1e-15);
+    }
 }
 
 TEST(PuntoOpzionale, AStarOnTheShadow) {
@@ -300,6 +308,28 @@ TEST(PuntoOpzionale, AStarOnTheShadow) {
             EXPECT_NEAR(std::remainder(gradi - 72 - 36.0 * static_cast<double>(k), 360), 0, 1e-6);
         }
     }
+}
+
+// On a corrected dial the point stands where the shadow of its hour angle falls, whatever the longitude; a southern one is
+// drawn from inside the wall.
+TEST(PuntoOpzionale, WhereTheShadowFalls) {
+    for (const double lat : {41.9, -33.9})
+        for (const char *lon : {"0", "-12.5"}) {
+            prova::Banco b({{"txtLAT", TestoNumero(lat)},
+                            {"txtLonG", lon},
+                            {"txtDec", "35"},
+                            {"txtInc", "-12"},
+                            {"TxtStilo", ".2"},
+                            {"txtAO", "25"},
+                            {"txtDelta", "16.3"}},
+                           {"ckCorretta", "punto"});
+            using ombra::RADIANTI;
+            const ombra::PianoMontato piano({lat * RADIANTI, (lat < 0 ? 145 : 35) * RADIANTI, -12 * RADIANTI, .2});
+            const ombra::Getto e = piano.getta(25 * RADIANTI, 16.3 * RADIANTI);
+            ASSERT_TRUE(e.luce == ombra::Luce::Si && b.lista().Figure.size() == 1) << lat;
+            EXPECT_NEAR(b.lista().Figure[0].X1, lat < 0 ? -e.punto.x : e.punto.x, 1e-9) << lat << ' ' << lon;
+            EXPECT_NEAR(b.lista().Figure[0].Y1, e.punto.y, 1e-9) << lat << ' ' << lon;
+        }
 }
 
 }  // namespace

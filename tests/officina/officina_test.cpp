@@ -140,6 +140,16 @@ TEST(Officina, GlyphsAreNotCut) {
     }
 }
 
+// A page chosen for the printer is no line of the dial, and its number none of its texts.
+TEST(Officina, ChosenPagesAreNotCut) {
+    Foglio200 f;
+    f.linea({-30, 0}, {30, 0}, "hour");
+    const std::size_t senza = f.pronto().cammini.size();
+    f.xTrovaA4(0.25, 0.05);
+    ASSERT_EQ(f.lista().Aree.size(), 1U);
+    EXPECT_EQ(f.pronto().cammini.size(), senza);
+}
+
 TEST(Officina, KindsHaveNamesForAll) {
     std::set<std::string_view> nomi;
     for (const RigaGenere &r : Generi()) {
@@ -161,6 +171,9 @@ TEST(Officina, KindsHaveNamesForAll) {
     const std::pair<std::string_view, std::string_view> strati[] = {
         {"Cornice", "CORNICE"}, {"AssiXY", "AUSILIARIE"}, {"Cartiglio", "CARTIGLIO"}, {"hour", "ALTRO"}, {"", "FIGURE"}};
     for (const auto &[strato, nome] : strati) EXPECT_EQ(Riga(GenereDi(strato)).nome, nome) << strato;
+    for (const auto &[ora, nome] :
+         {std::pair{10.0, "ORE"}, {10.5, "MEZZE_ORE"}, {11.5, "MEZZE_ORE"}, {10.25, "QUARTI"}, {10.75, "QUARTI"}})
+        EXPECT_EQ(Riga(GenereDi(Specie::Ora, ora)).nome, nome) << ora;
 }
 
 // What any reader of the format must find: tags in pairs, sections in their order, units, extents that hold every vertex.
@@ -178,7 +191,7 @@ TEST(Officina, TheDxfIsWhole) {
             coppie.emplace_back(std::stoi(codice), valore);
         }
         ASSERT_EQ(coppie.back(), std::pair(0, std::string("EOF")));
-        std::string sezioni, variabile, entita;
+        std::string sezioni, variabile, entita, chiuse;
         std::map<std::string, std::vector<std::string>> testa;
         double minimo = 1e9, massimo = -1e9, da = 0, a = 0;
         for (std::size_t i = 0; i < coppie.size(); ++i) {
@@ -187,12 +200,14 @@ TEST(Officina, TheDxfIsWhole) {
             if (c == 2 && coppie[i - 1].second == "SECTION") sezioni += v + " ";
             if (c == 9) variabile = v;
             else if (!variabile.empty() && sezioni == "HEADER ") testa[variabile].push_back(v);
+            if (entita == "POLYLINE" && c == 70) chiuse += v;
             if (entita == "ARC" && c == 50) da = std::stod(v);
             if (entita == "ARC" && c == 51) a = std::stod(v);
             if (entita == "VERTEX" && c == 10) minimo = std::min(minimo, std::stod(v)), massimo = std::max(massimo, std::stod(v));
         }
         const double k = unita == Unita::Pollici ? 25.4 : 1;
         EXPECT_EQ(sezioni, "HEADER TABLES BLOCKS ENTITIES ");
+        EXPECT_EQ(chiuse, "01") << "the line is open, the frame comes back to where it began";
         EXPECT_EQ(testa["$ACADVER"][0], "AC1009");
         EXPECT_EQ(testa["$INSUNITS"][0], unita == Unita::Pollici ? "1" : "4");
         EXPECT_NEAR(std::stod(testa["$EXTMIN"][0]) * k, -100, 1e-4);

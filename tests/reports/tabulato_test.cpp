@@ -89,6 +89,13 @@ TEST(Rapporti, CsvAndHtmlHoldTheText) {
     cattivo.caption = "a,\"b\" <i>";
     cattivo.righe.push_back({{Elemento("x & y = "), reports::Numero(0.1)}, 0, GenereRiga::Testo, -1});
     EXPECT_EQ(reports::RapportoCsv(cattivo), "\xEF\xBB\xBF\"a,\"\"b\"\" <i>\"\r\n\r\nx & y =,0.1\r\n");
+    // What a spreadsheet would reckon is told to be a text, and a number is one.
+    for (const auto &[scritto, cella] :
+         {std::pair{"=1+1", "\"'=1+1\""}, {"-a1", "\"'-a1\""}, {"+a1", "\"'+a1\""}, {"@a", "\"'@a\""}, {"-1.5e-7", "-1.5e-7"}}) {
+        Rapporto formula;
+        formula.caption = scritto;
+        EXPECT_EQ(reports::RapportoCsv(formula), std::string("\xEF\xBB\xBF") + cella + "\r\n");
+    }
     EXPECT_NE(reports::RapportoHtml(cattivo).find("&quot;b&quot; &lt;i&gt;</h1>"), std::string::npos);
 }
 

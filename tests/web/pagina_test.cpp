@@ -1,8 +1,11 @@
 // The program behind a page: what goes in stays text, what comes out is JSON, layers travel only when they change.
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <filesystem>
+#include <sstream>
 
+#include "ombra/sole.h"
 #include "plot/svg.h"
 #include "web/chiamate.h"
 #include "web/json.h"
@@ -146,6 +149,43 @@ TEST(Pagina, TheShadowIsReadBack) {
         const std::string letto = Chiama(p, "leggi", xy.substr(0, virgola) + "\t" + xy.substr(virgola + 1) + "\t2026");
         EXPECT_NE(letto.find("\"2026-03-10\""), std::string::npos) << letto;
         EXPECT_NE(letto.find("\"11:00\""), std::string::npos) << letto;
+    }
+}
+
+// Behind the name, the numbers that follow each other.
+std::vector<double> numeri(std::string testo, std::string_view nome) {
+    std::vector<double> n;
+    testo = testo.substr(std::min(testo.find(nome), testo.size()));
+    testo = testo.substr(std::min(nome.size(), testo.size()));
+    for (char &c : testo)
+        if (std::string_view("ML[,").find(c) != std::string_view::npos) c = ' ';
+    std::stringstream parole(testo);
+    for (double x = 0; parole >> x;) n.push_back(x);
+    return n;
+}
+
+// At eleven by the Sun the shadow falls on the line of eleven, where the page shows that line: North and South.
+TEST(Pagina, TheShadowFallsOnItsLine) {
+    const double equazione = ombra::soleDi(ombra::giornoGiuliano({2026, 3, 10}) + 10.2 / 24).equazione;
+    for (const char *latitudine : {"45.07", "-33.87"}) {
+        Pagina p;
+        Chiama(p, "scrivi", "txtLAT\t" + std::string(latitudine));
+        Chiama(p, "scrivi", "txtLonG\t-15");
+        Chiama(p, "scrivi", "txtDec\t20");
+        Chiama(p, "premi", "chkOreAstronomiche");
+        Chiama(p, "disegna");
+        const auto punta = numeri(Chiama(p, "ombra", "2026-03-10\t" + TestoNumero(11 - equazione / 60)), "\"punta\":");
+        ASSERT_EQ(punta.size(), 2U) << latitudine;
+        const std::string letto = Chiama(p, "leggi", TestoNumero(punta[0]) + "\t" + TestoNumero(punta[1]) + "\t2026\t1");
+        EXPECT_NE(letto.find("\"linea\":\"ora vera 11\""), std::string::npos) << letto;
+        const auto linea = numeri(Chiama(p, "linea", TestoNumero(numeri(letto, "\"pretesa\":").at(0))), "");
+        double lontano = 1e9;
+        for (std::size_t i = 0; i + 1 < linea.size(); i += 2)
+            lontano = std::min(lontano, std::hypot(linea[i] - punta[0], linea[i + 1] - punta[1]));
+        EXPECT_LT(lontano, 3) << "mm, half a chord; " << latitudine;
+        // Tables are for the North, and a run leaves a southern page where it is.
+        EXPECT_EQ(Chiama(p, "rapporto", "optHorae") == "null", latitudine[0] == '-');
+        EXPECT_EQ(Chiama(p, "rapporto", "optHorae") == "null", latitudine[0] == '-');
     }
 }
 

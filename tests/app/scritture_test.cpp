@@ -58,9 +58,14 @@ TEST(Scritture, TheTitleBlockLiesOnTheSheet) {
     const auto tratti = b.linee("Cartiglio");
     ASSERT_GT(tratti.size(), 50U);
     const Tavolo &t = b.s.tavolo;
-    for (const RecLinea &l : tratti)
+    double alto = -1, basso = 1;
+    for (const RecLinea &l : tratti) {
         EXPECT_TRUE(-t.ShiftX() < l.X1 && l.X1 < t.QuadranteL() - t.ShiftX() && t.ShiftY() - t.QuadranteH() < l.Y1 && l.Y1 < -0.8)
             << l.Y1;
+        alto = std::max(alto, l.Y1), basso = std::min(basso, l.Y1);
+    }
+    // Three lines of capitals of 15 mm, 1.7 heights from one to the next: the sheet has room for them as they are.
+    EXPECT_NEAR(alto - basso, 0.015 * (1 + 2 * 1.7), 0.006);
 }
 
 // Lengths alone take another unit, each as many times what it was.

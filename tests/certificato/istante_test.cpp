@@ -3,7 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include "certificato/certificato.h"
 #include "certificato/percorso.h"
 #include "comuni/prova.h"
 
@@ -76,26 +75,6 @@ TEST(Istante, SouthernWallDrawnAndMirrored) {
             ++corde;
         }
         EXPECT_EQ(prima, corde == 0);
-    }
-}
-
-// The clock of a point is that of its own day, also where the zone's day is not Greenwich's.
-TEST(Istante, CivilTimeOfAPoint) {
-    for (const auto &[longitudine, meridiano] : {std::pair{"-174.8", "-180"}, {"157.9", "150"}, {"-9", "-15"}}) {
-        prova::Banco b(
-            {{"txtLAT", "45"}, {"txtInc", "90"}, {"TxtStilo", ".1"}, {"txtLonG", longitudine}, {"txtMeridiano", meridiano}});
-        const DatiCertificato dati = DatiDelCertificato(b.s);
-        const ombra::PianoMontato piano(dati.posa.quadrante);
-        for (const double t : {-60 * RADIANTI, 0.0, 60 * RADIANTI}) {
-            const PezziDelPunto p = LeggiPezzi(dati, b.lista(), piano.getta(t, 10 * RADIANTI).punto, 0);
-            ASSERT_EQ(p.oreCivili.size(), 2U) << longitudine;
-            for (std::size_t i = 0; i < 2; ++i) {
-                EXPECT_TRUE(p.oreCivili[i] >= 0 && p.oreCivili[i] < 24) << longitudine << ' ' << t << ": " << p.oreCivili[i];
-                const Istante q = IstanteDi(dati.posa, p.lettura.date[i], p.oreCivili[i], dati.posa.fuso());
-                EXPECT_NEAR(q.cielo.t, t, 30.0 / 240 * RADIANTI) << "what the equation of time does in a day";
-                EXPECT_NEAR(q.cielo.delta * GRADI, 10, 0.3);
-            }
-        }
     }
 }
 

@@ -114,7 +114,7 @@ TEST(Diretta, DirectionsAndSigns) {
         v.gn = 1;
         v.unita = 1;
         Reale x, y;
-        Proiezione{v}(Radianti(c.ora), Radianti(c.delta), x, y);
+        Proiezione::delPiano(v.latR, v.decR, v.incR, v.gn, v.unita)(Radianti(c.ora), Radianti(c.delta), x, y);
         EXPECT_EQ(Sgn(Round(x, 6)).v, c.segnoX) << c.che << ": " << x.numero();
         EXPECT_EQ(Sgn(Round(y, 6)).v, c.segnoY) << c.che << ": " << y.numero();
     }

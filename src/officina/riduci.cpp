@@ -8,6 +8,7 @@
 #include "officina/griglia.h"
 #include "officina/passi.h"
 #include "officina/semplifica.h"
+#include "plot/snello.h"
 
 namespace ombrelia::officina {
 
@@ -179,7 +180,7 @@ void Riduci(std::vector<Cammino> &cammini, const Riquadro &campo, double tollera
         std::vector<Cammino> linee, fatte;
         for (Cammino &c : cammini) {
             if (c.genere != riga.genere || c.tipo != Cammino::Tipo::Linea) continue;
-            Sfoltisci(c.punti, PRIMA * std::min(tolleranza, STESSO));
+            Snellisci(c.punti, PRIMA * std::min(tolleranza, STESSO), Capi::Interi);
             linee.push_back(std::move(c));
         }
         cerchi(cammini, riga.genere, griglia, tolleranza, linee, esito, r);

@@ -4,10 +4,10 @@
 
 #include <vector>
 
-#include "app/comandi.h"
 #include "core/conteggio.h"
 #include "gnomonica/proiezione.h"
 #include "plot/dxf.h"
+#include "quadrante_pieno.h"
 #include "sessione/muto.h"
 
 namespace {
@@ -15,21 +15,10 @@ namespace {
 using namespace ombrelia;
 
 void prepara(Sessione &s) {
-    app::Avvia(s);
-    s.tavolo.QuadranteL(3);
-    s.tavolo.QuadranteH(3);
-    s.tavolo.ShiftX(1.5);
-    s.tavolo.ShiftY(1.5);
-    DialInputs &in = s.in;
-    in.TxtFraz = "4";
-    in.TxtInizio = "0";
-    in.TxtFine = "24";
-    for (int DialInputs::*c :
-         {&DialInputs::chkOreAstronomiche, &DialInputs::Ck_DayLightCurves, &DialInputs::ckFunzione, &DialInputs::ck_Equinoziale,
-          &DialInputs::ck_Italiche, &DialInputs::ck_babiloniche, &DialInputs::ckTemp, &DialInputs::ck_Sustilare,
-          &DialInputs::ck_Triangolo, &DialInputs::ckAlt, &DialInputs::ck_Lemniscate, &DialInputs::ckAsr, &DialInputs::CkQibla,
-          &DialInputs::ckAssi, &DialInputs::ck_Orizzonte})
-        in.*c = 1;
+    QuadrantePieno(s);
+    s.in.TxtInizio = "0";
+    s.in.TxtFine = "24";
+    s.in.ckFunzione = 1;
 }
 
 void esegui(Sessione &s) {

@@ -5,8 +5,8 @@
 #include <cmath>
 #include <vector>
 
-#include "app/comandi.h"
 #include "core/conteggio.h"
+#include "quadrante_pieno.h"
 #include "sessione/muto.h"
 #include "vertical/piana.h"
 
@@ -15,20 +15,9 @@ namespace {
 using namespace ombrelia;
 
 void prepara(Sessione &s) {
-    app::Avvia(s);
-    s.tavolo.QuadranteL(3);
-    s.tavolo.QuadranteH(3);
-    s.tavolo.ShiftX(1.5);
-    s.tavolo.ShiftY(1.5);
-    DialInputs &in = s.in;
-    in.txtInc = std::string("0");
-    in.TxtFraz = std::string("4");
-    for (int DialInputs::*c :
-         {&DialInputs::CkUNI, &DialInputs::chkOreAstronomiche, &DialInputs::Ck_DayLightCurves, &DialInputs::ck_Equinoziale,
-          &DialInputs::ck_Italiche, &DialInputs::ck_babiloniche, &DialInputs::ckTemp, &DialInputs::ck_Sustilare,
-          &DialInputs::ck_Triangolo, &DialInputs::ckAlt, &DialInputs::ck_Lemniscate, &DialInputs::ckAsr, &DialInputs::CkQibla,
-          &DialInputs::ckAssi, &DialInputs::ck_Orizzonte, &DialInputs::ckAz})
-        in.*c = 1;
+    QuadrantePieno(s);
+    s.in.txtInc = std::string("0");
+    s.in.CkUNI = s.in.ckAz = 1;
 }
 
 // Points of the wall's sweeps at the default latitude and declination.

@@ -41,21 +41,31 @@ void cmdAssi_Click(Sessione &s, int) {
     s.tavolo.Assi();
     mostraPannello(s, "Tavolo1.PicAssi", true);
 }
-void cmdAssiAgg_Click(Sessione &s, int) {
+// A measure of the sheet and the panel's field for it; one that reads as no number stays as it is.
+struct MisuraFoglio {
+    std::string PannelloTavolo::*campo;
+    double (Tavolo::*leggi)() const;
+    void (Tavolo::*metti)(double);
+};
+// Both are read before either is set: a sheet that grows may move what the other says.
+void daPannello(Sessione &s, const MisuraFoglio &prima, const MisuraFoglio &poi, NomeControllo pannello) {
     Tavolo &t = s.tavolo;
-    const double x = numero(t.pannello.txtX, t.ShiftX()), y = numero(t.pannello.txtY, t.ShiftY());
-    t.ShiftX(x);
-    t.ShiftY(y);
-    mostraPannello(s, "Tavolo1.PicAssi", false);
-    t.Refresh();
-    t.Assi();
+    const auto letta = [&t](const MisuraFoglio &m) { return numero(t.pannello.*m.campo, (t.*m.leggi)()); };
+    const double a = letta(prima), b = letta(poi);
+    (t.*prima.metti)(a);
+    (t.*poi.metti)(b);
+    mostraPannello(s, pannello, false);
+}
+void cmdAssiAgg_Click(Sessione &s, int) {
+    using P = PannelloTavolo;
+    daPannello(s, {&P::txtX, &Tavolo::ShiftX, &Tavolo::ShiftX}, {&P::txtY, &Tavolo::ShiftY, &Tavolo::ShiftY}, "Tavolo1.PicAssi");
+    s.tavolo.Refresh();
+    s.tavolo.Assi();
 }
 void cmdQAggiorna_Click(Sessione &s, int) {
-    Tavolo &t = s.tavolo;
-    const double h = numero(t.pannello.txtQH, t.QuadranteH()), l = numero(t.pannello.txtQL, t.QuadranteL());
-    t.QuadranteH(h);
-    t.QuadranteL(l);
-    mostraPannello(s, "Tavolo1.picDimensioni", false);
+    using P = PannelloTavolo;
+    daPannello(s, {&P::txtQH, &Tavolo::QuadranteH, &Tavolo::QuadranteH}, {&P::txtQL, &Tavolo::QuadranteL, &Tavolo::QuadranteL},
+               "Tavolo1.picDimensioni");
 }
 
 void stampa(Sessione &s, bool aree) {

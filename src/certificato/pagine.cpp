@@ -35,12 +35,7 @@ std::string citato(std::string_view t) {
 
 std::string html(std::string_view t) {
     std::string r;
-    for (const char c : DaFile(std::string(t))) {
-        if (c == '&') r += "&amp;";
-        else if (c == '<') r += "&lt;";
-        else if (c == '>') r += "&gt;";
-        else r += c;
-    }
+    for (const char c : DaFile(std::string(t))) AggiungiXml(r, c);
     return r;
 }
 

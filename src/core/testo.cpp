@@ -272,6 +272,25 @@ void AggiungiNumero17(std::string &testo, double numero) {
     testo.append(b.data(), cifre::Diciassette(b, numero));
 }
 
+void AggiungiXml(std::string &uscita, char c) {
+    switch (c) {
+        case '&':
+            uscita += "&amp;";
+            break;
+        case '<':
+            uscita += "&lt;";
+            break;
+        case '>':
+            uscita += "&gt;";
+            break;
+        case '"':
+            uscita += "&quot;";
+            break;
+        default:
+            uscita += c;
+    }
+}
+
 std::string SenzaBlanks(std::string_view testo) {
     const std::size_t a = testo.find_first_not_of(' ');
     if (a == std::string_view::npos) return {};

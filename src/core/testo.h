@@ -32,6 +32,8 @@ void AggiungiNumero17(std::string &testo, double numero);
 
 // Whether a byte is a control character; none goes into a file of lines, cells or marks.
 [[nodiscard]] constexpr bool CarattereDiControllo(char c) { return static_cast<unsigned char>(c) < ' ' || c == '\x7F'; }
+// A character as XML and HTML have it: the marks that have a meaning there by their names.
+void AggiungiXml(std::string &uscita, char c);
 [[nodiscard]] std::string SenzaBlanks(std::string_view testo);                    // without leading and trailing blanks
 [[nodiscard]] bool UguaglianzaSenzaCaso(std::string_view a, std::string_view b);  // ASCII letters
 

@@ -19,11 +19,7 @@ void didascalia(const Corsa &c, Valore seno, Valore q) {
     const std::string_view misura = TestoUnita(s);
     const Reale estate = AltezzaSolstizio(c.piano(), 1);
     const Reale inverno = AltezzaSolstizio(c.piano(), -1);
-    const struct {
-        std::string_view etichetta;
-        Valore valore;
-        std::string_view coda;
-    } righe[] = {
+    const RigaDati righe[] = {
         {"latitudine  = "_it, Tronca5(v.latGradi), " °"},
         {"declinazione  = "_it, Tronca5(v.dec), " °"},
         {"inclinazione = "_it, Tronca5(v.inc), " °"},
@@ -38,8 +34,7 @@ void didascalia(const Corsa &c, Valore seno, Valore q) {
         {"Altezza del sole alle 12 d'inverno = "_it, Tronca5(inverno), " °"},
     };
     s.tavolo.ForeColor = BIANCO;
-    s.Dati(s.Traduci("DATI QUADRANTE "));
-    for (const auto &riga : righe) s.Dati(Frase(s.Traduci(riga.etichetta)) << riga.valore << riga.coda);
+    ScriviDati(s, righe);
     Frase costante(s.Traduci("Costante locale = "_it));
     costante << CostanteLocale(v) << " p";
     // A constant that does not count from the start's zone names its meridian.

@@ -29,4 +29,9 @@ void TracciaLimiti(Sessione &s, const Lettura &letto, const Cornice &c) {
     s.Dati(Frase() << c.yMin / v.unita, 0, c.yMin);
 }
 
+void ScriviDati(Sessione &s, std::span<const RigaDati> righe) {
+    s.Dati(s.Traduci("DATI QUADRANTE "));
+    for (const RigaDati &r : righe) s.Dati(Frase(s.Traduci(r.etichetta)) << r.valore << r.coda);
+}
+
 }  // namespace ombrelia

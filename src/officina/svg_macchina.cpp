@@ -15,24 +15,7 @@ constexpr double CORPO = 1.4;      // font size in heights of capitals
 
 std::string xml(std::string_view s) {
     std::string t;
-    for (const char c : s) {
-        switch (c) {
-            case '&':
-                t += "&amp;";
-                break;
-            case '<':
-                t += "&lt;";
-                break;
-            case '>':
-                t += "&gt;";
-                break;
-            case '"':
-                t += "&quot;";
-                break;
-            default:
-                t += static_cast<unsigned char>(c) < ' ' ? ' ' : c;
-        }
-    }
+    for (const char c : s) AggiungiXml(t, static_cast<unsigned char>(c) < ' ' ? ' ' : c);
     return t;
 }
 

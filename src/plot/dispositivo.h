@@ -30,4 +30,15 @@ public:
     virtual void Trattini(std::uint8_t) {}
 };
 
+// A device that paints nothing: whoever counts, guards or looks on takes only what concerns him.
+class DispositivoMuto : public Dispositivo {
+public:
+    void Cls() override {}
+    void Linea(double, double, double, double, Colore, int) override {}
+    void Riquadro(double, double, double, double, Colore, bool) override {}
+    void Punto(double, double, Colore) override {}
+    void Cerchio(double, double, double, Colore, Colore, double, double, double) override {}
+    void Testo(double, double, std::string_view, Colore) override {}
+};
+
 }  // namespace ombrelia

@@ -44,12 +44,11 @@ std::optional<Tavolo::Casella> casella(double posizione, double lato) {
 }
 
 // Marks the tiles that what is painted on it crosses.
-class Segnatessere final : public Dispositivo {
+class Segnatessere final : public DispositivoMuto {
 public:
     Segnatessere(const Tavolo::GrigliaPagine &griglia, double L, double H) : g_(griglia), L_(L), H_(H) {}
     std::set<std::pair<int, int>> tessere;  // row, column
 
-    void Cls() override {}
     void Linea(double x1, double y1, double x2, double y2, Colore, int) override {
         const auto numero = [](double posto, double passo) { return static_cast<int>(std::floor(posto / passo)); };
         const auto [su, giu] = std::minmax(y1, y2);
@@ -84,7 +83,6 @@ public:
             Linea(x + rx * std::cos(a), y - ry * std::sin(a), x + rx * std::cos(b), y - ry * std::sin(b), colore, 1);
         }
     }
-    void Testo(double, double, std::string_view, Colore) override {}
 
 private:
     const Tavolo::GrigliaPagine g_;

@@ -73,12 +73,8 @@ std::string xml(std::string_view grezzo) {
     t.reserve(valido.size());
     for (std::size_t i = 0; i < valido.size(); ++i) {
         const char c = valido[i];
-        if (c == '&') t += "&amp;"sv;
-        else if (c == '<') t += "&lt;"sv;
-        else if (c == '>') t += "&gt;"sv;
-        else if (c == '"') t += "&quot;"sv;
-        else if (valido.compare(i, 3, "\xEF\xBF\xBE") == 0 || valido.compare(i, 3, "\xEF\xBF\xBF") == 0) t += ' ', i += 2;
-        else t += static_cast<unsigned char>(c) < ' ' ? ' ' : c;
+        if (valido.compare(i, 3, "\xEF\xBF\xBE") == 0 || valido.compare(i, 3, "\xEF\xBF\xBF") == 0) t += ' ', i += 2;
+        else AggiungiXml(t, static_cast<unsigned char>(c) < ' ' ? ' ' : c);
     }
     return t;
 }

@@ -109,25 +109,7 @@ bool haNumeri(const RigaRapporto &riga) {
 }
 
 void aggiungiHtml(std::string &uscita, std::string_view testo) {
-    for (const char c : testo) {
-        switch (c) {
-            case '&':
-                uscita += "&amp;";
-                break;
-            case '<':
-                uscita += "&lt;";
-                break;
-            case '>':
-                uscita += "&gt;";
-                break;
-            case '"':
-                uscita += "&quot;";
-                break;
-            default:
-                uscita += controllo(c) ? ' ' : c;
-                break;
-        }
-    }
+    for (const char c : testo) AggiungiXml(uscita, controllo(c) ? ' ' : c);
 }
 
 std::string colore(Colore c) {

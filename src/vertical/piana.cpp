@@ -19,11 +19,7 @@ void didascalia(const Corsa &c, Valore c2) {
     const std::string_view misura = TestoUnita(s);
     const Reale hEstate = AltezzaSolstizio(c.piano(), 1);
     const Reale hInverno = AltezzaSolstizio(c.piano(), -1);
-    const struct {
-        std::string_view etichetta;
-        Valore valore;
-        std::string_view coda;
-    } righe[] = {
+    const RigaDati righe[] = {
         {"latitudine  = "_it, Tronca5(v.lat), " °"},
         {"declinazione  = "_it, Tronca5(v.decGradi), " °"},
         {"inclinazione = "_it, 0, " °"},
@@ -38,8 +34,7 @@ void didascalia(const Corsa &c, Valore c2) {
         {"Altezza del sole alle 12 d'inverno = "_it, Tronca5(hInverno), " °"},
     };
     s.Dati("");
-    s.Dati(s.Traduci("DATI QUADRANTE "));
-    for (const auto &riga : righe) s.Dati(Frase(s.Traduci(riga.etichetta)) << riga.valore << riga.coda);
+    ScriviDati(s, righe);
 }
 
 // The engine's own reading of the fields, in place of the common one: the plane with the latitude's sign, the site, the zone, the

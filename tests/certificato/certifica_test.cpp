@@ -123,12 +123,8 @@ TEST(Certificato, JudgesTheTrueAndTheFalse) {
         prova::Banco b({{"txtLAT", std::to_string(q.lat)},
                         {"txtDec", std::to_string(q.dec)},
                         {"txtInc", std::to_string(q.inc)},
-                        {"txtLonG", "-9"},
-                        {"TxtStilo", "0.1"},
-                        {"txtX0", "-.4"},
-                        {"txtX1", ".6"},
-                        {"txtY0", ".35"},
-                        {"txtY1", "-.6"}});
+                        {"txtLonG", "-9"}});
+        b.cornice("0.1", "-.4", ".6", ".35", "-.6");
         const DatiCertificato dati = DatiDelCertificato(b.s);
         const double qLat = Val(b.s.in.txtQlat).v * RADIANTI, qLon = Val(b.s.in.txtQlon).v * RADIANTI;
         for (const Linea &l : linee(q.lat * RADIANTI, -9 * RADIANTI, qLat, qLon, dati.anno)) {
@@ -171,14 +167,8 @@ TEST(Certificato, JudgesTheTrueAndTheFalse) {
 
 // Night and the far side: a day line drawn all round the clock.
 TEST(Certificato, LinesInTheDarkAreSuperfluous) {
-    prova::Banco b({{"txtLAT", "45"},
-                    {"txtDec", "0"},
-                    {"txtInc", "35"},
-                    {"TxtStilo", "0.1"},
-                    {"txtX0", "-.6"},
-                    {"txtX1", ".6"},
-                    {"txtY0", ".6"},
-                    {"txtY1", "-.6"}});
+    prova::Banco b({{"txtLAT", "45"}, {"txtDec", "0"}, {"txtInc", "35"}});
+    b.cornice("0.1", "-.6", ".6", ".6", "-.6");
     const DatiCertificato dati = DatiDelCertificato(b.s);
     for (const Linea &l : linee(45 * RADIANTI, -9 * RADIANTI, 0.3, -0.7, dati.anno)) {
         if (l.specie != Specie::Diurna) continue;
@@ -195,16 +185,8 @@ TEST(Certificato, LinesInTheDarkAreSuperfluous) {
 TEST(Certificato, KnownLinesOfTheEngines) {
     int righe = 0;
     for (const auto &r : prova::Tabella("certificato.txt")) {
-        prova::Banco b({{"txtLAT", r[0]},
-                        {"txtDec", r[1]},
-                        {"txtInc", r[2]},
-                        {"txtLonG", r[3]},
-                        {"TxtStilo", ".1"},
-                        {"txtX0", "-.5"},
-                        {"txtX1", ".5"},
-                        {"txtY0", ".3"},
-                        {"txtY1", "-.7"},
-                        {"TxtFraz", "1"}});
+        prova::Banco b({{"txtLAT", r[0]}, {"txtDec", r[1]}, {"txtInc", r[2]}, {"txtLonG", r[3]}, {"TxtFraz", "1"}});
+        b.cornice(".1", "-.5", ".5", ".3", "-.7");
         for (const std::string &c : prova::Divisi(r[4], ' ')) b.spunta(c);
         b.esegui();
         const Certificato c = Certifica(DatiDelCertificato(b.s), b.lista());
@@ -233,14 +215,10 @@ TEST(Certificato, CorrectedDialsAreTrue) {
                     {{"txtLAT", std::to_string(q.lat)},
                      {"txtDec", std::to_string(q.dec)},
                      {"txtInc", std::to_string(q.inc)},
-                     {"TxtStilo", ".1"},
-                     {"txtX0", "-.4"},
-                     {"txtX1", ".6"},
-                     {"txtY0", ".3"},
-                     {"txtY1", "-.7"},
                      {"txtAnno", "1987"}},
                     {"ckCorretta", "chkOreAstronomiche", "Ck_DayLightCurves", "ck_Equinoziale", "ck_Sustilare", "ck_Triangolo",
                      "ckAlt", "ckAz", "ckAsr", "CkQibla", "ck_Orizzonte", "ck_Lemniscate", "ckFunzione", ore});
+                b.cornice(".1", "-.4", ".6", ".3", "-.7");
                 if (std::string_view(bottone) == "cmdEqui" && (q.inc != 0 || q.lat < 0)) continue;
                 b.premi(bottone);
                 const Certificato c = Certifica(DatiDelCertificato(b.s), b.lista());
@@ -274,16 +252,9 @@ TEST(Certificato, TheSecondDialIsTold) {
 }
 
 TEST(Certificato, WordsAndForms) {
-    prova::Banco b({{"txtLAT", "45"},
-                    {"txtDec", "18"},
-                    {"txtInc", "0"},
-                    {"TxtStilo", ".1"},
-                    {"txtX0", "-.5"},
-                    {"txtX1", ".5"},
-                    {"txtY0", ".1"},
-                    {"txtY1", "-.6"},
-                    {"TxtFraz", "1"}},
+    prova::Banco b({{"txtLAT", "45"}, {"txtDec", "18"}, {"txtInc", "0"}, {"TxtFraz", "1"}},
                    {"chkOreAstronomiche", "ck_Triangolo"});
+    b.cornice(".1", "-.5", ".5", ".1", "-.6");
     b.esegui();
     DatiCertificato dati = DatiDelCertificato(b.s);
     dati.titolo = "<&>";

@@ -51,17 +51,9 @@ TEST(Istante, PublishedMoment) {
 // A southern wall's declination counts from North. Its drawing's list is the mirror image; hour lines agree with the shadow.
 TEST(Istante, SouthernWallDrawnAndMirrored) {
     for (const bool prima : {true, false}) {
-        prova::Banco b({{"txtLAT", "-33.8688"},
-                        {"txtLonG", "-151"},
-                        {"txtDec", "20"},
-                        {"txtInc", "0"},
-                        {"TxtStilo", ".1"},
-                        {"txtX0", "-.5"},
-                        {"txtX1", ".5"},
-                        {"txtY0", ".1"},
-                        {"txtY1", "-.6"},
-                        {"TxtFraz", "1"}},
+        prova::Banco b({{"txtLAT", "-33.8688"}, {"txtLonG", "-151"}, {"txtDec", "20"}, {"txtInc", "0"}, {"TxtFraz", "1"}},
                        {"chkOreAstronomiche"});
+        b.cornice(".1", "-.5", ".5", ".1", "-.6");
         if (!prima) b.esegui();
         const Posa posa = prima ? PosaDeiCampi(b.s) : PosaDelDisegno(b.s);
         EXPECT_TRUE(posa.australe);

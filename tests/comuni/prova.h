@@ -66,6 +66,10 @@ public:
     void imposta(CampiScritti campi) {
         for (const auto &[nome, testo] : campi) app::Imposta(s, TrovaControllo(nome), std::string(testo));
     }
+    // Gnomon, and the frame to its left, right, top and bottom, in the unit of the fields.
+    void cornice(std::string_view gnomone, std::string_view x0, std::string_view x1, std::string_view y0, std::string_view y1) {
+        imposta({{"TxtStilo", gnomone}, {"txtX0", x0}, {"txtX1", x1}, {"txtY0", y0}, {"txtY1", y1}});
+    }
     app::Esito spunta(std::string_view casella, int valore = 1) { return app::Spunta(s, TrovaControllo(casella), valore); }
     app::Esito premi(std::string_view controllo) { return app::Premi(s, TrovaControllo(controllo)); }
     void esegui() { premi("cmdRun"); }

@@ -30,15 +30,8 @@ TEST(Pubblicati, PointsOfThePlane) {
 
 // From the drawn lines, not from the formula: the angle of each hour line of a horizontal dial with the noon line.
 TEST(Pubblicati, AnglesOfLevelHourLines) {
-    prova::Banco banco({{"txtLAT", "54.8"},
-                        {"txtInc", "90"},
-                        {"TxtStilo", "1"},
-                        {"txtX0", "-5"},
-                        {"txtX1", "5"},
-                        {"txtY0", "5"},
-                        {"txtY1", "-5"},
-                        {"TxtFraz", "1"}},
-                       {"chkOreAstronomiche"});
+    prova::Banco banco({{"txtLAT", "54.8"}, {"txtInc", "90"}, {"TxtFraz", "1"}}, {"chkOreAstronomiche"});
+    banco.cornice("1", "-5", "5", "5", "-5");
     banco.esegui();
     // Each line by its claim, the afternoon's to the right of noon and the morning's to the left.
     double peggiore = 0;

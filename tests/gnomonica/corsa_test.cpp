@@ -58,14 +58,10 @@ TEST(Corsa, LinesOfEveryZoneWhereTheShadowFalls) {
                          {"txtMeridiano", r[3]},
                          {"txtDec", m.dec},
                          {"txtInc", m.inc},
-                         {"TxtStilo", "0.1"},
-                         {"txtX0", "-2"},
-                         {"txtX1", "2"},
-                         {"txtY0", "2"},
-                         {"txtY1", "-2"},
                          {"TxtFraz", "2"},
                          {"txtDelta", "-7"}},
                         {"chkOreAstronomiche", "Ck_DayLightCurves"});
+                b.cornice("0.1", "-2", "2", "2", "-2");
                 b.spunta("ck_Etna", zona);
                 b.s.in.CkUNI = m.piana;
                 b.premi(m.bottone);
@@ -92,16 +88,8 @@ TEST(Corsa, AnalemmaOfTheZonesMeridian) {
     for (const auto &r : prova::Tabella("meridiani.txt")) {
         const double lat = std::stod(r[1]);
         if (std::fabs(lat) > 60) continue;
-        Banco b({{"txtLAT", r[1]},
-                 {"txtLonG", r[2]},
-                 {"txtMeridiano", r[3]},
-                 {"txtInc", "90"},
-                 {"TxtStilo", "0.1"},
-                 {"txtX0", "-4"},
-                 {"txtX1", "4"},
-                 {"txtY0", "4"},
-                 {"txtY1", "-4"}},
-                {"ck_Lemniscate"});
+        Banco b({{"txtLAT", r[1]}, {"txtLonG", r[2]}, {"txtMeridiano", r[3]}, {"txtInc", "90"}}, {"ck_Lemniscate"});
+        b.cornice("0.1", "-4", "4", "4", "-4");
         b.premi("cmdRun");
         const ombra::PianoMontato piano = montato(MOTRICI[2], lat);
         double somma = 0;

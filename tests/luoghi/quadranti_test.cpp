@@ -76,12 +76,8 @@ TEST(LontaniQuadranti, HoursOfTheZoneAndOfThePlace) {
                                 {"txtMeridiano", r[3]},
                                 {"txtInc", r[5]},
                                 {"txtDec", r[4]},
-                                {"TxtStilo", "0.1"},
-                                {"txtX0", "-1"},
-                                {"txtX1", "1"},
-                                {"txtY0", "1"},
-                                {"txtY1", "-1"},
                                 {"TxtFraz", "1"}});
+                b.cornice("0.1", "-1", "1", "1", "-1");
                 b.s.australeMontato = true;
                 b.spunta("chkOreAstronomiche");
                 if (fuso) b.spunta("ck_Etna");

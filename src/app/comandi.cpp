@@ -64,7 +64,7 @@ void scegliOpzione(Sessione &s, IdControllo id) {
 
 void Avvia(Sessione &s) {
     s.suCorretta = TracciaVera;
-    s.suOmbra = OmbraNellaLista;
+    s.suOmbra = OmbreNellaLista;
     s.suCambio = [](Sessione &qui, std::string DialInputs::*campo) {
         const IdControllo id = rigaDi(campo);
         if (id != NESSUN_CONTROLLO) avvisa(qui, id, Evento::Cambio);

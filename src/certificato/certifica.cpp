@@ -200,49 +200,40 @@ private:
 };
 
 // The original dial where it is not the one of the fields: the next one of a session that keeps its first.
-std::optional<QuadranteOriginale> altroOriginale(const Sessione &s) {
+std::optional<QuadranteOriginale> altroOriginale(const Sessione &s, const Lettura &letto) {
     const Variabili &v = s.v;
     if (!(v.letture > 0) || v.flagVerticale == 1) return {};
     const auto gradi = [](const Reale &r) { return r.numero() * ombra::GRADI; };
     const QuadranteOriginale o{gradi(v.lat_o), gradi(v.dec_o), v.inc_o.numero()};
-    const auto altro = [](double a, const std::string &testo) {
-        const Valore t = Val(testo);
-        return std::fabs(a - (t.esiste() ? t.v : 0)) > 1e-6;
-    };
-    const DialInputs &in = s.in;
-    const bool stesso = !altro(std::fabs(o.latitudine), in.txtLAT) || !altro(-std::fabs(o.latitudine), in.txtLAT);
+    const auto altro = [](double a, Reale campo) { return std::fabs(a - campo.numero()) > 1e-6; };
+    const bool stesso = !altro(std::fabs(o.latitudine), letto.lat) || !altro(-std::fabs(o.latitudine), letto.lat);
     // A level plane's declination is put to 0 behind the first reading.
-    const bool dec = altro(o.declinazione, in.txtDec) && !(std::fabs(o.inclinazione) == 90 && !altro(o.inclinazione, in.txtInc));
-    if (stesso && !dec && !altro(o.inclinazione, in.txtInc)) return {};
+    const bool dec = altro(o.declinazione, letto.dec) && !(std::fabs(o.inclinazione) == 90 && !altro(o.inclinazione, letto.inc));
+    if (stesso && !dec && !altro(o.inclinazione, letto.inc)) return {};
     return o;
-}
-
-double campo(const std::string &testo) {
-    const Valore v = Val(testo);
-    return v.esiste() ? v.v : 0;
 }
 
 }  // namespace
 
 DatiCertificato DatiDelCertificato(const Sessione &s) {
     DatiCertificato d;
-    d.posa = PosaDelDisegno(s);
-    const DialInputs &in = s.in;
+    const Lettura letto(s.in);
+    d.posa = PosaDelDisegno(s, letto);
     const double u = d.posa.unita;
-    d.xMin = campo(in.txtX0) * u, d.xMax = campo(in.txtX1) * u;
-    d.yMin = campo(in.txtY1) * u, d.yMax = campo(in.txtY0) * u;
+    d.xMin = NumeroDi(letto.x0) * u, d.xMax = NumeroDi(letto.x1) * u;
+    d.yMin = NumeroDi(letto.y1) * u, d.yMax = NumeroDi(letto.y0) * u;
     if (d.posa.australe) {
         const double x = d.xMin;
         d.xMin = -d.xMax, d.xMax = -x;
     }
     // On an equivalent dial the longitude's field carries the shift of the plane.
     const double diffLong = s.v.flagVerticale == 1 ? s.v.diffLong.numero() : 0;
-    d.delFuso = in.ck_Etna == 1;
-    d.scartoOra = d.delFuso ? campo(in.txtLonG) * ombra::RADIANTI - d.posa.meridiano + diffLong : 0;
+    d.delFuso = letto.fuso;
+    d.scartoOra = d.delFuso ? NumeroDi(letto.lon) * ombra::RADIANTI - d.posa.meridiano + diffLong : 0;
     d.anno = AnnoDelSole(s);
-    d.originale = altroOriginale(s);
-    d.qiblaLat = campo(in.txtQlat) * ombra::RADIANTI;
-    d.qiblaLon = campo(in.txtQlon) * ombra::RADIANTI;
+    d.originale = altroOriginale(s, letto);
+    d.qiblaLat = NumeroDi(letto.qLat) * ombra::RADIANTI;
+    d.qiblaLon = NumeroDi(letto.qLon) * ombra::RADIANTI;
     return d;
 }
 

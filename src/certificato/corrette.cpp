@@ -21,17 +21,12 @@ constexpr double SOLSTIZIO = SOLSTIZIO_GRADI * RAD;
 // The Sun of a line on the horizon itself stands a tenth of a second of arc above it.
 constexpr double ORLO = 5e-7;
 
-double numero(const std::string &testo) {
-    const Valore v = Val(testo);
-    return v.esiste() ? v.v : 0;
-}
-
 // What one feature is drawn with.
 struct Corredo {
     Sessione &s;
     const Attesa &attesa;
-    Scena scena;
-    bool fuso;   // hours are the zone's
+    Lettura letto;
+    Scena scena = Scena(s, letto);
     bool punti;  // the engine would draw dots
 
     [[nodiscard]] Pennello tratto(const LineaAttesa &l) const { return {l.colore, l.strato, punti}; }
@@ -74,7 +69,7 @@ void ore(const Corredo &d) {
         const auto stessa = [&](double f) { return std::fabs(f - ora) < 1e-9; };
         if (std::any_of(fatte.begin(), fatte.end(), stessa)) return;
         fatte.push_back(ora);
-        const double t = d.scena.angolo(ora, d.fuso);
+        const double t = d.scena.angolo(ora, d.letto.fuso);
         d.lungoLAnno(l, Specie::Ora, valore, [t](double) -> std::optional<double> { return t; });
     };
     const auto &linee = d.attesa.linee;
@@ -124,9 +119,8 @@ void stagionale(const Corredo &d, const LineaAttesa &l, double k) {
 // The hours that the longest day has beyond those an engine draws, unless the user chose his own first and last hour.
 std::vector<double> oreMancanti(const Corredo &d) {
     const bool italiche = d.attesa.specie == Specie::Italica;
-    const DialInputs &in = d.s.in;
     const bool scelte = d.attesa.motore == Motore::Diretta &&
-                        (numero(in.TxtInizio) != (italiche ? 13 : 0) || numero(in.TxtFine) != (italiche ? 24 : 12));
+                        (NumeroDi(d.letto.inizio) != (italiche ? 13 : 0) || NumeroDi(d.letto.fine) != (italiche ? 24 : 12));
     const auto &linee = d.attesa.linee;
     std::vector<double> mancanti;
     if (scelte || linee.size() < 2) return mancanti;
@@ -219,7 +213,7 @@ void asr(const Corredo &d, const LineaAttesa &l) {
 void qibla(const Corredo &d) {
     const Posa &p = d.scena.posa();
     const double q =
-        Rilevamento(p.quadrante.latitudine, p.longitudine, numero(d.s.in.txtQlat) * RAD, numero(d.s.in.txtQlon) * RAD);
+        Rilevamento(p.quadrante.latitudine, p.longitudine, NumeroDi(d.letto.qLat) * RAD, NumeroDi(d.letto.qLon) * RAD);
     if (d.attesa.rilevamento) *d.attesa.rilevamento = q * ombra::GRADI;
     if (d.attesa.linee.empty()) return;
     d.lungoIlVerticale(d.attesa.linee.back(), Specie::Qibla, 0, q);
@@ -250,7 +244,8 @@ std::optional<double> oraSustilare(const ombra::PianoMontato &piano) {
 }
 
 void mezzogiorno(const Corredo &d, const LineaAttesa &l) {
-    const bool traLeOre = d.s.in.chkOreAstronomiche == 1 && (!d.fuso || d.scena.posa().longitudine == d.scena.posa().meridiano);
+    const bool traLeOre =
+        d.s.in.chkOreAstronomiche == 1 && (!d.letto.fuso || d.scena.posa().longitudine == d.scena.posa().meridiano);
     if (!traLeOre) d.lungoLAnno(l, Specie::Mezzogiorno, 0, [](double) -> std::optional<double> { return 0; });
 }
 
@@ -320,7 +315,7 @@ void triangolo(const Corredo &d) {
     if (d.attesa.motore == Motore::Verticale) {
         enum { STILO_LUNGO, FALSO, SOTTO_LUNGO, STILO, SOTTO, MERIDIANA, ORTOSTILO };
         // Lengthened beyond the foot by txtSUBSTYLE: a higher triangle with the same style.
-        const double allungo = numero(d.s.in.txtSUBSTYLE) * d.scena.posa().unita, r = std::hypot(centro.x, centro.y);
+        const double allungo = NumeroDi(d.letto.allungo) * d.scena.posa().unita, r = std::hypot(centro.x, centro.y);
         if (vicino && l > 1e-12 && allungo != 0) {
             const double k = -allungo / r, alto = (r + allungo) / r;
             const Punto radice{k * centro.x, k * centro.y}, cima{radice.x + alto * punta.x, radice.y + alto * punta.y};
@@ -366,18 +361,18 @@ void tacche(const Corredo &d) {
 }
 
 // Which features the engines draw as dots.
-bool aPunti(const Sessione &s, const Attesa &a) {
+bool aPunti(const Lettura &letto, const Attesa &a) {
     switch (a.specie) {
         case Specie::Almucantarat:
         case Specie::Azimut:
         case Specie::Asr:
             return true;
         case Specie::Qibla:
-            return a.motore != Motore::Diretta || std::fabs(numero(s.in.txtInc)) != 90;
+            return a.motore != Motore::Diretta || std::fabs(NumeroDi(letto.inc)) != 90;
         case Specie::OraSustilare:
             return a.motore == Motore::Verticale;
         case Specie::Equinoziale:
-            return a.motore == Motore::Analitica || (a.motore == Motore::Verticale && numero(s.in.txtDec) == 0);
+            return a.motore == Motore::Analitica || (a.motore == Motore::Verticale && NumeroDi(letto.dec) == 0);
         case Specie::Diurna:
         case Specie::Italica:
         case Specie::Babilonica:
@@ -399,16 +394,18 @@ bool aPunti(const Sessione &s, const Attesa &a) {
 
 }  // namespace
 
-std::optional<std::pair<double, double>> OmbraNellaLista(const Sessione &s, double t, double delta) {
-    const Scena scena(s);
-    const Vettore sole = ombra::PianoMontato::sole(t, delta);
-    const auto p = scena.illuminato(sole) ? scena.punto(sole) : std::nullopt;
-    if (!p) return {};
-    return std::pair(p->x, p->y);
+OmbreVere::Dove OmbreNellaLista(const Sessione &s) {
+    return [scena = Scena(s)](double t, double delta) -> std::optional<std::pair<double, double>> {
+        const Vettore sole = ombra::PianoMontato::sole(t, delta);
+        const auto p = scena.illuminato(sole) ? scena.punto(sole) : std::nullopt;
+        if (!p) return {};
+        return std::pair(p->x, p->y);
+    };
 }
 
 bool TracciaVera(Sessione &s, const Attesa &attesa) {
-    const Corredo d{s, attesa, Scena(s), s.in.ck_Etna == 1, aPunti(s, attesa)};
+    const Lettura letto(s.in);
+    const Corredo d{.s = s, .attesa = attesa, .letto = letto, .punti = aPunti(letto, attesa)};
     if (attesa.specie == Specie::Qibla) {
         qibla(d);
         return true;

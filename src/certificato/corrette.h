@@ -10,9 +10,9 @@ namespace ombrelia {
 // vectors alone. False for a feature that is left to the engine.
 bool TracciaVera(Sessione &s, const Attesa &attesa);
 
-// Where a Sun throws its shadow on the dial that a run would draw. Given: hour angle and declination, radians, afternoon and
-// North positive. Gives: metres on the list, x turned round for a southern dial, y upward. Source: PianoMontato::proietta.
-// Faults: none where it throws none.
-std::optional<std::pair<double, double>> OmbraNellaLista(const Sessione &s, double t, double delta);
+// Where Suns throw their shadows on the dial that a run would draw of the fields as they stand. Given, of each: hour angle and
+// declination, radians, afternoon and North positive. Gives: metres on the list, x turned round for a southern dial, y upward.
+// Source: PianoMontato::proietta. Faults: none where it throws none.
+OmbreVere::Dove OmbreNellaLista(const Sessione &s);
 
 }  // namespace ombrelia

@@ -7,40 +7,37 @@ namespace ombrelia {
 
 namespace {
 
-double campo(const std::string &testo) {
-    const Valore v = Val(testo);
-    return v.esiste() ? v.v : 0;
-}
-
 // lat, dec, inc in degrees as the fields mean them.
-Posa posa(const Sessione &s, double lat, double dec, double inc) {
-    const DialInputs &in = s.in;
+Posa posa(const Lettura &letto, double lat, double dec, double inc) {
     Posa p;
-    p.unita = in.ChCentimetro == 1 ? 0.001 : 1;
+    p.unita = letto.unita.v;
     p.australe = lat < 0;
     if (std::fabs(inc) == 90) dec = 0;  // a level plane looks nowhere
     p.quadrante.latitudine = std::clamp(lat, -90.0, 90.0) * ombra::RADIANTI;
     p.quadrante.declinazione = (p.australe ? 180 - dec : dec) * ombra::RADIANTI;
     p.quadrante.inclinazione = inc * ombra::RADIANTI;
-    p.quadrante.gnomone = campo(in.TxtStilo) * p.unita;
-    p.longitudine = campo(in.txtLonG) * ombra::RADIANTI;
-    p.meridiano = campo(in.txtMeridiano) * ombra::RADIANTI;
+    p.quadrante.gnomone = NumeroDi(letto.gn) * p.unita;
+    p.longitudine = NumeroDi(letto.lon) * ombra::RADIANTI;
+    p.meridiano = NumeroDi(letto.meridiano) * ombra::RADIANTI;
     return p;
 }
 
 }  // namespace
 
-Posa PosaDeiCampi(const Sessione &s) { return posa(s, campo(s.in.txtLAT), campo(s.in.txtDec), campo(s.in.txtInc)); }
+Posa PosaDeiCampi(const Sessione &s) {
+    const Lettura letto(s.in);
+    return posa(letto, NumeroDi(letto.lat), NumeroDi(letto.dec), NumeroDi(letto.inc));
+}
 
-Posa PosaDelDisegno(const Sessione &s) {
+Posa PosaDelDisegno(const Sessione &s, const Lettura &letto) {
     const Variabili &v = s.v;
     if (v.flagVerticale == 1) {
-        Posa p = posa(s, v.lat_o.numero() * ombra::GRADI, v.dec_o.numero() * ombra::GRADI, v.inc_o.numero());
+        Posa p = posa(letto, v.lat_o.numero() * ombra::GRADI, v.dec_o.numero() * ombra::GRADI, v.inc_o.numero());
         p.longitudine = v.lon_o.numero() * ombra::RADIANTI;
         return p;
     }
-    const double lat = campo(s.in.txtLAT), premuta = v.latGradi.numero();
-    return posa(s, lat == -premuta ? premuta : lat, campo(s.in.txtDec), campo(s.in.txtInc));
+    const double lat = NumeroDi(letto.lat), premuta = v.latGradi.numero();
+    return posa(letto, lat == -premuta ? premuta : lat, NumeroDi(letto.dec), NumeroDi(letto.inc));
 }
 
 }  // namespace ombrelia

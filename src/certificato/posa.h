@@ -22,10 +22,14 @@ struct Posa {
     [[nodiscard]] double minutiDelFuso() const { return (longitudine - meridiano) * ombra::GRADI * 4; }
 };
 
+// A field's number. Given, gives: as typed. Source: by definition. Faults: 0 for one without a value.
+inline double NumeroDi(Reale campo) { return campo.numero(); }
+
 // The dial of the fields as they stand, before a run.
 [[nodiscard]] Posa PosaDeiCampi(const Sessione &s);
 // The dial of the last run: a southern latitude that the run made positive counts as it was typed, and an equivalent
 // dial is the plane that it stands for.
-[[nodiscard]] Posa PosaDelDisegno(const Sessione &s);
+[[nodiscard]] Posa PosaDelDisegno(const Sessione &s, const Lettura &letto);
+[[nodiscard]] inline Posa PosaDelDisegno(const Sessione &s) { return PosaDelDisegno(s, Lettura(s.in)); }
 
 }  // namespace ombrelia

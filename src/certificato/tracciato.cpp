@@ -13,26 +13,22 @@ using ombra::Vettore;
 
 namespace {
 
-double campo(const std::string &testo, double unita) {
-    const Valore v = Val(testo);
-    return v.esiste() ? v.v * unita : 0;
-}
-
 // How far (sine) above the horizon and before the plane a Sun must stand. Lines of sunset and sunrise are a thousand
 // times as far from the first.
 constexpr double MARGINI[] = {1e-12, 1e-9};
 
 }  // namespace
 
-Scena::Scena(const Sessione &s) : posa_(PosaDelDisegno(s)), piano_(posa_.quadrante), verso_(posa_.verso()) {
+Scena::Scena(const Sessione &s, const Lettura &letto)
+    : posa_(PosaDelDisegno(s, letto)), piano_(posa_.quadrante), verso_(posa_.verso()) {
     // An equivalent dial's field of longitude holds its difference too, and stays on the zone's where local hours were
     // asked for.
-    longitudine_ = s.v.flagVerticale == 1 ? campo(s.in.txtLonG, ombra::RADIANTI) + s.v.diffLong.numero() : posa_.longitudine;
+    longitudine_ = s.v.flagVerticale == 1 ? NumeroDi(letto.lon) * ombra::RADIANTI + s.v.diffLong.numero() : posa_.longitudine;
     const double u = posa_.unita;
-    xMin = campo(s.in.txtX0, u);
-    xMax = campo(s.in.txtX1, u);
-    yMin = campo(s.in.txtY1, u);
-    yMax = campo(s.in.txtY0, u);
+    xMin = NumeroDi(letto.x0) * u;
+    xMax = NumeroDi(letto.x1) * u;
+    yMin = NumeroDi(letto.y1) * u;
+    yMax = NumeroDi(letto.y0) * u;
     const double diagonale = std::hypot(xMax - xMin, yMax - yMin);
     corda = std::max(0.002, diagonale / 1000);
     freccia = std::max(2e-6, diagonale / 1e6);

@@ -23,7 +23,8 @@ inline constexpr double SOLSTIZIO_GRADI = 23.445;
 class Scena {
 public:
     // The session's dial as the run that is under way draws it.
-    explicit Scena(const Sessione &s);
+    explicit Scena(const Sessione &s) : Scena(s, Lettura(s.in)) {}
+    Scena(const Sessione &s, const Lettura &letto);
 
     [[nodiscard]] const Posa &posa() const { return posa_; }
     [[nodiscard]] const ombra::PianoMontato &piano() const { return piano_; }

@@ -55,39 +55,49 @@ int cordeDi(const Tratto &t) {
     return static_cast<int>(std::ceil(std::fabs(Radianti(t.fine - t.inizio).v) / passo.v));
 }
 
-void posiziona(Sessione &s, bool romani) {
-    Variabili &v = s.v;
-    const Lettura letto(s.in);
-    if (!(letto.inc == 0) || v.unita == 0) return;
+// Zone, declination and day of choice as typed, and the longitude from the zone's meridian: of 15 West, and in degrees, where the
+// vertical engine keeps radians. Meant; other zones count as they must, and so do true lines.
+void lasciaCampi(Variabili &v, const Lettura &letto, bool corretta) {
     v.oraFuso = letto.fuso ? 1 : 0;
     v.decGradi = letto.dec;
     v.meridiano = letto.meridiano;
-    // Degrees, where the vertical engine keeps radians, and east of 15 West alone: meant. Other zones count as they must.
-    v.angOraLong = AltroMeridiano(v) || s.in.ckCorretta == 1 ? DalMeridiano(letto.lon, v.meridiano) : 15 - Abs(letto.lon);
+    v.angOraLong = AltroMeridiano(v) || corretta ? DalMeridiano(letto.lon, v.meridiano) : 15 - Abs(letto.lon);
+    v.deltaOpz = letto.delta;
+}
+
+// Lower left of the middle line of a number's last cell, where the frame's corner stood.
+void lasciaCella(Variabili &v, Valore x, Valore y) {
+    v.x1 = x;
+    v.y1 = y;
+}
+
+void posiziona(Sessione &s, bool romani) {
+    const Variabili &v = s.v;
+    const Lettura letto(s.in);
+    if (!(letto.inc == 0) || v.unita == 0) return;
+    lasciaCampi(s.v, letto, s.in.ckCorretta == 1);
+    const OmbreVere ombre = s.ombreVere();
+    const Reale D = PI * v.deltaOpz / 180;
     PuntoParete p;
-    Reale D, H;
+    Reale H;
     for (const double V : Conteggio(-90, 90, 15)) {
-        v.deltaOpz = letto.delta;
-        D = PI * v.deltaOpz / 180;
         H = PI * (V - v.angOraLong * v.oraFuso) / 180;
         p.azimut(v, H, D);
         if (p.quadranteErrato(H)) p.A = p.A + PI;  // always plus, unlike the signs of the zodiac
         if (v.segnoLatPiana == -1 && p.A == 0 && H == 0) p.A = PI;
         p.proietta(v, H, D);
-        if (!s.ombraVera(H, D, p.x, p.y)) continue;
+        if (!ombre.sposta(H, D, p.x, p.y)) continue;
         const int ora = 12 + static_cast<int>(V) / 15;
         const int numero = ora > 12 ? ora - 12 : ora;
-        if (romani) DisegnaNumeroRomano(s, p.x, p.y, PI / 2, numero);
-        else DisegnaNumero(s, p.x, p.y, 90, numero);
+        if (romani) DisegnaNumeroRomano(s, letto.romani * v.unita, p.x, p.y, PI / 2, numero);
+        else DisegnaNumero(s, letto.arabi * v.unita, p.x, p.y, 90, numero);
     }
 }
 
 }  // namespace
 
-void DisegnaNumero(Sessione &s, Valore X, Valore Y, Valore Angolo, int Numero) {
-    Variabili &v = s.v;
-    Reale altezza, passoX, passoY;
-    altezza = Val(s.in.txtArabi) * v.unita;
+void DisegnaNumero(Sessione &s, Reale altezza, Valore X, Valore Y, Valore Angolo, int Numero) {
+    Reale passoX, passoY, x = s.v.x1, y = s.v.y1;
     const Valore angolo = Angolo * (PI / 180);
     passoX = altezza * LARGHEZZA_CELLA / ALTEZZA_CELLA * sin(angolo);
     passoY = altezza * LARGHEZZA_CELLA / ALTEZZA_CELLA * cos(angolo);
@@ -95,18 +105,19 @@ void DisegnaNumero(Sessione &s, Valore X, Valore Y, Valore Angolo, int Numero) {
     std::optional<Valore> specchio;
     if (s.visteAlloSpecchio()) specchio = Numero <= 9 ? X - passoX / 2 : X;  // the number's middle
 
-    v.x1 = X - passoX;
-    v.y1 = Y + passoY;
-    DisegnaCifra(s, v.x1, v.y1, Angolo, cifre.front() - '0', PESO_ARABI, specchio);
-    if (Numero <= 9) return;
-    v.x1 = v.x1 + passoX;
-    v.y1 = v.y1 - passoY;
-    DisegnaCifra(s, v.x1, v.y1, Angolo, cifre.back() - '0', PESO_ARABI, specchio);
+    x = X - passoX;
+    y = Y + passoY;
+    DisegnaCifra(s, altezza, x, y, Angolo, cifre.front() - '0', PESO_ARABI, specchio);
+    if (Numero > 9) {
+        x = x + passoX;
+        y = y - passoY;
+        DisegnaCifra(s, altezza, x, y, Angolo, cifre.back() - '0', PESO_ARABI, specchio);
+    }
+    lasciaCella(s.v, x, y);
 }
 
-void DisegnaCifra(Sessione &s, Valore X, Valore Y, Valore Angolo, int Cifra, int Peso, std::optional<Valore> specchio) {
-    Reale altezza;
-    altezza = Val(s.in.txtArabi) * s.v.unita;
+void DisegnaCifra(Sessione &s, Reale altezza, Valore X, Valore Y, Valore Angolo, int Cifra, int Peso,
+                  std::optional<Valore> specchio) {
     const Telaio telaio(s.tavolo, X, Y, Angolo * (PI / 180), altezza, specchio);
     constexpr double mezza = ALTEZZA_CELLA / 2;
     for (const Tratto &t : TrattiCifra(Cifra))
@@ -114,13 +125,11 @@ void DisegnaCifra(Sessione &s, Valore X, Valore Y, Valore Angolo, int Cifra, int
                    [&](double a1, double b1, double a2, double b2) { telaio.linea(a1, b1 - mezza, a2, b2 - mezza, Peso); });
 }
 
-void DisegnaNumeroRomano(Sessione &s, Valore x, Valore y, Valore rotazione, int ora) {
+void DisegnaNumeroRomano(Sessione &s, Reale altezza, Valore x, Valore y, Valore rotazione, int ora) {
     const std::string lettere = NumeroRomano(ora);
     double larghezza = 0;
     for (const char c : lettere) larghezza += LetteraRomana(c).larghezza;
 
-    Reale altezza;
-    altezza = Val(s.in.txtNumbersize) * s.v.unita;
     const Telaio telaio(s.tavolo, x, y, rotazione, altezza, s.visteAlloSpecchio() ? std::optional(x) : std::nullopt);
     double a = -larghezza / 2;
     const double b = -ALTEZZA_CELLA / 2;

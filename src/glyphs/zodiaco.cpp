@@ -5,6 +5,7 @@
 #include "glyphs/punto_parete.h"
 #include "glyphs/tratti.h"
 #include "gnomonica/longitudine.h"
+#include "gnomonica/spazzate.h"
 
 namespace ombrelia {
 
@@ -22,15 +23,15 @@ Valore entroUnGiro(Valore angolo) {
 }
 
 // The longitude's part of both routines: of the equivalent dial where there is one, and whatever oraFuso says.
-void correggiLongitudine(Variabili &v) {
+void lasciaLongitudine(Variabili &v) {
     if (v.flagVerticale == 1) v.lon = v.lonEq;
     LasciaDalMeridiano(v);
     v.corrLong = CorrezioneLongitudine(v);
 }
 
-// The point at hour angle H on the day line of deltaOpz.
-void calcola(PuntoParete &p, const Variabili &v, Valore H) {
-    const Valore D = PI * v.deltaOpz / 180;
+// The point at hour angle H, radians, on the day line of delta, degrees.
+void calcola(PuntoParete &p, const Variabili &v, Valore H, Valore delta) {
+    const Valore D = PI * delta / 180;
     p.azimut(v, H, D);
     if (p.quadranteErrato(H)) p.A = p.A + Sgn(H) * PI;
     p.proietta(v, H, D);
@@ -38,10 +39,8 @@ void calcola(PuntoParete &p, const Variabili &v, Valore H) {
 
 }  // namespace
 
-void DisegnaSegno(Sessione &s, Segno segno, Valore x0, Valore y0, Valore gradi) {
-    Reale S;
-    S = Val(s.in.txtZodiacsize) * s.v.unita;
-    const Valore h = S / 2, rotazione = Radianti(gradi);
+void DisegnaSegno(Sessione &s, Reale altezza, Segno segno, Valore x0, Valore y0, Valore gradi) {
+    const Valore h = altezza / 2, rotazione = Radianti(gradi);
     const Valore sen = sin(rotazione), co = cos(rotazione);
     const bool specchio = s.visteAlloSpecchio();  // about its own middle
     const double verso = specchio ? -1 : 1;
@@ -68,9 +67,11 @@ void DisegnaSegno(Sessione &s, Segno segno, Valore x0, Valore y0, Valore gradi) 
 }
 
 void DisegnaZodiaco(Sessione &s) {
-    LeggiParametri(s);
-    Variabili &v = s.v;
-    correggiLongitudine(v);
+    const Lettura letto(s.in);
+    LeggiParametri(s, letto);
+    lasciaLongitudine(s.v);
+    const Variabili &v = s.v;
+    const OmbreVere ombre = s.ombreVere();
     double f = 1;
     Valore m0 = 0;
     if (v.segnoLat2 == -1 && v.decR > 0) {
@@ -102,17 +103,17 @@ void DisegnaZodiaco(Sessione &s) {
     Reale H;
     for (const PostoSegno &posto : posti) {
         H = -v.corrLong + posto.scarto;
-        v.deltaOpz = posto.delta;
-        calcola(p, v, H);
-        if (!s.ombraVera(H, PI * posto.delta * v.segnoLat / 180, p.x, p.y)) continue;
-        DisegnaSegno(s, posto.segno, p.x, p.y, 90);
+        calcola(p, v, H, posto.delta);
+        if (!ombre.sposta(H, PI * posto.delta * v.segnoLat / 180, p.x, p.y)) continue;
+        DisegnaSegno(s, letto.segni * v.unita, posto.segno, p.x, p.y, 90);
     }
     ChiudiZodiaco(s);
 }
 
 void ChiudiZodiaco(Sessione &s) {
-    Variabili &v = s.v;
-    correggiLongitudine(v);
+    lasciaLongitudine(s.v);
+    const Variabili &v = s.v;
+    const OmbreVere ombre = s.ombreVere();
     struct Tratta {
         double delta;  // declination in the northern summer's sense, degrees
         double da, a;  // minutes of time
@@ -123,14 +124,16 @@ void ChiudiZodiaco(Sessione &s) {
         {11.5, -2.466, 1.0666, 0.0002}, {20, -6.25, 3.58, 0.0001},
     };
     PuntoParete p;
+    Reale delta;
     for (const Tratta &t : TRATTE) {
-        v.deltaOpz = t.delta * v.segnoLat;
+        delta = t.delta * v.segnoLat;
         for (const double H : Conteggio(-v.corrLong + minuti(t.da), -v.corrLong + minuti(t.a), t.passo)) {
-            calcola(p, v, H);
-            if (!s.ombraVera(H, PI * t.delta / 180, p.x, p.y)) continue;
+            calcola(p, v, H, delta);
+            if (!ombre.sposta(H, PI * t.delta / 180, p.x, p.y)) continue;
             if (p.y <= 0) s.tavolo.TracciaPunto(p.x, p.y, GIALLO);
         }
     }
+    LasciaDeclinazione(s.v, delta);
 }
 
 }  // namespace ombrelia

@@ -46,11 +46,11 @@ std::string testoDi(std::string_view nome) {
 // The outlines on one dial.
 class Contorni {
 public:
-    explicit Contorni(Sessione &s)
+    Contorni(Sessione &s, const Lettura &letto)
         : s_((LeggiUnita(s), s)),
-          cornice_(LeggiCornice(s)),
+          cornice_(CorniceDi(letto)),
           filtro_(Val(s.in.Filtertxt)),
-          zenit_(s),
+          zenit_(s, letto),
           strato_(s.tavolo.nome("")) {}
 
     // Only a point in front of the plane is stored and joined to the one before; what lies behind leaves its place as
@@ -122,7 +122,7 @@ void CaricaMondo(Sessione &s) {
 
 void DisegnaMondo(Sessione &s) {
     s.utente.Puntatore(true);
-    Contorni contorni(s);
+    Contorni contorni(s, Lettura(s.in));
     s.Messaggio(s.Traduci("Map"));
     if (s.mondo.punti.empty()) CaricaMondo(s);
 

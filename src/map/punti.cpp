@@ -16,9 +16,10 @@ void DisegnaCitta(Sessione &s) {
     const bool ovest = Abs(a) >= Abs(da);
     if (TroppoFitto(s, {{ovest ? "txtWest" : "txtEAST", ovest ? in.txtWest : in.txtEAST, righe}})) return;
 
-    const Reale sito = Val(in.txtLonG);
+    const Lettura letto(in);
+    const Reale sito = letto.lon;
     const auto citta = TavolaCitta();
-    Zenit zenit(s);
+    Zenit zenit(s, letto);
     Reale x, y;
     for (const double i : righe) {
         const double riga = std::nearbyint(i);
@@ -40,19 +41,20 @@ void lasciaPunto(Variabili &v, const Lettura &letto) { v.deltaOpz = letto.delta;
 void PuntoOpzionale(Sessione &s) {
     const DialInputs &in = s.in;
     const Lettura letto(in);
+    const Valore orario = Val(in.txtAO);
     s.Messaggio(s.Traduci("Optional position"));
     LeggiUnita(s);
     lasciaPunto(s.v, letto);
     const double zr = LeggiPiano(s, letto, letto.gn);
     const Variabili &v = s.v;
     // The hour angle is the site's own already: with true lines the longitude is not taken once more.
-    const Reale H = PI * (in.ckCorretta == 1 ? Val(in.txtAO) : Val(in.txtAO) - letto.lon) / 180;
+    const Reale H = PI * (in.ckCorretta == 1 ? orario : orario - letto.lon) / 180;
     const Reale D = PI * v.deltaOpz / 180;
     s.in.punto = 0;
 
     Reale x, y;
     Proiezione(v.latR, v.decR, zr, v.gn, v.unita)(H, D, x, y);
-    if (!s.ombraVera(H, D, x, y)) return;
+    if (!s.ombreVere().sposta(H, D, x, y)) return;
     // The circle's radius is not scaled by unita, the star's is: meant.
     s.tavolo.TracciaCerchio(x, y, (v.gn / 20) * std::sin(18 * PI / 180) / std::sin(126 * PI / 180), GIALLO, BLU, 1, -CERCHIO, 0);
     DisegnaStella(s, x, Capovolta(Valore(y)), v.unita * v.gn / 20, BIANCO);

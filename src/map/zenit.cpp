@@ -9,12 +9,12 @@ int segno(double x) { return (x > 0) - (x < 0); }
 
 }  // namespace
 
-bool Specchiato(const Sessione &s) { return s.in.ckCorretta == 1 && Val(s.in.txtLAT) < 0; }
+bool Specchiato(const Sessione &s, const Lettura &letto) { return s.in.ckCorretta == 1 && letto.lat < 0; }
 
 double LeggiPiano(Sessione &s, const Lettura &letto, Valore gn) {
     Variabili &v = s.v;
     v.latR = PI * letto.lat / 180;
-    if (Specchiato(s)) v.latR = -v.latR;
+    if (Specchiato(s, letto)) v.latR = -v.latR;
     v.dec = letto.dec;
     v.decR = PI * v.dec / 180;
     if (letto.inc == 90) v.decR = 0;
@@ -27,7 +27,7 @@ Zenit::Zenit(const Sessione &s, const Lettura &letto, double zr)
     : senPhi_(std::sin(s.v.latR.numero())),
       cosPhi_(std::cos(s.v.latR.numero())),
       proiezione_(s.v.latR, s.v.decR, zr, s.v.gn, 1),
-      fattore_((s.in.ck_inv == 1 || s.in.ckCorretta == 1) && !Specchiato(s) ? -1 : 1),
+      fattore_((s.in.ck_inv == 1 || s.in.ckCorretta == 1) && !Specchiato(s, letto) ? -1 : 1),
       orizzontale_(letto.inc == 90),
       tanDec_(std::tan(s.v.decR.numero())),
       divisore_(std::tan(zr) * std::cos(s.v.decR.numero())),

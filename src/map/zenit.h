@@ -7,7 +7,7 @@
 namespace ombrelia {
 
 // Whether the plane is that of a southern site as a corrected run draws it: mirrored, with the seasons exchanged.
-bool Specchiato(const Sessione &s);
+bool Specchiato(const Sessione &s, const Lettura &letto);
 
 // The plane that places are shown on. Given: the fields as read, degrees; the gnomon, metres. Gives: the complement of the
 // inclination, radians; leaves site, plane and gnomon in the shared variables latR (signed, but for a mirrored one), dec, decR
@@ -21,13 +21,12 @@ double LeggiPiano(Sessione &s, const Lettura &letto, Valore gn);
 // place, as do x and y.
 class Zenit {
 public:
-    // Reads site, plane and gnomon (gn is scaled) into the shared variables; unita is read before.
-    explicit Zenit(Sessione &s) : Zenit(s, Lettura(s.in)) {}
+    // Takes site, plane and gnomon (gn is scaled) into the shared variables; unita is read before.
+    Zenit(Sessione &s, const Lettura &letto) : Zenit(s, letto, LeggiPiano(s, letto, letto.gn * s.v.unita)) {}
     // Whether the place lies in front of the plane; only then x and y are given.
     bool operator()(Valore X, Valore Y, Reale &x, Reale &y);
 
 private:
-    Zenit(Sessione &s, const Lettura &letto) : Zenit(s, letto, LeggiPiano(s, letto, letto.gn * s.v.unita)) {}
     Zenit(const Sessione &s, const Lettura &letto, double zr);
 
     double senPhi_, cosPhi_;

@@ -4,8 +4,10 @@
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <span>
 #include <string_view>
+#include <utility>
 
 #include "core/colori.h"
 #include "core/reale.h"
@@ -44,5 +46,25 @@ struct Attesa {
 // upward, with claims of its own (Pretendi). The Qibla's row is asked in every run of the direct engine, with no lines
 // where CkQibla is clear, so that the caption's bearing can be put right.
 using Correzione = std::function<bool(Sessione &, const Attesa &)>;
+
+// Figures that belong to a Sun, moved to its shadow where true lines are drawn.
+class OmbreVere {
+public:
+    // Where a Sun of that hour angle and declination, radians, throws the tip's shadow: metres on the list, y upward; none
+    // where it throws none.
+    using Dove = std::function<std::optional<std::pair<double, double>>(double t, double delta)>;
+    // With no function nothing moves.
+    explicit OmbreVere(Dove dove) : dove_(std::move(dove)) {}
+    // Moves a figure; false where no shadow falls and none is to be drawn.
+    [[nodiscard]] bool sposta(Valore t, Valore delta, Reale &x, Reale &y) const {
+        if (!dove_) return true;
+        const auto p = dove_(t.v, delta.v);
+        if (p) x = p->first, y = p->second;
+        return p.has_value();
+    }
+
+private:
+    Dove dove_;
+};
 
 }  // namespace ombrelia

@@ -31,6 +31,9 @@ Lettura::Lettura(const DialInputs &in)
       qLat(Val(in.txtQlat)),
       qLon(Val(in.txtQlon)),
       allungo(Val(in.txtSUBSTYLE)),
+      arabi(Val(in.txtArabi)),
+      romani(Val(in.txtNumbersize)),
+      segni(Val(in.txtZodiacsize)),
       unita(UnitaDi(in)),
       fuso(in.ck_Etna == 1) {}
 

@@ -22,6 +22,7 @@ struct Lettura {
     Valore inizio, fine;                        // of Italic and Babylonian hours
     Valore qLat, qLon;                          // of the Qibla
     Valore allungo;                             // of the style, along the substyle
+    Valore arabi, romani, segni;                // heights of numerals and of the zodiac's signs
     Valore unita;                               // metres in a unit of length: 1 or 0.001
     bool fuso;                                  // in the zone's time
 };

@@ -72,11 +72,11 @@ void LeggiParametri(Sessione &s, const Lettura &letto) {
     LasciaFuso(v, letto);
     v.meridiano = letto.meridiano;
     v.letture = v.letture + 1;
-    if (v.letture == 1) FissaOriginale(v);
+    if (v.letture == 1) LasciaOriginale(v);
     v.lonPiu15 = v.lon - v.meridiano;
 }
 
-void FissaOriginale(Variabili &v) {
+void LasciaOriginale(Variabili &v) {
     v.lat_o = v.latR;
     v.dec_o = v.decR;
     v.iz_o = v.incR;
@@ -96,10 +96,19 @@ Cornice CorniceDi(const Lettura &letto) {
 
 void LeggiUnita(Sessione &s) { s.v.unita = UnitaDi(s.in); }
 
-void TracciaCornice(Sessione &s, const Lettura &letto) {
-    Variabili &v = s.v;
+namespace {
+
+// The frame's corner, scaled, in the place of the one as typed.
+void lasciaAngolo(Variabili &v, const Lettura &letto) {
     v.x1 = letto.x0 * v.unita;
     v.y1 = letto.y0 * v.unita;
+}
+
+}  // namespace
+
+void TracciaCornice(Sessione &s, const Lettura &letto) {
+    lasciaAngolo(s.v, letto);
+    const Variabili &v = s.v;
     s.tavolo.TracciaRiquadro(v.x1, v.y1, letto.x1 * v.unita, letto.y1 * v.unita, BIANCO, true, "Cornice");
 }
 

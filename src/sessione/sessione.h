@@ -59,9 +59,8 @@ struct Sessione {
 
     // Draws true lines in place of an engine's own while ckCorretta is set; absent where nobody does.
     Correzione suCorretta;
-    // Where a Sun of that hour angle and declination, radians, throws the tip's shadow: metres on the list, y upward; none
-    // where it throws none.
-    std::function<std::optional<std::pair<double, double>>(const Sessione &, double t, double delta)> suOmbra;
+    // Says of the dial that a run is drawing where shadows fall.
+    std::function<OmbreVere::Dove(const Sessione &)> suOmbra;
     // Change handlers of fields that an engine rewrites; set by the application above.
     std::function<void(Sessione &, std::string DialInputs::*)> suCambio;
     // What needs a toolkit; absent without one. The sheet to the printer, whole or its selected tiles; the sheet's picture
@@ -69,13 +68,9 @@ struct Sessione {
     std::function<void(Sessione &, bool aree)> suStampa;
     std::function<std::string(Sessione &)> suImmagine;
 
-    // With ckCorretta set, moves a figure that belongs to a Sun (hour angle and declination, radians) to its shadow; false
-    // where no shadow falls and none is to be drawn. With the box clear true, and nothing moves.
-    [[nodiscard]] bool ombraVera(Valore t, Valore delta, Reale &x, Reale &y) const {
-        if (in.ckCorretta != 1 || !suOmbra) return true;
-        const auto p = suOmbra(*this, t.v, delta.v);
-        if (p) x = p->first, y = p->second;
-        return p.has_value();
+    // For the figures of one routine.
+    [[nodiscard]] OmbreVere ombreVere() const {
+        return OmbreVere(in.ckCorretta == 1 && suOmbra ? suOmbra(*this) : OmbreVere::Dove());
     }
     // Whether somebody else drew these lines, true ones, in place of the engine's.
     [[nodiscard]] bool corretta(const Attesa &attesa) { return in.ckCorretta == 1 && suCorretta && suCorretta(*this, attesa); }
@@ -113,7 +108,7 @@ void LeggiParametri(Sessione &s, const Lettura &letto);
 inline void LeggiParametri(Sessione &s) { LeggiParametri(s, Lettura(s.in)); }
 
 // The plane as just read becomes the original dial.
-void FissaOriginale(Variabili &v);
+void LasciaOriginale(Variabili &v);
 
 // The frame of a drawing: scaled limits, y upward.
 struct Cornice {

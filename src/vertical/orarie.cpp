@@ -86,6 +86,7 @@ void PosizionaNumeriOrari(Corsa &c, const LineeAttese &linee) {
     const Variabili &v = c.v;
     const Sfera sfera = c.sfera();
     const Sfera::Giorno giorno = sfera.giorno(v.deltaOpz.numero());
+    const OmbreVere ombre = s.ombreVere();
     Direzione sole;
     Reale x, y;
     for (const LineaAttesa &l : linee) {
@@ -96,12 +97,12 @@ void PosizionaNumeriOrari(Corsa &c, const LineeAttese &linee) {
         if (v.segnoLatPiana == -1 && ora.Hr == 0 && sole.A == 0) sole.A = PI;
         sfera.altezza(sole, ora, giorno);
         sfera.punto(sole, x, y);
-        if (!s.ombraVera(ora.Hr, PI * v.deltaOpz / 180, x, y)) continue;
+        if (!ombre.sposta(ora.Hr, PI * v.deltaOpz / 180, x, y)) continue;
         if (!c.cornice.contiene(x, y) || y > 0) continue;
         int numero = static_cast<int>(l.valore);
         if (numero > 12) numero -= 12;
-        if (s.in.ckRomani == 1) DisegnaNumeroRomano(s, x, y, PI / 2, numero);
-        else DisegnaNumero(s, x, y, 90, numero);
+        if (s.in.ckRomani == 1) DisegnaNumeroRomano(s, c.letto.romani * v.unita, x, y, PI / 2, numero);
+        else DisegnaNumero(s, c.letto.arabi * v.unita, x, y, 90, numero);
     }
 }
 

@@ -68,14 +68,19 @@ struct MuroDiCifre : Banco {
         LeggiParametri(s);
         s.v.unita = s.v.segnoLat2 = 1;
     }
-    const Linee &cifra(int n) { return s.tavolo.Clear(), DisegnaCifra(s, 0, 0, 90, n, 2), lista().Linee; }
-    const Linee &numero(int n, double gradi = 90) { return s.tavolo.Clear(), DisegnaNumero(s, 1, 2, gradi, n), lista().Linee; }
-    const Linee &romano(int n, double r = PI / 2) { return s.tavolo.Clear(), DisegnaNumeroRomano(s, 0, 0, r, n), lista().Linee; }
+    [[nodiscard]] Reale alta(Valore Lettura::*figura) const { return Lettura(s.in).*figura * s.v.unita; }
+    const Linee &cifra(int n) { return s.tavolo.Clear(), DisegnaCifra(s, alta(&Lettura::arabi), 0, 0, 90, n, 2), lista().Linee; }
+    const Linee &numero(int n, double gradi = 90) {
+        return s.tavolo.Clear(), DisegnaNumero(s, alta(&Lettura::arabi), 1, 2, gradi, n), lista().Linee;
+    }
+    const Linee &romano(int n, double r = PI / 2) {
+        return s.tavolo.Clear(), DisegnaNumeroRomano(s, alta(&Lettura::romani), 0, 0, r, n), lista().Linee;
+    }
     std::size_t romani() { return s.tavolo.Clear(), PosizionaRomani(s), lista().Linee.size(); }
     std::size_t arabi() { return s.tavolo.Clear(), PosizionaArabi(s), lista().Linee.size(); }
     Ingombro segno(int n, double x = 0, double y = 0) {
         s.tavolo.Clear();
-        DisegnaSegno(s, static_cast<Segno>(n), x, y, 90);
+        DisegnaSegno(s, alta(&Lettura::segni), static_cast<Segno>(n), x, y, 90);
         Linee linee = lista().Linee;
         for (const RecFigura &f : lista().Figure) {
             const double arco = f.B == 0 ? CERCHIO : std::fmod(f.B - f.A + CERCHIO, CERCHIO);
@@ -135,11 +140,11 @@ TEST(Glifi, ReadInTheMirror) {
         EXPECT_TRUE(punti(false, centro) == dritti) << chi;
     };
     for (int n = 0; n < QUANTI_SEGNI; ++n)
-        prova([&] { DisegnaSegno(banco.s, static_cast<Segno>(n), 0.3, -0.2, 90); }, 0.3, "sign " + std::to_string(n));
+        prova([&] { DisegnaSegno(banco.s, 0.015, static_cast<Segno>(n), 0.3, -0.2, 90); }, 0.3, "sign " + std::to_string(n));
     const double mezzaCella = 0.15 * LARGHEZZA_CELLA / ALTEZZA_CELLA / 2;
     for (const int n : {1, 6, 7, 10, 12}) {
-        prova([&] { DisegnaNumero(banco.s, 0.3, 0, 90, n); }, n <= 9 ? 0.3 - mezzaCella : 0.3, std::to_string(n));
-        prova([&] { DisegnaNumeroRomano(banco.s, 0.3, 0, PI / 2, n); }, 0.3, "Roman " + std::to_string(n));
+        prova([&] { DisegnaNumero(banco.s, 0.15, 0.3, 0, 90, n); }, n <= 9 ? 0.3 - mezzaCella : 0.3, std::to_string(n));
+        prova([&] { DisegnaNumeroRomano(banco.s, 0.15, 0.3, 0, PI / 2, n); }, 0.3, "Roman " + std::to_string(n));
     }
 }
 

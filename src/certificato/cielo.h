@@ -3,6 +3,7 @@
 
 #include <cmath>
 #include <utility>
+#include <vector>
 
 #include "certificato/posa.h"
 #include "ombra/sole.h"
@@ -28,12 +29,17 @@ public:
     TempoMedio(const Posa &posa, int anno, double ora)
         : inizio_(ombra::giornoGiuliano({anno, 1, 1}) + (ora - posa.fuso()) / 24),
           medio_((ora - 12) * 15 * ombra::RADIANTI - (posa.longitudine - posa.meridiano)) {}
-    [[nodiscard]] std::pair<double, double> sole(double giorno) const {
-        const ombra::Sole sole = ombra::soleDi(inizio_ + giorno);
+    [[nodiscard]] std::pair<double, double> sole(double giorno) const { return conSole(ombra::soleDi(inizio_ + giorno)); }
+
+    // The same through a year in equal steps, its first and its last moment among them. The Suns are those of the call before
+    // where it asked for the same: what a dial shows of a year changes with its plane, the year's Sun does not.
+    [[nodiscard]] std::vector<std::pair<double, double>> annata(int passi) const;
+
+private:
+    [[nodiscard]] std::pair<double, double> conSole(const ombra::Sole &sole) const {
         return {medio_ + sole.equazione / 4 * ombra::RADIANTI, sole.delta};
     }
 
-private:
     double inizio_, medio_;
 };
 

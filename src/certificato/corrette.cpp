@@ -338,14 +338,15 @@ void triangolo(const Corredo &d) {
 
 // The stretch of a day line between the two branches of the analemma.
 void tacche(const Corredo &d) {
+    std::vector<std::pair<double, double>> annata;
+    const TempoMedio medio(d.scena.posa(), AnnoDelSole(d.s), 12);
+    for (int i = 0; i <= 366; ++i) annata.push_back(medio.sole(i));
     for (const LineaAttesa &l : d.attesa.linee) {
         if (l.valore == 0 && d.s.in.ck_Equinoziale == 1) continue;
         const double delta = l.valore * RAD;
-        const TempoMedio medio(d.scena.posa(), AnnoDelSole(d.s), 12);
         std::vector<double> angoli;
-        auto prima = medio.sole(0);
-        for (int i = 1; i <= 366; ++i) {
-            const auto ora = medio.sole(i);
+        auto prima = annata[0];
+        for (const auto &ora : annata) {
             if ((prima.second < delta) != (ora.second < delta)) {
                 const double k = (delta - prima.second) / (ora.second - prima.second);
                 angoli.push_back(prima.first + k * (ora.first - prima.first));

@@ -299,8 +299,7 @@ void LineaVera::dividi(const Campione &a, const Campione &b, int livello) {
 void LineaVera::preparaAnalemma() {
     const TempoMedio medio(dati_.posa, dati_.anno, valore_);
     anno_.reserve(CAMPIONI_ANNO + 1);
-    for (int i = 0; i <= CAMPIONI_ANNO; ++i) {
-        const auto [t, delta] = medio.sole(GIORNI_DELL_ANNO * i / CAMPIONI_ANNO);
+    for (const auto &[t, delta] : medio.annata(CAMPIONI_ANNO)) {
         GiornoAnalemma g{t, delta, {}, 0};
         // Behind the plane too: what is drawn there is the analemma's other side, and dark.
         const Vettore sole = PianoMontato::sole(g.t, g.delta);

@@ -111,6 +111,7 @@ void Vivo::lavora() {
         esito->tavolo = std::make_unique<Tavolo>();
         Tavolo &e = *esito->tavolo;
         e.ScambiaDisegno(t);
+        t.riserva(e);
         e.QuadranteL(t.QuadranteL());
         e.QuadranteH(t.QuadranteH());
         e.ShiftX(t.ShiftX());

@@ -1,6 +1,8 @@
 // Layer names, and what leaves the display list.
 #include "plot/lista.h"
 
+#include <algorithm>
+
 namespace ombrelia {
 
 IdNome Nomi::cerca(std::string_view nome) {
@@ -19,6 +21,13 @@ void Lista::svuota() {
     Ordine.clear();
     pretese.clear();
     trattini.clear();
+}
+
+void Lista::riserva(const Lista &come) {
+    constexpr std::size_t MASSIMA = std::size_t{1} << 20;  // a larger drawing grows as it goes
+    Linee.reserve(std::min(come.Linee.size(), MASSIMA));
+    Punti.reserve(std::min(come.Punti.size(), MASSIMA));
+    Ordine.reserve(std::min(come.Ordine.size(), 2 * MASSIMA));
 }
 
 void Lista::togliArea(std::size_t quale) {

@@ -95,6 +95,8 @@ struct Lista {
     std::vector<Pretesa> pretese;        // in the order of their records; ranges do not overlap
 
     void svuota();
+    // Room for as many lines and points as another list holds.
+    void riserva(const Lista &come);
     // Takes a selected tile out, with its outline and its number.
     void togliArea(std::size_t quale);
     // All of it, for who reads it while the drawing goes on.

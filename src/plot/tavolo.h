@@ -104,6 +104,8 @@ public:
         std::swap(currentX_, altro.currentX_);
         std::swap(currentY_, altro.currentY_);
     }
+    // Room for a drawing as large as another's, which the next run's is likely to be.
+    void riserva(const Tavolo &come) { lista_.riserva(come.lista_); }
     // A drawing kept aside, and put back; nothing is painted.
     struct DisegnoTenuto {
         Lista lista;

@@ -18,10 +18,10 @@ struct V {
 double per(V a, V b) { return a.e * b.e + a.n * b.n + a.u * b.u; }
 V croce(V a, V b) { return {a.n * b.u - a.u * b.n, a.u * b.e - a.e * b.u, a.e * b.n - a.n * b.e}; }
 
-struct Piano {
+struct PianoProvato {
     V normale, destra, alto;
     // Azimuth from South, West positive; inclination 0 a wall, 90 level; degrees.
-    Piano(double azimut, double inc) {
+    PianoProvato(double azimut, double inc) {
         const V muro{-std::sin(azimut * RAD), -std::cos(azimut * RAD), 0};
         normale = {muro.e * std::cos(inc * RAD), muro.n * std::cos(inc * RAD), std::sin(inc * RAD)};
         destra = croce({-muro.e, -muro.n, 0}, {0, 0, 1});
@@ -33,7 +33,7 @@ struct Ombra {
     double x, y;
     bool luce;
 };
-Ombra ombra(const Piano &p, double lat, double H, double delta) {
+Ombra ombra(const PianoProvato &p, double lat, double H, double delta) {
     const double cf = std::cos(lat * RAD), sf = std::sin(lat * RAD), cd = std::cos(delta * RAD), sd = std::sin(delta * RAD),
                  ch = std::cos(H * RAD);
     const V sole{-cd * std::sin(H * RAD), cf * sd - sf * cd * ch, sf * sd + cf * cd * ch};
@@ -86,7 +86,7 @@ TEST(LontaniQuadranti, HoursOfTheZoneAndOfThePlace) {
                 EXPECT_EQ(b.s.in.txtLAT, r[1]);
 
                 const double lat = n(r[1]), scarto = fuso ? n(r[2]) - n(r[3]) : 0;
-                const Piano piano(lat < 0 ? 180 - n(r[4]) : n(r[4]), n(r[5]));
+                const PianoProvato piano(lat < 0 ? 180 - n(r[4]) : n(r[4]), n(r[5]));
                 int suoi = 0;
                 double suo = 0;
                 for (int ora = 7; ora <= 17; ++ora)

@@ -24,7 +24,7 @@ double mediana(std::vector<double> v) {
 
 // Key to the picture on the sheet, milliseconds: the median of many keys, and the worst.
 void tasti(desktop::Finestra &f, const char *come, const char *campo) {
-    auto *dove = qobject_cast<QLineEdit *>(f.ponte().widget(campo));
+    auto *dove = qobject_cast<QLineEdit *>(f.ponte().widget(*CercaControllo(campo)));
     dove->setFocus();
     std::vector<double> tempi;
     constexpr int VOLTE = 60;
@@ -62,13 +62,13 @@ int main(int argc, char **argv) {
     while (!dipinto && t.elapsed() < 20000) QCoreApplication::processEvents();
     std::printf("first paint of the window    %6.1f ms\n", static_cast<double>(t.nsecsElapsed()) / 1e6);
 
-    const auto imposta = [&](const char *nome, const char *testo) { app::Imposta(f.sessione(), TrovaControllo(nome), testo); };
+    const auto imposta = [&](const char *nome, const char *testo) { app::Imposta(f.sessione(), *CercaControllo(nome), testo); };
     const auto prepara = [&](const char *inclinazione) {
         imposta("txtInc", inclinazione);
         for (const char *c :
              {"chkOreAstronomiche", "Ck_DayLightCurves", "ck_Equinoziale", "ck_Sustilare", "ck_Triangolo", "ckZodiac", "ckAlt",
               "ck_Lemniscate", "ckAsr", "CkQibla", "ckAssi", "ck_Orizzonte", "ckAz", "ck_babiloniche"})
-            app::Spunta(f.sessione(), TrovaControllo(c), 1);
+            app::Spunta(f.sessione(), *CercaControllo(c), 1);
         app::Adatta(f.sessione());
         f.ponte().sincronizza();
         f.quadro().foglio().tutto();
@@ -78,7 +78,7 @@ int main(int argc, char **argv) {
     tasti(f, "key, plane inclined", "txtDec");
     prepara("0");
     tasti(f, "key, wall", "txtLAT");
-    app::Spunta(f.sessione(), TrovaControllo("CkUNI"), 1);
+    app::Spunta(f.sessione(), *CercaControllo("CkUNI"), 1);
     f.ponte().sincronizza();
     tasti(f, "key, universal dial", "txtLAT");
     f.findChild<QAbstractButton *>("disegnaMentreScrivi")->setChecked(false);

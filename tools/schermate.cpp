@@ -30,12 +30,12 @@ void quadrante(desktop::Finestra &f, const QString &file) {
                                       {"txtY0", "30"},
                                       {"txtY1", "-520"},
                                       {"txtAltezzaEtichette", "13"}})
-        if (const IdControllo id = TrovaControllo(nome); id != NESSUN_CONTROLLO) app::Imposta(f.sessione(), id, testo);
+        if (const auto id = CercaControllo(nome)) app::Imposta(f.sessione(), *id, testo);
     f.ponte().sincronizza();
     for (const char *n : {"ckFunzione", "ckCartiglio"})
-        if (auto *b = qobject_cast<QAbstractButton *>(f.ponte().widget(n)); b && !b->isChecked()) b->click();
+        if (auto *b = qobject_cast<QAbstractButton *>(f.ponte().widget(*CercaControllo(n))); b && !b->isChecked()) b->click();
     f.findChild<QAbstractButton *>(QStringLiteral("Adatta"))->click();
-    for (const char *n : {"Tavolo1.cmdPulisci", "cmdRun"}) f.ponte().premi(n);
+    for (const char *n : {"Tavolo1.cmdPulisci", "cmdRun"}) f.ponte().premi(*CercaControllo(n));
     Tavolo t;
     desktop::VestiFoglio(f.sessione().tavolo, desktop::StileDi(false), false, t);
     auto d = t.CopiaDisegno();
@@ -80,16 +80,16 @@ int main(int argc, char **argv) {
             .save(QStringLiteral("%1/%2-%3.png").arg(dove, QString::fromLatin1(nome), lingua), "PNG", 0);
     };
     const auto imposta = [&](std::initializer_list<std::pair<const char *, const char *>> campi) {
-        for (const auto &[nome, testo] : campi) app::Imposta(f.sessione(), TrovaControllo(nome), testo);
+        for (const auto &[nome, testo] : campi) app::Imposta(f.sessione(), *CercaControllo(nome), testo);
         f.ponte().sincronizza();
     };
     const auto premi = [&](std::initializer_list<const char *> nomi) {
-        for (const char *n : nomi) f.ponte().premi(n);
+        for (const char *n : nomi) f.ponte().premi(*CercaControllo(n));
     };
     const auto adatta = [&] { f.findChild<QAbstractButton *>(QStringLiteral("Adatta"))->click(); };
     const auto spunta = [&](std::initializer_list<const char *> nomi) {
         for (const char *n : nomi)
-            if (auto *b = qobject_cast<QAbstractButton *>(f.ponte().widget(n)); b && !b->isChecked()) b->click();
+            if (auto *b = qobject_cast<QAbstractButton *>(f.ponte().widget(*CercaControllo(n))); b && !b->isChecked()) b->click();
     };
     const auto comando = [&](const char *nome) {
         f.findChild<QAction *>(QStringLiteral("comando.") + QLatin1String(nome))->trigger();

@@ -52,12 +52,6 @@ std::optional<IdControllo> CercaControllo(std::string_view nome) {
     return id == NESSUN_CONTROLLO ? std::nullopt : std::optional(id);
 }
 
-IdControllo TrovaControllo(std::string_view nome) {
-    const auto id = CercaControllo(nome);
-    Certo(id.has_value(), "a name that no control has");
-    return *id;
-}
-
 IdControllo IdDi(const Controllo &riga) {
     const Controllo *const inizio = righe::TAVOLA.data();
     Certo(std::greater_equal<>{}(&riga, inizio) && std::less<>{}(&riga, inizio + righe::TAVOLA.size()), "a row of another table");

@@ -63,8 +63,6 @@ private:
 // For names that come from outside: the control named as the action script names it, "txtLAT", "MDIForm1.txtLAT",
 // "frmDeclin.cmdSign(0)". Names are compared without regard to case.
 [[nodiscard]] std::optional<IdControllo> CercaControllo(std::string_view nome);
-// For names put together at run that can't but be there; one that isn't is a bug.
-[[nodiscard]] IdControllo TrovaControllo(std::string_view nome);
 // Of a row of the table; a copy of one is a bug.
 [[nodiscard]] IdControllo IdDi(const Controllo &riga);
 // A record with the start values of the table.

@@ -12,6 +12,7 @@
 #include <utility>
 
 #include "app/rapporti.h"
+#include "controlli/nomi.h"
 #include "desktop/barra_tempo.h"
 #include "desktop/comandi.h"
 #include "desktop/finestra.h"

@@ -7,6 +7,7 @@
 #include <QWhatsThis>
 #include <vector>
 
+#include "controlli/nomi.h"
 #include "desktop/comandi.h"
 #include "desktop/dialoghi.h"
 
@@ -216,8 +217,7 @@ private:
 const Aiuto *TrovaAiuto(IdControllo id) {
     static const std::vector<const Aiuto *> tavola = [] {
         std::vector<const Aiuto *> t(TavolaControlli().size());
-        for (const Aiuto &a : TAVOLA)
-            if (const IdControllo n = TrovaControllo(a.nome); n != NESSUN_CONTROLLO) t[static_cast<std::size_t>(n)] = &a;
+        for (const Aiuto &a : TAVOLA) t[static_cast<std::size_t>(IdControllo(a.controllo))] = &a;
         return t;
     }();
     return id == NESSUN_CONTROLLO ? nullptr : tavola[static_cast<std::size_t>(id)];
@@ -227,7 +227,7 @@ QString Suggerimento(Sessione &s, IdControllo id) {
     const Aiuto *a = TrovaAiuto(id);
     QString t = Q(s.stato(id).toolTip).trimmed();
     if (t.isEmpty() && a && !a->testo.empty()) t = Q(s.Traduci(a->testo));
-    t += TastiDi(a ? a->nome : RigaDi(id).nome);
+    t += TastiDi(TrovaComando(id));
     if (a && !a->umano.empty())
         t += (t.isEmpty() ? QString() : QStringLiteral("\n")) + QStringLiteral("«%1»").arg(Q(s.stato(id).caption).simplified());
     return SoloTesto(t.trimmed());

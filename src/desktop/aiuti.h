@@ -25,7 +25,7 @@ enum class Grandezza : std::uint8_t {
 };
 
 struct Aiuto {
-    std::string_view nome;   // as the action script gives it
+    NomeControllo controllo;
     std::string_view umano;  // empty: the control's caption
     std::string_view testo;
     Grandezza disegno = Grandezza::Nessuno;

@@ -15,6 +15,7 @@
 #include <utility>
 
 #include "app/azioni.h"
+#include "controlli/nomi.h"
 #include "desktop/dialoghi.h"
 #include "luoghi/angolo.h"
 
@@ -62,8 +63,8 @@ constexpr MisuraCampo MISURE[] = {
 
 }  // namespace
 
-const MisuraCampo *TrovaMisura(std::string_view nome) {
-    const auto i = std::find_if(std::begin(MISURE), std::end(MISURE), [nome](const MisuraCampo &m) { return m.nome == nome; });
+const MisuraCampo *TrovaMisura(IdControllo id) {
+    const auto i = std::find_if(std::begin(MISURE), std::end(MISURE), [id](const MisuraCampo &m) { return m.campo == id; });
     return i == std::end(MISURE) ? nullptr : i;
 }
 
@@ -77,7 +78,7 @@ CampoTesto::CampoTesto(Ponte &ponte, IdControllo id, QWidget *genitore)
     : QLineEdit(genitore),
       ponte_(ponte),
       id_(id),
-      misura_(RigaDi(id).modulo == "MDIForm1" ? TrovaMisura(RigaDi(id).nome) : nullptr),
+      misura_(TrovaMisura(id)),
       angolo_(RigaDi(id).modulo == "MDIForm1" && luoghi::TrovaCampoAngolo(RigaDi(id).nome) != nullptr) {
     if (RigaDi(id).filtro != Filtro::Nessuno) setInputMethodHints(Qt::ImhPreferNumbers);
     if (misura_ && misura_->unita) setTextMargins(0, 0, fontMetrics().horizontalAdvance(QStringLiteral("mm")) + 3, 0);

@@ -11,12 +11,12 @@ namespace ombrelia::desktop {
 
 // What a field measures.
 struct MisuraCampo {
-    std::string_view nome;
+    NomeControllo campo;
     char unita = 0;        // 'g' degrees, 'l' lengths as the box of millimetres says, 'm' millimetres, 'h' hours, 0 none
     double passo = 0;      // of wheel and arrows; of a length in metres
     double da = 0, a = 0;  // range, when da < a
 };
-[[nodiscard]] const MisuraCampo *TrovaMisura(std::string_view nome);
+[[nodiscard]] const MisuraCampo *TrovaMisura(IdControllo id);
 
 // An angle in both forms, its wind as the language calls it.
 [[nodiscard]] QString DueFormeTradotte(const Ponte &ponte, double gradi, luoghi::Verso verso);

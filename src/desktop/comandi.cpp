@@ -5,10 +5,14 @@
 #include <algorithm>
 #include <stdexcept>
 
+#include "controlli/nomi.h"
 #include "desktop/dialoghi.h"
 #include "desktop/icone.h"
 
 namespace ombrelia::desktop {
+
+consteval Comando::Comando(const char *nome, std::string_view testo, std::string_view icona, const char *tasti)
+    : nome(nome), testo(testo), icona(icona), tasti(tasti), controllo(testo.empty() ? NomeControllo(nome) : NomeControllo()) {}
 
 namespace {
 
@@ -75,8 +79,13 @@ const Comando *TrovaComando(std::string_view nome) {
     return i == std::end(TAVOLA) ? nullptr : i;
 }
 
-void VestiVoce(QAction *a, std::string_view nome) {
-    const Comando *c = TrovaComando(nome);
+const Comando *TrovaComando(IdControllo id) {
+    if (id == NESSUN_CONTROLLO) return nullptr;
+    const auto *i = std::find_if(std::begin(TAVOLA), std::end(TAVOLA), [id](const Comando &c) { return c.controllo == id; });
+    return i == std::end(TAVOLA) ? nullptr : i;
+}
+
+void VestiVoce(QAction *a, const Comando *c) {
     if (!c) return;
     a->setIcon(IconaDi(c->icona));
     if (*c->tasti) a->setShortcuts(QKeySequence::listFromString(QString::fromLatin1(c->tasti)));
@@ -87,13 +96,12 @@ QAction *CreaComando(Ponte &ponte, std::string_view nome, QObject *genitore, con
     if (!c) throw std::logic_error("no such command: " + std::string(nome));
     auto *a = new QAction(ponte.Traduci(c->testo), genitore);
     a->setObjectName(QStringLiteral("comando.") + Q(nome));
-    VestiVoce(a, nome);
+    VestiVoce(a, c);
     QObject::connect(a, &QAction::triggered, genitore, azione);
     return a;
 }
 
-void VestiBottone(QAbstractButton *b, std::string_view nome) {
-    const Comando *c = TrovaComando(nome);
+void VestiBottone(QAbstractButton *b, const Comando *c) {
     if (!c) return;
     b->setIcon(IconaDi(c->icona, b->property("principale").toBool() ? Fondo::Accento : Fondo::Finestra));
 }
@@ -108,8 +116,7 @@ void SoloIcona(const QList<QWidget *> &bottoni, bool si) {
     }
 }
 
-QString TastiDi(std::string_view nome) {
-    const Comando *c = TrovaComando(nome);
+QString TastiDi(const Comando *c) {
     if (!c || !*c->tasti) return {};
     const QKeySequence primi = QKeySequence::listFromString(QString::fromLatin1(c->tasti)).value(0);
     return QStringLiteral(" (") + primi.toString(QKeySequence::NativeText) + QLatin1Char(')');

@@ -16,6 +16,7 @@
 
 #include "app/plausibile.h"
 #include "app/progetto.h"
+#include "controlli/nomi.h"
 #include "desktop/aggiunte.h"
 #include "desktop/gruppi.h"
 #include "desktop/lingua_finestra.h"
@@ -55,6 +56,7 @@ std::vector<std::pair<int DialInputs::*, int>> MascheraSpente(Sessione &s) {
     return tolte;
 }
 
+constexpr NomeControllo FIGURE[] = {"Picture2", "Picture3"};
 constexpr auto VIVO = "disegnaMentreScrivi", GEOMETRIA = "geometria", STATO = "stato";
 
 }  // namespace
@@ -183,17 +185,17 @@ void Finestra::molo(const QString &titolo, const char *nome, QWidget *contenuto,
 bool Finestra::prima(IdControllo id) {
     if (!campo(id)) vivo_->ferma(), lungoVivo(false);
     if (id == NESSUN_CONTROLLO) return true;
-    const std::string_view nome = RigaDi(id).nome, modulo = RigaDi(id).modulo;
-    if (nome == "mnuApri") return lasciaAndare();
-    if (nome == "mnuSalva" && !percorso_.isEmpty()) return salvaIn(percorso_), false;
+    const auto e = [id](NomeControllo nome) { return id == nome; };
+    if (e("mnuApri")) return lasciaAndare();
+    if (e("mnuSalva") && !percorso_.isEmpty()) return salvaIn(percorso_), false;
     // With no page chosen, a sheet larger than one is offered in pages.
-    if (nome == "cmdStampa" && s_.tavolo.lista().Aree.empty() &&
+    if (e("Tavolo1.cmdStampa") && s_.tavolo.lista().Aree.empty() &&
         (s_.tavolo.QuadranteL() > s_.tavolo.LarghezzaPagina() || s_.tavolo.QuadranteH() > s_.tavolo.AltezzaPagina()))
         return impagina(), false;
-    if ((nome == "cmdRun" || nome == "cmdEqui") && !note_->leggiAngoli()) return false;
-    if (nome == "cmdRun") primaDiEsegui();
-    if (nome == "cmdEqui" || nome == "cmdPlot") conAttesa();
-    if (nome == "cmdCalcola" && modulo == "frmDeclin") {
+    if ((e("cmdRun") || e("cmdEqui")) && !note_->leggiAngoli()) return false;
+    if (e("cmdRun")) primaDiEsegui();
+    if (e("cmdEqui") || e("cmdPlot")) conAttesa();
+    if (e("frmDeclin.cmdCalcola")) {
         deltaPrima_ = s_.in.txtDelta;
         aoPrima_ = s_.in.txtAO;
     }
@@ -239,25 +241,25 @@ void Finestra::dopoEsegui() {
 }
 
 void Finestra::dopo(IdControllo id, const app::Esito &esito) {
-    const std::string_view nome = id == NESSUN_CONTROLLO ? std::string_view() : RigaDi(id).nome;
-    if (nome == "cmdRun" || nome == "cmdEqui") dopoEsegui();
-    if (nome == "cmdPlot") {
+    const auto e = [id](NomeControllo nome) { return id == nome; };
+    if (e("cmdRun") || e("cmdEqui")) dopoEsegui();
+    if (e("cmdPlot")) {
         s_.tavolo.dispositivo = nullptr;
         attesa_.reset();
     }
     if (esito == app::Esito::Fallito && !esito.detto && !esito.motivo.empty()) dialoghi_.avviso(this, Q(esito.motivo));
-    if (nome == "mnuApri" && esito) progettoNuovo(Q(esito.file));
-    if (nome == "mnuSalva" && esito) {
+    if (e("mnuApri") && esito) progettoNuovo(Q(esito.file));
+    if (e("mnuSalva") && esito) {
         percorso_ = QFileInfo(Q(esito.file)).absoluteFilePath();
         ricorda(percorso_);
         salvato_ = improntaProgetto();
     }
     for (const Lingua &l : Lingue())
         if (id != NESSUN_CONTROLLO && id == l.voce) RicordaLingua(l, esito);
-    if ((nome == "cmdDxf" || nome == "cmdSave") && esito && !esito.file.empty())
+    if ((e("Tavolo1.cmdDxf") || e("Tavolo1.cmdSave") || e("cmdSave")) && esito && !esito.file.empty())
         messaggio(ponte_.Traduci("Scritto") + QLatin1Char(' ') + Q(esito.file));
     const bool segue = vivo_acceso();
-    const bool chiesto = segue && nome != "cmdRun" && impronta(s_) != improntaCampi_;
+    const bool chiesto = segue && !e("cmdRun") && impronta(s_) != improntaCampi_;
     if (chiesto) chiediVivo();
     // Some boxes draw when they are set.
     if (!campo(id) ? id == NESSUN_CONTROLLO || RigaDi(id).classe != Classe::Testo
@@ -266,20 +268,20 @@ void Finestra::dopo(IdControllo id, const app::Esito &esito) {
         strati_->aggiorna();
     }
     quadro_->aggiorna();
-    for (const char *figura : {"Picture2", "Picture3"}) ponte_.widget(figura)->update();
-    const bool calcolato = nome == "cmdCalcola" && RigaDi(id).modulo == "frmDeclin";
+    for (const NomeControllo figura : FIGURE) ponte_.widget(figura)->update();
+    const bool calcolato = e("frmDeclin.cmdCalcola");
     if (calcolato) soleDelGiorno();
     moduli_->aggiorna(calcolato);
     note_->aggiorna();
     // The board as it opens is nobody's step.
-    if (nome == "mnuAusiliaria") passi_->aggiorna(segue);
+    if (e("mnuAusiliaria")) passi_->aggiorna(segue);
     else
         passi_->annota(id, id == NESSUN_CONTROLLO ? std::exchange(ponte_.passo, {}) : ponte_.nome(id),
-                       segue && (campo(id) || nome == "cmdRun"));
+                       segue && (campo(id) || e("cmdRun")));
     titolo();
-    if (nome == "ChCentimetro") altraUnita();
-    if (nome == "M_about") moduli_->apri("frmAbout", true);
-    if (nome == "mnuEsci")
+    if (e("ChCentimetro")) altraUnita();
+    if (e("M_about")) moduli_->apri("frmAbout", true);
+    if (e("mnuEsci"))
         QMetaObject::invokeMethod(
             this, [this] { close(); }, Qt::QueuedConnection);
 }
@@ -352,7 +354,7 @@ void Finestra::rimesso(bool rifai) {
     strati_->aggiorna();
     quadro_->aggiorna();
     titolo();
-    for (const char *figura : {"Picture2", "Picture3"}) ponte_.widget(figura)->update();
+    for (const NomeControllo figura : FIGURE) ponte_.widget(figura)->update();
     improntaCampi_ = impronta(s_);
     moduli_->aggiorna(false);
     note_->aggiorna();

@@ -11,6 +11,7 @@
 #include <future>
 
 #include "app/progetto.h"
+#include "controlli/nomi.h"
 #include "core/file.h"
 #include "desktop/finestra.h"
 #include "desktop/lingua_finestra.h"

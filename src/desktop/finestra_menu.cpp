@@ -16,6 +16,7 @@
 
 #include "app/lingua.h"
 #include "app/rapporti.h"
+#include "controlli/nomi.h"
 #include "desktop/aiuti.h"
 #include "desktop/comandi.h"
 #include "desktop/esempi.h"
@@ -42,17 +43,17 @@ void Finestra::costruisciMenu() {
         m->addAction(a);
         return a;
     };
-    const auto voce = [this](QMenu *m, std::string_view nome) {
+    const auto voce = [this](QMenu *m, NomeControllo nome) {
         QAction *a = ponte_.voce(nome, this);
-        VestiVoce(a, nome);
+        VestiVoce(a, TrovaComando(nome));
         m->addAction(a);
         return a;
     };
     // A button's entry says what the button says.
-    const auto bottone = [this](QMenu *m, std::string_view nome) {
+    const auto bottone = [this](QMenu *m, NomeControllo nome) {
         auto *b = qobject_cast<QAbstractButton *>(ponte_.widget(nome));
-        auto *a = new QAction(ponte_.didascalia(TrovaControllo(nome)), this);
-        VestiVoce(a, nome);
+        auto *a = new QAction(ponte_.didascalia(nome), this);
+        VestiVoce(a, TrovaComando(nome));
         connect(a, &QAction::triggered, this, [b] { b->click(); });
         m->addAction(a);
         return a;
@@ -85,8 +86,8 @@ void Finestra::costruisciMenu() {
             *rifai = passi_->createRedoAction(this, ponte_.Traduci("Ripeti"));
     annulla->setObjectName(QStringLiteral("annulla"));
     rifai->setObjectName(QStringLiteral("ripeti"));
-    VestiVoce(annulla, "annulla");
-    VestiVoce(rifai, "ripeti");
+    VestiVoce(annulla, TrovaComando("annulla"));
+    VestiVoce(rifai, TrovaComando("ripeti"));
     modifica->addActions({annulla, rifai});
     moduli_->modulo("frmDeclin")->addActions({annulla, rifai});
     modifica->addSeparator();
@@ -94,7 +95,8 @@ void Finestra::costruisciMenu() {
     nostro(modifica, "copiaSvg", [this] { copia(true); });
 
     QMenu *quadrante = menuBar()->addMenu(ponte_.Traduci("&Quadrante"));
-    for (const std::string_view nome : {"cmdRun", "cmdEqui", "cmdData", "cmdTrasforma", "Tavolo1.cmdPulisci"})
+    for (const NomeControllo nome :
+         std::initializer_list<NomeControllo>{"cmdRun", "cmdEqui", "cmdData", "cmdTrasforma", "Tavolo1.cmdPulisci"})
         bottone(quadrante, nome);
     // The reports that the fields have.
     QMenu *tabelle = quadrante->addMenu(ponte_.Traduci("Tabelle"));
@@ -129,10 +131,9 @@ void Finestra::costruisciMenu() {
     auto *lingue = new QActionGroup(this);
     const QString parlata = CodiceLingua(s_);
     for (const Lingua &l : Lingue()) {
-        QAction *a =
-            l.voce != NESSUN_CONTROLLO ? voce(lingua, RigaDi(l.voce).nome) : lingua->addAction(Q(l.nome), this, [this, &l] {
-                RicordaLingua(l, ponte_.fai(NESSUN_CONTROLLO, [&] { return app::ScegliLingua(s_, l); }));
-            });
+        QAction *a = l.voce != NESSUN_CONTROLLO ? voce(lingua, l.voce) : lingua->addAction(Q(l.nome), this, [this, &l] {
+            RicordaLingua(l, ponte_.fai(NESSUN_CONTROLLO, [&] { return app::ScegliLingua(s_, l); }));
+        });
         lingue->addAction(a);
         a->setCheckable(true);
         a->setChecked(parlata == Q(l.codice));
@@ -152,14 +153,9 @@ void Finestra::costruisciMenu() {
     barra_->insertSeparator(davanti);
     barra_->insertActions(davanti, {annulla, rifai});
     barra_->insertSeparator(davanti);
-    for (QAction *a : {primo, apri, salvare, annulla, rifai}) {
-        const std::string nome = a == annulla ? "annulla"
-                                 : a == rifai ? "ripeti"
-                                 : a == primo ? "nuovo"
-                                 : a == apri  ? "mnuApri"
-                                              : "mnuSalva";
-        a->setToolTip(Leggibile(a->text().remove(QLatin1Char('&')).toStdString()) + TastiDi(nome));
-    }
+    for (const auto &[a, nome] :
+         {std::pair{primo, "nuovo"}, {apri, "mnuApri"}, {salvare, "mnuSalva"}, {annulla, "annulla"}, {rifai, "ripeti"}})
+        a->setToolTip(Leggibile(a->text().remove(QLatin1Char('&')).toStdString()) + TastiDi(TrovaComando(nome)));
 }
 
 void Finestra::costruisciVista(QMenu *vedi) {
@@ -226,7 +222,7 @@ void Finestra::costruisciBarra() {
         return c;
     };
     vivoAcceso_ = interruttore(ponte_.Traduci("Disegna mentre scrivi"),
-                               ponte_.Traduci("Il quadrante si ridisegna a ogni tasto") + TastiDi("vivo"), VIVO);
+                               ponte_.Traduci("Il quadrante si ridisegna a ogni tasto") + TastiDi(TrovaComando("vivo")), VIVO);
     connect(vivoAcceso_, &QCheckBox::toggled, this, [this](bool acceso) {
         if (acceso) chiediVivo();
         else vivo_->ferma();
@@ -235,12 +231,14 @@ void Finestra::costruisciBarra() {
     pulisciPrima_ = interruttore(ponte_.Traduci("Pulisci prima di Esegui"),
                                  ponte_.Traduci("Senza, ogni esecuzione si aggiunge a quello che c'è"), PULISCI);
     barra_->addSeparator();
-    for (const std::string_view nome : {"cmdEqui", "cmdTrasforma", "cmdData"}) barra_->addWidget(ponte_.crea(nome, barra_));
+    for (const NomeControllo nome : std::initializer_list<NomeControllo>{"cmdEqui", "cmdTrasforma", "cmdData"})
+        barra_->addWidget(ponte_.crea(nome, barra_));
+    const Comando *adattare = TrovaComando("Adatta");
     auto *adattaFoglio = new QPushButton(ponte_.Traduci("Adatta"), barra_);
     adattaFoglio->setObjectName(QStringLiteral("Adatta"));
     adattaFoglio->setToolTip(ponte_.Traduci("Foglio e origine intorno alle quattro rette, con un margine di 2 cm") +
-                             TastiDi("Adatta"));
-    VestiBottone(adattaFoglio, "Adatta");
+                             TastiDi(adattare));
+    VestiBottone(adattaFoglio, adattare);
     connect(adattaFoglio, &QPushButton::clicked, this, [this] { adatta(); });
     barra_->addWidget(adattaFoglio);
     auto *molla = new QWidget(barra_);

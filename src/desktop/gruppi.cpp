@@ -17,6 +17,7 @@
 #include <vector>
 
 #include "app/gruppi.h"
+#include "controlli/nomi.h"
 #include "desktop/dialoghi.h"
 #include "desktop/figure.h"
 #include "desktop/luogo.h"
@@ -39,17 +40,18 @@ void mettiRiga(Ponte &ponte, const app::Gruppo::RigaDiGruppo &nomi, QVBoxLayout 
             auto *l = new QLabel(Q(ponte.sessione().Traduci(cosa.caption)), gruppo);
             l->setTextFormat(Qt::PlainText);
             w = l;
-        } else if (nome.starts_with("Picture")) {
-            w = nome == "Picture2" ? FiguraPianta(ponte.sessione(), gruppo) : FiguraFianco(ponte.sessione(), gruppo);
-            ponte.adotta(nome, w);
-        } else if (nome == "Line1") {
+        } else if (cosa.id == NomeControllo("Picture2") || cosa.id == NomeControllo("Picture3")) {
+            w = cosa.id == NomeControllo("Picture2") ? FiguraPianta(ponte.sessione(), gruppo)
+                                                     : FiguraFianco(ponte.sessione(), gruppo);
+            ponte.adotta(cosa.id, w);
+        } else if (cosa.id == NomeControllo("Line1")) {
             auto *linea = new QFrame(gruppo);
             linea->setFrameShape(QFrame::HLine);
             linea->setFrameShadow(QFrame::Sunken);
-            ponte.adotta(nome, linea);
+            ponte.adotta(cosa.id, linea);
             w = linea;
         } else {
-            w = ponte.crea(nome, gruppo);
+            w = ponte.crea(cosa.id, gruppo);
         }
         const bool campo = qobject_cast<QLineEdit *>(w) != nullptr;
         if (campo) {
@@ -170,7 +172,7 @@ QWidget *ColonnaDisegno(Ponte &ponte, QWidget *genitore) {
     for (const Controllo &c : ControlliDi("MDIForm1")) {
         if (!c.nostro || nominati.contains(IdDi(c))) continue;
         if (!c.visibile) {  // its user meets it elsewhere
-            ponte.crea(c.nome, genitore);
+            ponte.crea(IdDi(c), genitore);
             continue;
         }
         if (c.classe == Classe::Testo && !altro.righe.empty() && altro.righe.back().size() == 1)

@@ -20,6 +20,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "controlli/nomi.h"
 #include "core/testo.h"
 #include "desktop/dialoghi.h"
 #include "desktop/fuso_vicino.h"
@@ -230,9 +231,8 @@ void LettureParete::cambiata() {
     ponte_.fai(NESSUN_CONTROLLO, [&] { ponte_.sessione().in.txtLetture = mie; });
 }
 
-double LettureParete::campo(std::string_view nome) const {
-    Sessione &s = ponte_.sessione();
-    const Valore v = Val(s.testo(TrovaControllo("frmDeclin." + std::string(nome))));
+double LettureParete::campo(NomeControllo nome) const {
+    const Valore v = Val(ponte_.sessione().testo(nome));
     return v.esiste() ? v.v : std::nan("");
 }
 
@@ -263,7 +263,7 @@ std::optional<double> LettureParete::leggi(int riga) {
         tavola_->item(riga, c)->setToolTip(perche);
         return std::nullopt;
     };
-    sun::DatiDeclinazione d{.lat = campo("txtLAT"), .lon = campo("txtLON")};
+    sun::DatiDeclinazione d{.lat = campo("frmDeclin.txtLAT"), .lon = campo("frmDeclin.txtLON")};
     const QDate giorno = QDate::fromString(testo(Data), GIORNO);
     if (!giorno.isValid()) return sbagliata(Data, ponte_.Traduci("Non c'è un giorno così"));
     if (!sun::LeggiOra(QString(ora).replace(QLatin1Char('.'), QLatin1Char(':')).toStdString(), d).empty())
@@ -361,18 +361,17 @@ void LettureParete::usa() {
 // Zone and summer time of the day go into the board's boxes, as long as the user has none of his own there.
 void LettureParete::fusoDelLuogo() {
     Sessione &s = ponte_.sessione();
-    std::string &casella = s.testo(TrovaControllo("frmDeclin.TxtFuso"));
-    int &legale = s.valore(TrovaControllo("frmDeclin.ckDst"));
+    std::string &casella = s.testo("frmDeclin.TxtFuso");
+    int &legale = s.valore("frmDeclin.ckDst");
     const auto stanno = [&] { return casella + (legale == 1 ? "+" : ""); };
     const double meridiano = Val(s.in.txtMeridiano).v;
-    const std::string qui =
-        s.testo(TrovaControllo("frmDeclin.txtLAT")) + ' ' + s.testo(TrovaControllo("frmDeclin.txtLON")) + ' ' + s.in.txtMeridiano;
+    const std::string qui = s.testo("frmDeclin.txtLAT") + ' ' + s.testo("frmDeclin.txtLON") + ' ' + s.in.txtMeridiano;
     if (qui != cercato_) {
         cercato_ = qui;
         fuso_.reset();
         suoi_ = false;
         messo_.clear();
-        if (const luoghi::Luogo *l = LuogoVicino(campo("txtLAT"), campo("txtLON"), -meridiano / 15)) {
+        if (const luoghi::Luogo *l = LuogoVicino(campo("frmDeclin.txtLAT"), campo("frmDeclin.txtLON"), -meridiano / 15)) {
             luogo_ = l->nome;
             fuso_ = luoghi::Fuso::Leggi(l->fuso);
         }
@@ -383,12 +382,12 @@ void LettureParete::fusoDelLuogo() {
         ore_->setEnabled(fuso_.has_value());
     }
     if (!messo_.empty() && stanno() != messo_) suoi_ = true;
-    const auto intero = [this](std::string_view nome) {
+    const auto intero = [this](NomeControllo nome) {
         const double x = campo(nome);
         return std::isfinite(x) && std::fabs(x) < 10000 ? static_cast<int>(x) : 0;
     };
-    const luoghi::Orario ut{intero("txtYear"), intero("txtMonth"), intero("txtDay"),
-                            intero("txtHH"),   intero("txtMM"),    intero("txtSS")};
+    const luoghi::Orario ut{intero("frmDeclin.txtYear"), intero("frmDeclin.txtMonth"), intero("frmDeclin.txtDay"),
+                            intero("frmDeclin.txtHH"),   intero("frmDeclin.txtMM"),    intero("frmDeclin.txtSS")};
     const bool giorno = ut.mese >= 1 && ut.mese <= 12 && ut.giorno >= 1 && ut.giorno <= 31;
     if (orologio_) orologio_->setVisible(fuso_ && giorno);
     if (!fuso_ || !giorno) return;
@@ -438,9 +437,11 @@ QWidget *LettureParete::calendario(QWidget *genitore) {
         menu->close();
         ponte_.fai(NESSUN_CONTROLLO, [&] {
             Sessione &s = ponte_.sessione();
-            const std::pair<const char *, int> parti[] = {
-                {"frmDeclin.txtDay", d.day()}, {"frmDeclin.txtMonth", d.month()}, {"frmDeclin.txtYear", d.year()}};
-            for (const auto &[nome, n] : parti) s.testo(TrovaControllo(nome)) = std::to_string(n);
+            const struct {
+                NomeControllo campo;
+                int n;
+            } parti[] = {{"frmDeclin.txtDay", d.day()}, {"frmDeclin.txtMonth", d.month()}, {"frmDeclin.txtYear", d.year()}};
+            for (const auto &[campo, n] : parti) s.testo(campo) = std::to_string(n);
         });
     };
     connect(menu, &QMenu::aboutToShow, this, [this, menu, scelto] {
@@ -452,7 +453,8 @@ QWidget *LettureParete::calendario(QWidget *genitore) {
         menu->addAction(voce);
         connect(mese, &QCalendarWidget::clicked, this, scelto);
         connect(mese, &QCalendarWidget::activated, this, scelto);
-        const QDate d(static_cast<int>(campo("txtYear")), static_cast<int>(campo("txtMonth")), static_cast<int>(campo("txtDay")));
+        const QDate d(static_cast<int>(campo("frmDeclin.txtYear")), static_cast<int>(campo("frmDeclin.txtMonth")),
+                      static_cast<int>(campo("frmDeclin.txtDay")));
         if (d.isValid()) mese->setSelectedDate(d);
         mese->setFocus(Qt::PopupFocusReason);
     });

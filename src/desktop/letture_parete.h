@@ -65,7 +65,7 @@ private:
     void ricalcola();
     void fusoDelLuogo();
     void usa();
-    [[nodiscard]] double campo(std::string_view nome) const;
+    [[nodiscard]] double campo(NomeControllo nome) const;
 
     Ponte &ponte_;
     QTableWidget *tavola_ = nullptr;

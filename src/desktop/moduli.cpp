@@ -19,6 +19,7 @@
 #include <QVBoxLayout>
 
 #include "app/rapporti.h"
+#include "controlli/nomi.h"
 #include "core/file.h"
 #include "core/testo.h"
 #include "desktop/figure.h"
@@ -118,7 +119,7 @@ void Moduli::rapporto(std::string_view nome) {
     tavole->suLuogo = [this] { return luogo(); };
     w->setCentralWidget(tavole);
     w->resize(900, 560);
-    QAction *stampa = ponte_.voce(std::string(nome) + "." + std::string(RigaDi(*app::MenuStampa(nome)).nome), w);
+    QAction *stampa = ponte_.voce(*app::MenuStampa(nome), w);
     stampa->setShortcut(QKeySequence::Print);
     w->menuBar()->addAction(stampa);
     auto *salva = new QAction(ponte_.Traduci("Salva come..."), w);
@@ -224,8 +225,8 @@ void Moduli::avviso() {
 void Moduli::strumenti() {
     auto *w = new QDialog(finestra_);
     w->setObjectName(QStringLiteral("frmDeclin"));
-    const auto metti = [this](std::string_view nome, QWidget *genitore) {
-        QWidget *q = ponte_.crea("frmDeclin." + std::string(nome), genitore);
+    const auto metti = [this](NomeControllo nome, QWidget *genitore) {
+        QWidget *q = ponte_.crea(nome, genitore);
         if (qobject_cast<QLineEdit *>(q)) q->setFixedWidth(78);
         if (auto *b = qobject_cast<QPushButton *>(q)) b->setAutoDefault(false);
         return q;
@@ -234,15 +235,19 @@ void Moduli::strumenti() {
     auto *sinistra = new QVBoxLayout;
     fianco->addLayout(sinistra);
 
-    QWidget *f1 = metti("Frame1", w);
+    QWidget *f1 = metti("frmDeclin.Frame1", w);
     auto *g1 = new QGridLayout(f1);
-    g1->addWidget(metti("optModoDec", f1), 0, 1);
-    g1->addWidget(metti("OptModoSess", f1), 0, 3, 1, 3);
+    g1->addWidget(metti("frmDeclin.optModoDec", f1), 0, 1);
+    g1->addWidget(metti("frmDeclin.OptModoSess", f1), 0, 3, 1, 3);
     int c = 3;
-    for (const std::string_view nome : {"lblGradi", "lblPrimi", "lblSecondi"}) g1->addWidget(metti(nome, f1), 1, c++);
-    const std::vector<std::vector<std::string_view>> righe{
-        {"lblLAT", "txtLAT", "cmdSign(0)", "txtLatG", "txtLatP", "txtLATS"},
-        {"lblLON", "txtLON", "cmdSign(1)", "txtLonG", "txtLonP", "txtLonS"},
+    for (const NomeControllo nome :
+         std::initializer_list<NomeControllo>{"frmDeclin.lblGradi", "frmDeclin.lblPrimi", "frmDeclin.lblSecondi"})
+        g1->addWidget(metti(nome, f1), 1, c++);
+    const std::vector<std::vector<NomeControllo>> righe{
+        {"frmDeclin.lblLAT", "frmDeclin.txtLAT", "frmDeclin.cmdSign(0)", "frmDeclin.txtLatG", "frmDeclin.txtLatP",
+         "frmDeclin.txtLATS"},
+        {"frmDeclin.lblLON", "frmDeclin.txtLON", "frmDeclin.cmdSign(1)", "frmDeclin.txtLonG", "frmDeclin.txtLonP",
+         "frmDeclin.txtLonS"},
     };
     for (int r = 0; r < 2; ++r)
         for (int k = 0; k < 6; ++k) {
@@ -250,19 +255,20 @@ void Moduli::strumenti() {
             if (k == 2) q->setFixedWidth(34);
             g1->addWidget(q, 2 + r, k);
         }
-    g1->addWidget(metti("cmdTrans", f1), 4, 0, 1, 6);
+    g1->addWidget(metti("frmDeclin.cmdTrans", f1), 4, 0, 1, 6);
     sinistra->addWidget(f1);
 
-    QWidget *f2 = metti("Frame2", w);
+    QWidget *f2 = metti("frmDeclin.Frame2", w);
     auto *g2 = new QGridLayout(f2);
-    const std::vector<std::vector<std::string_view>> declinazione{{"lblData", "txtDay", "txtMonth", "txtYear"},
-                                                                  {"lblUT", "txtHH", "txtMM", "txtSS"},
-                                                                  {"lblAngle", "txtAngle", "cmdInfo"},
-                                                                  {"lblFuso", "TxtFuso", "ckDst"}};
+    const std::vector<std::vector<NomeControllo>> declinazione{
+        {"frmDeclin.lblData", "frmDeclin.txtDay", "frmDeclin.txtMonth", "frmDeclin.txtYear"},
+        {"frmDeclin.lblUT", "frmDeclin.txtHH", "frmDeclin.txtMM", "frmDeclin.txtSS"},
+        {"frmDeclin.lblAngle", "frmDeclin.txtAngle", "frmDeclin.cmdInfo"},
+        {"frmDeclin.lblFuso", "frmDeclin.TxtFuso", "frmDeclin.ckDst"}};
     int r = 0;
     for (const auto &riga : declinazione) {
         int k = 0;
-        for (const std::string_view nome : riga) {
+        for (const NomeControllo nome : riga) {
             const bool ultimo = k == 2 && riga.size() == 3;
             g2->addWidget(metti(nome, f2), r, k, 1, ultimo ? 2 : 1);
             ++k;
@@ -272,10 +278,10 @@ void Moduli::strumenti() {
     letture_ = new LettureParete(ponte_, w);
     g2->addWidget(letture_->calendario(f2), 0, 4);
     g2->addWidget(letture_->orologio(f2), r++, 0, 1, 5);
-    auto *calcola = metti("cmdCalcola", f2);
+    auto *calcola = metti("frmDeclin.cmdCalcola", f2);
     calcola->setProperty("principale", true);
     g2->addWidget(calcola, r, 0, 1, 2);
-    g2->addWidget(metti("cmdExit", f2), r, 2, 1, 2);
+    g2->addWidget(metti("frmDeclin.cmdExit", f2), r, 2, 1, 2);
     sinistra->addWidget(f2);
     sinistra->addStretch(1);
 
@@ -324,24 +330,24 @@ void Moduli::informazioni() {
     w->setObjectName(QStringLiteral("frmAbout"));
     auto *giu = new QVBoxLayout(w);
     giu->setContentsMargins(28, 24, 28, 20);
-    const auto metti = [&](std::string_view nome) { return ponte_.crea("frmAbout." + std::string(nome), w); };
+    const auto metti = [&](NomeControllo nome) { return ponte_.crea(nome, w); };
     auto *icona = new QLabel(w);
     icona->setPixmap(finestra_->windowIcon().pixmap(96, 96));
     icona->setAlignment(Qt::AlignCenter);
     giu->addWidget(icona);
-    QWidget *titolo = metti("lblTitle");
+    QWidget *titolo = metti("frmAbout.lblTitle");
     QFont f = titolo->font();
     f.setPointSizeF(f.pointSizeF() * 1.8);
     f.setBold(true);
     titolo->setFont(f);
     auto *fila = new QHBoxLayout;
     fila->addStretch(1);
-    fila->addWidget(metti("lblVersion"));
+    fila->addWidget(metti("frmAbout.lblVersion"));
     fila->addWidget(new QLabel(QStringLiteral(OMBRELIA_VERSIONE), w));
     fila->addStretch(1);
     giu->addWidget(titolo, 0, Qt::AlignHCenter);
     giu->addLayout(fila);
-    giu->addWidget(metti("lblDescription"), 0, Qt::AlignHCenter);
+    giu->addWidget(metti("frmAbout.lblDescription"), 0, Qt::AlignHCenter);
     auto *crediti = new QLabel(ponte_.Traduci("Città: GeoNames (CC BY 4.0). Confini: Natural Earth. Icone: Lucide (ISC)."), w);
     crediti->setTextFormat(Qt::PlainText);
     giu->addWidget(crediti, 0, Qt::AlignHCenter);
@@ -350,8 +356,8 @@ void Moduli::informazioni() {
     sistema->setTextInteractionFlags(Qt::TextSelectableByMouse);
     giu->addWidget(sistema, 0, Qt::AlignHCenter);
     auto *bottoni = new QHBoxLayout;
-    auto *info = qobject_cast<QPushButton *>(metti("cmdSysInfo"));
-    auto *ok = qobject_cast<QPushButton *>(metti("cmdOK"));
+    auto *info = qobject_cast<QPushButton *>(metti("frmAbout.cmdSysInfo"));
+    auto *ok = qobject_cast<QPushButton *>(metti("frmAbout.cmdOK"));
     bottoni->addWidget(info);
     bottoni->addStretch(1);
     bottoni->addWidget(ok);

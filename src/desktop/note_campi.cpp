@@ -12,18 +12,21 @@
 #include "core/testo.h"
 #include "desktop/campo.h"
 #include "desktop/dialoghi.h"
-#include "luoghi/angolo.h"
 
 namespace ombrelia::desktop {
 
 namespace {
 
 // The main window's fields that hold an angle.
-std::vector<std::string_view> campiAngolo() {
-    std::vector<std::string_view> campi;
-    for (const Controllo &c : ControlliDi("MDIForm1"))
-        if (c.classe == Classe::Testo && luoghi::TrovaCampoAngolo(c.nome)) campi.push_back(c.nome);
-    return campi;
+const std::vector<std::pair<IdControllo, const luoghi::CampoAngolo *>> &campiAngolo() {
+    static const auto tavola = [] {
+        std::vector<std::pair<IdControllo, const luoghi::CampoAngolo *>> campi;
+        for (const Controllo &c : ControlliDi("MDIForm1"))
+            if (const auto *angolo = luoghi::TrovaCampoAngolo(c.nome); angolo && c.classe == Classe::Testo)
+                campi.emplace_back(IdDi(c), angolo);
+        return campi;
+    }();
+    return tavola;
 }
 
 }  // namespace
@@ -34,9 +37,8 @@ NoteCampi::NoteCampi(Ponte &ponte, QObject *genitore) : QObject(genitore), ponte
         qApp, &QApplication::focusChanged, this, [this] { aggiorna(); }, Qt::QueuedConnection);
 }
 
-NoteCampi::Nota NoteCampi::diAngolo(std::string_view campo) const {
-    const std::string &testo = ponte_.sessione().testo(TrovaControllo(campo));
-    const luoghi::CampoAngolo &c = *luoghi::TrovaCampoAngolo(campo);
+NoteCampi::Nota NoteCampi::diAngolo(IdControllo campo, const luoghi::CampoAngolo &c) const {
+    const std::string &testo = ponte_.sessione().testo(campo);
     const luoghi::AngoloLetto letto = luoghi::LeggiAngolo(testo, c);
     const QWidget *w = ponte_.widget(campo);
     if (letto.buono())
@@ -68,14 +70,14 @@ QLabel *NoteCampi::etichetta(QWidget *campo) {
 }
 
 void NoteCampi::aggiorna() {
-    std::map<std::string_view, Nota> note;
-    for (const std::string_view campo : campiAngolo())
-        if (Nota n = diAngolo(campo); !n.testo.isEmpty()) note[campo] = std::move(n);
-    for (const app::Dubbio &d : app::Dubbi(ponte_.sessione().in)) note[RigaDi(d.campo).nome] = {ponte_.Traduci(d.motivo), true};
-    std::set<std::string_view> tutti;
+    std::map<IdControllo, Nota> note;
+    for (const auto &[campo, angolo] : campiAngolo())
+        if (Nota n = diAngolo(campo, *angolo); !n.testo.isEmpty()) note[campo] = std::move(n);
+    for (const app::Dubbio &d : app::Dubbi(ponte_.sessione().in)) note[d.campo] = {ponte_.Traduci(d.motivo), true};
+    std::set<IdControllo> tutti;
     for (const auto &[campo, n] : note) tutti.insert(campo);
     for (const auto &[campo, l] : etichette_) tutti.insert(campo);
-    for (const std::string_view campo : tutti) {
+    for (const IdControllo campo : tutti) {
         QWidget *w = ponte_.widget(campo);
         if (!w) continue;
         const auto gia = etichette_.find(campo);
@@ -97,29 +99,27 @@ void NoteCampi::aggiorna() {
     }
 }
 
-QString NoteCampi::nota(std::string_view campo) const {
+QString NoteCampi::nota(IdControllo campo) const {
     const auto l = etichette_.find(campo);
     return l == etichette_.end() || !l->second || l->second->isHidden() ? QString() : l->second->text();
 }
 
 bool NoteCampi::angoliInteri() const {
     Sessione &s = ponte_.sessione();
-    return std::ranges::all_of(campiAngolo(), [&](std::string_view campo) {
-        const std::string &testo = s.testo(TrovaControllo(campo));
-        const luoghi::AngoloLetto letto = luoghi::LeggiAngolo(testo, *luoghi::TrovaCampoAngolo(campo));
+    return std::ranges::all_of(campiAngolo(), [&](const auto &campo) {
+        const luoghi::AngoloLetto letto = luoghi::LeggiAngolo(s.testo(campo.first), *campo.second);
         return letto.intoppo == luoghi::Intoppo::Vuoto || !letto.testo.empty();
     });
 }
 
 bool NoteCampi::leggiAngoli() {
     Sessione &s = ponte_.sessione();
-    for (const std::string_view campo : campiAngolo()) {
-        const IdControllo id = TrovaControllo(campo);
-        const luoghi::AngoloLetto letto = luoghi::LeggiAngolo(s.testo(id), *luoghi::TrovaCampoAngolo(campo));
+    for (const auto &[id, angolo] : campiAngolo()) {
+        const luoghi::AngoloLetto letto = luoghi::LeggiAngolo(s.testo(id), *angolo);
         // A plain number out of its range is told and drawn all the same.
         if (!letto.testo.empty() && letto.testo != s.testo(id)) app::Cambia(s, id, letto.testo);
         if (!letto.testo.empty() || letto.intoppo == luoghi::Intoppo::Vuoto) continue;
-        if (QWidget *w = ponte_.widget(campo)) w->setFocus(Qt::OtherFocusReason);
+        if (QWidget *w = ponte_.widget(id)) w->setFocus(Qt::OtherFocusReason);
         aggiorna();
         return false;
     }

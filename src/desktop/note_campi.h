@@ -5,6 +5,7 @@
 #include <map>
 
 #include "desktop/ponte.h"
+#include "luoghi/angolo.h"
 
 class QLabel;
 
@@ -22,18 +23,18 @@ public:
     // Whether each angle makes sense as it stands now: one that is being typed may not do so yet.
     [[nodiscard]] bool angoliInteri() const;
     // Under a field; empty when there is nothing to say.
-    [[nodiscard]] QString nota(std::string_view campo) const;
+    [[nodiscard]] QString nota(IdControllo campo) const;
 
 private:
     struct Nota {
         QString testo;
         bool dubbio = false;
     };
-    [[nodiscard]] Nota diAngolo(std::string_view campo) const;
+    [[nodiscard]] Nota diAngolo(IdControllo campo, const luoghi::CampoAngolo &c) const;
     QLabel *etichetta(QWidget *campo);
 
     Ponte &ponte_;
-    std::map<std::string_view, QLabel *> etichette_;
+    std::map<IdControllo, QLabel *> etichette_;
 };
 
 }  // namespace ombrelia::desktop

@@ -96,27 +96,23 @@ app::Esito Ponte::svolgi(IdControllo id, const std::function<app::Esito()> &azio
     return esito;
 }
 
-QWidget *Ponte::widget(std::string_view nome) const {
-    const IdControllo id = TrovaControllo(nome);
+QWidget *Ponte::widget(IdControllo id) const {
     for (const Legame &l : legami_)
         if (l.id == id) return l.widget;
     return nullptr;
 }
 
-app::Esito Ponte::premi(std::string_view nome) {
-    const IdControllo id = TrovaControllo(nome);
+app::Esito Ponte::premi(IdControllo id) {
     return fai(id, [&] { return app::Premi(s_, id); });
 }
 
-void Ponte::adotta(std::string_view nome, QWidget *widget) {
-    const IdControllo id = TrovaControllo(nome);
+void Ponte::adotta(IdControllo id, QWidget *widget) {
     widget->setObjectName(nomeOggetto(RigaDi(id)));
     legami_.push_back({id, widget, nullptr});
     mostra(legami_.back());
 }
 
-QAction *Ponte::voce(std::string_view nome, QObject *genitore) {
-    const IdControllo id = TrovaControllo(nome);
+QAction *Ponte::voce(IdControllo id, QObject *genitore) {
     auto *a = new QAction(genitore);
     a->setObjectName(nomeOggetto(RigaDi(id)));
     QObject::connect(a, &QAction::triggered, a, [this, id] { fai(id, [&] { return app::Premi(s_, id); }); });
@@ -125,8 +121,7 @@ QAction *Ponte::voce(std::string_view nome, QObject *genitore) {
     return a;
 }
 
-QWidget *Ponte::crea(std::string_view nome, QWidget *genitore) {
-    const IdControllo id = TrovaControllo(nome);
+QWidget *Ponte::crea(IdControllo id, QWidget *genitore) {
     QWidget *w = nullptr;
     switch (RigaDi(id).classe) {
         case Classe::Testo:
@@ -161,7 +156,7 @@ QWidget *Ponte::crea(std::string_view nome, QWidget *genitore) {
             break;
     }
     w->setObjectName(nomeOggetto(RigaDi(id)));
-    if (auto *b = qobject_cast<QAbstractButton *>(w)) VestiBottone(b, nome);
+    if (auto *b = qobject_cast<QAbstractButton *>(w)) VestiBottone(b, TrovaComando(id));
     Spiega(s_, id, w);
     collega(id, w);
     legami_.push_back({id, w, nullptr});

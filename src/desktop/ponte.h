@@ -21,12 +21,15 @@ public:
     Ponte(const Ponte &) = delete;
     Ponte &operator=(const Ponte &) = delete;
 
-    // The widget of a control, by its name as the action script gives it. A name that is not in the table is a bug.
-    QWidget *crea(std::string_view nome, QWidget *genitore);
+    // The widget of a control.
+    QWidget *crea(IdControllo id, QWidget *genitore);
+    QWidget *crea(NomeControllo nome, QWidget *genitore) { return crea(IdControllo(nome), genitore); }
     // A menu entry.
-    QAction *voce(std::string_view nome, QObject *genitore);
+    QAction *voce(NomeControllo nome, QObject *genitore) { return voce(IdControllo(nome), genitore); }
+    QAction *voce(IdControllo id, QObject *genitore);
     // A row shown by a widget made elsewhere: it takes the row's name, and follows its state.
-    void adotta(std::string_view nome, QWidget *widget);
+    void adotta(IdControllo id, QWidget *widget);
+    void adotta(NomeControllo nome, QWidget *widget) { adotta(IdControllo(nome), widget); }
 
     // Shows everything as the session has it.
     void sincronizza();
@@ -43,9 +46,11 @@ public:
     }
 
     // The widget made for a control; null when there is none.
-    [[nodiscard]] QWidget *widget(std::string_view nome) const;
+    [[nodiscard]] QWidget *widget(IdControllo id) const;
+    [[nodiscard]] QWidget *widget(NomeControllo nome) const { return widget(IdControllo(nome)); }
     // Presses a control as its user would.
-    app::Esito premi(std::string_view nome);
+    app::Esito premi(IdControllo id);
+    app::Esito premi(NomeControllo nome) { return premi(IdControllo(nome)); }
 
     // Asked before each action, which false keeps from happening; told after it.
     std::function<bool(IdControllo)> prima;

@@ -12,14 +12,13 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "controlli/nomi.h"
 #include "desktop/comandi.h"
 #include "desktop/dialoghi.h"
 
 namespace ombrelia::desktop {
 
 namespace {
-
-std::string intero(std::string_view nome) { return "Tavolo1." + std::string(nome); }
 
 QFrame *riga(QWidget *genitore) {
     auto *f = new QFrame(genitore);
@@ -60,11 +59,16 @@ Quadro::Quadro(Ponte &ponte, QWidget *genitore) : QWidget(genitore), ponte_(pont
     colonna->addWidget(avviso_);
     colonna->addWidget(piede());
     pannelli_ = {
-        {pannello("PicAssi", {{"lblX", "txtX"}, {"lblY", "txtY"}, {"cmdAssiAgg", "cmdAssiChiudi"}}),
-         findChild<QWidget *>("cmdAssi")},
-        {pannello("picDimensioni", {{"lblQL", "txtQL"}, {"lblQH", "txtQH"}, {"cmdQAggiorna", "cmdQAnnulla"}}),
-         findChild<QWidget *>("cmdDim")},
-        {pannello("picPrint", {{"optAll"}, {"optSelected"}, {"cmdPOk", "cmdPCancel"}}), findChild<QWidget *>("cmdStampa")},
+        {pannello("Tavolo1.PicAssi", {{"Tavolo1.lblX", "Tavolo1.txtX"},
+                                      {"Tavolo1.lblY", "Tavolo1.txtY"},
+                                      {"Tavolo1.cmdAssiAgg", "Tavolo1.cmdAssiChiudi"}}),
+         ponte_.widget("Tavolo1.cmdAssi")},
+        {pannello("Tavolo1.picDimensioni", {{"Tavolo1.lblQL", "Tavolo1.txtQL"},
+                                            {"Tavolo1.lblQH", "Tavolo1.txtQH"},
+                                            {"Tavolo1.cmdQAggiorna", "Tavolo1.cmdQAnnulla"}}),
+         ponte_.widget("Tavolo1.cmdDim")},
+        {pannello("Tavolo1.picPrint", {{"Tavolo1.optAll"}, {"Tavolo1.optSelected"}, {"Tavolo1.cmdPOk", "Tavolo1.cmdPCancel"}}),
+         ponte_.widget("Tavolo1.cmdStampa")},
     };
     foglio_->suClic = [this](const QPointF &punto) { clic(punto); };
     foglio_->suDestro = [this](const QPointF &punto) {
@@ -90,27 +94,32 @@ QWidget *Quadro::testata() {
     auto *fila = new QHBoxLayout;
     fila->setSpacing(3);
     file_->addLayout(fila);
-    const auto metti = [&](std::string_view nome) {
-        QWidget *w = ponte_.crea(intero(nome), testa);
+    const auto metti = [&](NomeControllo nome) {
+        QWidget *w = ponte_.crea(nome, testa);
         fila->addWidget(w);
         if (qobject_cast<QPushButton *>(w)) bottoni_ << w;
         return w;
     };
-    for (const std::string_view nome : {"cmdStampa", "cmdSave", "cmdDxf"}) metti(nome);
+    for (const NomeControllo nome :
+         std::initializer_list<NomeControllo>{"Tavolo1.cmdStampa", "Tavolo1.cmdSave", "Tavolo1.cmdDxf"})
+        metti(nome);
     fila->addWidget(riga(testa));
-    for (const std::string_view nome : {"cmdAssi", "CmdGriglia", "cmdDim", "cmdPulisci"}) metti(nome);
+    for (const NomeControllo nome :
+         std::initializer_list<NomeControllo>{"Tavolo1.cmdAssi", "Tavolo1.CmdGriglia", "Tavolo1.cmdDim", "Tavolo1.cmdPulisci"})
+        metti(nome);
     fila->addStretch(1);
     fila = new QHBoxLayout;
     fila->setSpacing(3);
     file_->addLayout(fila, 1);
-    invX_ = metti("cmdInvX");
-    invY_ = metti("cmdInvY");
+    invX_ = metti("Tavolo1.cmdInvX");
+    invY_ = metti("Tavolo1.cmdInvY");
     fila->addStretch(1);
     const auto strumento = [&](std::string_view nome, auto azione) {
         auto *b = new QToolButton(testa);
-        const QString aiuto = ponte_.Traduci(TrovaComando(nome)->testo);
-        VestiBottone(b, nome);
-        b->setToolTip(aiuto + TastiDi(nome));
+        const Comando *c = TrovaComando(nome);
+        const QString aiuto = ponte_.Traduci(c->testo);
+        VestiBottone(b, c);
+        b->setToolTip(aiuto + TastiDi(c));
         b->setAutoRaise(true);
         b->setAccessibleName(aiuto);
         b->setFocusPolicy(Qt::TabFocus);
@@ -121,7 +130,7 @@ QWidget *Quadro::testata() {
     strumento("rimpicciolisci", [this] { foglio_->ingrandisci(1 / PASSO); });
     strumento("ingrandisci", [this] { foglio_->ingrandisci(PASSO); });
     strumento("tutto", [this] { foglio_->tutto(); });
-    metti("cmbScala");
+    metti("Tavolo1.cmbScala");
     return testa;
 }
 
@@ -151,27 +160,29 @@ QWidget *Quadro::piede() {
     posizione_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     fila->addWidget(posizione_, 1);
     for (const auto &[nome, aiuto] :
-         {std::pair{"lblXYval", ponte_.Traduci("Ultimo punto premuto, millimetri: x verso destra, y verso il basso")},
-          std::pair{"lblDimVal", ponte_.Traduci("Foglio, metri")}, std::pair{"lblScala", ponte_.Traduci("Scala del foglio")}}) {
+         {std::pair{NomeControllo("Tavolo1.lblXYval"),
+                    ponte_.Traduci("Ultimo punto premuto, millimetri: x verso destra, y verso il basso")},
+          std::pair{NomeControllo("Tavolo1.lblDimVal"), ponte_.Traduci("Foglio, metri")},
+          std::pair{NomeControllo("Tavolo1.lblScala"), ponte_.Traduci("Scala del foglio")}}) {
         fila->addWidget(riga(p));
-        QWidget *w = ponte_.crea(intero(nome), p);
+        QWidget *w = ponte_.crea(nome, p);
         w->setToolTip(aiuto);
         w->setMinimumWidth(w->fontMetrics().horizontalAdvance(
-            QString::fromLatin1(nome == std::string_view("lblScala") ? "1:100" : "-0000 : -0000")));
+            QString::fromLatin1(nome == NomeControllo("Tavolo1.lblScala") ? "1:100" : "-0000 : -0000")));
         fila->addWidget(w);
     }
     return p;
 }
 
-QWidget *Quadro::pannello(std::string_view cornice, std::initializer_list<std::initializer_list<std::string_view>> righe) {
-    QWidget *p = ponte_.crea(intero(cornice), this);
+QWidget *Quadro::pannello(NomeControllo cornice, std::initializer_list<std::initializer_list<NomeControllo>> righe) {
+    QWidget *p = ponte_.crea(cornice, this);
     p->setAutoFillBackground(true);
     auto *griglia = new QGridLayout(p);
     int r = 0;
     for (const auto &voci : righe) {
         int c = 0;
-        for (const std::string_view nome : voci) {
-            QWidget *w = ponte_.crea(intero(nome), p);
+        for (const NomeControllo nome : voci) {
+            QWidget *w = ponte_.crea(nome, p);
             if (qobject_cast<QLineEdit *>(w)) w->setFixedWidth(96);
             griglia->addWidget(w, r, c, 1, voci.size() == 1 ? 2 : 1);
             if (c == 1)

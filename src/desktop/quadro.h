@@ -35,7 +35,7 @@ protected:
 private:
     QWidget *testata();
     QWidget *piede();
-    QWidget *pannello(std::string_view cornice, std::initializer_list<std::initializer_list<std::string_view>> righe);
+    QWidget *pannello(NomeControllo cornice, std::initializer_list<std::initializer_list<NomeControllo>> righe);
     void collocaPannelli();
     void piega();
     [[nodiscard]] bool corniceFuori() const;

@@ -107,13 +107,14 @@ void Pagina::Premi(std::string_view nome) {
     Sessione &s = sessione();
     const AlTavolo fresco(s);
     tocca();
-    if (nome == "cmdRun" || nome == "cmdEqui") {
-        if (s.stato(id).abilitato) analitica_ = nome == "cmdEqui";
-    } else if (nome == "cmdPlot") {
+    const auto e = [id](NomeControllo c) { return id == c; };
+    if (e("cmdRun") || e("cmdEqui")) {
+        if (s.stato(id).abilitato) analitica_ = e("cmdEqui");
+    } else if (e("cmdPlot")) {
         mappa_ = !mappa_;
     } else {
         app::Premi(s, id);
-        if (nome == "cmdStati") prova_.mondo = s.mondo;
+        if (e("cmdStati")) prova_.mondo = s.mondo;
         if (dellaCornice(RigaDi(id))) app::Adatta(s);
     }
 }
@@ -178,8 +179,9 @@ std::string Pagina::Stato() {
         const IdControllo id = IdDi(c);
         if (c.classe == Classe::Menu || c.classe == Classe::Immagine || c.classe == Classe::Etichetta) continue;
         j.nome(c.nome).apri('[');
-        if (c.nome == "cmdRun" || c.nome == "cmdEqui") j.vero((c.nome == "cmdEqui") == analitica_);
-        else if (c.nome == "cmdPlot") j.vero(mappa_);
+        const auto e = [id](NomeControllo nome) { return id == nome; };
+        if (e("cmdRun") || e("cmdEqui")) j.vero(e("cmdEqui") == analitica_);
+        else if (e("cmdPlot")) j.vero(mappa_);
         else if (c.classe == Classe::Casella || c.classe == Classe::Opzione) j.vero(s.valore(id) == 1);
         else j.testo(s.testo(id));
         j.vero(s.stato(id).abilitato);

@@ -3,6 +3,16 @@
 #include <fstream>
 #include <stdexcept>
 
+namespace ombrelia {
+
+IdControllo TrovaControllo(std::string_view nome) {
+    const auto id = CercaControllo(nome);
+    if (!id) throw std::runtime_error("no control " + std::string(nome));
+    return *id;
+}
+
+}  // namespace ombrelia
+
 namespace ombrelia::prova {
 
 std::vector<std::vector<std::string>> Tabella(std::string_view nome) {

@@ -12,6 +12,13 @@
 #include "app/comandi.h"
 #include "plot/lista_testo.h"
 
+namespace ombrelia {
+
+// A control by a name of the test's own table; one that no control has is the test's fault.
+[[nodiscard]] IdControllo TrovaControllo(std::string_view nome);
+
+}  // namespace ombrelia
+
 namespace ombrelia::prova {
 
 class UtenteDiProva : public Utente {

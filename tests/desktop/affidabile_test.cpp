@@ -27,7 +27,7 @@ TEST(Affidabile, AFailedSaveKeepsTheMark) {
     BancoFinestra b;
     b.scrivi("txtDec", "7.25");
     b.dialoghi.risposte = {"no such folder/x.omb"};
-    b.f.ponte().premi("mnuSalva");
+    b.f.ponte().premi(TrovaControllo("mnuSalva"));
     EXPECT_EQ(b.dialoghi.avvisi.size(), 1U);
     EXPECT_TRUE(b.f.modificato() && b.f.isWindowModified());
     EXPECT_TRUE(b.f.percorso().isEmpty());
@@ -37,7 +37,7 @@ TEST(Affidabile, AFailedSaveKeepsTheMark) {
                      .join(QLatin1Char(' '))
                      .contains(QStringLiteral("no such folder")));
     b.dialoghi.risposte = {"missing.omb"};
-    b.f.ponte().premi("mnuApri");
+    b.f.ponte().premi(TrovaControllo("mnuApri"));
     EXPECT_TRUE(b.f.modificato());
     b.dialoghi.prima = desktop::Salvataggio::Salva;  // the closing question's Save fails too: the window stays
     b.dialoghi.risposte = {"no such folder/x.omb"};
@@ -65,7 +65,7 @@ TEST(Affidabile, TheProjectIsSavedWhereItIsAndAnotherAsks) {
     b.dialoghi.prima = desktop::Salvataggio::Annulla;
     b.dialoghi.risposte = {"uno.omb"};
     b.dialoghi.domande.clear();
-    b.f.ponte().premi("mnuApri");
+    b.f.ponte().premi(TrovaControllo("mnuApri"));
     ASSERT_EQ(b.dialoghi.domande.size(), 1U);
     EXPECT_NE(b.dialoghi.domande[0].find("Vuoi salvarlo"), std::string::npos);
     EXPECT_EQ(b.campo("txtDec"), "5");
@@ -222,8 +222,8 @@ TEST(Affidabile, AnItalianProjectInAnEnglishWindow) {
     {
         BancoFinestra b;
         b.dialoghi.risposte = {"italiano.omb"};
-        b.f.ponte().premi("mnuSalva");
-        b.f.ponte().premi("mnuInglese");
+        b.f.ponte().premi(TrovaControllo("mnuSalva"));
+        b.f.ponte().premi(TrovaControllo("mnuInglese"));
         EXPECT_FALSE(b.f.modificato());
     }
     ASSERT_TRUE(QFile::copy(QStringLiteral(OMBRELIA_RADICE "/data/DBIngleseC2008.txt"), QStringLiteral("DBC2008.txt")));
@@ -242,9 +242,9 @@ TEST(Affidabile, AnItalianProjectInAnEnglishWindow) {
 
 TEST(Affidabile, TheBoardTellsAndUndoes) {
     BancoFinestra b;
-    b.f.ponte().premi("mnuAusiliaria");
+    b.f.ponte().premi(TrovaControllo("mnuAusiliaria"));
     b.f.ponte().fai(NESSUN_CONTROLLO, [&] { app::Imposta(b.s(), TrovaControllo("frmDeclin.txtAngle"), "12"); });
-    b.f.ponte().premi("frmDeclin.cmdCalcola");
+    b.f.ponte().premi(TrovaControllo("frmDeclin.cmdCalcola"));
     EXPECT_NE(b.campo("txtDelta"), "23.445");
     auto *avviso = b.f.findChild<QLabel *>(QStringLiteral("avvisoCornice"));
     EXPECT_TRUE(avviso->text().contains(QStringLiteral("23.445")));
@@ -252,11 +252,11 @@ TEST(Affidabile, TheBoardTellsAndUndoes) {
     // The wall's declination, by its own words in the result.
     EXPECT_NE(b.campo("frmDeclin.txtResult").find("Declinazione del quadrante solare: " + b.campo("txtDec") + " "),
               std::string::npos);
-    b.f.ponte().premi("frmDeclin.cmdCalcola");
+    b.f.ponte().premi(TrovaControllo("frmDeclin.cmdCalcola"));
     for (int i = 0; i < 3; ++i) b.f.passi().undo();
     EXPECT_EQ(b.campo("txtDelta"), "23.445");
     EXPECT_EQ(b.campo("txtAO"), "-15");
-    b.f.ponte().premi("frmDeclin.cmdCalcola");
+    b.f.ponte().premi(TrovaControllo("frmDeclin.cmdCalcola"));
     EXPECT_NE(b.campo("txtAO"), "-15");
     emit avviso->linkActivated(QStringLiteral("0"));
     EXPECT_EQ(b.campo("txtDelta"), "23.445");
@@ -294,7 +294,7 @@ TEST(Affidabile, TextsAsTheyStand) {
 TEST(Affidabile, NumbersKnowNoLocale) {
     BancoFinestra b;
     b.scrivi("txtLAT", "45.0703");
-    b.f.ponte().premi("cmdData");
+    b.f.ponte().premi(TrovaControllo("cmdData"));
     const auto csv = [&](const char *nome) {
         b.dialoghi.risposte = {nome};
         b.f.moduli().modulo("Form1")->findChild<QAction *>(QStringLiteral("salva"))->trigger();
@@ -317,7 +317,7 @@ TEST(Affidabile, EveryStepIsUndoneAndRedone) {
     BancoFinestra b;
     b.scrivi("txtInc", "0");
     b.dialoghi.risposte = {"passi.omb"};
-    b.f.ponte().premi("mnuSalva");
+    b.f.ponte().premi(TrovaControllo("mnuSalva"));
     const std::vector<std::pair<const char *, std::function<void()>>> azioni{
         {"field", [&] { b.scrivi("txtDec", "17.25"); }},
         {"fit", [&] { b.f.findChild<QAbstractButton *>(QStringLiteral("Adatta"))->click(); }},

@@ -320,7 +320,7 @@ TEST(Aspetto, TheWorkOfADeadWindowIsOffered) {
         BancoFinestra b;
         b.scrivi("txtDec", "6.5");
         b.dialoghi.risposte = {"ripreso.omb"};
-        b.f.ponte().premi("mnuSalva");
+        b.f.ponte().premi(TrovaControllo("mnuSalva"));
         b.scrivi("txtDec", "-12.25");
         // As a window of a process that is no more would have left it.
         ASSERT_FALSE(ScriviFile("ripreso.omb.ripresa-999999999", app::ScriviProgetto(b.s())));
@@ -451,7 +451,7 @@ TEST(Aspetto, ALongLiveDialIsToldAndStopped) {
 
 std::set<QString> testi(BancoFinestra &b) {
     for (const char *modulo : {"mnuAusiliaria", "frmDeclin.cmdInfo", "M_about", "mnuAvviso", "cmdData"})
-        b.f.ponte().premi(modulo);  // forms are translated when they open
+        b.f.ponte().premi(TrovaControllo(modulo));  // forms are translated when they open
     for (const char *comando : {"esempi", "perMacchina"})
         if (auto *a = b.f.findChild<QAction *>(QStringLiteral("comando.") + QString::fromLatin1(comando))) a->trigger();
     for (const Modulo &m : TavolaModuli()) app::CaricaForm(b.s(), m.nome);

@@ -26,7 +26,7 @@ struct BancoFinestra {
     }
     template <class T = QWidget>
     T *w(std::string_view nome) {
-        return qobject_cast<T *>(f.ponte().widget(nome));
+        return qobject_cast<T *>(f.ponte().widget(TrovaControllo(nome)));
     }
     void scrivi(std::string_view nome, const char *testo) {
         auto *campo = w<QLineEdit>(nome);

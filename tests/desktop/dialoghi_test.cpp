@@ -126,7 +126,7 @@ struct BancoParete : BancoFinestra {
         s().in.txtLAT = lat;
         s().in.txtLonG = lon;
         s().in.txtMeridiano = meridiano;
-        f.ponte().premi("mnuAusiliaria");
+        f.ponte().premi(TrovaControllo("mnuAusiliaria"));
         t = f.moduli().letture().findChild<QTableWidget *>(QStringLiteral("letture"));
     }
     void scriviRiga(int r, const char *giorno, const char *ora, const char *angolo) {
@@ -246,7 +246,7 @@ TEST(LettureParete, StandInTheProject) {
     }
     BancoFinestra chiusa;
     chiusa.f.apri(QStringLiteral("letture.omb"));
-    chiusa.f.ponte().premi("mnuAusiliaria");
+    chiusa.f.ponte().premi(TrovaControllo("mnuAusiliaria"));
     auto *t = chiusa.f.moduli().letture().findChild<QTableWidget *>(QStringLiteral("letture"));
     ASSERT_EQ(t->rowCount(), 3);
     EXPECT_EQ(t->item(0, 2)->text(), QStringLiteral("12.5"));
@@ -406,7 +406,7 @@ TEST(NoteCampi, WhatIsUnderstoodAndWhatNoDialCanBeStandsUnderTheField) {
             b.f.ponte().fai(id, [&] { app::Cambia(b.s(), id, testo); });
         };
         scrivi(c.testo);
-        const QString nota = b.f.note().nota(c.campo);
+        const QString nota = b.f.note().nota(TrovaControllo(c.campo));
         EXPECT_TRUE(nota.contains(QString::fromUtf8(c.nota))) << c.campo << ' ' << c.testo << ": " << nota.toStdString();
         EXPECT_EQ(b.w(c.campo)->property("dubbio").toBool(), c.dubbio) << c.campo << ' ' << c.testo;
         scrivi(prima);

@@ -122,7 +122,7 @@ TEST(Finestra, KeysPassTheFilter) {
     for (const Caso &c : casi) {
         BancoFinestra b;
         if (c.campo.starts_with("frmDeclin")) {
-            b.f.ponte().premi("mnuAusiliaria");
+            b.f.ponte().premi(TrovaControllo("mnuAusiliaria"));
             QApplication::setActiveWindow(b.f.moduli().modulo("frmDeclin"));
         }
         b.scrivi(c.campo, c.tasti);
@@ -158,7 +158,7 @@ TEST(Finestra, EveryReportOpensAndIsPrinted) {
     b.scrivi("txtInc", "0");
     std::size_t stampati = 0;
     for (const Caso &c : casi) {
-        b.f.ponte().premi(c.comando);
+        b.f.ponte().premi(TrovaControllo(c.comando));
         QWidget *w = b.f.moduli().modulo(c.modulo);
         ASSERT_TRUE(w->isVisible()) << c.modulo;
         EXPECT_GT(w->findChild<QPlainTextEdit *>(QStringLiteral("testo"))->toPlainText().size(), 200) << c.modulo;
@@ -167,15 +167,15 @@ TEST(Finestra, EveryReportOpensAndIsPrinted) {
         w->close();
     }
     b.spunta("ckFunzione");
-    b.f.ponte().premi("OptInter");
+    b.f.ponte().premi(TrovaControllo("OptInter"));
     EXPECT_TRUE(b.f.moduli().modulo("Form7")->isVisible());
-    b.f.ponte().premi("mnuAvviso");
+    b.f.ponte().premi(TrovaControllo("mnuAvviso"));
     EXPECT_TRUE(b.f.moduli().modulo("Form5")->isVisible());
 }
 
 TEST(Finestra, TheBoardHandsItsNumbersOn) {
     BancoFinestra b;
-    b.f.ponte().premi("mnuAusiliaria");
+    b.f.ponte().premi(TrovaControllo("mnuAusiliaria"));
     QWidget *board = b.f.moduli().modulo("frmDeclin");
     ASSERT_TRUE(board->isVisible());
     QApplication::setActiveWindow(board);
@@ -316,7 +316,7 @@ TEST(Finestra, PagesReachThePrinter) {
     b.premi("Tavolo1.cmdSave");
     EXPECT_FALSE(QImage(QStringLiteral("Image.bmp")).isNull());
     b.premi("Tavolo1.cmdPulisci");
-    b.f.ponte().premi("Tavolo1.cmdPOk");
+    b.f.ponte().premi(TrovaControllo("Tavolo1.cmdPOk"));
     ASSERT_EQ(b.dialoghi.avvisi.size(), 1U);
     EXPECT_EQ(b.dialoghi.avvisi[0], "Nessuna area selezionata");
 }
@@ -349,7 +349,7 @@ TEST(Finestra, AProjectIsSavedOpenedAskedFor) {
     b.scrivi("txtDec", "7.25");
     EXPECT_TRUE(b.f.modificato());
     b.dialoghi.risposte = {"prova.omb"};
-    b.f.ponte().premi("mnuSalva");
+    b.f.ponte().premi(TrovaControllo("mnuSalva"));
     EXPECT_FALSE(b.f.modificato());
     b.scrivi("txtDec", "8");
     b.dialoghi.prima = desktop::Salvataggio::Annulla;
@@ -357,10 +357,10 @@ TEST(Finestra, AProjectIsSavedOpenedAskedFor) {
     ASSERT_EQ(b.dialoghi.domande.size(), 1U);
     b.dialoghi.prima = desktop::Salvataggio::Scarta;
     b.dialoghi.risposte = {"prova.omb"};
-    b.f.ponte().premi("mnuApri");
+    b.f.ponte().premi(TrovaControllo("mnuApri"));
     EXPECT_EQ(b.w<QLineEdit>("txtDec")->text(), QStringLiteral("7.25"));
     b.dialoghi.risposte = {"missing.omb"};
-    b.f.ponte().premi("mnuApri");
+    b.f.ponte().premi(TrovaControllo("mnuApri"));
     ASSERT_FALSE(b.dialoghi.avvisi.empty());
     EXPECT_EQ(b.dialoghi.avvisi.back(), "File non riconosciuto!");
     EXPECT_EQ(b.w<QLineEdit>("txtDec")->text(), QStringLiteral("7.25"));

@@ -32,7 +32,7 @@ TEST(Guardie, WhatWasNotWrittenStaysUnsavedAndWhatWasNotReadUnopened) {
     BancoFinestra b;
     ASSERT_TRUE(QDir().mkdir(QStringLiteral("casa")));
     b.dialoghi.risposte = {"casa/tre.omb"};
-    b.f.ponte().premi("mnuSalva");
+    b.f.ponte().premi(TrovaControllo("mnuSalva"));
     ASSERT_FALSE(b.f.percorso().isEmpty());
     ASSERT_TRUE(QDir(QStringLiteral("casa")).removeRecursively());
     b.scrivi("txtDec", "6");
@@ -100,7 +100,7 @@ TEST(Guardie, EachMinuteKeepsUnsavedWork) {
     passa();
     EXPECT_EQ(tenuto({}), "");
     EXPECT_NE(tenuto(b.f.percorso()).find(">7</txtDec>"), std::string::npos);
-    b.f.ponte().premi("mnuSalva");
+    b.f.ponte().premi(TrovaControllo("mnuSalva"));
     passa();
     EXPECT_EQ(tenuto(b.f.percorso()), "");
 }
@@ -140,7 +140,7 @@ TEST(Guardie, TheWindowSpeaksTheLanguageThatItWasTold) {
     {
         BancoFinestra b;
         EXPECT_EQ(b.w<QLabel>("lblLatitudine")->text(), QStringLiteral("Latitudine"));
-        b.f.ponte().premi("mnuInglese");
+        b.f.ponte().premi(TrovaControllo("mnuInglese"));
         QFile::remove(QStringLiteral("DBC2008.txt"));  // what is left beside the program goes by the program
     }
     EXPECT_EQ(BancoFinestra().w<QLabel>("lblLatitudine")->text(), QStringLiteral("Latitude"));
@@ -179,7 +179,7 @@ TEST(Guardie, ADialTurnedIntoAnotherLeavesNothingToTheNext) {
         b.scrivi("txtLAT", "38.25");
         b.scrivi("txtInc", "20");
         b.dialoghi.risposte = {"venti.omb"};
-        b.f.ponte().premi("mnuSalva");
+        b.f.ponte().premi(TrovaControllo("mnuSalva"));
         b.scrivi("txtLAT", "50");
         b.scrivi("txtInc", "60");
         b.premi("cmdRun");

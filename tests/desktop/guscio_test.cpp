@@ -105,7 +105,7 @@ TEST(Guscio, EveryControlHasANameATipAndAnAnswer) {
         disegnati += aiuto.contains(QStringLiteral("<img"));
         std::string nome = std::string(c.modulo) + "." + std::string(c.nome);
         if (c.indice >= 0) nome += "(" + std::to_string(c.indice) + ")";
-        const QWidget *w = b.f.ponte().widget(nome);
+        const QWidget *w = b.f.ponte().widget(id);
         ASSERT_NE(w, nullptr) << nome;
         EXPECT_FALSE(w->toolTip().isEmpty()) << nome;
         EXPECT_FALSE(w->accessibleName().isEmpty()) << nome;

@@ -13,13 +13,13 @@ TEST(Scambio, AProjectOfThePageOpensAndGoesBack) {
     if (cartella.isEmpty()) GTEST_SKIP() << "run by tools/prova-pagina";
     BancoFinestra b;
     b.dialoghi.risposte = {cartella.toStdString() + "/pagina.omb"};
-    b.f.ponte().premi("mnuApri");
+    b.f.ponte().premi(TrovaControllo("mnuApri"));
     EXPECT_TRUE(b.dialoghi.avvisi.empty());
     EXPECT_EQ(app::ScriviProgetto(b.s()), LeggiFile(cartella.toStdString() + "/pagina.omb", FILE_MASSIMO));
     EXPECT_EQ(b.w<QLineEdit>("txtDec")->text(), QStringLiteral("-33.5"));
     EXPECT_TRUE(b.w<QAbstractButton>("chkOreAstronomiche")->isChecked());
     b.scrivi("txtInc", "12");
-    b.f.ponte().premi("mnuSalva");
+    b.f.ponte().premi(TrovaControllo("mnuSalva"));
     EXPECT_FALSE(b.f.modificato());
 }
 

@@ -83,7 +83,7 @@ TEST(Stampe, CertificateAndReportsHaveEachRowOnOneLine) {
     ciSonoTutte(righeDellHtml(letto("certificato.html")), b.dialoghi.stampaSu, "certificate");
     for (const app::VoceRapporto &r : app::ElencoRapporti()) {
         if (r.controllo == NESSUN_CONTROLLO || !app::HaRapporto(b.s(), r) || !b.s().stato(r.controllo).abilitato) continue;
-        b.f.ponte().premi(RigaDi(r.controllo).nome);
+        b.f.ponte().premi(r.controllo);
         desktop::TavoleRapporto *tavole = b.f.moduli().tavole(r.modulo);
         if (!tavole) continue;
         const std::string nome(r.modulo);
@@ -147,7 +147,7 @@ TEST(Stampe, AReportTurnsThePageAsItsRowsNeedIt) {
     b.scrivi("txtInc", "0");
     std::set<bool> visti;
     for (const auto &[comando, modulo, menu] : {std::tuple{"cmdData", "Form1", "menuFond"}, {"OptInter", "Form6", "mnu_Print"}}) {
-        b.f.ponte().premi(comando);
+        b.f.ponte().premi(TrovaControllo(comando));
         QWidget *w = b.f.moduli().modulo(modulo);
         qsizetype lunga = 0;
         for (const QString &riga :

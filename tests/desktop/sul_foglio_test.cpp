@@ -265,7 +265,7 @@ TEST(SulFoglio, ARowOfAReportIsMarkedAndCopiedAsItStands) {
     b.spunta("chkOreAstronomiche");
     b.adatta();
     b.premi("cmdRun");
-    b.f.ponte().premi("OptInter");
+    b.f.ponte().premi(TrovaControllo("OptInter"));
     desktop::TavoleRapporto *tavole = b.f.moduli().tavole("Form6");
     auto *tavola = tavole->findChild<QTableView *>(QStringLiteral("tavola"));
     const QAbstractItemModel &m = *tavola->model();

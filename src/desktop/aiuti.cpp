@@ -235,12 +235,14 @@ QString Suggerimento(Sessione &s, IdControllo id) {
 
 QString CheCosE(Sessione &s, IdControllo id) {
     const Aiuto *a = TrovaAiuto(id);
-    if (!a || a->testo.empty()) return {};
+    const QString sistema = Q(s.stato(id).toolTip).simplified();
+    const QString detto = a && !a->testo.empty() ? Q(s.Traduci(a->testo)) : sistema;
+    if (detto.isEmpty()) return {};
     const auto p = [](const QString &t) { return QStringLiteral("<p>") + t.toHtmlEscaped() + QStringLiteral("</p>"); };
-    QString html = p(Q(s.Traduci(a->testo)));
-    if (const QString sistema = Q(s.stato(id).toolTip).simplified(); !sistema.isEmpty() && sistema != Q(s.Traduci(a->testo)))
+    QString html = p(detto);
+    if (!sistema.isEmpty() && sistema != detto)
         html += QStringLiteral("<p><i>") + sistema.toHtmlEscaped() + QStringLiteral("</i></p>");
-    if (a->disegno != Grandezza::Nessuno) {
+    if (a && a->disegno != Grandezza::Nessuno) {
         const QImage i = DisegnoAiuto(a->disegno);
         QByteArray png;
         QBuffer b(&png);
@@ -254,7 +256,7 @@ QString CheCosE(Sessione &s, IdControllo id) {
 }
 
 void Spiega(Sessione &s, IdControllo id, QWidget *w) {
-    if (const Aiuto *a = TrovaAiuto(id); a && !a->testo.empty()) new Guida(s, id, w);
+    if (!CheCosE(s, id).isEmpty()) new Guida(s, id, w);
 }
 
 bool MostraSpiegazione(QWidget *w) {

@@ -19,6 +19,7 @@
 
 #include "core/file.h"
 #include "core/testo.h"
+#include "desktop/elenchi.h"
 #include "desktop/parole.h"
 
 namespace ombrelia::desktop {
@@ -96,12 +97,7 @@ QWidget *PagineCarta::scelte() {
     QSettings ricordi;
     ricordi.beginGroup(QStringLiteral("pagine"));
     const auto elenco = [&](const QString &nome, const char *chiave, const QStringList &voci, int prima) {
-        auto *c = new QComboBox(s);
-        c->setObjectName(QString::fromLatin1(chiave));
-        c->addItems(voci);
-        c->setCurrentIndex(std::clamp(ricordi.value(QLatin1String(chiave), prima).toInt(), 0, static_cast<int>(voci.size()) - 1));
-        c->setAccessibleName(nome);
-        righe->addRow(nome, c);
+        QComboBox *c = ElencoRicordato(*righe, ricordi, nome, chiave, voci, prima);
         connect(c, &QComboBox::currentIndexChanged, this, [this] { cambiata(true); });
         return c;
     };

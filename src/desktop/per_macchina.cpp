@@ -20,6 +20,7 @@
 #include "certificato/certificato.h"
 #include "core/file.h"
 #include "core/testo.h"
+#include "desktop/elenchi.h"
 #include "desktop/parole.h"
 #include "desktop/tracciato.h"
 #include "officina/tratti.h"
@@ -157,13 +158,8 @@ QWidget *PerMacchina::scelte() {
     QSettings ricordi;
     ricordi.beginGroup(QStringLiteral("macchina"));
     const auto elenco = [&](const QString &nome, const char *chiave, const QStringList &voci, int prima, const QString &aiuto) {
-        auto *c = new QComboBox(s);
-        c->setObjectName(QString::fromLatin1(chiave));
-        c->addItems(voci);
-        c->setCurrentIndex(std::clamp(ricordi.value(QLatin1String(chiave), prima).toInt(), 0, static_cast<int>(voci.size()) - 1));
+        QComboBox *c = ElencoRicordato(*righe, ricordi, nome, chiave, voci, prima);
         c->setToolTip(aiuto);
-        c->setAccessibleName(nome);
-        righe->addRow(nome, c);
         connect(c, &QComboBox::currentIndexChanged, this, [this] { chiedi(); });
         return c;
     };

@@ -1,4 +1,4 @@
-// A run that lasts: after a while a box shows that it goes on and lets its user stop it. A device that paints nothing.
+// A run that lasts: after a while a box shows that it goes on and lets its user stop it.
 #pragma once
 
 #include <QElapsedTimer>
@@ -14,17 +14,13 @@ namespace ombrelia::desktop {
 
 struct Fermato {};  // thrown where a run is given up
 
-class Clessidra final : public Dispositivo {
+class Clessidra final : public DispositivoMuto {
 public:
     // pazienza: milliseconds until the box comes.
     Clessidra(QWidget *sopra, const QString &testo, const QString &ferma, int pazienza);
     ~Clessidra() override;
-    void Cls() override {}
     void Linea(double, double, double, double, Colore, int) override { conta(); }
-    void Riquadro(double, double, double, double, Colore, bool) override {}
     void Punto(double, double, Colore) override { conta(); }
-    void Cerchio(double, double, double, Colore, Colore, double, double, double) override {}
-    void Testo(double, double, std::string_view, Colore) override {}
 
 private:
     void conta() {

@@ -14,19 +14,15 @@ namespace ombrelia::desktop {
 
 namespace {
 
-// A device that paints nothing and ends a run that nobody waits for any more.
-class Guardia final : public Dispositivo {
+// Ends a run that nobody waits for any more.
+class Guardia final : public DispositivoMuto {
 public:
     Guardia(const std::atomic<unsigned> &ultimo, unsigned mio) : ultimo_(ultimo), mio_(mio) {}
     void guarda() const {
         if (ultimo_.load(std::memory_order_relaxed) != mio_) throw Fermato{};
     }
-    void Cls() override {}
     void Linea(double, double, double, double, Colore, int) override { guarda(); }
-    void Riquadro(double, double, double, double, Colore, bool) override {}
     void Punto(double, double, Colore) override { guarda(); }
-    void Cerchio(double, double, double, Colore, Colore, double, double, double) override {}
-    void Testo(double, double, std::string_view, Colore) override {}
 
 private:
     const std::atomic<unsigned> &ultimo_;

@@ -77,8 +77,11 @@ TEST(Affidabile, TheProjectIsSavedWhereItIsAndAnotherAsks) {
 
 TEST(Affidabile, TheDxfGoesWhereOneSaysOrNowhere) {
     BancoFinestra b;
-    b.premi("Tavolo1.cmdDxf");  // cancelled
-    EXPECT_TRUE(QDir().entryList({QStringLiteral("*.dxf")}, QDir::Files | QDir::Hidden).isEmpty());
+    const auto disegni = [] { return QDir().entryList({QStringLiteral("*.dxf")}, QDir::Files | QDir::Hidden); };
+    const QStringList prima = disegni();  // other tests' too
+    b.premi("Tavolo1.cmdDxf");            // cancelled
+    EXPECT_EQ(disegni(), prima);
+    QFile::remove(QStringLiteral("muro.dxf"));
     b.dialoghi.risposte = {"muro.dxf"};
     b.premi("Tavolo1.cmdDxf");
     EXPECT_TRUE(QFile::exists(QStringLiteral("muro.dxf")));

@@ -24,9 +24,6 @@ public:
     static Proiezione delPiano(Valore phi, Valore g, Valore i, Valore gn, Valore unita) {
         return Proiezione(Piano(phi, g, i, gn, unita));
     }
-    // The same with the complement z of the inclination.
-    Proiezione(Valore phi, Valore g, Valore z, Valore gn, Valore unita)
-        : Proiezione(Piano::conComplemento(phi, g, z, gn, unita)) {}
     explicit Proiezione(const Piano &p)
         : sphi_(p.sphi.v), cphi_(p.cphi.v), sg_(p.sg.v), cg_(p.cg.v), gn_(p.gn.v), unita_(p.unita.v) {
         const double sz = p.sz.v, cz = p.cz.v;

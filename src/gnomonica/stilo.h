@@ -56,7 +56,7 @@ struct Piano {
 
     Valore phi, g, i, gn, unita;
     Valore sphi, cphi, tphi, sg, cg, tg, si, ci, ti;
-    Valore sz, cz;  // of the complement of i: of level planes and walls not quite ci and si
+    Valore sz, cz, tz;  // of the complement of i: of level planes and walls not quite ci and si
 
 private:
     Piano(Valore phi_, Valore g_, Valore i_, Valore z, Valore gn_, Valore unita_)
@@ -75,7 +75,8 @@ private:
           ci(cos(i)),
           ti(tan(i)),
           sz(sin(z)),
-          cz(cos(z)) {}
+          cz(cos(z)),
+          tz(tan(z)) {}
 };
 
 // Style and substyle as sines, cosines and tangents, computed once. Given: the style's elevation over the plane and the

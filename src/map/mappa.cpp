@@ -46,12 +46,8 @@ std::string testoDi(std::string_view nome) {
 // The outlines on one dial.
 class Contorni {
 public:
-    Contorni(Sessione &s, const Lettura &letto)
-        : s_((LeggiUnita(s), s)),
-          cornice_(CorniceDi(letto)),
-          filtro_(Val(s.in.Filtertxt)),
-          zenit_(s, letto),
-          strato_(s.tavolo.nome("")) {}
+    Contorni(Sessione &s, const Cornice &cornice, Valore filtro, const PianoDeiLuoghi &piano)
+        : s_(s), cornice_(cornice), filtro_(filtro), zenit_(piano), strato_(s.tavolo.nome("")) {}
 
     // Only a point in front of the plane is stored and joined to the one before; what lies behind leaves its place as
     // an earlier run left it, so a coast that comes out of the night may start from a stale point. The filter drops that.
@@ -122,7 +118,9 @@ void CaricaMondo(Sessione &s) {
 
 void DisegnaMondo(Sessione &s) {
     s.utente.Puntatore(true);
-    Contorni contorni(s, Lettura(s.in));
+    const Lettura letto(s.in);
+    LeggiUnita(s);
+    Contorni contorni(s, CorniceDi(letto), Val(s.in.Filtertxt), LasciaPianoDeiLuoghi(s, letto));
     s.Messaggio(s.Traduci("Map"));
     if (s.mondo.punti.empty()) CaricaMondo(s);
 
@@ -133,7 +131,7 @@ void DisegnaMondo(Sessione &s) {
     for (std::size_t t = 0; t < m.tratti.size(); ++t) {
         if (m.paesi[m.tratti[t].paese] == s.in.cmbStati) contorni.traccia(m, t, ROSSO);
     }
-    s.in.punto = 0;
+    LasciaRichiesta(s);
     s.utente.Puntatore(false);
 }
 

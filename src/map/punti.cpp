@@ -19,7 +19,7 @@ void DisegnaCitta(Sessione &s) {
     const Lettura letto(in);
     const Reale sito = letto.lon;
     const auto citta = TavolaCitta();
-    Zenit zenit(s, letto);
+    Zenit zenit(LasciaPianoDeiLuoghi(s, letto));
     Reale x, y;
     for (const double i : righe) {
         const double riga = std::nearbyint(i);
@@ -45,15 +45,15 @@ void PuntoOpzionale(Sessione &s) {
     s.Messaggio(s.Traduci("Optional position"));
     LeggiUnita(s);
     lasciaPunto(s.v, letto);
-    const double zr = LeggiPiano(s, letto, letto.gn);
+    const Piano piano = LasciaPiano(s, letto, letto.gn, s.v.unita);
     const Variabili &v = s.v;
     // The hour angle is the site's own already: with true lines the longitude is not taken once more.
     const Reale H = PI * (in.ckCorretta == 1 ? orario : orario - letto.lon) / 180;
     const Reale D = PI * v.deltaOpz / 180;
-    s.in.punto = 0;
+    LasciaRichiesta(s);
 
     Reale x, y;
-    Proiezione(v.latR, v.decR, zr, v.gn, v.unita)(H, D, x, y);
+    Proiezione{piano}(H, D, x, y);
     if (!s.ombreVere().sposta(H, D, x, y)) return;
     // The circle's radius is not scaled by unita, the star's is: meant.
     s.tavolo.TracciaCerchio(x, y, (v.gn / 20) * std::sin(18 * PI / 180) / std::sin(126 * PI / 180), GIALLO, BLU, 1, -CERCHIO, 0);

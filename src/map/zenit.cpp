@@ -11,7 +11,7 @@ int segno(double x) { return (x > 0) - (x < 0); }
 
 bool Specchiato(const Sessione &s, const Lettura &letto) { return s.in.ckCorretta == 1 && letto.lat < 0; }
 
-double LeggiPiano(Sessione &s, const Lettura &letto, Valore gn) {
+Piano LasciaPiano(Sessione &s, const Lettura &letto, Valore gn, Valore unita) {
     Variabili &v = s.v;
     v.latR = PI * letto.lat / 180;
     if (Specchiato(s, letto)) v.latR = -v.latR;
@@ -20,18 +20,26 @@ double LeggiPiano(Sessione &s, const Lettura &letto, Valore gn) {
     if (letto.inc == 90) v.decR = 0;
     v.gn = gn;
     const Reale zr = PI * (90 - letto.inc) / 180;
-    return zr.numero();
+    return Piano::conComplemento(v.latR, v.decR, zr, v.gn, unita);
 }
 
-Zenit::Zenit(const Sessione &s, const Lettura &letto, double zr)
-    : senPhi_(std::sin(s.v.latR.numero())),
-      cosPhi_(std::cos(s.v.latR.numero())),
-      proiezione_(s.v.latR, s.v.decR, zr, s.v.gn, 1),
-      fattore_((s.in.ck_inv == 1 || s.in.ckCorretta == 1) && !Specchiato(s, letto) ? -1 : 1),
-      orizzontale_(letto.inc == 90),
-      tanDec_(std::tan(s.v.decR.numero())),
-      divisore_(std::tan(zr) * std::cos(s.v.decR.numero())),
-      negativo_(Abs(s.v.dec) < 90) {}
+void LasciaRichiesta(Sessione &s) { s.in.punto = 0; }
+
+PianoDeiLuoghi LasciaPianoDeiLuoghi(Sessione &s, const Lettura &letto) {
+    const Piano piano = LasciaPiano(s, letto, letto.gn * s.v.unita, 1);
+    const bool capovolta = (s.in.ck_inv == 1 || s.in.ckCorretta == 1) && !Specchiato(s, letto);
+    return {piano, capovolta, letto.inc == 90, Abs(s.v.dec) < 90};
+}
+
+Zenit::Zenit(const PianoDeiLuoghi &p)
+    : senPhi_(p.piano.sphi.v),
+      cosPhi_(p.piano.cphi.v),
+      proiezione_(p.piano),
+      fattore_(p.capovolta ? -1 : 1),
+      orizzontale_(p.orizzontale),
+      tanDec_(p.piano.tg.v),
+      divisore_((p.piano.tz * p.piano.cg).v),
+      negativo_(p.negativo) {}
 
 bool Zenit::operator()(Valore X, Valore Y, Reale &x, Reale &y) {
     H_ = PI * X / 180;

@@ -9,10 +9,23 @@ namespace ombrelia {
 // Whether the plane is that of a southern site as a corrected run draws it: mirrored, with the seasons exchanged.
 bool Specchiato(const Sessione &s, const Lettura &letto);
 
-// The plane that places are shown on. Given: the fields as read, degrees; the gnomon, metres. Gives: the complement of the
-// inclination, radians; leaves site, plane and gnomon in the shared variables latR (signed, but for a mirrored one), dec, decR
-// and gn; a horizontal plane has no declination. Source: by definition. Faults: a field without a value keeps its variable.
-double LeggiPiano(Sessione &s, const Lettura &letto, Valore gn);
+// The plane that places are shown on. Given: the fields as read, degrees; the gnomon and the unit of the projection. Gives: the
+// plane, of the complement of the inclination; leaves site, plane and gnomon in the shared variables latR (signed, but for a
+// mirrored one), dec, decR and gn; a horizontal plane has no declination. Source: by definition. Faults: a field without a value
+// keeps its variable.
+Piano LasciaPiano(Sessione &s, const Lettura &letto, Valore gn, Valore unita);
+
+// The same for the map, the gnomon scaled: unita is left before. Given, gives, source, faults: as above.
+struct PianoDeiLuoghi {
+    Piano piano;
+    bool capovolta;    // the map lies north to south
+    bool orizzontale;  // the plane lies level
+    bool negativo;     // its front is the negative side: a declination within 90 degrees
+};
+PianoDeiLuoghi LasciaPianoDeiLuoghi(Sessione &s, const Lettura &letto);
+
+// What was asked for is drawn: its box is clear again.
+void LasciaRichiesta(Sessione &s);
 
 // A place as the Sun that stands in its zenith. Given: X degrees West of the site, Y minus the latitude. Gives: the point of the
 // plane that shows it, metres from the foot, x to the right, y upward. Source: the gnomonic projection of the sphere (Snyder, Map
@@ -21,14 +34,11 @@ double LeggiPiano(Sessione &s, const Lettura &letto, Valore gn);
 // place, as do x and y.
 class Zenit {
 public:
-    // Takes site, plane and gnomon (gn is scaled) into the shared variables; unita is read before.
-    Zenit(Sessione &s, const Lettura &letto) : Zenit(s, letto, LeggiPiano(s, letto, letto.gn * s.v.unita)) {}
+    explicit Zenit(const PianoDeiLuoghi &p);
     // Whether the place lies in front of the plane; only then x and y are given.
     bool operator()(Valore X, Valore Y, Reale &x, Reale &y);
 
 private:
-    Zenit(const Sessione &s, const Lettura &letto, double zr);
-
     double senPhi_, cosPhi_;
     Proiezione proiezione_;
     double fattore_;  // -1 mirrors the map north to south

@@ -313,6 +313,14 @@ TEST(Aspetto, FieldsReadAnglesAndTellTheirRange) {
         EXPECT_NEAR(std::stod(b.campo("txtLonG")), l.lon, 0.05);
         EXPECT_EQ(b.campo("txtMeridiano"), "-15") << l.nome;
     }
+    // Of several, none of them chosen, the first.
+    cerca->setFocus();
+    cerca->selectAll();
+    QTest::keyClicks(cerca, QStringLiteral("Lond"));
+    ASSERT_GT(cerca->completer()->model()->rowCount(), 1);
+    cerca->completer()->popup()->setCurrentIndex({});
+    QTest::keyClick(cerca, Qt::Key_Return);
+    EXPECT_NEAR(std::stod(b.campo("txtLAT")), 51.51, 0.05);
 }
 
 TEST(Aspetto, TheWorkOfADeadWindowIsOffered) {

@@ -10,8 +10,6 @@
 #include <QSettings>
 #include <QTabBar>
 #include <QTimer>
-#include <QUndoView>
-#include <QVBoxLayout>
 #include <filesystem>
 
 #include "app/plausibile.h"
@@ -71,39 +69,34 @@ Finestra::Finestra(Dialoghi &dialoghi) : dialoghi_(dialoghi), utente_(dialoghi),
     s_.tavolo.recordMassimi = RecordInMemoria();
     LinguaRicordata(s_);
 
-    // Made in the order in which the eye, and so the Tab key, goes: commands, the dial, the sheet, the drawing.
-    costruisciBarra();
-    molo(ponte_.Traduci("Quadrante"), "quadrante", ColonnaQuadrante(ponte_, this), Qt::LeftDockWidgetArea);
-    auto *foglio = new QWidget(this);
-    foglio->setObjectName(QStringLiteral("frmTavolo"));
-    auto *dentro = new QVBoxLayout(foglio);
-    dentro->setContentsMargins(0, 0, 0, 0);
-    dentro->setSpacing(0);
-    dentro->addWidget(striscia(foglio));
-    quadro_ = new Quadro(ponte_, foglio);
-    dentro->addWidget(quadro_);
-    setMinimumWidth(900);
-    setCentralWidget(foglio);
-    // What opens file boxes has no looks of its own.
-    auto *scatola = new QWidget(this);
-    scatola->hide();
-    scatola->setObjectName(QStringLiteral("CDialog1"));
+    costruisciMoli();
+    moduli_ = std::make_unique<Moduli>(ponte_, dialoghi_, this);
+    costruisciMenu();
+    collega();
+    vivo_ = std::make_unique<Vivo>(this, s_.dizionario, [this](Vivo::ProvaViva &e) { disegnoVivo(e); });
 
-    molo(ponte_.Traduci("Disegno"), "disegno", ColonnaDisegno(ponte_, this), Qt::RightDockWidgetArea);
-    strati_ = new PannelloStrati(ponte_, quadro_->foglio(), this);
-    molo(ponte_.Traduci("Strati"), "strati", strati_, Qt::RightDockWidgetArea);
-    passi_ = std::make_unique<Passi>(s_, this, [this](bool rifai) { rimesso(rifai); });
-    auto *storia = new QUndoView(passi_.get(), this);
-    storia->setObjectName(QStringLiteral("elencoPassi"));
-    storia->setAccessibleName(ponte_.Traduci("Passi fatti"));
-    storia->setEmptyLabel(ponte_.Traduci("All'inizio"));
-    storia->setToolTip(ponte_.Traduci("Premi un passo per tornare a com'era allora"));
-    molo(ponte_.Traduci("Passi fatti"), "storia", storia, Qt::RightDockWidgetArea);
-    for (const char *dopo : {"strati", "storia"})
-        tabifyDockWidget(findChild<QDockWidget *>(QStringLiteral("disegno")),
-                         findChild<QDockWidget *>(QString::fromLatin1(dopo)));
-    findChild<QDockWidget *>(QStringLiteral("disegno"))->raise();
-    strati_->vesti(TemaScuro());
+    note_ = new NoteCampi(ponte_, this);
+    new Aggiunte(*this, dialoghi_);
+    nomina();
+    ritrovaPosto();
+    salvato_ = improntaProgetto();
+    improntaCampi_ = impronta(s_);
+    ponte_.sincronizza();
+    quadro_->aggiorna();
+    passi_->aggiorna(false);
+    titolo();
+    pazienza_ = new QTimer(this);
+    pazienza_->setSingleShot(true);
+    connect(pazienza_, &QTimer::timeout, this, [this] { lungoVivo(true); });
+    auto *minuto = new QTimer(this);
+    constexpr int OGNI = 60000;
+    connect(minuto, &QTimer::timeout, this, [this] { tieniRipresa(); });
+    minuto->start(OGNI);
+    ponte_.widget("txtLAT")->setFocus(Qt::OtherFocusReason);
+}
+
+// What sheet, session and forms tell of what happens in them.
+void Finestra::collega() {
     quadro_->suLinea = [this](const std::optional<Linea> &linea) {
         strati_->scegli(linea);
         if (!linea) return;
@@ -114,9 +107,6 @@ Finestra::Finestra(Dialoghi &dialoghi) : dialoghi_(dialoghi), utente_(dialoghi),
                               .arg(l.metri * 1000, 0, 'f', 0));
     };
     quadro_->suMenu = [this](const QPoint &dove) { strati_->menu(dove); };
-    moduli_ = std::make_unique<Moduli>(ponte_, dialoghi_, this);
-    costruisciMenu();
-
     utente_.suModulo = [this](std::string_view nome, bool aperto) { moduli_->apri(nome, aperto); };
     s_.rapporti.suApertura = [this](const Rapporto &r) { moduli_->mostra(r); };
     s_.rapporti.suStampa = [this](const Rapporto &r) { moduli_->stampa(r); };
@@ -133,11 +123,10 @@ Finestra::Finestra(Dialoghi &dialoghi) : dialoghi_(dialoghi), utente_(dialoghi),
     ponte_.suVirgolette = [this] {
         messaggio(ponte_.Traduci("Le virgolette non entrano in un campo: chiuderebbero il file del progetto"));
     };
-    vivo_ = std::make_unique<Vivo>(this, s_.dizionario, [this](Vivo::ProvaViva &e) { disegnoVivo(e); });
+}
 
-    note_ = new NoteCampi(ponte_, this);
-    new Aggiunte(*this, dialoghi_);
-    nomina();
+// Size, docks and switches as they were when the last window closed.
+void Finestra::ritrovaPosto() {
     const QSize posto = screen()->availableSize() - QSize(16, 40);  // room for the desktop's own frame
     constexpr QSize PRIMA(1360, 860);
     resize(posto.width() < minimumWidth() ? PRIMA : PRIMA.boundedTo(posto));
@@ -146,20 +135,6 @@ Finestra::Finestra(Dialoghi &dialoghi) : dialoghi_(dialoghi), utente_(dialoghi),
     restoreState(ricordi.value(QLatin1String(STATO)).toByteArray());
     vivoAcceso_->setChecked(ricordi.value(QLatin1String(VIVO), false).toBool());
     pulisciPrima_->setChecked(false);
-    salvato_ = improntaProgetto();
-    improntaCampi_ = impronta(s_);
-    ponte_.sincronizza();
-    quadro_->aggiorna();
-    passi_->aggiorna(false);
-    titolo();
-    pazienza_ = new QTimer(this);
-    pazienza_->setSingleShot(true);
-    connect(pazienza_, &QTimer::timeout, this, [this] { lungoVivo(true); });
-    auto *minuto = new QTimer(this);
-    constexpr int OGNI = 60000;
-    connect(minuto, &QTimer::timeout, this, [this] { tieniRipresa(); });
-    minuto->start(OGNI);
-    ponte_.widget("txtLAT")->setFocus(Qt::OtherFocusReason);
 }
 
 Finestra::~Finestra() { vivo_.reset(); }

@@ -70,7 +70,18 @@ protected:
     void showEvent(QShowEvent *e) override;
 
 private:
+    void costruisciMoli();
+    void collega();
+    void ritrovaPosto();
+    class VociMenu;
     void costruisciMenu();
+    // Those of their actions that stand in the bar too.
+    QList<QAction *> costruisciFile();
+    QList<QAction *> costruisciModifica();
+    void costruisciQuadrante();
+    void costruisciTabelle(QMenu *tabelle);
+    void costruisciLingua();
+    void costruisciAiuto();
     void nomina();
     void piegaBarra();
     void costruisciVista(QMenu *vedi);

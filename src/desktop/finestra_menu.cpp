@@ -1,4 +1,4 @@
-// The main window's menus and tool bar.
+// The main window's docks, menus and tool bar.
 #include <QActionGroup>
 #include <QApplication>
 #include <QCheckBox>
@@ -12,6 +12,8 @@
 #include <QShowEvent>
 #include <QTimer>
 #include <QToolBar>
+#include <QUndoView>
+#include <QVBoxLayout>
 #include <QWhatsThis>
 
 #include "app/lingua.h"
@@ -37,69 +39,154 @@ constexpr auto VIVO = "disegnaMentreScrivi", PULISCI = "pulisciPrima", TEMA = "t
 
 }  // namespace
 
-void Finestra::costruisciMenu() {
-    const auto nostro = [this](QMenu *m, std::string_view nome, const std::function<void()> &azione) {
-        QAction *a = CreaComando(ponte_, nome, this, azione);
-        m->addAction(a);
+// Made in the order in which the eye, and so the Tab key, goes: commands, the dial, the sheet, the drawing.
+void Finestra::costruisciMoli() {
+    costruisciBarra();
+    molo(ponte_.Traduci("Quadrante"), "quadrante", ColonnaQuadrante(ponte_, this), Qt::LeftDockWidgetArea);
+    auto *foglio = new QWidget(this);
+    foglio->setObjectName(QStringLiteral("frmTavolo"));
+    auto *dentro = new QVBoxLayout(foglio);
+    dentro->setContentsMargins(0, 0, 0, 0);
+    dentro->setSpacing(0);
+    dentro->addWidget(striscia(foglio));
+    quadro_ = new Quadro(ponte_, foglio);
+    dentro->addWidget(quadro_);
+    setMinimumWidth(900);
+    setCentralWidget(foglio);
+    // What opens file boxes has no looks of its own.
+    auto *scatola = new QWidget(this);
+    scatola->hide();
+    scatola->setObjectName(QStringLiteral("CDialog1"));
+
+    molo(ponte_.Traduci("Disegno"), "disegno", ColonnaDisegno(ponte_, this), Qt::RightDockWidgetArea);
+    strati_ = new PannelloStrati(ponte_, quadro_->foglio(), this);
+    molo(ponte_.Traduci("Strati"), "strati", strati_, Qt::RightDockWidgetArea);
+    passi_ = std::make_unique<Passi>(s_, this, [this](bool rifai) { rimesso(rifai); });
+    auto *storia = new QUndoView(passi_.get(), this);
+    storia->setObjectName(QStringLiteral("elencoPassi"));
+    storia->setAccessibleName(ponte_.Traduci("Passi fatti"));
+    storia->setEmptyLabel(ponte_.Traduci("All'inizio"));
+    storia->setToolTip(ponte_.Traduci("Premi un passo per tornare a com'era allora"));
+    molo(ponte_.Traduci("Passi fatti"), "storia", storia, Qt::RightDockWidgetArea);
+    for (const char *dopo : {"strati", "storia"})
+        tabifyDockWidget(findChild<QDockWidget *>(QStringLiteral("disegno")),
+                         findChild<QDockWidget *>(QString::fromLatin1(dopo)));
+    findChild<QDockWidget *>(QStringLiteral("disegno"))->raise();
+    strati_->vesti(TemaScuro());
+}
+
+// A menu of the bar while it is filled.
+class Finestra::VociMenu {
+public:
+    VociMenu(Finestra &f, const QString &titolo) : menu(f.menuBar()->addMenu(titolo)), f_(f) {}
+
+    QAction *nostro(std::string_view nome, const std::function<void()> &azione) const {
+        QAction *a = CreaComando(f_.ponte_, nome, &f_, azione);
+        menu->addAction(a);
         return a;
-    };
-    const auto voce = [this](QMenu *m, NomeControllo nome) {
-        QAction *a = ponte_.voce(nome, this);
+    }
+    QAction *voce(NomeControllo nome) const {
+        QAction *a = f_.ponte_.voce(nome, &f_);
         VestiVoce(a, TrovaComando(nome));
-        m->addAction(a);
+        menu->addAction(a);
         return a;
-    };
+    }
     // A button's entry says what the button says.
-    const auto bottone = [this](QMenu *m, NomeControllo nome) {
-        auto *b = qobject_cast<QAbstractButton *>(ponte_.widget(nome));
-        auto *a = new QAction(ponte_.didascalia(nome), this);
+    void bottone(NomeControllo nome) const {
+        auto *b = qobject_cast<QAbstractButton *>(f_.ponte_.widget(nome));
+        auto *a = new QAction(f_.ponte_.didascalia(nome), &f_);
         VestiVoce(a, TrovaComando(nome));
-        connect(a, &QAction::triggered, this, [b] { b->click(); });
-        m->addAction(a);
-        return a;
-    };
-    QMenu *file = menuBar()->addMenu(ponte_.Traduci("&File"));
-    QAction *primo = nostro(file, "nuovo", [this] { nuovo(); }), *apri = voce(file, "mnuApri");
+        connect(a, &QAction::triggered, &f_, [b] { b->click(); });
+        menu->addAction(a);
+    }
+
+    QMenu *const menu;
+
+private:
+    Finestra &f_;
+};
+
+void Finestra::costruisciMenu() {
+    const QList<QAction *> file = costruisciFile(), modifica = costruisciModifica();
+    costruisciQuadrante();
+    costruisciVista(menuBar()->addMenu(ponte_.Traduci("&Vista")));
+    VociMenu(*this, ponte_.Traduci("&Strumenti")).voce("mnuAusiliaria");
+    costruisciLingua();
+    costruisciAiuto();
+
+    // What every hand looks for first stands first in the bar.
+    QAction *davanti = barra_->actions().value(0);
+    for (const auto &[azioni, nomi] :
+         {std::pair{file, std::vector{"nuovo", "mnuApri", "mnuSalva"}}, {modifica, {"annulla", "ripeti"}}}) {
+        barra_->insertActions(davanti, azioni);
+        barra_->insertSeparator(davanti);
+        for (qsizetype i = 0; i < azioni.size(); ++i)
+            azioni[i]->setToolTip(Leggibile(azioni[i]->text().remove(QLatin1Char('&')).toStdString()) +
+                                  TastiDi(TrovaComando(nomi[static_cast<std::size_t>(i)])));
+    }
+}
+
+QList<QAction *> Finestra::costruisciFile() {
+    const VociMenu m(*this, ponte_.Traduci("&File"));
+    QAction *primo = m.nostro("nuovo", [this] { nuovo(); }), *apri = m.voce("mnuApri");
     const auto *recenti = TrovaComando("recenti");
-    recenti_ = file->addMenu(IconaDi(recenti->icona), ponte_.Traduci(recenti->testo));
+    recenti_ = m.menu->addMenu(IconaDi(recenti->icona), ponte_.Traduci(recenti->testo));
     connect(recenti_, &QMenu::aboutToShow, this, [this] { riempiRecenti(); });
-    nostro(file, "esempi", [this] {
+    m.nostro("esempi", [this] {
         if (!esempi_) {
             esempi_ = new Esempi(ponte_, this);
             esempi_->suScelta = [this](const QString &f) { apriEsempio(f); };
         }
         esempi_->show();
     });
-    QAction *salvare = voce(file, "mnuSalva");
-    nostro(file, "salvaConNome", [this] { salva(true); });
-    file->addSeparator();
-    nostro(file, "esportaPdf", [this] { esportaPdf(); });
-    nostro(file, "esporta", [this] { esporta(); });
-    nostro(file, "perMacchina", [this] { perMacchina(); });
-    nostro(file, "impagina", [this] { impagina(); });
-    bottone(file, "Tavolo1.cmdStampa");
-    file->addSeparator();
-    voce(file, "mnuEsci");
+    QAction *salvare = m.voce("mnuSalva");
+    m.nostro("salvaConNome", [this] { salva(true); });
+    m.menu->addSeparator();
+    m.nostro("esportaPdf", [this] { esportaPdf(); });
+    m.nostro("esporta", [this] { esporta(); });
+    m.nostro("perMacchina", [this] { perMacchina(); });
+    m.nostro("impagina", [this] { impagina(); });
+    m.bottone("Tavolo1.cmdStampa");
+    m.menu->addSeparator();
+    m.voce("mnuEsci");
+    return {primo, apri, salvare};
+}
 
-    QMenu *modifica = menuBar()->addMenu(ponte_.Traduci("&Modifica"));
+QList<QAction *> Finestra::costruisciModifica() {
+    const VociMenu m(*this, ponte_.Traduci("&Modifica"));
     QAction *annulla = passi_->createUndoAction(this, ponte_.Traduci("Annulla")),
             *rifai = passi_->createRedoAction(this, ponte_.Traduci("Ripeti"));
     annulla->setObjectName(QStringLiteral("annulla"));
     rifai->setObjectName(QStringLiteral("ripeti"));
     VestiVoce(annulla, TrovaComando("annulla"));
     VestiVoce(rifai, TrovaComando("ripeti"));
-    modifica->addActions({annulla, rifai});
+    m.menu->addActions({annulla, rifai});
     moduli_->modulo("frmDeclin")->addActions({annulla, rifai});
-    modifica->addSeparator();
-    nostro(modifica, "copiaImmagine", [this] { copia(false); });
-    nostro(modifica, "copiaSvg", [this] { copia(true); });
+    m.menu->addSeparator();
+    m.nostro("copiaImmagine", [this] { copia(false); });
+    m.nostro("copiaSvg", [this] { copia(true); });
+    return {annulla, rifai};
+}
 
-    QMenu *quadrante = menuBar()->addMenu(ponte_.Traduci("&Quadrante"));
+void Finestra::costruisciQuadrante() {
+    const VociMenu m(*this, ponte_.Traduci("&Quadrante"));
     for (const NomeControllo nome :
          std::initializer_list<NomeControllo>{"cmdRun", "cmdEqui", "cmdData", "cmdTrasforma", "Tavolo1.cmdPulisci"})
-        bottone(quadrante, nome);
-    // The reports that the fields have.
-    QMenu *tabelle = quadrante->addMenu(ponte_.Traduci("Tabelle"));
+        m.bottone(nome);
+    costruisciTabelle(m.menu->addMenu(ponte_.Traduci("Tabelle")));
+    m.menu->addSeparator();
+    m.nostro("scegliPagine", [this] {
+        ponte_.passo = ponte_.Traduci("Pagina scelta");
+        ponte_.fai(NESSUN_CONTROLLO, [this] { s_.tavolo.ScegliPiene(); });
+    });
+    m.nostro("Adatta", [this] { adatta(); });
+    QAction *segue = m.nostro("vivo", [this] { vivoAcceso_->click(); });
+    segue->setCheckable(true);
+    connect(vivoAcceso_, &QCheckBox::toggled, segue, &QAction::setChecked);
+}
+
+// The reports that the fields have.
+void Finestra::costruisciTabelle(QMenu *tabelle) {
     connect(tabelle, &QMenu::aboutToShow, this, [this, tabelle] {
         tabelle->clear();
         for (const app::VoceRapporto &r : app::ElencoRapporti()) {
@@ -113,49 +200,31 @@ void Finestra::costruisciMenu() {
             a->setEnabled(r.controllo == NESSUN_CONTROLLO || s_.stato(r.controllo).abilitato);
         }
     });
-    quadrante->addSeparator();
-    nostro(quadrante, "scegliPagine", [this] {
-        ponte_.passo = ponte_.Traduci("Pagina scelta");
-        ponte_.fai(NESSUN_CONTROLLO, [this] { s_.tavolo.ScegliPiene(); });
-    });
-    nostro(quadrante, "Adatta", [this] { adatta(); });
-    QAction *segue = nostro(quadrante, "vivo", [this] { vivoAcceso_->click(); });
-    segue->setCheckable(true);
-    connect(vivoAcceso_, &QCheckBox::toggled, segue, &QAction::setChecked);
+}
 
-    costruisciVista(menuBar()->addMenu(ponte_.Traduci("&Vista")));
-
-    QMenu *strumenti = menuBar()->addMenu(ponte_.Traduci("&Strumenti"));
-    voce(strumenti, "mnuAusiliaria");
-    QMenu *lingua = menuBar()->addMenu(ponte_.Traduci("&Lingua"));
+void Finestra::costruisciLingua() {
+    const VociMenu m(*this, ponte_.Traduci("&Lingua"));
     auto *lingue = new QActionGroup(this);
     const QString parlata = CodiceLingua(s_);
     for (const Lingua &l : Lingue()) {
-        QAction *a = l.voce != NESSUN_CONTROLLO ? voce(lingua, l.voce) : lingua->addAction(Q(l.nome), this, [this, &l] {
+        QAction *a = l.voce != NESSUN_CONTROLLO ? m.voce(l.voce) : m.menu->addAction(Q(l.nome), this, [this, &l] {
             RicordaLingua(l, ponte_.fai(NESSUN_CONTROLLO, [&] { return app::ScegliLingua(s_, l); }));
         });
         lingue->addAction(a);
         a->setCheckable(true);
         a->setChecked(parlata == Q(l.codice));
     }
-    QMenu *aiuto = menuBar()->addMenu(QStringLiteral("&?"));
+}
+
+void Finestra::costruisciAiuto() {
+    const VociMenu m(*this, QStringLiteral("&?"));
     // By its keys it speaks of the field that has them, by the menu of what is pressed next.
-    nostro(aiuto, "cheCosa", [this] {
+    m.nostro("cheCosa", [this] {
         const bool tasti = QGuiApplication::keyboardModifiers() & Qt::ShiftModifier;
         if (!tasti || !MostraSpiegazione(focusWidget())) QWhatsThis::enterWhatsThisMode();
     });
-    voce(aiuto, "mnuAvviso");
-    voce(aiuto, "M_about");
-
-    // What every hand looks for first stands first in the bar.
-    QAction *davanti = barra_->actions().value(0);
-    barra_->insertActions(davanti, {primo, apri, salvare});
-    barra_->insertSeparator(davanti);
-    barra_->insertActions(davanti, {annulla, rifai});
-    barra_->insertSeparator(davanti);
-    for (const auto &[a, nome] :
-         {std::pair{primo, "nuovo"}, {apri, "mnuApri"}, {salvare, "mnuSalva"}, {annulla, "annulla"}, {rifai, "ripeti"}})
-        a->setToolTip(Leggibile(a->text().remove(QLatin1Char('&')).toStdString()) + TastiDi(TrovaComando(nome)));
+    m.voce("mnuAvviso");
+    m.voce("M_about");
 }
 
 void Finestra::costruisciVista(QMenu *vedi) {

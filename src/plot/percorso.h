@@ -60,6 +60,8 @@ struct TrattiEPunti {
     P punto;
     static void figura(std::size_t) {}
 };
+template <class L, class P>
+TrattiEPunti(L, P) -> TrattiEPunti<L, P>;  // older compilers deduce none for an aggregate
 
 // The chords of the polyline that stands for a name, v(vertex, next vertex): those between its last START and its END. None
 // before it is ended.

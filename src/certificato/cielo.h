@@ -11,6 +11,8 @@
 namespace ombrelia {
 
 inline constexpr double GIORNI_DELL_ANNO = 365.2422;
+// The Sun's greatest declination as this program's dials draw it, degrees, and in radians.
+inline constexpr double SOLSTIZIO_GRADI = 23.445, SOLSTIZIO = SOLSTIZIO_GRADI * ombra::RADIANTI;
 
 // The year whose Sun an analemma shows: the field's, or that of now.
 [[nodiscard]] int AnnoDelSole(const Sessione &s);

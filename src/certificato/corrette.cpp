@@ -17,7 +17,6 @@ using ombra::Vettore;
 namespace {
 
 constexpr double RAD = ombra::RADIANTI, MEZZO_GIRO = std::numbers::pi, ORA = 15 * RAD;
-constexpr double SOLSTIZIO = SOLSTIZIO_GRADI * RAD;
 // The Sun of a line on the horizon itself stands a tenth of a second of arc above it.
 constexpr double ORLO = 5e-7;
 

@@ -19,10 +19,9 @@ namespace {
 
 constexpr double PI_ = std::numbers::pi;
 constexpr double INFINITO = std::numeric_limits<double>::infinity();
-constexpr double SOLSTIZIO = 23.445 * RADIANTI;  // what day lines draw and hour lines reach
-constexpr double FINE_ANNO = 23.46 * RADIANTI;   // beyond it no shadow is allowed for
-constexpr double PASSO = 0.0005;                 // metres between samples
-constexpr double RIGA = 0.0001;                  // metres of grace at the horizon: the width of a stroke
+constexpr double FINE_ANNO = 23.46 * RADIANTI;  // beyond it no shadow is allowed for
+constexpr double PASSO = 0.0005;                // metres between samples
+constexpr double RIGA = 0.0001;                 // metres of grace at the horizon: the width of a stroke
 constexpr int CAMPIONI_ANNO = 1464;
 
 const Vettore POLO{0, 0, 1}, OVEST{0, 1, 0};

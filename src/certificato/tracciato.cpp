@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "certificato/cielo.h"
 #include "core/angoli.h"
 
 namespace ombrelia {
@@ -45,7 +46,7 @@ double Scena::angolo(double ora, bool fuso) const {
 }
 
 double Scena::semiarcoMassimo() const {
-    const double delta = std::copysign(SOLSTIZIO_GRADI * ombra::RADIANTI, latitudine());
+    const double delta = std::copysign(SOLSTIZIO, latitudine());
     return ombra::semiarco(latitudine(), delta).value_or(ombra::GRADI * ombra::RADIANTI * std::numbers::pi);
 }
 
@@ -59,7 +60,7 @@ namespace {
 
 // The sine of a Sun against a face; not below 0 where it is visible.
 double seno(const Scena &scena, std::size_t faccia, const Vettore &s) {
-    static const double SEN_MAX = std::sin(SOLSTIZIO_GRADI * ombra::RADIANTI);
+    static const double SEN_MAX = std::sin(SOLSTIZIO);
     const double q = scena.facce()[faccia] * s;
     return faccia < 2 ? q - MARGINI[faccia] : faccia < 6 ? q : q + SEN_MAX;
 }

@@ -14,9 +14,6 @@
 
 namespace ombrelia {
 
-// The Sun's greatest declination as this program's dials draw it, degrees.
-inline constexpr double SOLSTIZIO_GRADI = 23.445;
-
 // Where a shadow may fall and be drawn: by day, before the plane, inside the frame. Given: see each. Gives: radians; metres in
 // the frame of the list with y upward, x turned round for a southern dial. Source: PianoMontato, ombra::semiarco, hours by
 // definition. Faults: what does not exist is part of the value.

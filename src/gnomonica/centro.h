@@ -51,9 +51,8 @@ inline PostoCentro CentroDaStiloIntero(Valore gn, Valore sigma, Valore epsilon) 
     return {sin(sigma) * gn / te, cos(sigma) * -gn / te};
 }
 
-// By its distance CG from the foot, along the substyle: analytic engine, hours' report of walls that look
-// east or west. Given: CG, substyle's
-// angle, radians. Gives: in the unit of CG. Source: elementary geometry. Faults: none.
+// By its distance CG from the foot, along the substyle: analytic engine, hours' report of walls that look east or west. Given:
+// CG, substyle's angle, radians. Gives: in the unit of CG. Source: elementary geometry. Faults: none.
 inline PostoCentro CentroDaSustilare(Valore CG, Valore sigma) { return {-CG * sin(sigma), CG * cos(sigma)}; }
 
 }  // namespace ombrelia
